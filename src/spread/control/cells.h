@@ -1,0 +1,175 @@
+// The cells of a sheet: 16 bytes each, column by column in blocks of rows, so that a column of
+// 100,000 numbers is read from memory in order and an empty region costs nothing.
+#pragma once
+
+#include <algorithm>
+#include <array>
+#include <cstdint>
+#include <cstring>
+#include <memory>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include "spread/control/formula/value.h"
+
+namespace control {
+
+using formula::Area;
+using formula::ErrorCode;
+using formula::Value;
+using formula::ValueType;
+
+/// An immutable text shared by cells; counted by hand, since cells are moved as plain memory.
+struct TextBlock {
+    uint32_t references;
+    uint32_t size;
+    const char* data() const { return reinterpret_cast<const char*>(this + 1); }
+    std::string_view view() const { return {data(), size}; }
+
+    static TextBlock* make(std::string_view text);
+    static void release(TextBlock* block) {
+        if (--block->references == 0) ::operator delete(block);
+    }
+};
+
+struct CellAddress {
+    int col = 0;
+    int row = 0;
+    bool operator==(const CellAddress&) const = default;
+};
+
+/// What one cell holds: a plain value (its own or its formula's result), the number of its formula
+/// and of its look. Text is owned; copy and destroy through CellStore.
+struct Cell {
+    union {
+        double number = 0;
+        TextBlock* text;
+        ErrorCode error;
+        bool truth;
+    };
+    uint32_t formula = 0;  ///< index into the sheet's formulas; 0 is none
+    uint16_t look = 0;     ///< index into the sheet's looks; 0 is the default
+    ValueType type = ValueType::empty;
+    bool dirty = false;  ///< the formula's result is older than what it reads
+
+    Value value() const {
+        switch (type) {
+            case ValueType::number: return Value(number);
+            case ValueType::text: return Value::borrowedText(text->view());
+            case ValueType::boolean: return Value::boolean(truth);
+            case ValueType::error: return Value(error);
+            default: return Value();
+        }
+    }
+    bool isBlank() const { return type == ValueType::empty && formula == 0 && look == 0; }
+};
+static_assert(sizeof(Cell) == 16);
+
+class CellStore {
+  public:
+    static constexpr int blockShift = 7;
+    static constexpr int blockRows = 1 << blockShift;
+
+    struct Block {
+        std::array<Cell, blockRows> cells;
+        uint32_t dirtyCount = 0;  ///< cells of this block whose formula is dirty
+    };
+
+    CellStore() = default;
+    CellStore(const CellStore& other);
+    CellStore& operator=(const CellStore& other);
+    CellStore(CellStore&&) noexcept = default;
+    CellStore& operator=(CellStore&& other) noexcept;
+    ~CellStore() { clear(); }
+
+    /// The cell, or null when nothing was ever stored near it. Any col and row from 1 up.
+    const Cell* find(int col, int row) const {
+        const auto c = static_cast<size_t>(col);
+        if (c >= m_columns.size()) return nullptr;
+        const auto& blocks = m_columns[c];
+        const auto b = static_cast<size_t>(row - 1) >> blockShift;
+        if (b >= blocks.size() || !blocks[b]) return nullptr;
+        return &blocks[b]->cells[static_cast<size_t>(row - 1) & (blockRows - 1)];
+    }
+    Cell* find(int col, int row) { return const_cast<Cell*>(std::as_const(*this).find(col, row)); }
+    /// The cell, made when it is not there. col and row within the limits of value.h.
+    Cell& obtain(int col, int row) { return obtainBlock(col, row).cells[rowInBlock(row)]; }
+
+    Value value(int col, int row) const {
+        const Cell* cell = find(col, row);
+        return cell ? cell->value() : Value();
+    }
+
+    /// Replaces the cell's value; formula, look and dirty state stay.
+    void setValue(Cell& cell, const Value& value) {
+        if (value.isNumber()) [[likely]] {
+            dropText(cell);
+            cell.number = value.number();
+            cell.type = ValueType::number;
+        } else {
+            setOtherValue(cell, value);
+        }
+    }
+    void setDirty(int col, int row, Cell& cell, bool dirty) {
+        if (cell.dirty == dirty) return;
+        cell.dirty = dirty;
+        blockOf(col, row)->dirtyCount += dirty ? 1U : static_cast<uint32_t>(-1);
+    }
+    bool hasDirty(const Area& area) const;
+
+    /// Calls visit(row, col, cell) for every cell of `area` that is not blank, column by column
+    /// and downwards. Costs what is stored, not what the area spans.
+    template <class Visit>
+    void each(const Area& area, Visit&& visit) const {
+        const int lastCol = std::min<int>(area.col2, static_cast<int>(m_columns.size()) - 1);
+        for (int col = area.col1; col <= lastCol; ++col) {
+            const auto& blocks = m_columns[static_cast<size_t>(col)];
+            const int lastRow =
+                std::min<int>(area.row2, static_cast<int>(blocks.size()) << blockShift);
+            for (int row = area.row1; row <= lastRow;) {
+                const int end = std::min(lastRow, ((row - 1) | (blockRows - 1)) + 1);
+                if (const Block* block = blocks[static_cast<size_t>(row - 1) >> blockShift].get()) {
+                    const Cell* cell = &block->cells[rowInBlock(row)];
+                    for (; row <= end; ++row, ++cell)
+                        if (!cell->isBlank()) visit(row, col, *cell);
+                }
+                row = end + 1;
+            }
+        }
+    }
+
+    /// The last column and row that hold anything; 0 when nothing does.
+    int lastCol() const;
+    int lastRow() const;
+
+    /// Rows or columns inserted blank or taken out; what lay behind moves. Formula numbers and
+    /// looks move with their cells. Cells pushed over the edge are destroyed.
+    void insertRows(int at, int count);
+    void deleteRows(int at, int count);
+    void insertCols(int at, int count);
+    void deleteCols(int at, int count);
+    void swapCells(CellAddress a, CellAddress b);
+    void clearCell(int col, int row);
+    void clear();
+
+  private:
+    static size_t rowInBlock(int row) {
+        return static_cast<size_t>(row - 1) & (blockRows - 1);
+    }
+    static void dropText(Cell& cell) {
+        if (cell.type == ValueType::text) TextBlock::release(cell.text);
+    }
+    void setOtherValue(Cell& cell, const Value& value);
+    Block& obtainBlock(int col, int row);
+    Block* blockOf(int col, int row) {
+        return m_columns[static_cast<size_t>(col)][static_cast<size_t>(row - 1) >> blockShift].get();
+    }
+    static std::unique_ptr<Block> copyOf(const Block& block);
+    static void destroy(Block& block);
+
+    using Column = std::vector<std::unique_ptr<Block>>;
+    std::vector<Column> m_columns;  // index 0 stays empty
+};
+
+}  // namespace control

@@ -1,0 +1,118 @@
+// What a function sees while a formula is being calculated: the cells, the formula's own place,
+// the clock, and an arena for texts and arrays that live until the calculation ends.
+#pragma once
+
+#include <cstddef>
+#include <memory>
+#include <optional>
+#include <string_view>
+#include <vector>
+
+#include "spread/control/cells.h"
+#include "spread/control/formula/value.h"
+
+namespace control {
+class Sheet;
+}
+
+namespace formula {
+
+class Calculation {
+  public:
+    explicit Calculation(const control::CellStore& cells) : m_cells(&cells) {}
+    Calculation(const Calculation&) = delete;
+    Calculation& operator=(const Calculation&) = delete;
+
+    /// The formula's own cell.
+    int hostCol() const { return m_hostCol; }
+    int hostRow() const { return m_hostRow; }
+
+    /// The value of a cell; empty outside what is stored.
+    Value cell(int col, int row) const { return m_cells->value(col, row); }
+
+    /// Calls visit(Value) for every single value of `argument`: of an area the cells that are not
+    /// empty (column by column), of an array every element (row by row), else the value itself.
+    template <class Visit>
+    void each(const Value& argument, Visit&& visit) const {
+        if (argument.isArea()) {
+            m_cells->each(argument.area(), [&](int, int, const control::Cell& cell) {
+                if (cell.type != ValueType::empty) visit(cell.value());
+            });
+        } else if (argument.isArray()) {
+            const Array& a = argument.array();
+            for (int i = 0; i < a.rows * a.cols; ++i) visit(a.cells[i]);
+        } else {
+            visit(argument);
+        }
+    }
+    /// As each, with visit(row, col, Value); row and col count from 0 inside the argument.
+    template <class Visit>
+    void eachAt(const Value& argument, Visit&& visit) const {
+        if (argument.isArea()) {
+            const Area area = argument.area();
+            m_cells->each(area, [&](int row, int col, const control::Cell& cell) {
+                if (cell.type != ValueType::empty)
+                    visit(row - area.row1, col - area.col1, cell.value());
+            });
+        } else if (argument.isArray()) {
+            const Array& a = argument.array();
+            for (int r = 0; r < a.rows; ++r)
+                for (int c = 0; c < a.cols; ++c) visit(r, c, a.at(r, c));
+        } else {
+            visit(0, 0, argument);
+        }
+    }
+
+    /// Shape of an area or array; 1 by 1 for a single value.
+    static int rows(const Value& argument);
+    static int cols(const Value& argument);
+    /// The element at (row, col) from 0; a single value for any place. Outside: #N/A.
+    Value element(const Value& argument, int row, int col) const;
+    /// `argument` cut to the rows and columns that hold anything, so that a whole column can be
+    /// walked by index. Areas only; others come back as they are.
+    Value clipped(const Value& argument) const;
+
+    /// A text value holding its own copy of `text`.
+    Value text(std::string_view text);
+    /// A fresh array of empty values, rows * cols at most 4,000,000 (else null).
+    Array* newArray(int rows, int cols);
+
+    /// The formula text of a cell without "=", nothing when it has none (ISFORMULA, FORMULATEXT).
+    std::optional<std::string_view> formulaText(int col, int row) const;
+    /// A reference text as INDIRECT takes it: "B7", "$A$1:C3", "R2C3" when `a1` is false. Nothing
+    /// when it is none.
+    static std::optional<Area> parseReference(std::string_view text, bool a1, int hostCol,
+                                              int hostRow);
+
+    /// Tells the engine that a cell will be read whose place was found while calculating (OFFSET,
+    /// INDIRECT, INDEX give areas; the engine itself checks those). Internal to the evaluator.
+    bool isBlocked() const { return m_blocked; }
+
+    /// Day number of now, in local time; the same through one recalculation.
+    double now() const;
+    /// 0 <= x < 1.
+    double random();
+
+  private:
+    friend class Evaluator;
+    friend class control::Sheet;
+
+    const control::CellStore* m_cells;
+    const control::Sheet* m_sheet = nullptr;
+    int m_hostCol = 1;
+    int m_hostRow = 1;
+    bool m_blocked = false;
+
+    // The arena: chunks are kept from one calculation to the next.
+    char* allocate(size_t size);
+    void endCalculation();
+    struct Chunk {
+        std::unique_ptr<char[]> bytes;
+        size_t size = 0;
+    };
+    std::vector<Chunk> m_chunks;
+    size_t m_chunk = 0;
+    size_t m_used = 0;
+};
+
+}  // namespace formula
