@@ -55,11 +55,16 @@ struct Cell {
 
     Value value() const {
         switch (type) {
-            case ValueType::number: return Value(number);
-            case ValueType::text: return Value::borrowedText(text->view());
-            case ValueType::boolean: return Value::boolean(truth);
-            case ValueType::error: return Value(error);
-            default: return Value();
+            case ValueType::number:
+                return Value(number);
+            case ValueType::text:
+                return Value::borrowedText(text->view());
+            case ValueType::boolean:
+                return Value::boolean(truth);
+            case ValueType::error:
+                return Value(error);
+            default:
+                return Value();
         }
     }
     bool isBlank() const { return type == ValueType::empty && formula == 0 && look == 0; }
@@ -154,16 +159,15 @@ class CellStore {
     void clear();
 
   private:
-    static size_t rowInBlock(int row) {
-        return static_cast<size_t>(row - 1) & (blockRows - 1);
-    }
+    static size_t rowInBlock(int row) { return static_cast<size_t>(row - 1) & (blockRows - 1); }
     static void dropText(Cell& cell) {
         if (cell.type == ValueType::text) TextBlock::release(cell.text);
     }
     void setOtherValue(Cell& cell, const Value& value);
     Block& obtainBlock(int col, int row);
     Block* blockOf(int col, int row) {
-        return m_columns[static_cast<size_t>(col)][static_cast<size_t>(row - 1) >> blockShift].get();
+        return m_columns[static_cast<size_t>(col)][static_cast<size_t>(row - 1) >> blockShift]
+            .get();
     }
     static std::unique_ptr<Block> copyOf(const Block& block);
     static void destroy(Block& block);

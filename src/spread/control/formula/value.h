@@ -34,7 +34,7 @@ struct Area {
 struct Array;
 
 enum class ValueType : uint8_t {
-    empty,    ///< an empty cell: 0 as a number, "" as a text
+    empty,  ///< an empty cell: 0 as a number, "" as a text
     number,
     boolean,
     text,

@@ -1,0 +1,143 @@
+// The compiled form of a formula: a flat list of 16-byte instructions in postfix order. References
+// are kept relative to the formula's cell, so that a formula filled down a column is one program
+// shared by all its cells. Programs are immutable and interned for the whole process.
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <span>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include "spread/control/cells.h"
+#include "spread/control/formula/function.h"
+
+namespace formula {
+
+/// A function that a host registered with a sheet. It gets its arguments as plain values, or as
+/// areas where a cell was written when `cellArguments` is set.
+struct CustomFunction {
+    std::string name;  ///< upper case
+    int least = 0;
+    int most = 0;
+    bool cellArguments = false;
+    std::function<Value(Calculation&, std::span<const Value>)> call;
+};
+
+enum class Op : uint8_t {
+    number,     ///< push `number`
+    text,       ///< push `text`
+    boolean,    ///< push a != 0
+    error,      ///< push error code a
+    missing,    ///< push a left-out argument
+    cell,       ///< push the value of `place`
+    reference,  ///< push `place` as an area of one cell
+    area,       ///< push an area; its second corner is the next instruction
+    place,      ///< as area, but its cells are not read
+    corner,     ///< data of the instruction before
+    matrix,     ///< gather the a * b values on the stack into an array of a rows
+    negate,
+    plus,
+    percent,
+    add,
+    subtract,
+    multiply,
+    divide,
+    power,
+    concatenate,
+    equal,
+    notEqual,
+    less,
+    lessEqual,
+    greater,
+    greaterEqual,
+    range,            ///< two references to the area that spans both
+    single,           ///< an area or array to one value, by the formula's row or column
+    call,             ///< `function` with `argc` arguments
+    callCustom,       ///< `custom` with `argc` arguments
+    jump,             ///< to instruction a
+    jumpIfNot,        ///< pop; to a when false; when it is an error push it and go to b
+    jumpUnlessError,  ///< to a when the top is no error (b = 1: no #N/A); else pop it
+    choose,  ///< pop n; go to the n-th of the `argc` jumps that follow; else push #VALUE!, go to a
+};
+
+struct Place {
+    int32_t row;  ///< absolute, or the distance from the formula's cell
+    int32_t col;
+};
+
+struct Instruction {
+    static constexpr uint8_t relativeRow = 1, relativeCol = 2, wholeCol = 4, wholeRow = 8,
+                             inArray = 16, outside = 32;
+    Op op = Op::number;
+    uint8_t flags = 0;
+    uint8_t argc = 0;
+    uint8_t b = 0;
+    int32_t a = 0;
+    union {
+        double number;
+        const control::TextBlock* text;
+        Place place;
+        const FunctionSpec* function;
+        const CustomFunction* custom;
+        uint64_t bits = 0;
+    };
+
+    bool operator==(const Instruction& other) const {
+        return op == other.op && flags == other.flags && argc == other.argc && b == other.b &&
+               a == other.a && bits == other.bits;
+    }
+};
+static_assert(sizeof(Instruction) == 16);
+
+class Program {
+  public:
+    std::span<const Instruction> code() const { return m_code; }
+    int stackDepth() const { return m_stackDepth; }
+    bool isVolatile() const { return m_isVolatile; }
+
+  private:
+    friend class ProgramPool;
+    friend class ProgramRef;
+    std::vector<Instruction> m_code;
+    int m_stackDepth = 0;
+    bool m_isVolatile = false;
+    size_t m_hash = 0;
+    uint32_t m_references = 0;
+};
+
+/// Shares a program. Counted without locks: everything runs on one thread.
+class ProgramRef {
+  public:
+    ProgramRef() = default;
+    explicit ProgramRef(Program* program) : m_program(program) { retain(); }
+    ProgramRef(const ProgramRef& other) : m_program(other.m_program) { retain(); }
+    ProgramRef(ProgramRef&& other) noexcept : m_program(std::exchange(other.m_program, nullptr)) {}
+    ProgramRef& operator=(ProgramRef other) noexcept {
+        std::swap(m_program, other.m_program);
+        return *this;
+    }
+    ~ProgramRef() {
+        if (m_program && --m_program->m_references == 0) destroy(m_program);
+    }
+
+    explicit operator bool() const { return m_program != nullptr; }
+    const Program* operator->() const { return m_program; }
+    const Program& operator*() const { return *m_program; }
+    const Program* get() const { return m_program; }
+
+  private:
+    void retain() {
+        if (m_program) ++m_program->m_references;
+    }
+    static void destroy(Program* program);
+    Program* m_program = nullptr;
+};
+
+/// Gives the one shared program with this code; owns the texts of `code` afterwards.
+ProgramRef intern(std::span<const Instruction> code, int stackDepth, bool isVolatile);
+
+}  // namespace formula

@@ -1,0 +1,143 @@
+// A sheet of cells that calculates: values, formulas, and who depends on whom. It knows nothing of
+// looks, files or windows; grid.h adds those.
+//
+// Changes are noted, not followed, until somebody needs to know (settle): with automatic
+// recalculation off, a thousand written cells cost a thousand notes. A formula that meets a dirty
+// formula while being calculated stops, lets that one go first and starts again, so that chains of
+// any length are calculated without recursion and a good order, once found, is kept.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <vector>
+
+#include "spread/control/cells.h"
+#include "spread/control/dependents.h"
+#include "spread/control/formula/calculation.h"
+#include "spread/control/formula/parser.h"
+#include "spread/control/formula/program.h"
+
+namespace control {
+
+/// A registered function, interned for the whole process: registering the same one again, in any
+/// sheet, gives the same pointer, so programs that call it can be shared.
+const formula::CustomFunction* internCustomFunction(formula::CustomFunction function,
+                                                    const void* identity);
+
+class Sheet {
+  public:
+    Sheet();
+    Sheet(const Sheet& other);
+    Sheet& operator=(const Sheet& other);
+    ~Sheet();
+
+    const CellStore& cells() const { return m_cells; }
+    Value value(int col, int row) const { return m_cells.value(col, row); }
+    const Cell* find(int col, int row) const { return m_cells.find(col, row); }
+    uint16_t look(int col, int row) const;
+
+    /// Writes a plain value; a formula in the cell is removed. Texts are copied.
+    void setValue(int col, int row, const Value& value);
+    void setLook(int col, int row, uint16_t look) { m_cells.obtain(col, row).look = look; }
+    /// Empties the cell: value, formula and look.
+    void clearCell(int col, int row);
+    void clear();
+
+    /// Compiles `text` (without "=", letter case and blanks kept for reading back), puts it into
+    /// the cell and calculates it. False with the reason, and nothing changed, when refused.
+    bool setFormula(int col, int row, std::string_view text, formula::ParseError& error);
+    /// As above with a program compiled before for this very cell.
+    void setFormula(int col, int row, const formula::ProgramRef& program, TextBlock* text);
+    /// As above for a document that is being loaded: calculated later, or `cached` kept as its
+    /// value. A text that does not compile (its function may be registered later) is kept too; the
+    /// cell shows #NAME?.
+    void loadFormula(int col, int row, std::string_view text, const Value& cached);
+    /// The text of the cell's formula without "=", or nothing. Lives until the cell changes.
+    std::optional<std::string_view> formula(int col, int row) const;
+    bool isArrayFormula(int col, int row) const;
+    bool setArrayFormula(int col, int row, std::string_view text, formula::ParseError& error);
+    int formulaCount() const { return m_liveFormulas; }
+
+    formula::ReferenceStyle referenceStyle() const { return m_style; }
+    void setReferenceStyle(formula::ReferenceStyle style);
+
+    /// Registers a function for formulas set from now on.
+    void addCustomFunction(const formula::CustomFunction* function);
+    const formula::CustomFunction* customFunction(std::string_view upperName) const;
+    formula::ParseSettings parseSettings(int col, int row) const;
+
+    /// Follows every change at once when on; going on brings everything up to date.
+    void setAutomatic(bool on);
+    bool isAutomatic() const { return m_automatic; }
+    /// Calculates the cell's formula, after the dirty ones that it reads. False without a formula.
+    bool recalculateCell(int col, int row);
+    /// Every formula.
+    void recalculate();
+    /// The dirty and the volatile ones.
+    void recalculateDirty();
+
+    /// Rows and columns: references in formulas move as in every spreadsheet.
+    void insertRows(int at, int count);
+    void deleteRows(int at, int count);
+    void insertCols(int at, int count);
+    void deleteCols(int at, int count);
+    /// Swaps whole rows `first`..`first+count-1` with those from `other`; formulas elsewhere keep
+    /// pointing at the places, formulas that travel keep their relative references.
+    void swapRows(int first, int other, int count);
+    void swapCols(int first, int other, int count);
+    /// Copies value, formula (relative references shifted) and look.
+    void copyCell(CellAddress from, CellAddress to);
+
+    /// Memory held by links and formulas, for measurements, in bytes.
+    size_t formulaBytes() const;
+
+  private:
+    friend class Evaluation;
+    friend class formula::Calculation;
+
+    struct FormulaSlot {
+        formula::ProgramRef program;
+        TextBlock* text = nullptr;
+        int32_t row = 0;
+        uint16_t col = 0;
+        bool live = false;
+        bool inProgress : 1 = false;
+        bool linked : 1 = false;
+        bool isArray : 1 = false;
+    };
+
+    uint32_t newSlot(int col, int row, const formula::ProgramRef& program, TextBlock* text);
+    void removeFormula(int col, int row, Cell& cell);
+    void place(int col, int row, const formula::ProgramRef& program, TextBlock* text, bool isArray);
+    void touched(int col, int row);
+    void settle();
+    void linkNew();
+    void markDependents();
+    void relinkAll();
+    void calculate(uint32_t first);
+    void calculateAll(const std::vector<uint32_t>& ids);
+    void markCircle(const std::vector<uint32_t>& path, uint32_t start);
+    template <class Move>
+    void restructure(Move&& moveCells, const formula::MoveReference& moveReference);
+
+    CellStore m_cells;
+    std::vector<FormulaSlot> m_slots;  // index 0 stays unused
+    std::vector<uint32_t> m_freeSlots;
+    std::vector<uint32_t> m_order;  // formulas in an order that calculated well last time
+    std::vector<uint32_t> m_newOrder;
+    std::vector<uint32_t> m_unlinked;
+    std::vector<uint32_t> m_volatile;
+    std::vector<CellAddress> m_changed;
+    std::vector<uint32_t> m_dirtied;
+    Dependents m_dependents;
+    std::unordered_map<std::string_view, const formula::CustomFunction*> m_custom;
+    formula::Calculation m_calculation;
+    formula::ReferenceStyle m_style = formula::ReferenceStyle::a1;
+    int m_liveFormulas = 0;
+    bool m_automatic = false;
+    bool m_orderBroken = false;
+};
+
+}  // namespace control
