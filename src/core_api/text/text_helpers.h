@@ -77,10 +77,14 @@ VORMANT_API bool generateRandomString(int length, Vor_String& text, bool avoidSa
 /// Natural order: digit runs compare as numbers, the rest ignoring case. The index taken.
 VORMANT_API int ObjectExportAddToSorted(Vor_StringArray& sorted, const Vor_String& text);
 
-/// Paths as the host writes them: the folder with its closing backslash, the extension without
-/// its dot, and so on.
+/// Paths as the host writes them, parted by backslashes (slashes are understood too).
+/// The folder with its closing backslash; empty for a bare name.
 VORMANT_API Vor_String getPath(std::string_view path);
+/// The name with its extension.
 VORMANT_API Vor_String getFileName(std::string_view path);
+VORMANT_API Vor_String removeExtension(std::string_view path);
+/// `extension` without its dot.
 VORMANT_API Vor_String changeExtension(std::string_view path, std::string_view extension);
 VORMANT_API Vor_String ensureNoStartBSlash(std::string_view path);
+/// The empty path, which means "here", stays empty.
 VORMANT_API Vor_String ensureEndBSlash(std::string_view path);
