@@ -1,6 +1,7 @@
 // Between value types, with the rules of the well-known spreadsheet programs (English locale).
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -20,15 +21,20 @@ Result<bool> toBoolean(const Value& value);
 /// Text longer than 255 characters never does.
 std::optional<double> textToNumber(std::string_view text);
 
-/// A number as a formula joins it to a text: up to 15 significant digits, exponents from 1E+21
-/// (at or above) and below 1E-9 or so as the programs show them ("1E+21", "1.5E-10").
+/// A number as a formula joins it to a text: up to 15 significant digits, written out where that
+/// takes at most 20 characters, the sign aside ("0.000001"), else as "1.5E+21".
 std::string numberToText(double number);
 /// As numberToText into `buffer`; the length written.
 inline constexpr size_t numberTextSize = 32;
 size_t writeNumber(double number, char (&buffer)[numberTextSize]);
 
-/// Texts compare without letter case (ASCII and Windows-1252 letters): below 0, 0, above 0.
+/// The order of texts: symbols < digits < letters, without letter case (ASCII and Windows-1252
+/// letters). Below 0, 0, above 0.
 int compareTexts(std::string_view a, std::string_view b);
+
+/// The order of numbers in the eyes of the programs' comparison operators: 15 significant digits
+/// decide, so that 0.1 + 0.2 equals 0.3. Below 0, 0, above 0.
+int compareNumbers(double a, double b);
 
 /// The order of the comparison operators: numbers < texts < booleans; empty equals 0, "" and
 /// FALSE. Both single and neither an error.
