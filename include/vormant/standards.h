@@ -1,0 +1,8 @@
+// Running connection standards: fill a TwDlgStandardsData, call StartDlgStandardsSS.
+#pragma once
+
+#include "mapping/start_dlg_standards_ss.h"
+#include "mapping/tw_dlg_standards_data.h"
+#include "standards/declarations.h"
+#include "standards/run_observer.h"
+#include "standards/standards_check.h"

@@ -1,0 +1,47 @@
+// The kinds of values that a mapping can reach inside a macro.
+#pragma once
+
+#include <optional>
+#include <string_view>
+
+#include "mapping/tw_var_cell.h"
+
+enum class TwMapType : int {
+    none = 0,
+    distance,
+    genVar,
+    cutOffset,
+    cutPolyOffset,
+    cutLengthOffset,
+    cutCenterOffset,
+    cutInsideOffset,
+    cutOutsideOffset,
+    cutChamferOffset1,
+    cutChamferOffset2,
+    cutRadius,
+    prPlName,
+    prPlMaterial,
+    ownedMemberName,
+    memberSectionSize,
+    patternNrBolts1,
+    patternNrBolts2,
+    patternReverseStart1,
+    patternReverseStart2,
+    boltsDiameter,
+    boltsHoleOffset,
+};
+
+/// The word of a mapping file, "CutPolyOffset"; empty for none.
+std::string_view mapTypeName(TwMapType kind);
+/// Nothing for none.
+std::optional<TwValueType> mapTypeValueType(TwMapType kind);
+/// The first kind whose word `text` begins with, tried in the order of the mapping file's age:
+/// distances, general variables and cuts, then patterns, profiles and bolts.
+TwMapType mapTypeFromPrefix(std::string_view text);
+
+/// Cut kinds are offset types 0 to 8 in order.
+inline bool isCutKind(TwMapType kind) {
+    return kind >= TwMapType::cutOffset && kind <= TwMapType::cutRadius;
+}
+/// Reached through the macro itself, not through one of its modules.
+bool isMacroLevel(TwMapType kind);

@@ -1,0 +1,45 @@
+// For programs that show how a run went (a trace, a report): what happened, as it happens. One
+// observer a process; without one a run pays a single pointer test for each event.
+#pragma once
+
+#include <string_view>
+
+#include "core_api/text/vor_string.h"
+
+/// One cell of the equation area after its turn. Texts live until the call returns.
+struct EquationReport {
+    int row = 0;               ///< from 1
+    int column = 0;            ///< from 1
+    std::string_view text;     ///< as the cell showed it
+    std::string_view name;     ///< the variable it assigns; empty when there is none
+    std::string_view formula;  ///< with cell references; for a child call the call as written
+    std::string_view value;    ///< what the equation cell shows; empty for a child call
+    bool isChildCall = false;
+    bool ok = false;
+    std::string_view message;  ///< why it failed, and what to do; empty when it did not
+};
+
+class VORMANT_API RunObserver {
+  public:
+    virtual ~RunObserver() = default;
+
+    /// The document is loaded; `depth` is 0 for the run that was asked for, 1 for its children.
+    virtual void runStarted(std::string_view /*path*/, int /*depth*/) {}
+    virtual void equationDone(const EquationReport& /*equation*/) {}
+    /// Around the runs of a child call. The equation of the call is reported after childEnded.
+    virtual void childStarted(std::string_view /*path*/, int /*row*/, int /*column*/) {}
+    virtual void childEnded(bool /*ok*/) {}
+    /// What does not fail a run but should be known: an output that holds an error, names that
+    /// are declared twice.
+    virtual void warning(std::string_view /*text*/) {}
+    /// Also for a run that failed before runStarted.
+    virtual void runEnded(bool /*ok*/) {}
+};
+
+/// Installs `observer` (null for none) and gives the one before. The caller keeps it alive until
+/// another is installed.
+VORMANT_API RunObserver* setRunObserver(RunObserver* observer);
+RunObserver* runObserver();
+
+/// Why the last run that failed did so: file, what, what to do. Empty after a run that succeeded.
+VORMANT_API const Vor_String& lastRunFailure();
