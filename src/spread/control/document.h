@@ -1,0 +1,75 @@
+// The control's documents (".tws", ".sss", bills): UTF-8 text, one line a property or cell, in a
+// fixed order, so that a document can be read, compared and merged as text.
+//
+//   vormant-sheet 1
+//   size COLUMNS ROWS
+//   option NAME VALUE
+//   look N KIND key=value …          only looks in use; texts quoted, with \" \\ \n \t \r
+//   colwidth A 24                    pixels; also rowheight, hidecol, hiderow, columnlook …
+//   header A "text                   rowheader 3 "text     corner "text
+//   span A1 COLUMNS ROWS
+//   tag B2 "text                     note B2 "text
+//   cells
+//   A1 "Input                        a text runs to the end of the line
+//   B2 @1 12.5                       look, value: number, "text, TRUE, FALSE, #error
+//   C3 @1 =A1*B1<TAB>25              formula, tab, result; an array formula is ={…}
+//   D4 @2                            look only
+//   end COUNT                        cell lines; guards against truncation
+//
+// Cells stand by row, then column. Numbers are the shortest text that reads back to the same
+// double. Reading is all or nothing. A formula that calls an unknown function is kept.
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <string>
+#include <string_view>
+
+#include "spread/control/look.h"
+#include "spread/control/sheet.h"
+#include "spread/control/side_tables.h"
+
+namespace control {
+
+class Grid;
+
+/// A loaded document: immutable, shared by every grid that starts from it.
+class Document {
+  public:
+    int cols() const { return m_cols; }
+    int rows() const { return m_rows; }
+    const Sheet& sheet() const { return *m_sheet; }
+    const LookTable& looks() const { return m_looks; }
+    const SharedSides& sides() const { return m_sides; }
+
+    /// A place where an engine keeps what it prepared for this very document; empty at first,
+    /// dies with the document.
+    std::shared_ptr<void>& attachment() const { return m_attachment; }
+
+  private:
+    friend class DocumentReader;
+    friend class Grid;
+
+    int m_cols = 0;
+    int m_rows = 0;
+    std::unique_ptr<Sheet> m_sheet = std::make_unique<Sheet>();
+    LookTable m_looks;
+    SharedSides m_sides;
+    mutable std::shared_ptr<void> m_attachment;
+};
+
+/// Reads a document from its text. Null with `error` as "name:line: what: what to do".
+std::shared_ptr<Document> readDocument(std::string_view text, std::string_view name,
+                                       std::string& error);
+
+/// The document at `path` (host style). One that was read before and whose file is unchanged
+/// (size and modification time) comes from a bounded store of this process. Null with `error`.
+std::shared_ptr<const Document> loadDocument(std::string_view path, std::string& error);
+
+/// The text of a grid's document.
+std::string writeDocument(const Grid& grid);
+/// Writes it to `path` (host style) in one atomic step: on failure the old file stays whole.
+bool saveDocument(const Grid& grid, std::string_view path, std::string& error);
+
+}  // namespace control

@@ -1,0 +1,251 @@
+// The grid: a sheet that calculates, with looks, headers, sizes, spans, tags, options, a selection
+// and an edit mode. Columns and rows count from 1; the header row and header column are addressed
+// with -32767 (or 0). Nothing here draws: views read it.
+//
+// Cells are read in four ways. *Value* of a number cell is its number rounded to the cell's
+// decimals, without trailing zeros; *data* the text a user sees, with fixed decimals; formula
+// results stay in full precision in the sheet and are rounded in these readings only. The typed
+// calls (writeValue, shownValue) allocate nothing for numbers; the text calls are made from them.
+#pragma once
+
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "spread/control/document.h"
+#include "spread/control/look.h"
+#include "spread/control/sheet.h"
+#include "spread/control/side_tables.h"
+
+namespace control {
+
+/// Addresses the header row (as row) or the header column (as column).
+inline constexpr int headerIndex = -32767;
+constexpr bool isHeader(int index) {
+    return index == headerIndex || index == 0;
+}
+
+enum class Reading { data = 0, formula = 1, tag = 2, value = 3 };
+
+/// The switches of SSSetBool that mean something to the grid itself; others are kept as they are.
+enum class Option {
+    columnHeaders = 3,
+    rowHeaders = 4,
+    automaticRecalculation = 7,
+    repaint = 8,        ///< off while a sheet is filled
+    userFormulas = 12,  ///< what a user types after "=" is a formula
+    changed = 30,       ///< set by every change, cleared by whoever saved
+};
+
+/// A block of cells; -1 for both ends of a direction means all of it. Both corners included.
+struct Block {
+    int col1 = 1, row1 = 1;
+    int col2 = 1, row2 = 1;
+    bool operator==(const Block&) const = default;
+};
+
+/// A key with its modifiers, as the three clipboard actions have one.
+struct ActionKey {
+    int key = 0;  ///< 0 is none
+    bool shift = false;
+    bool ctrl = false;
+    bool operator==(const ActionKey&) const = default;
+};
+enum class KeyAction { copy = 0, cut = 1, paste = 2 };
+
+class Grid {
+  public:
+    Grid();
+    ~Grid();
+    Grid(const Grid&) = delete;
+    Grid& operator=(const Grid&) = delete;
+
+    // --- size -------------------------------------------------------------------------------
+    int cols() const { return m_cols; }
+    int rows() const { return m_rows; }
+    /// Up to formula::maxCols and maxRows, else false. What lies beyond is dropped; formulas that
+    /// referred to it read empty cells. 0 empties the sheet.
+    bool setCols(int count);
+    bool setRows(int count);
+    bool isInside(int col, int row) const {
+        return col >= 1 && col <= m_cols && row >= 1 && row <= m_rows;
+    }
+    /// The cell or a header cell.
+    bool isAddress(int col, int row) const {
+        return (isHeader(col) || (col >= 1 && col <= m_cols)) &&
+               (isHeader(row) || (row >= 1 && row <= m_rows));
+    }
+
+    // --- typed cells ------------------------------------------------------------------------
+    /// Writes as the set-value call does, replacing a formula. Number cells round to their
+    /// decimals (half away from zero, as written), take nothing (the cell becomes empty), texts
+    /// that are a number or one of the error texts, booleans as 1 and 0, and refuse other texts
+    /// and numbers outside their range. Text cells keep the text of a number. False, with the
+    /// cell as it was, when refused or outside the sheet.
+    bool writeValue(int col, int row, const formula::Value& value);
+    /// The value reading, typed. A text is borrowed until the cell changes. Empty outside.
+    formula::Value shownValue(int col, int row) const;
+    /// As shownValue for a value that stands in a cell of this look.
+    static formula::Value shown(const Look& look, const formula::Value& value);
+
+    // --- texts ------------------------------------------------------------------------------
+    /// `text` as data and as value differ only in their names: both follow writeValue. Header
+    /// cells take any text.
+    bool setData(int col, int row, std::string_view text);
+    bool setValueText(int col, int row, std::string_view text) { return setData(col, row, text); }
+    /// The text of a reading; lies in `buffer` or in the cell, until either changes. Empty for
+    /// cells outside and for cells without such a text.
+    std::string_view text(int col, int row, Reading reading, std::string& buffer) const;
+    std::string text(int col, int row, Reading reading) const;
+    bool setTag(int col, int row, std::string_view text);
+    bool setNote(int col, int row, std::string_view text);
+    std::string_view note(int col, int row) const;
+    /// Empties value, formula, tag and note; the look stays.
+    void clearCells(const Block& block);
+
+    // --- formulas ---------------------------------------------------------------------------
+    /// Text without "=", in the sheet's reference style. False with the reason, and the cell as it
+    /// was, when refused. The empty text removes the formula and keeps the value.
+    bool setFormula(int col, int row, std::string_view text, formula::ParseError* error = nullptr);
+    /// As above with a program compiled before for this very cell; takes `text` over.
+    void setFormula(int col, int row, const formula::ProgramRef& program, TextBlock* text);
+    bool recalculateCell(int col, int row) { return m_sheet->recalculateCell(col, row); }
+    void recalculate() { m_sheet->recalculate(); }
+    /// 0 and 1 are A1, 2 is R1C1.
+    void setReferenceStyle(int style);
+    int referenceStyle() const { return m_referenceStyle; }
+    /// Registered for formulas set from now on, in this grid and through every load.
+    void addCustomFunction(const formula::CustomFunction* function);
+    const Sheet& sheet() const { return *m_sheet; }
+
+    // --- looks ------------------------------------------------------------------------------
+    const LookTable& looks() const { return m_looks; }
+    /// The look that a cell or header cell shows.
+    const Look& look(int col, int row) const { return m_looks[lookIndex(col, row)]; }
+    LookIndex lookIndex(int col, int row) const;
+    /// Gives a block the kind of `kind` and leaves font, colours, border and lock. A block that
+    /// covers all rows becomes the look of its columns, for rows that come later too.
+    bool setKind(const Block& block, const Look& kind);
+    /// One cell: allocates nothing when the kind was used before.
+    bool setKind(int col, int row, const Look& kind);
+    /// Changes any part of the looks of a block.
+    template <class Change>
+    bool changeLooks(const Block& block, Change&& change) {
+        return eachLook(block, [&](const Look& look) {
+            Look changed = look;
+            change(changed);
+            return changed;
+        });
+    }
+    /// `sides` of BorderSide round or in the block; style 0 removes.
+    bool setBorder(const Block& block, int sides, int style, Colour colour);
+
+    // --- sizes, spans, options --------------------------------------------------------------
+    /// Pixels. The header index addresses the header column or row.
+    int colWidth(int col) const;
+    int rowHeight(int row) const;
+    bool setColWidth(int col, int pixels);
+    bool setRowHeight(int row, int pixels);
+    bool setColHidden(int col, bool hidden);
+    bool setRowHidden(int row, bool hidden);
+    /// Pixels that the widest text of a column or the tallest of a row needs, header included.
+    int fitWidth(int col) const;
+    int fitHeight(int row) const;
+    bool addSpan(const Span& span);
+    bool removeSpan(int col, int row);
+    /// The span that holds the cell, or null.
+    const Span* spanAt(int col, int row) const { return m_sides->spanAt(col, row); }
+    bool option(int number) const;
+    bool option(Option option) const { return this->option(static_cast<int>(option)); }
+    void setOption(int number, bool on);
+    void setOption(Option option, bool on) { setOption(static_cast<int>(option), on); }
+    const SideTables& sides() const { return *m_sides; }
+    /// For colours and the like that nothing else depends on.
+    SideTables& changeSides();
+
+    // --- structure --------------------------------------------------------------------------
+    /// The counts stay: what is pushed over the edge is dropped, and deleting leaves blank rows at
+    /// the end. References in formulas, sizes, spans, tags and headers move.
+    bool insertRows(int at, int count);
+    bool deleteRows(int at, int count);
+    bool insertCols(int at, int count);
+    bool deleteCols(int at, int count);
+    /// Both groups lie inside the sheet and do not overlap, else false.
+    bool swapRows(int first, int other, int count);
+    bool swapCols(int first, int other, int count);
+    /// Contents, looks and tags of a block to the place whose top left is (col, row).
+    bool copyBlock(const Block& from, int col, int row);
+    bool copyRowLooks(int from, int to);
+    bool copyColLooks(int from, int to);
+
+    // --- selection, editing, clipboard ------------------------------------------------------
+    /// (0, 0) when no cell is active.
+    CellAddress active() const { return m_active; }
+    bool setActive(int col, int row);
+    /// The selected block; nothing when only a cell is active.
+    const std::optional<Block>& selection() const { return m_selection; }
+    bool select(const Block& block);
+    void deselect() { m_selection.reset(); }
+    /// Edit mode: the active cell's text being typed. False when the cell is locked or static.
+    bool beginEdit();
+    bool isEditing() const { return m_edit.has_value(); }
+    bool setEditText(std::string_view text);
+    std::string_view editText() const { return m_edit ? std::string_view(m_edit->text) : ""; }
+    /// Characters selected in the text being typed, from 0.
+    bool setEditSelection(int start, int length);
+    std::pair<int, int> editSelection() const;
+    /// Leaves edit mode. With `keep` the text is written as a user enters it; false, with edit
+    /// mode on, when the cell refuses it.
+    bool endEdit(bool keep);
+    /// Writes what a user typed into a cell: "=" begins a formula when the option allows it,
+    /// numbers become numbers in general cells too, locks and lengths are kept.
+    bool enter(int col, int row, std::string_view typed);
+    /// The block as tab-separated lines, and such lines written from a cell on as typed.
+    std::string copyText(const Block& block) const;
+    bool pasteText(int col, int row, std::string_view text);
+    void setActionKey(KeyAction action, const ActionKey& key);
+    /// The action of a key, or nothing.
+    std::optional<KeyAction> keyAction(const ActionKey& key) const;
+    /// A block with its -1 ends filled in and cut to the sheet; nothing when it lies outside.
+    std::optional<Block> resolved(const Block& block) const;
+
+    // --- documents --------------------------------------------------------------------------
+    /// Starts a fresh copy. When the grid started from this same document before, only what was
+    /// touched since is put back. Registered functions stay.
+    void restore(std::shared_ptr<const Document> document);
+    /// Takes a document over that nobody else needs, without copying.
+    void adopt(std::shared_ptr<Document> document);
+    /// What restore or adopt was given last, or null.
+    const std::shared_ptr<const Document>& document() const { return m_document; }
+
+  private:
+    struct Edit {
+        std::string text;
+        int start = 0;
+        int length = 0;
+    };
+    bool eachLook(const Block& block, const std::function<Look(const Look&)>& change);
+    void noteTouched(int col, int row);
+    void noteStructure();
+
+    int m_cols = 0;
+    int m_rows = 0;
+    std::unique_ptr<Sheet> m_sheet;
+    LookTable m_looks;
+    SharedSides m_sides;
+    std::vector<const formula::CustomFunction*> m_custom;
+    int m_referenceStyle = 0;
+
+    std::shared_ptr<const Document> m_document;
+    std::vector<CellAddress> m_touched;  // since m_document was restored
+    bool m_canUndo = false;              // m_touched is all that differs from m_document
+
+    CellAddress m_active;
+    std::optional<Block> m_selection;
+    std::optional<Edit> m_edit;
+    std::array<ActionKey, 3> m_actionKeys;
+};
+
+}  // namespace control

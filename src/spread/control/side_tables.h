@@ -1,0 +1,106 @@
+// What a sheet has beside its cells: header texts, sizes, spans, tags, notes, options. One value,
+// shared until it is changed (see SharedSides), so that a fresh copy of a document costs a pointer.
+#pragma once
+
+#include <bitset>
+#include <cstdint>
+#include <map>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <vector>
+
+#include "spread/control/cells.h"
+#include "spread/control/look.h"
+
+namespace control {
+
+/// A block of cells: its anchor (top left) and its size.
+struct Span {
+    int col = 0, row = 0;
+    int cols = 1, rows = 1;
+    bool operator==(const Span&) const = default;
+    bool contains(int c, int r) const {
+        return c >= col && c < col + cols && r >= row && r < row + rows;
+    }
+};
+
+/// A cell's address as one number, ordered by row and then column. Header cells have 0.
+constexpr int64_t cellKey(int col, int row) {
+    return static_cast<int64_t>(row) << 32 | col;
+}
+constexpr int keyCol(int64_t key) {
+    return static_cast<int>(key & 0xFFFFFFFF);
+}
+constexpr int keyRow(int64_t key) {
+    return static_cast<int>(key >> 32);
+}
+
+using CellTexts = std::map<int64_t, std::string>;
+
+/// One header band: the row of column headers, or the column of row headers.
+struct Band {
+    std::map<int, std::string> texts;  ///< by column or row; others show their letters or number
+    std::map<int, LookIndex> looks;    ///< those that differ from `look`
+    LookIndex look = inheritedLook;
+    std::map<int, int> sizes;    ///< pixels: column widths or row heights that differ
+    std::map<int, bool> hidden;  ///< the hidden columns or rows
+    int defaultSize = 0;
+    int headerSize = 0;  ///< pixels: height of the header row, or width of the header column
+    bool operator==(const Band&) const = default;
+};
+
+struct SideTables {
+    Band cols;
+    Band rows;
+    std::vector<LookIndex> columnLooks;  ///< by column, from 1; short when the rest inherits
+    std::vector<Span> spans;
+    CellTexts tags;
+    CellTexts notes;
+    std::string cornerText;
+    std::bitset<64> options;
+    int gridType = 0;
+    Colour gridColour = automatic;
+    Colour greyArea = automatic;
+    Colour lockedColour = automatic;
+    Colour selectionBackground = automatic;
+    Colour selectionText = automatic;
+
+    SideTables();
+    bool operator==(const SideTables&) const = default;
+
+    LookIndex columnLook(int col) const {
+        const auto c = static_cast<size_t>(col);
+        return c < columnLooks.size() ? columnLooks[c] : inheritedLook;
+    }
+    const Span* spanAt(int col, int row) const;
+
+    /// What belongs to rows or columns moves with them; what belonged to deleted ones goes.
+    void insertRows(int at, int count);
+    void deleteRows(int at, int count);
+    void insertCols(int at, int count);
+    void deleteCols(int at, int count);
+    void swapRows(int first, int other, int count);
+    void swapCols(int first, int other, int count);
+    /// Drops what lies beyond the last column and row.
+    void cut(int cols, int rows);
+};
+
+/// Side tables shared between a document and the sheets made from it, copied on the first change.
+class SharedSides {
+  public:
+    SharedSides() : m_tables(std::make_shared<SideTables>()) {}
+    const SideTables* operator->() const { return m_tables.get(); }
+    const SideTables& operator*() const { return *m_tables; }
+    SideTables& change() {
+        if (m_tables.use_count() > 1) m_tables = std::make_shared<SideTables>(*m_tables);
+        return *m_tables;
+    }
+    bool isSameAs(const SharedSides& other) const { return m_tables == other.m_tables; }
+
+  private:
+    std::shared_ptr<SideTables> m_tables;
+};
+
+}  // namespace control
