@@ -35,6 +35,7 @@ class VORMANT_API MacroData {
 
   private:
     friend VORMANT_API MacroData makeMacroData(const Vor_DbMacro& macro);
+    ErrorStatus applyTabs(Vor_Macro& macro) const;
 
     Vor_Array<MacroTabData> m_tabs;
     TabMappingData m_mapping;

@@ -46,9 +46,10 @@ class VORMANT_API Vor_Macro {
     /// eInvalidInput for a bad or taken name, a value out of range, or beyond maxMacroItems.
     ErrorStatus addGeneralVariable(std::string_view name, double value);
 
-    /// The standards that are attached to the macro (names and keys; the groups are the macro's).
+    /// The standards that are attached to the macro. The list of groups in `standards` is not kept:
+    /// getModuleGroups() gives them.
     const TabMappingData& standards() const { return m_standards; }
-    void setStandards(const TabMappingData& standards) { m_standards = standards; }
+    void setStandards(const TabMappingData& standards);
 
     bool operator==(const Vor_Macro& other) const;
 
@@ -58,7 +59,6 @@ class VORMANT_API Vor_Macro {
         double value = 0;
         bool operator==(const GeneralVariable&) const = default;
     };
-    const GeneralVariable* findGeneral(std::string_view name) const;
 
     std::vector<std::unique_ptr<Vor_Module>> m_modules;
     Vor_Array<GeneralVariable> m_generalVariables;

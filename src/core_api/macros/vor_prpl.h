@@ -17,6 +17,9 @@ struct Vor_PrPl {
     bool operator==(const Vor_PrPl&) const = default;
 };
 
+/// isMacroText holds for section, material and member name.
+VORMANT_API bool arePlacementTextsGood(const Vor_PrPl& placement);
+
 /// The full section name of a placement. eInvalidInput, with `value` as it was, without a
 /// placement, when none is set yet, or inside a transaction that is over (null: outside of any).
 VORMANT_API ErrorStatus getSectionName(const Vor_PrPl* profile, Vor_String& value,
