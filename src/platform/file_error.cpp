@@ -1,0 +1,45 @@
+#include "platform/file_error.h"
+
+#include <cerrno>
+#include <system_error>
+
+namespace files {
+
+namespace {
+
+std::string_view adviceFor(int error) {
+    switch (error) {
+        case ENOENT:
+            return "check the name and its folder";
+        case EACCES:
+        case EPERM:
+            return "check the permissions of the file and its folder";
+        case EROFS:
+            return "choose a folder that can be written to";
+        case ENOSPC:
+        case EDQUOT:
+            return "make room on the disk and try again";
+        case EISDIR:
+            return "name a file, not a folder";
+        case ENOTDIR:
+            return "a part of the path is a file, not a folder";
+        case ENAMETOOLONG:
+            return "choose a shorter name";
+        case EMFILE:
+        case ENFILE:
+            return "close other files and try again";
+        default:
+            return "try again, or check the disk";
+    }
+}
+
+}  // namespace
+
+std::string errorText(std::string_view action, std::string_view path, int error) {
+    std::string text = "cannot ";
+    text.append(action).append(" ").append(path).append(": ");
+    text.append(std::generic_category().message(error)).append("; ").append(adviceFor(error));
+    return text;
+}
+
+}  // namespace files

@@ -1,0 +1,12 @@
+// Words for what the system refuses.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace files {
+
+/// "cannot <action> <path>: <what the system says>; <what to do>".
+std::string errorText(std::string_view action, std::string_view path, int error);
+
+}  // namespace files

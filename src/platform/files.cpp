@@ -1,0 +1,134 @@
+#include "platform/files.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+
+#include "platform/file_error.h"
+#include "platform/paths.h"
+
+namespace files {
+
+namespace {
+
+class Descriptor {
+  public:
+    explicit Descriptor(int descriptor) : m_descriptor(descriptor) {}
+    ~Descriptor() {
+        if (m_descriptor >= 0) ::close(m_descriptor);
+    }
+    Descriptor(const Descriptor&) = delete;
+    Descriptor& operator=(const Descriptor&) = delete;
+    int get() const { return m_descriptor; }
+
+  private:
+    int m_descriptor;
+};
+
+std::optional<struct stat> statusOf(std::string_view path) {
+    struct stat status {};
+    if (path.find('\0') != std::string_view::npos) return std::nullopt;
+    if (::stat(paths::toMachine(path).c_str(), &status) != 0) return std::nullopt;
+    return status;
+}
+
+// Reads to the end, which may lie elsewhere than the size said: another program may be writing.
+// 0 or an errno; EFBIG beyond the limit.
+int readAll(int descriptor, std::size_t sizeLimit, std::string& content) {
+    std::size_t used = 0;
+    for (;;) {
+        if (used == content.size()) content.resize(content.size() + 4096);
+        const ssize_t got = ::read(descriptor, content.data() + used, content.size() - used);
+        if (got < 0 && errno == EINTR) continue;
+        if (got < 0) return errno;
+        if (got == 0) break;
+        used += static_cast<std::size_t>(got);
+        if (used > sizeLimit) return EFBIG;
+    }
+    content.resize(used);
+    return 0;
+}
+
+std::string tooLarge(std::string_view path, std::size_t sizeLimit) {
+    return "cannot read " + std::string(path) + ": it is larger than " + std::to_string(sizeLimit) +
+           " bytes; check that it is the file meant";
+}
+
+}  // namespace
+
+std::optional<Stamp> stampOf(std::string_view path) {
+    const auto status = statusOf(path);
+    if (!status || S_ISDIR(status->st_mode)) return std::nullopt;
+    const std::int64_t seconds = status->st_mtim.tv_sec;
+    return Stamp{status->st_size, seconds * 1'000'000'000 + status->st_mtim.tv_nsec,
+                 status->st_ino};
+}
+
+bool exists(std::string_view path) {
+    return stampOf(path).has_value();
+}
+
+bool isFolder(std::string_view path) {
+    const auto status = statusOf(path);
+    return status && S_ISDIR(status->st_mode);
+}
+
+std::optional<std::string> readWhole(std::string_view path, std::string& error,
+                                     std::size_t sizeLimit) {
+    const auto fail = [&](int code) {
+        error = errorText("read", path, code);
+        return std::nullopt;
+    };
+    if (path.find('\0') != std::string_view::npos) return fail(ENOENT);
+    // Not blocking: opening a pipe would wait for somebody to write into it.
+    const Descriptor file(
+        ::open(paths::toMachine(path).c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
+    if (file.get() < 0) return fail(errno);
+    struct stat status {};
+    if (::fstat(file.get(), &status) != 0) return fail(errno);
+    if (S_ISDIR(status.st_mode)) return fail(EISDIR);
+    if (!S_ISREG(status.st_mode)) {
+        error = "cannot read " + std::string(path) + ": it is not an ordinary file; name a file";
+        return std::nullopt;
+    }
+    const auto size = static_cast<std::size_t>(status.st_size);
+    std::string content;
+    if (size <= sizeLimit) {
+        content.resize(size + 1);  // one more, so that the first read can meet the end
+        const int code = readAll(file.get(), sizeLimit, content);
+        if (code == 0) return content;
+        if (code != EFBIG) return fail(code);
+    }
+    error = tooLarge(path, sizeLimit);
+    return std::nullopt;
+}
+
+bool createFolder(std::string_view path, std::string& error) {
+    if (path.find('\0') != std::string_view::npos) {
+        error = errorText("create folder", path, ENOENT);
+        return false;
+    }
+    const std::string machine = paths::toMachine(path);
+    for (std::size_t end = 0; end < machine.size();) {
+        end = machine.find('/', end + 1);
+        const std::string part = machine.substr(0, end);
+        struct stat status {};
+        if (::stat(part.c_str(), &status) == 0 && S_ISDIR(status.st_mode)) continue;
+        if (::mkdir(part.c_str(), 0777) == 0) continue;
+        if (errno == EEXIST && ::stat(part.c_str(), &status) == 0 && S_ISDIR(status.st_mode))
+            continue;  // somebody else made it just now
+        error = errorText("create folder", path, errno);
+        return false;
+    }
+    return true;
+}
+
+bool removeFile(std::string_view path, std::string& error) {
+    if (::unlink(paths::toMachine(path).c_str()) == 0 || errno == ENOENT) return true;
+    error = errorText("remove", path, errno);
+    return false;
+}
+
+}  // namespace files

@@ -1,0 +1,184 @@
+#include "platform/files.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+
+#include <cerrno>
+
+#include "platform/paths.h"
+#include "support/temporary_folder.h"
+
+namespace {
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+
+// The real steps, one of which fails.
+class FailingSteps : public files::WriteSteps {
+  public:
+    enum Step { opening, writing, secondWrite, flushing, closing, renaming, none };
+    FailingSteps(Step failing, int error) : m_failing(failing), m_error(error) {
+        files::installWriteSteps(this);
+    }
+    ~FailingSteps() override { files::installWriteSteps(nullptr); }
+
+    int open(const std::string& path, std::optional<unsigned> permissions,
+             int& descriptor) override {
+        return m_failing == opening ? m_error : WriteSteps::open(path, permissions, descriptor);
+    }
+    int write(int descriptor, std::string_view bytes, std::size_t& written) override {
+        ++m_writes;
+        if (m_failing == writing || (m_failing == secondWrite && m_writes == 2)) return m_error;
+        return WriteSteps::write(descriptor, bytes.substr(0, 3), written);
+    }
+    int flush(int descriptor) override {
+        return m_failing == flushing ? m_error : WriteSteps::flush(descriptor);
+    }
+    int close(int descriptor) override {
+        const int error = WriteSteps::close(descriptor);
+        return m_failing == closing ? m_error : error;
+    }
+    int rename(const std::string& from, const std::string& to) override {
+        return m_failing == renaming ? m_error : WriteSteps::rename(from, to);
+    }
+
+  private:
+    Step m_failing;
+    int m_error;
+    int m_writes = 0;
+};
+
+TEST(WriteWhole, AnyFailingStepLeavesTheOldFileWhole) {
+    using Steps = FailingSteps;
+    const struct {
+        Steps::Step step;
+        int error;
+        const char* advice;
+    } cases[] = {
+        {Steps::opening, EACCES, "permissions"},   {Steps::writing, ENOSPC, "make room"},
+        {Steps::secondWrite, ENOSPC, "make room"}, {Steps::flushing, EIO, "check the disk"},
+        {Steps::closing, EDQUOT, "make room"},     {Steps::renaming, EROFS, "written to"},
+    };
+    const TemporaryFolder folder;
+    const std::string path = folder.write("old.txt", "the old content");
+    for (const auto& c : cases) {
+        const FailingSteps steps(c.step, c.error);
+        std::string error;
+        EXPECT_FALSE(files::writeWhole(path, "something new", error));
+        EXPECT_THAT(error, HasSubstr("cannot write " + path)) << c.step;
+        EXPECT_THAT(error, HasSubstr(c.advice)) << c.step;
+        EXPECT_EQ(folder.read("old.txt"), "the old content") << c.step;
+        EXPECT_EQ(folder.fileCount(), 1) << "left over after step " << c.step;
+    }
+    const FailingSteps steps(Steps::none, 0);  // three bytes at a time
+    std::string error;
+    EXPECT_TRUE(files::writeWhole(path, "something new", error)) << error;
+    EXPECT_EQ(folder.read("old.txt"), "something new");
+}
+
+TEST(WriteWhole, KeepsPermissionsAndFollowsLinks) {
+    const TemporaryFolder folder;
+    folder.write("real.txt", "old");
+    ::chmod((folder.path() / "real.txt").c_str(), 0640);
+    std::filesystem::create_symlink("real.txt", folder.path() / "link.txt");
+    std::string error;
+    ASSERT_TRUE(files::writeWhole(folder.inside("link.txt"), "new", error)) << error;
+    EXPECT_TRUE(std::filesystem::is_symlink(folder.path() / "link.txt"));
+    EXPECT_EQ(folder.read("real.txt"), "new");
+    struct stat status {};
+    ::stat((folder.path() / "real.txt").c_str(), &status);
+    EXPECT_EQ(status.st_mode & 0777u, 0640u);
+}
+
+TEST(WriteWhole, RefusesWhatIsNoFile) {
+    const TemporaryFolder folder;
+    std::string error;
+    EXPECT_FALSE(files::writeWhole(folder.inside(), "x", error));
+    EXPECT_THAT(error, HasSubstr("name a file, not a folder"));
+    EXPECT_FALSE(files::writeWhole(folder.inside("missing\\file.txt"), "x", error));
+    EXPECT_THAT(error, HasSubstr("check the name and its folder"));
+    EXPECT_FALSE(files::writeWhole("", "x", error));
+}
+
+TEST(ReadWhole, RefusesWithAReason) {
+    const TemporaryFolder folder;
+    const std::string path = folder.write("big.txt", std::string(5000, 'x'));
+    std::string error;
+    EXPECT_EQ(files::readWhole(path, error, 5000)->size(), 5000u);
+    EXPECT_FALSE(files::readWhole(path, error, 4999));
+    EXPECT_THAT(error, HasSubstr("larger than 4999 bytes"));
+    EXPECT_FALSE(files::readWhole(folder.inside("none.txt"), error));
+    EXPECT_THAT(error, HasSubstr("cannot read " + folder.inside("none.txt")));
+    EXPECT_FALSE(files::readWhole(folder.inside(), error));
+    EXPECT_THAT(error, HasSubstr("name a file, not a folder"));
+    ASSERT_EQ(::mkfifo((folder.path() / "pipe").c_str(), 0600), 0);
+    EXPECT_FALSE(files::readWhole(folder.inside("pipe"), error));
+    EXPECT_THAT(error, HasSubstr("not an ordinary file"));
+    EXPECT_FALSE(files::readWhole(std::string_view("a\0b", 3), error));
+}
+
+TEST(Paths, MatchIgnoresCaseOneComponentAtATime) {
+    const TemporaryFolder folder;
+    folder.write("Connection Standards/Data/Bolts.txt", "");
+    folder.write("connection standards/x.txt", "");  // a second match: byte order decides
+    folder.write(
+        "Stra\xC3\x9F"
+        "e/\xC3\x84.txt",
+        "");
+    const std::string root = folder.path().string() + "/";
+    const struct {
+        const char* inside;
+        const char* machine;
+    } cases[] = {
+        {"Connection Standards\\Data\\Bolts.txt", "Connection Standards/Data/Bolts.txt"},
+        {"CONNECTION STANDARDS\\data\\BOLTS.TXT", "Connection Standards/Data/Bolts.txt"},
+        {"connection standards\\X.TXT", "connection standards/x.txt"},
+        {"CONNECTION standards\\Data\\new.txt", "Connection Standards/Data/new.txt"},
+        {"stra\xDF"
+         "e\\\xE4.TXT",
+         "Stra\xC3\x9F"
+         "e/\xC3\x84.txt"},
+        {"nowhere\\data\\bolts.txt", "nowhere/data/bolts.txt"},
+        {"CONNECTION STANDARDS\\data\\..\\DATA\\bolts.txt",
+         "Connection Standards/Data/../Data/Bolts.txt"},
+    };
+    for (const auto& c : cases) {
+        EXPECT_EQ(paths::toMachine(folder.inside(c.inside)), root + c.machine) << c.inside;
+    }
+    EXPECT_EQ(paths::toInside("/lib/\xC3\x84.txt"), "\\lib\\\xC4.txt");
+    EXPECT_FALSE(paths::toInside("/lib/\xE4\xB8\xAD.txt"));
+}
+
+TEST(FindFiles, PatternsRecursionAndCircles) {
+    const TemporaryFolder folder;
+    for (const char* name : {"b.TWS", "A.tws", "a.map", "sub/c.tws", "sub/deep/d.tws"})
+        folder.write(name, "");
+    std::filesystem::create_directory_symlink("..", folder.path() / "sub" / "up");
+    const std::string root = folder.inside();
+    EXPECT_THAT(files::find(root, "*.tws", false), ElementsAre(root + "A.tws", root + "b.TWS"));
+    EXPECT_THAT(files::find(root, "?.tws", true),
+                ElementsAre(root + "A.tws", root + "b.TWS", root + "sub\\c.tws",
+                            root + "sub\\deep\\d.tws"));
+    EXPECT_TRUE(files::find(folder.inside("none"), "*", true).empty());
+    EXPECT_TRUE(files::matchesPattern("abcbcd", "a*BCD"));
+    EXPECT_FALSE(files::matchesPattern(std::string(5000, 'a'), "*a*a*a*a*a*a*a*a*b"));
+}
+
+TEST(Stamps, TellFilesFromFoldersAndChanges) {
+    const TemporaryFolder folder;
+    const std::string path = folder.write("a.txt", "1");
+    const auto before = files::stampOf(path);
+    ASSERT_TRUE(before);
+    EXPECT_EQ(before->size, 1);
+    std::string error;
+    ASSERT_TRUE(files::writeWhole(path, "2", error));
+    EXPECT_NE(files::stampOf(path), before);  // same size, perhaps the same tick of the clock
+    EXPECT_FALSE(files::stampOf(folder.inside()));
+    EXPECT_TRUE(files::createFolder(folder.inside("x\\y\\"), error)) << error;
+    EXPECT_TRUE(files::isFolder(folder.inside("X\\Y")));
+    EXPECT_FALSE(files::createFolder(folder.inside("a.txt\\z"), error));
+    EXPECT_THAT(error, HasSubstr("cannot create folder"));
+}
+
+}  // namespace
