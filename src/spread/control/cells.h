@@ -122,6 +122,7 @@ class CellStore {
         blockOf(col, row)->dirtyCount += dirty ? 1U : static_cast<uint32_t>(-1);
     }
     bool hasDirty(const Area& area) const;
+    bool hasFormula(const Area& area) const;
 
     /// Calls visit(row, col, cell) for every cell of `area` that is not blank, column by column
     /// and downwards. Costs what is stored, not what the area spans.

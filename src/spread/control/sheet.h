@@ -16,6 +16,7 @@
 #include "spread/control/cells.h"
 #include "spread/control/dependents.h"
 #include "spread/control/formula/calculation.h"
+#include "spread/control/formula/evaluator.h"
 #include "spread/control/formula/parser.h"
 #include "spread/control/formula/program.h"
 
@@ -53,7 +54,8 @@ class Sheet {
     /// As above for a document that is being loaded: calculated later, or `cached` kept as its
     /// value. A text that does not compile (its function may be registered later) is kept too; the
     /// cell shows #NAME?.
-    void loadFormula(int col, int row, std::string_view text, const Value& cached);
+    void loadFormula(int col, int row, std::string_view text, const Value& cached,
+                     bool isArray = false);
     /// The text of the cell's formula without "=", or nothing. Lives until the cell changes.
     std::optional<std::string_view> formula(int col, int row) const;
     bool isArrayFormula(int col, int row) const;
@@ -94,7 +96,6 @@ class Sheet {
     size_t formulaBytes() const;
 
   private:
-    friend class Evaluation;
     friend class formula::Calculation;
 
     struct FormulaSlot {
@@ -110,34 +111,52 @@ class Sheet {
 
     uint32_t newSlot(int col, int row, const formula::ProgramRef& program, TextBlock* text);
     void removeFormula(int col, int row, Cell& cell);
+    void dropSlot(uint32_t id);
+    void forgetDead();
     void place(int col, int row, const formula::ProgramRef& program, TextBlock* text, bool isArray);
+
+    // Following changes (recalculation.cpp).
     void touched(int col, int row);
+    void touchedQuietly(int col, int row) {
+        if (m_liveFormulas == 0) return;
+        m_changed.push_back({col, row});
+        m_calculation.m_unsettled = true;
+    }
     void settle();
     void linkNew();
-    void markDependents();
     void relinkAll();
     void calculate(uint32_t first);
-    void calculateAll(const std::vector<uint32_t>& ids);
-    void markCircle(const std::vector<uint32_t>& path, uint32_t start);
+    void waitForDirty(size_t bottom);
+    void markCircle(uint32_t start, size_t bottom);
+
+    // Moving (structure.cpp).
     template <class Move>
     void restructure(Move&& moveCells, const formula::MoveReference& moveReference);
+    void replaceText(FormulaSlot& slot, std::string_view text);
+    std::string carried(std::string_view text, int cols, int rows) const;
+    void carryFormula(int col, int row, int cols, int rows);
 
     CellStore m_cells;
     std::vector<FormulaSlot> m_slots;  // index 0 stays unused
     std::vector<uint32_t> m_freeSlots;
-    std::vector<uint32_t> m_order;  // formulas in an order that calculated well last time
+    std::vector<uint32_t> m_deadSlots;  // formulas removed, but still named in the lists below
+    std::vector<uint32_t> m_order;      // formulas in an order that calculated well last time
     std::vector<uint32_t> m_newOrder;
     std::vector<uint32_t> m_unlinked;
     std::vector<uint32_t> m_volatile;
     std::vector<CellAddress> m_changed;
-    std::vector<uint32_t> m_dirtied;
+    std::vector<uint32_t> m_dirtied;  // formulas that settle() made dirty
+    std::vector<uint32_t> m_path;     // formulas being calculated, each waiting for those above
+    std::vector<uint32_t> m_met;
     Dependents m_dependents;
     std::unordered_map<std::string_view, const formula::CustomFunction*> m_custom;
     formula::Calculation m_calculation;
+    formula::Evaluator m_evaluator;
     formula::ReferenceStyle m_style = formula::ReferenceStyle::a1;
     int m_liveFormulas = 0;
     bool m_automatic = false;
     bool m_orderBroken = false;
+    bool m_recordsOrder = false;
 };
 
 }  // namespace control

@@ -28,13 +28,20 @@ class Calculation {
     int hostRow() const { return m_hostRow; }
 
     /// The value of a cell; empty outside what is stored.
-    Value cell(int col, int row) const { return m_cells->value(col, row); }
+    Value cell(int col, int row) const {
+        const control::Cell* cell = m_cells->find(col, row);
+        if (!cell) return Value();
+        if (cell->formula && (cell->dirty || m_unsettled)) [[unlikely]]
+            noteDirty(col, row);
+        return cell->value();
+    }
 
     /// Calls visit(Value) for every single value of `argument`: of an area the cells that are not
     /// empty (column by column), of an array every element (row by row), else the value itself.
     template <class Visit>
     void each(const Value& argument, Visit&& visit) const {
         if (argument.isArea()) {
+            checkDirty(argument.area());
             m_cells->each(argument.area(), [&](int, int, const control::Cell& cell) {
                 if (cell.type != ValueType::empty) visit(cell.value());
             });
@@ -50,6 +57,7 @@ class Calculation {
     void eachAt(const Value& argument, Visit&& visit) const {
         if (argument.isArea()) {
             const Area area = argument.area();
+            checkDirty(area);
             m_cells->each(area, [&](int row, int col, const control::Cell& cell) {
                 if (cell.type != ValueType::empty)
                     visit(row - area.row1, col - area.col1, cell.value());
@@ -74,6 +82,8 @@ class Calculation {
 
     /// A text value holding its own copy of `text`.
     Value text(std::string_view text);
+    /// Two texts joined.
+    Value text(std::string_view first, std::string_view second);
     /// A fresh array of empty values, rows * cols at most 4,000,000 (else null).
     Array* newArray(int rows, int cols);
 
@@ -84,11 +94,7 @@ class Calculation {
     static std::optional<Area> parseReference(std::string_view text, bool a1, int hostCol,
                                               int hostRow);
 
-    /// Tells the engine that a cell will be read whose place was found while calculating (OFFSET,
-    /// INDIRECT, INDEX give areas; the engine itself checks those). Internal to the evaluator.
-    bool isBlocked() const { return m_blocked; }
-
-    /// Day number of now, in local time; the same through one recalculation.
+    /// Day number of now, in local time.
     double now() const;
     /// 0 <= x < 1.
     double random();
@@ -101,7 +107,17 @@ class Calculation {
     const control::Sheet* m_sheet = nullptr;
     int m_hostCol = 1;
     int m_hostRow = 1;
-    bool m_blocked = false;
+
+    // Cells met that are not calculated yet. Their values are old: the running calculation is
+    // given up and started again after them.
+    void noteDirty(int col, int row) const;
+    void checkDirty(const Area& area) const {
+        if (m_unsettled ? m_cells->hasFormula(area) : m_cells->hasDirty(area))
+            m_dirtyAreas.push_back(area);
+    }
+    mutable std::vector<Area> m_dirtyAreas;
+    /// Cells have changed and nobody has followed yet whom that concerns: any formula may be old.
+    bool m_unsettled = false;
 
     // The arena: chunks are kept from one calculation to the next.
     char* allocate(size_t size);

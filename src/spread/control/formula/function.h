@@ -40,6 +40,9 @@ struct FunctionSpec {
     std::string_view summary;    ///< for help: one sentence
 };
 
+/// The letter of argument `index` (from 0) in such a list.
+char parameterClass(std::string_view params, size_t index);
+
 // The families.
 std::span<const FunctionSpec> mathFunctions();          // SUM, ROUND, MOD, CEILING, …
 std::span<const FunctionSpec> trigonometryFunctions();  // SIN, ATAN2, DEGREES, …

@@ -1,0 +1,44 @@
+// Runs programs. One evaluator serves a sheet; its stack is kept between calculations, so that a
+// formula over numbers allocates nothing.
+#pragma once
+
+#include <vector>
+
+#include "spread/control/formula/calculation.h"
+#include "spread/control/formula/program.h"
+
+namespace formula {
+
+class Evaluator {
+  public:
+    explicit Evaluator(Calculation& calculation) : m_calculation(calculation) {}
+
+    /// The result of `program` in the cell (col, row), a single value. When the formula reads
+    /// cells that are not calculated yet it gives up: `blocked` says so, and the calculation's
+    /// dirtyAreas() hold them. Lives until the calculation ends.
+    Value run(const Program& program, int col, int row, bool& blocked);
+
+  private:
+    using Args = std::span<const Value>;
+    bool execute(const Instruction* begin, const Instruction* end);
+    void push(const Value& value) { *m_top++ = value; }
+    Value single(const Value& value);
+    Value binarySlow(Op op, uint8_t flags, const Value& a, const Value& b);
+    Value unarySlow(Op op, uint8_t flags, const Value& a);
+    Value spanned(const Value& a, const Value& b);
+    Value matrix(const Instruction& i);
+    Value area(const Instruction& first, const Instruction& second) const;
+    Value cell(const Instruction& i) const;
+    const Instruction* jumpIfNot(const Instruction& i, const Instruction* begin);
+    const Instruction* choose(const Instruction& i, const Instruction* begin);
+    Value call(const Instruction& i, Value* args);
+    Value callLifted(const Instruction& i, Value* args);
+    Value callCustom(const Instruction& i, Value* args);
+
+    Calculation& m_calculation;
+    std::vector<Value> m_stack;
+    Value* m_top = nullptr;  // one past the last value
+    std::vector<Value> m_lifted;
+};
+
+}  // namespace formula

@@ -1,0 +1,313 @@
+#include "spread/control/formula/lexer.h"
+
+#include <array>
+#include <charconv>
+
+namespace formula {
+
+namespace {
+
+constexpr std::array<uint8_t, 256> makeClasses() {
+    std::array<uint8_t, 256> classes{};
+    for (int c = 'A'; c <= 'Z'; ++c) classes[static_cast<size_t>(c)] = 1;
+    for (int c = 'a'; c <= 'z'; ++c) classes[static_cast<size_t>(c)] = 1;
+    for (int c = '0'; c <= '9'; ++c) classes[static_cast<size_t>(c)] = 2;
+    classes['_'] = classes['\\'] = 4;
+    classes['.'] = classes['?'] = 8;
+    // Letters of Windows-1252 may stand in names.
+    for (int c = 0xC0; c <= 0xFF; ++c) classes[static_cast<size_t>(c)] = 4;
+    classes[0xD7] = classes[0xF7] = 0;
+    return classes;
+}
+constexpr auto classes = makeClasses();
+
+uint8_t classOf(char c) {
+    return classes[static_cast<unsigned char>(c)];
+}
+bool isLetter(char c) {
+    return classOf(c) == 1;
+}
+bool isDigit(char c) {
+    return classOf(c) == 2;
+}
+bool startsName(char c) {
+    return (classOf(c) & 5) != 0;
+}
+bool isInName(char c) {
+    return classOf(c) != 0;
+}
+bool isBlank(char c) {
+    return c == ' ' || c == '\t' || c == '\n' || c == '\r' || c == '\xA0';
+}
+char upper(char c) {
+    return c >= 'a' && c <= 'z' ? static_cast<char>(c - 32) : c;
+}
+
+}  // namespace
+
+void Lexer::next(Token& token) {
+    const size_t before = m_position;
+    while (m_position < m_text.size() && isBlank(m_text[m_position])) ++m_position;
+    token.spaceBefore = m_position != before;
+    token.position = m_position;
+    token.length = 0;
+    token.symbol = Symbol::none;
+    if (m_position == m_text.size()) {
+        token.kind = TokenKind::end;
+        return;
+    }
+    const char c = m_text[m_position];
+    bool taken = false;
+    if (isLetter(c) || c == '$')
+        taken = takeReference(token) || takeName(token);
+    else if (isDigit(c) || c == '.')
+        taken = takeReference(token) || takeNumber(token);
+    else if (c == '"')
+        taken = takeText(token);
+    else if (c == '#')
+        taken = takeError(token);
+    else if (startsName(c))
+        taken = takeName(token);
+    else
+        taken = takeSymbol(token);
+    if (!taken) {
+        token.kind = TokenKind::invalid;
+        token.length = 1;
+    }
+    m_position = token.position + token.length;
+}
+
+bool Lexer::takeNumber(Token& token) {
+    size_t end = m_position;
+    while (isDigit(at(end))) ++end;
+    if (at(end) == '.')
+        for (++end; isDigit(at(end));) ++end;
+    if (end == m_position + 1 && m_text[m_position] == '.') return false;
+    if (upper(at(end)) == 'E') {
+        size_t exponent = end + 1;
+        if (at(exponent) == '+' || at(exponent) == '-') ++exponent;
+        if (isDigit(at(exponent)))
+            for (end = exponent; isDigit(at(end));) ++end;
+    }
+    const char* first = m_text.data() + m_position;
+    const auto [stop, failure] = std::from_chars(first, m_text.data() + end, token.number);
+    if (failure == std::errc::result_out_of_range) return false;
+    token.kind = TokenKind::number;
+    token.length = end - m_position;
+    return stop == m_text.data() + end;
+}
+
+bool Lexer::takeText(Token& token) {
+    size_t end = m_position + 1;
+    while (end < m_text.size()) {
+        if (m_text[end] != '"') {
+            ++end;
+        } else if (at(end + 1) == '"') {
+            end += 2;
+        } else {
+            token.kind = TokenKind::text;
+            token.length = end + 1 - m_position;
+            return true;
+        }
+    }
+    return false;
+}
+
+bool Lexer::takeError(Token& token) {
+    size_t end = m_position + 1;
+    while (isLetter(at(end)) || isDigit(at(end)) || at(end) == '/' || at(end) == '_') ++end;
+    if (at(end) == '!' || at(end) == '?') ++end;
+    const auto code = errorFromText(m_text.substr(m_position, end - m_position));
+    if (!code) return false;
+    token.kind = TokenKind::error;
+    token.error = *code;
+    token.length = end - m_position;
+    return true;
+}
+
+// The column at `position` ("$AB"), its end; 0 when there is none.
+size_t Lexer::columnAt(size_t position, Corner& corner) const {
+    corner.colRelative = at(position) != '$';
+    if (!corner.colRelative) ++position;
+    const size_t start = position;
+    int col = 0;
+    while (isLetter(at(position)) && position - start < 4)
+        col = col * 26 + (upper(m_text[position++]) - 'A' + 1);
+    if (position == start || col > maxCols) return 0;
+    corner.col = col;
+    return position;
+}
+
+size_t Lexer::rowAt(size_t position, Corner& corner) const {
+    corner.rowRelative = at(position) != '$';
+    if (!corner.rowRelative) ++position;
+    const size_t start = position;
+    int row = 0;
+    while (isDigit(at(position)) && position - start < 8)
+        row = row * 10 + (m_text[position++] - '0');
+    if (position == start || row < 1 || row > maxRows) return 0;
+    corner.row = row;
+    return position;
+}
+
+bool Lexer::finishReference(Token& token, size_t end) {
+    if (isInName(at(end)) || at(end) == '(' || at(end) == '!') return false;
+    token.kind = TokenKind::reference;
+    token.length = end - m_position;
+    return true;
+}
+
+bool Lexer::takeReference(Token& token) {
+    if (m_style == ReferenceStyle::r1c1) return takeR1C1(token);
+    ReferenceToken& reference = token.reference;
+    reference.wholeCols = reference.wholeRows = false;
+    const size_t afterCol = columnAt(m_position, reference.first);
+    if (afterCol != 0) {
+        const size_t afterRow = rowAt(afterCol, reference.first);
+        if (afterRow != 0) {
+            reference.last = reference.first;
+            return finishReference(token, afterRow);
+        }
+        if (at(afterCol) != ':') return false;
+        const size_t end = columnAt(afterCol + 1, reference.last);
+        reference.wholeCols = end != 0;
+        return end != 0 && finishReference(token, end);
+    }
+    const size_t afterRow = rowAt(m_position, reference.first);
+    if (afterRow == 0 || at(afterRow) != ':') return false;
+    const size_t end = rowAt(afterRow + 1, reference.last);
+    reference.wholeRows = end != 0;
+    return end != 0 && finishReference(token, end);
+}
+
+// After an R or C: nothing (distance 0), a number, or a distance in brackets.
+size_t Lexer::distanceAt(size_t position, int& value, bool& relative) const {
+    const bool inBrackets = at(position) == '[';
+    size_t start = position + (inBrackets ? 1 : 0);
+    size_t end = start;
+    if (inBrackets && at(end) == '-') ++end;
+    while (isDigit(at(end)) && end - start < 9) ++end;
+    relative = inBrackets || end == start;
+    value = 0;
+    if (end != start) std::from_chars(m_text.data() + start, m_text.data() + end, value);
+    if (!inBrackets) return end;
+    return at(end) == ']' ? end + 1 : position;
+}
+
+bool Lexer::takeR1C1(Token& token) {
+    Corner& corner = token.reference.first;
+    token.reference.wholeCols = token.reference.wholeRows = false;
+    size_t end = m_position;
+    const bool hasRow = upper(at(end)) == 'R';
+    if (hasRow) end = distanceAt(end + 1, corner.row, corner.rowRelative);
+    const bool hasCol = upper(at(end)) == 'C';
+    if (hasCol) end = distanceAt(end + 1, corner.col, corner.colRelative);
+    if (!hasRow && !hasCol) return false;
+    if (!corner.rowRelative && hasRow && (corner.row < 1 || corner.row > maxRows)) return false;
+    if (!corner.colRelative && hasCol && (corner.col < 1 || corner.col > maxCols)) return false;
+    token.reference.wholeRows = !hasCol;
+    token.reference.wholeCols = !hasRow;
+    token.reference.last = corner;
+    return finishReference(token, end);
+}
+
+bool Lexer::takeName(Token& token) {
+    size_t end = m_position;
+    if (!startsName(at(end))) return false;
+    while (isInName(at(end))) ++end;
+    token.kind = TokenKind::name;
+    token.length = end - m_position;
+    return true;
+}
+
+bool Lexer::takeSymbol(Token& token) {
+    token.kind = TokenKind::symbol;
+    token.length = 1;
+    const char second = at(m_position + 1);
+    switch (m_text[m_position]) {
+        case '+':
+            token.symbol = Symbol::plus;
+            return true;
+        case '-':
+            token.symbol = Symbol::minus;
+            return true;
+        case '*':
+            token.symbol = Symbol::times;
+            return true;
+        case '/':
+            token.symbol = Symbol::divide;
+            return true;
+        case '^':
+            token.symbol = Symbol::power;
+            return true;
+        case '&':
+            token.symbol = Symbol::join;
+            return true;
+        case '%':
+            token.symbol = Symbol::percent;
+            return true;
+        case '=':
+            token.symbol = Symbol::equal;
+            return true;
+        case '(':
+            token.symbol = Symbol::open;
+            return true;
+        case ')':
+            token.symbol = Symbol::close;
+            return true;
+        case '{':
+            token.symbol = Symbol::openBrace;
+            return true;
+        case '}':
+            token.symbol = Symbol::closeBrace;
+            return true;
+        case ',':
+            token.symbol = Symbol::comma;
+            return true;
+        case ';':
+            token.symbol = Symbol::semicolon;
+            return true;
+        case ':':
+            token.symbol = Symbol::colon;
+            return true;
+        case '@':
+            token.symbol = Symbol::at;
+            return true;
+        case '<':
+            token.length = second == '=' || second == '>' ? 2 : 1;
+            token.symbol = second == '='   ? Symbol::lessEqual
+                           : second == '>' ? Symbol::notEqual
+                                           : Symbol::less;
+            return true;
+        case '>':
+            token.length = second == '=' ? 2 : 1;
+            token.symbol = second == '=' ? Symbol::greaterEqual : Symbol::greater;
+            return true;
+        default:
+            return false;
+    }
+}
+
+std::string unquote(std::string_view token) {
+    std::string text;
+    text.reserve(token.size());
+    for (size_t i = 1; i + 1 < token.size(); ++i) {
+        text += token[i];
+        if (token[i] == '"') ++i;
+    }
+    return text;
+}
+
+std::string columnLetters(int col) {
+    std::string letters;
+    for (; col > 0; col = (col - 1) / 26)
+        letters.insert(letters.begin(), static_cast<char>('A' + (col - 1) % 26));
+    return letters;
+}
+
+std::string cellText(int col, int row, bool colAbsolute, bool rowAbsolute) {
+    return (colAbsolute ? "$" : "") + columnLetters(col) + (rowAbsolute ? "$" : "") +
+           std::to_string(row);
+}
+
+}  // namespace formula

@@ -1,0 +1,46 @@
+// The operators of formulas over single values; areas and arrays are the evaluator's business.
+#pragma once
+
+#include <cmath>
+
+#include "spread/control/formula/calculation.h"
+#include "spread/control/formula/program.h"
+
+namespace formula {
+
+/// Arithmetic over two numbers: #DIV/0! for a division by zero, #NUM! beyond what a double holds.
+inline Value arithmetic(Op op, double a, double b) {
+    double result;
+    switch (op) {
+        case Op::add:
+            result = a + b;
+            break;
+        case Op::subtract:
+            result = a - b;
+            break;
+        case Op::multiply:
+            result = a * b;
+            break;
+        case Op::divide:
+            if (b == 0) return ErrorCode::div0;
+            result = a / b;
+            break;
+        default:
+            if (a == 0 && b == 0) return ErrorCode::num;
+            if (a == 0 && b < 0) return ErrorCode::div0;
+            result = b == 2 ? a * a : std::pow(a, b);
+            break;
+    }
+    if (!std::isfinite(result)) return ErrorCode::num;
+    return result;
+}
+
+/// Any binary operator over two single values, errors first.
+Value applyBinary(Calculation& c, Op op, const Value& a, const Value& b);
+/// Minus and percent.
+Value applyUnary(Op op, const Value& a);
+
+/// A single value as text, kept until the calculation ends; errors come back as they are.
+Value toText(Calculation& c, const Value& value);
+
+}  // namespace formula
