@@ -1,0 +1,176 @@
+#include "spread/control/sheet.h"
+
+#include <gtest/gtest.h>
+
+#include "spread/control/formula/coerce.h"
+
+namespace {
+
+using control::Sheet;
+using formula::ParseError;
+using formula::Value;
+
+class SheetTest : public testing::Test {
+  protected:
+    void number(int col, int row, double x) { sheet.setValue(col, row, Value(x)); }
+    bool formula(int col, int row, std::string_view text) {
+        return sheet.setFormula(col, row, text, error);
+    }
+    std::string shown(int col, int row) const {
+        const Value v = sheet.value(col, row);
+        switch (v.type()) {
+            case formula::ValueType::number:
+                return formula::numberToText(v.number());
+            case formula::ValueType::boolean:
+                return v.truth() ? "TRUE" : "FALSE";
+            case formula::ValueType::error:
+                return std::string(formula::errorText(v.error()));
+            case formula::ValueType::text:
+                return std::string(v.text());
+            default:
+                return "";
+        }
+    }
+    Sheet sheet;
+    ParseError error;
+};
+
+TEST_F(SheetTest, OperatorsHaveTheirUsualPrecedence) {
+    number(1, 1, 7);
+    const std::pair<const char*, const char*> cases[] = {
+        {"1+2*3", "7"},        {"-2^2", "4"},          {"2^3^2", "64"},
+        {"(1+2)*3", "9"},      {"10-4-3", "3"},        {"50%*2", "1"},
+        {"1&2+3", "15"},       {"1+1=2", "TRUE"},      {"\"a\"&\"b\"=\"AB\"", "TRUE"},
+        {"A1+1", "8"},         {"$A$1*2", "14"},       {"--\"3\"", "3"},
+        {"1/0", "#DIV/0!"},    {"\"x\"+1", "#VALUE!"}, {"B9", "0"},
+        {"1=TRUE", "FALSE"},   {"1E3+.5", "1000.5"},   {"\"a\"\"b\"", "a\"b"},
+        {"#N/A", "#N/A"},      {"A1:A1", "7"},         {"3<>3", "FALSE"},
+        {"1e308*10", "#NUM!"}, {" = 1 + 1 ", "2"},     {"2>=2", "TRUE"},
+    };
+    for (const auto& [text, expected] : cases) {
+        ASSERT_TRUE(formula(3, 1, text)) << text << ": " << error.message;
+        EXPECT_EQ(shown(3, 1), expected) << text;
+    }
+}
+
+TEST_F(SheetTest, RefusedFormulasChangeNothing) {
+    ASSERT_TRUE(formula(1, 1, "1+1"));
+    const std::string deep(300, '(');
+    for (const std::string& text :
+         {std::string("1+"), std::string("NOSUCH(1)"), std::string("Gap*2"), std::string("(1"),
+          std::string("1 2"), std::string("\"open"), std::string("A1:"), std::string("XFE1"),
+          std::string("A1048577"), std::string("{1,2;3}"), std::string("1)"), std::string(),
+          deep + "1" + std::string(300, ')'), std::string(100000, '('),
+          std::string(100000, '-') + "1", std::string(40000, '1')}) {
+        EXPECT_FALSE(formula(1, 1, text)) << text.substr(0, 40);
+        EXPECT_FALSE(error.message.empty());
+    }
+    EXPECT_EQ(shown(1, 1), "2");
+    EXPECT_EQ(*sheet.formula(1, 1), "1+1");
+}
+
+TEST_F(SheetTest, AutomaticRecalculationFollowsChangesThroughCellsAndAreas) {
+    sheet.setAutomatic(true);
+    number(1, 1, 1);
+    formula(2, 1, "A1*2");
+    formula(3, 1, "B1+1");
+    formula(4, 1, "A1:A1+C1");
+    formula(5, 1, "A:A");
+    number(1, 1, 10);
+    EXPECT_EQ(shown(3, 1), "21");
+    EXPECT_EQ(shown(4, 1), "31");
+    EXPECT_EQ(shown(5, 1), "10");
+}
+
+TEST_F(SheetTest, WithoutAutomaticNothingIsBuiltOnOldResults) {
+    number(1, 1, 1);
+    formula(2, 1, "A1*2");
+    number(1, 1, 5);
+    EXPECT_EQ(shown(2, 1), "2");
+    formula(3, 1, "B1+1");
+    EXPECT_EQ(shown(3, 1), "11");
+    EXPECT_EQ(shown(2, 1), "10");
+}
+
+TEST_F(SheetTest, CirclesAreFoundAndMended) {
+    formula(1, 1, "B1+1");
+    formula(2, 1, "C1+1");
+    formula(3, 1, "A1+1");
+    formula(4, 1, "A1*2");
+    sheet.recalculate();
+    EXPECT_EQ(shown(1, 1), "#CIRC!");
+    EXPECT_EQ(shown(2, 1), "#CIRC!");
+    EXPECT_EQ(shown(4, 1), "#CIRC!");
+    number(3, 1, 1);
+    sheet.recalculate();
+    EXPECT_EQ(shown(4, 1), "6");
+    formula(6, 1, "F1");
+    EXPECT_EQ(shown(6, 1), "#CIRC!");
+}
+
+TEST_F(SheetTest, AMillionLinksInAChainNeedNoStack) {
+    constexpr int length = 1'000'000;
+    number(1, 1, 1);
+    for (int row = length; row >= 2; --row)
+        sheet.loadFormula(1, row, "A" + std::to_string(row - 1) + "+1", Value());
+    sheet.recalculate();
+    EXPECT_EQ(shown(1, length), "1000000");
+    number(1, 1, 2);
+    sheet.recalculate();
+    EXPECT_EQ(shown(1, length), "1000001");
+}
+
+TEST_F(SheetTest, ReferencesMoveWithRowsAndColumns) {
+    for (int row = 1; row <= 10; ++row) number(1, row, row);
+    formula(3, 1, "A5+A2");
+    formula(3, 2, "$A$10");
+    formula(3, 3, "A1:A1 + 0");
+    sheet.insertRows(4, 2);
+    EXPECT_EQ(*sheet.formula(3, 1), "A7+A2");
+    EXPECT_EQ(*sheet.formula(3, 2), "$A$12");
+    sheet.deleteRows(2, 1);
+    EXPECT_EQ(*sheet.formula(3, 1), "A6+#REF!");
+    sheet.recalculate();
+    EXPECT_EQ(shown(3, 1), "#REF!");
+    sheet.insertCols(1, 1);
+    EXPECT_EQ(*sheet.formula(4, 2), "B1:B1 + 0");
+    EXPECT_EQ(shown(4, 2), "1");
+}
+
+TEST_F(SheetTest, SwappedRowsCarryTheirFormulas) {
+    number(1, 1, 3);
+    number(1, 2, 4);
+    formula(2, 1, "A1*10");
+    formula(2, 2, "A2*100");
+    sheet.swapRows(1, 2, 1);
+    sheet.recalculate();
+    EXPECT_EQ(*sheet.formula(2, 1), "A1*100");
+    EXPECT_EQ(shown(2, 1), "400");
+    EXPECT_EQ(shown(2, 2), "30");
+}
+
+TEST_F(SheetTest, NotationChangesKeepTheMeaning) {
+    number(1, 1, 3);
+    formula(2, 3, "A1+$A$1");
+    sheet.setReferenceStyle(formula::ReferenceStyle::r1c1);
+    EXPECT_EQ(*sheet.formula(2, 3), "R[-2]C[-1]+R1C1");
+    ASSERT_TRUE(formula(2, 4, "R[-1]C*2")) << error.message;
+    EXPECT_EQ(shown(2, 4), "12");
+    sheet.setReferenceStyle(formula::ReferenceStyle::a1);
+    EXPECT_EQ(*sheet.formula(2, 4), "B3*2");
+}
+
+TEST_F(SheetTest, ACopyIsIndependent) {
+    number(1, 1, 1);
+    sheet.setValue(1, 2, Value::borrowedText("text"));
+    formula(2, 1, "A1+1");
+    Sheet copy(sheet);
+    copy.setAutomatic(true);
+    copy.setValue(1, 1, Value(5.0));
+    copy.setValue(1, 2, Value());
+    EXPECT_EQ(copy.value(2, 1).number(), 6);
+    EXPECT_EQ(shown(2, 1), "2");
+    EXPECT_EQ(shown(1, 2), "text");
+}
+
+}  // namespace
