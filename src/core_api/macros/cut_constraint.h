@@ -9,7 +9,7 @@
 #include "platform/host/error_status.h"
 
 /// The nine offsets a cut can have, in millimetres. A mapping kind is this number + 3.
-enum TwCutOffsetType {
+enum TwCutOffsetType : int {
     cutOffset = 0,     ///< from the cutting plane, along its normal
     cutPolyOffset,     ///< gap around the outline of the member that cuts
     cutLengthOffset,   ///< length of the cut-out along the member, from 0
