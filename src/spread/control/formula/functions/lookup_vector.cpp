@@ -6,10 +6,10 @@
 namespace formula {
 namespace {
 
-/// Numbers by their exact value: unlike the comparison operators a look-up tells 0.1 + 0.2 from 0.3.
+/// Numbers by their exact value: unlike the comparison operators a look-up tells 0.1 + 0.2 from
+/// 0.3.
 int compareKeys(const Value& a, const Value& b) {
-    if (a.isNumber() && b.isNumber())
-        return a.number() < b.number() ? -1 : a.number() > b.number();
+    if (a.isNumber() && b.isNumber()) return a.number() < b.number() ? -1 : a.number() > b.number();
     return compareValues(a, b);
 }
 
@@ -19,9 +19,8 @@ Value keyOf(const Value& wanted) {
 }
 
 std::optional<int> findNumber(const LookupVector& vector, double wanted) {
-    return vector.find([wanted](int, const Value& value) {
-        return value.isNumber() && value.number() == wanted;
-    });
+    return vector.find(
+        [wanted](int, const Value& value) { return value.isNumber() && value.number() == wanted; });
 }
 
 std::optional<int> findText(const LookupVector& vector, std::string_view wanted) {
