@@ -117,10 +117,19 @@ class CellStore {
         }
     }
     void setDirty(int col, int row, Cell& cell, bool dirty) {
-        if (cell.dirty == dirty) return;
-        cell.dirty = dirty;
-        blockOf(col, row)->dirtyCount += dirty ? 1U : static_cast<uint32_t>(-1);
+        if (cell.dirty != dirty) setDirty(*blockOf(col, row), cell, dirty);
     }
+    /// The same when the cell's block is at hand.
+    static void setDirty(Block& block, Cell& cell, bool dirty) {
+        block.dirtyCount += static_cast<uint32_t>(dirty) - static_cast<uint32_t>(cell.dirty);
+        cell.dirty = dirty;
+    }
+    /// The block of a cell that is stored.
+    Block* blockOf(int col, int row) {
+        return m_columns[static_cast<size_t>(col)][static_cast<size_t>(row - 1) >> blockShift]
+            .get();
+    }
+    static size_t rowInBlock(int row) { return static_cast<size_t>(row - 1) & (blockRows - 1); }
     bool hasDirty(const Area& area) const;
     bool hasFormula(const Area& area) const;
 
@@ -160,16 +169,11 @@ class CellStore {
     void clear();
 
   private:
-    static size_t rowInBlock(int row) { return static_cast<size_t>(row - 1) & (blockRows - 1); }
     static void dropText(Cell& cell) {
         if (cell.type == ValueType::text) TextBlock::release(cell.text);
     }
     void setOtherValue(Cell& cell, const Value& value);
     Block& obtainBlock(int col, int row);
-    Block* blockOf(int col, int row) {
-        return m_columns[static_cast<size_t>(col)][static_cast<size_t>(row - 1) >> blockShift]
-            .get();
-    }
     static std::unique_ptr<Block> copyOf(const Block& block);
     static void destroy(Block& block);
 

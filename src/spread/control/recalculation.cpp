@@ -49,9 +49,10 @@ void Sheet::settle() {
         m_dependents.each(changed.col, changed.row, [&](uint32_t id) {
             const FormulaSlot& slot = m_slots[id];
             if (!slot.live) return;
-            Cell& cell = m_cells.obtain(slot.col, slot.row);
+            CellStore::Block& block = *m_cells.blockOf(slot.col, slot.row);
+            Cell& cell = block.cells[CellStore::rowInBlock(slot.row)];
             if (cell.dirty) return;
-            m_cells.setDirty(slot.col, slot.row, cell, true);
+            CellStore::setDirty(block, cell, true);
             m_dirtied.push_back(id);
             m_changed.push_back({slot.col, slot.row});
         });
@@ -116,34 +117,42 @@ void Sheet::recalculate() {
     m_recordsOrder = false;
 }
 
-// Calculates `first` if it is dirty, and before it whatever dirty formula it reads. The path of
-// formulas that wait for each other is kept here, not on the C++ stack.
+// Calculates a formula unless it is up to date already. False when it has to wait for others.
+inline bool Sheet::tryCalculate(uint32_t id) {
+    FormulaSlot& slot = m_slots[id];
+    if (!slot.live) return true;
+    CellStore::Block& block = *m_cells.blockOf(slot.col, slot.row);
+    Cell& cell = block.cells[CellStore::rowInBlock(slot.row)];
+    if (!cell.dirty) return true;
+    bool blocked = false;
+    const Value result = m_evaluator.run(*slot.program, slot.col, slot.row, blocked);
+    if (!blocked) {
+        m_cells.setValue(cell, result);
+        CellStore::setDirty(block, cell, false);
+        slot.inProgress = false;
+        if (m_recordsOrder) m_newOrder.push_back(id);
+    }
+    m_calculation.endCalculation();
+    return !blocked;
+}
+
+// Calculates `first`, and before it whatever dirty formula it reads. The path of formulas that
+// wait for each other is kept here, not on the C++ stack.
 void Sheet::calculate(uint32_t first) {
+    if (tryCalculate(first)) return;
     const size_t bottom = m_path.size();
+    m_orderBroken = true;
     m_path.push_back(first);
+    m_slots[first].inProgress = true;
+    waitForDirty(bottom);
     while (m_path.size() > bottom) {
         const uint32_t id = m_path.back();
-        FormulaSlot& slot = m_slots[id];
-        Cell* cell = slot.live ? m_cells.find(slot.col, slot.row) : nullptr;
-        if (!cell || !cell->dirty) {
+        if (tryCalculate(id)) {
             m_path.pop_back();
-            continue;
+        } else {
+            m_slots[id].inProgress = true;
+            waitForDirty(bottom);
         }
-        bool blocked = false;
-        const Value result = m_evaluator.run(*slot.program, slot.col, slot.row, blocked);
-        if (!blocked) {
-            m_cells.setValue(*cell, result);
-            m_calculation.endCalculation();
-            m_cells.setDirty(slot.col, slot.row, *cell, false);
-            slot.inProgress = false;
-            if (m_recordsOrder) m_newOrder.push_back(id);
-            m_path.pop_back();
-            continue;
-        }
-        m_calculation.endCalculation();
-        m_orderBroken = true;
-        slot.inProgress = true;
-        waitForDirty(bottom);
     }
 }
 

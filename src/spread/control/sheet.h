@@ -125,6 +125,7 @@ class Sheet {
     void settle();
     void linkNew();
     void relinkAll();
+    bool tryCalculate(uint32_t id);
     void calculate(uint32_t first);
     void waitForDirty(size_t bottom);
     void markCircle(uint32_t start, size_t bottom);

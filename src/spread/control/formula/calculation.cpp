@@ -93,7 +93,7 @@ char* Calculation::allocate(size_t size) {
     return place;
 }
 
-void Calculation::endCalculation() {
+void Calculation::releaseArena() {
     constexpr size_t keptSize = 1 << 20;
     if (m_chunk > 0 && m_chunks.back().size > keptSize) m_chunks.resize(1);
     m_chunk = 0;

@@ -121,7 +121,10 @@ class Calculation {
 
     // The arena: chunks are kept from one calculation to the next.
     char* allocate(size_t size);
-    void endCalculation();
+    void endCalculation() {
+        if (m_used != 0 || m_chunk != 0) releaseArena();
+    }
+    void releaseArena();
     struct Chunk {
         std::unique_ptr<char[]> bytes;
         size_t size = 0;

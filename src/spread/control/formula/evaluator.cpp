@@ -24,6 +24,19 @@ Value Evaluator::run(const Program& program, int col, int row, bool& blocked) {
                                                                          : single(result);
 }
 
+inline Value Evaluator::area(const Instruction& first, const Instruction& second) const {
+    const auto area = areaOf(first, second, m_calculation.m_hostCol, m_calculation.m_hostRow);
+    return area ? Value::area(*area) : Value(ErrorCode::ref);
+}
+
+inline Value Evaluator::cell(const Instruction& i) const {
+    const int row = rowOf(i, m_calculation.m_hostRow);
+    const int col = colOf(i, m_calculation.m_hostCol);
+    if (!isInside(col, row)) [[unlikely]]
+        return ErrorCode::ref;
+    return m_calculation.cell(col, row);
+}
+
 // False when a cell was met that has to be calculated first.
 bool Evaluator::execute(const Instruction* begin, const Instruction* end) {
     const auto& dirty = m_calculation.m_dirtyAreas;
@@ -151,19 +164,6 @@ bool Evaluator::execute(const Instruction* begin, const Instruction* end) {
         }
     }
     return true;
-}
-
-Value Evaluator::cell(const Instruction& i) const {
-    const int row = rowOf(i, m_calculation.m_hostRow);
-    const int col = colOf(i, m_calculation.m_hostCol);
-    if (!isInside(col, row)) [[unlikely]]
-        return ErrorCode::ref;
-    return m_calculation.cell(col, row);
-}
-
-Value Evaluator::area(const Instruction& first, const Instruction& second) const {
-    const auto area = areaOf(first, second, m_calculation.m_hostCol, m_calculation.m_hostRow);
-    return area ? Value::area(*area) : Value(ErrorCode::ref);
 }
 
 Value Evaluator::matrix(const Instruction& i) {

@@ -47,77 +47,66 @@ enum class ValueType : uint8_t {
 class Value {
   public:
     Value() : m_number(0) {}
-    Value(double number) : m_number(number), m_type(ValueType::number) {}
-    Value(ErrorCode code) : m_code(code), m_type(ValueType::error) {}
+    Value(double number) : m_number(number), m_meta(metaOf(ValueType::number)) {}
+    Value(ErrorCode code) : m_bits(static_cast<uint64_t>(code)), m_meta(metaOf(ValueType::error)) {}
     static Value boolean(bool truth) {
-        Value v;
-        v.m_truth = truth;
-        v.m_type = ValueType::boolean;
-        return v;
+        return Value(static_cast<uint64_t>(truth), metaOf(ValueType::boolean));
     }
     /// Borrows `text`; see Calculation::text for a text that must be kept.
     static Value borrowedText(std::string_view text) {
-        Value v;
+        Value v(0, metaOf(ValueType::text, static_cast<uint32_t>(text.size())));
         v.m_text = text.data();
-        v.m_aux = static_cast<uint32_t>(text.size());
-        v.m_type = ValueType::text;
         return v;
     }
     static Value area(const Area& a) {
-        Value v;
-        v.m_rows = {a.row1, a.row2};
-        v.m_aux = static_cast<uint32_t>(a.col1) | static_cast<uint32_t>(a.col2) << 16;
-        v.m_type = ValueType::area;
-        return v;
+        return Value(static_cast<uint64_t>(a.row1) << 32 | static_cast<uint32_t>(a.row2),
+                     metaOf(ValueType::area,
+                            static_cast<uint32_t>(a.col1) | static_cast<uint32_t>(a.col2) << 16));
     }
     static Value array(const Array* a) {
-        Value v;
+        Value v(0, metaOf(ValueType::array));
         v.m_array = a;
-        v.m_type = ValueType::array;
         return v;
     }
-    static Value missing() {
-        Value v;
-        v.m_type = ValueType::missing;
-        return v;
-    }
+    static Value missing() { return Value(0, metaOf(ValueType::missing)); }
 
-    ValueType type() const { return m_type; }
-    bool isEmpty() const { return m_type == ValueType::empty; }
-    bool isNumber() const { return m_type == ValueType::number; }
-    bool isBoolean() const { return m_type == ValueType::boolean; }
-    bool isText() const { return m_type == ValueType::text; }
-    bool isError() const { return m_type == ValueType::error; }
-    bool isArea() const { return m_type == ValueType::area; }
-    bool isArray() const { return m_type == ValueType::array; }
-    bool isMissing() const { return m_type == ValueType::missing; }
+    ValueType type() const { return static_cast<ValueType>(m_meta & 0xFF); }
+    bool isEmpty() const { return type() == ValueType::empty; }
+    bool isNumber() const { return type() == ValueType::number; }
+    bool isBoolean() const { return type() == ValueType::boolean; }
+    bool isText() const { return type() == ValueType::text; }
+    bool isError() const { return type() == ValueType::error; }
+    bool isArea() const { return type() == ValueType::area; }
+    bool isArray() const { return type() == ValueType::array; }
+    bool isMissing() const { return type() == ValueType::missing; }
     bool isSingle() const { return !isArea() && !isArray(); }
 
     // Each reading is valid for its own type alone.
     double number() const { return m_number; }
-    bool truth() const { return m_truth; }
-    ErrorCode error() const { return m_code; }
-    std::string_view text() const { return {m_text, m_aux}; }
+    bool truth() const { return m_bits != 0; }
+    ErrorCode error() const { return static_cast<ErrorCode>(m_bits); }
+    std::string_view text() const { return {m_text, static_cast<size_t>(m_meta >> 32)}; }
     Area area() const {
-        return {m_rows.first, m_rows.last, static_cast<uint16_t>(m_aux & 0xFFFF),
-                static_cast<uint16_t>(m_aux >> 16)};
+        return {static_cast<int32_t>(m_bits >> 32), static_cast<int32_t>(m_bits),
+                static_cast<uint16_t>(m_meta >> 32), static_cast<uint16_t>(m_meta >> 48)};
     }
     const Array& array() const { return *m_array; }
 
   private:
-    struct Rows {
-        int32_t first, last;
-    };
+    static constexpr uint64_t metaOf(ValueType type, uint32_t aux = 0) {
+        return static_cast<uint64_t>(type) | static_cast<uint64_t>(aux) << 32;
+    }
+    Value(uint64_t bits, uint64_t meta) : m_bits(bits), m_meta(meta) {}
+
     union {
+        uint64_t m_bits;
         double m_number;
         const char* m_text;
         const Array* m_array;
-        Rows m_rows;
-        ErrorCode m_code;
-        bool m_truth;
     };
-    uint32_t m_aux = 0;  // length of a text, columns of an area
-    ValueType m_type = ValueType::empty;
+    // One whole word: values are copied right after they are written, and a copy that straddles
+    // two narrower writes would wait for both to reach the cache.
+    uint64_t m_meta = 0;  // type; length of a text or columns of an area in the upper half
 };
 static_assert(sizeof(Value) == 16);
 
