@@ -6,6 +6,8 @@
 
 #include "core_api/text/vor_string.h"
 
+class TwVarCells;
+
 /// One cell of the equation area after its turn. Texts live until the call returns.
 struct EquationReport {
     int row = 0;               ///< from 1
@@ -32,6 +34,9 @@ class VORMANT_API RunObserver {
     /// What does not fail a run but should be known: an output that holds an error, names that
     /// are declared twice.
     virtual void warning(std::string_view /*text*/) {}
+    /// The sheet's variables with their final values, locals too; before runEnded, also of a run
+    /// whose equations failed.
+    virtual void variablesKnown(const TwVarCells& /*variables*/) {}
     /// Also for a run that failed before runStarted.
     virtual void runEnded(bool /*ok*/) {}
 };
