@@ -149,6 +149,22 @@ std::string_view writeNumber(NumberBuffer& buffer, double number, int decimals, 
     return {out, static_cast<size_t>(end - out)};
 }
 
+double roundAsWritten(double number, int decimals) {
+    const double magnitude = std::fabs(number);
+    constexpr double allWhole = 0x1p52;  // doubles from here on have no decimals, NaN is not below
+    if (!(magnitude < allWhole)) return number;
+    decimals = std::clamp(decimals, 0, maxDecimals);
+    if (const auto scaled = scaledFast(magnitude, decimals)) {
+        // Both are exact doubles, so that the division gives the nearest one.
+        const double rounded = static_cast<double>(*scaled) /
+                               static_cast<double>(powersOfTen[static_cast<size_t>(decimals)]);
+        return *scaled == 0 ? 0.0 : std::copysign(rounded, number);
+    }
+    NumberBuffer buffer;
+    std::string_view text = writeNumber(buffer, number, decimals);
+    return takeNumber(text).value_or(number);
+}
+
 std::optional<double> takeNumber(std::string_view& text) {
     const char* begin = text.data();
     const char* const end = begin + text.size();

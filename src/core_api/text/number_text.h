@@ -17,6 +17,9 @@ using NumberBuffer = std::array<char, 352>;
 VORMANT_API std::string_view writeNumber(NumberBuffer& buffer, double number, int decimals,
                                          bool keepZeros = false);
 
+/// The double nearest to what writeNumber writes; infinities and NaN as they are.
+VORMANT_API double roundAsWritten(double number, int decimals);
+
 /// Takes a decimal number from the start of `text` (no blanks before it; "+" allowed) and moves
 /// `text` past it. What is too large or too small for a double becomes the largest double or 0.
 /// Nothing, and `text` untouched, when it does not start with a number.

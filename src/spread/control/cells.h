@@ -116,6 +116,16 @@ class CellStore {
             setOtherValue(cell, value);
         }
     }
+    /// As setValue with the value of a cell of any sheet; its text is shared, not copied.
+    static void shareValue(Cell& cell, const Cell& from) {
+        if (from.type == ValueType::text) ++from.text->references;
+        dropText(cell);
+        if (from.type == ValueType::text)
+            cell.text = from.text;
+        else
+            cell.number = from.number;
+        cell.type = from.type;
+    }
     void setDirty(int col, int row, Cell& cell, bool dirty) {
         if (cell.dirty != dirty) setDirty(*blockOf(col, row), cell, dirty);
     }

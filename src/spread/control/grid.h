@@ -8,10 +8,14 @@
 // calls (writeValue, shownValue) allocate nothing for numbers; the text calls are made from them.
 #pragma once
 
+#include <array>
+#include <bitset>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "spread/control/document.h"
@@ -87,8 +91,8 @@ class Grid {
     bool writeValue(int col, int row, const formula::Value& value);
     /// The value reading, typed. A text is borrowed until the cell changes. Empty outside.
     formula::Value shownValue(int col, int row) const;
-    /// As shownValue for a value that stands in a cell of this look.
-    static formula::Value shown(const Look& look, const formula::Value& value);
+    /// As shownValue for a value that stands in a cell of this type.
+    static formula::Value shown(const CellType& type, const formula::Value& value);
 
     // --- texts ------------------------------------------------------------------------------
     /// `text` as data and as value differ only in their names: both follow writeValue. Header
@@ -115,7 +119,7 @@ class Grid {
     void recalculate() { m_sheet->recalculate(); }
     /// 0 and 1 are A1, 2 is R1C1.
     void setReferenceStyle(int style);
-    int referenceStyle() const { return m_referenceStyle; }
+    int referenceStyle() const { return m_sides->referenceStyle; }
     /// Registered for formulas set from now on, in this grid and through every load.
     void addCustomFunction(const formula::CustomFunction* function);
     const Sheet& sheet() const { return *m_sheet; }
@@ -125,11 +129,11 @@ class Grid {
     /// The look that a cell or header cell shows.
     const Look& look(int col, int row) const { return m_looks[lookIndex(col, row)]; }
     LookIndex lookIndex(int col, int row) const;
-    /// Gives a block the kind of `kind` and leaves font, colours, border and lock. A block that
-    /// covers all rows becomes the look of its columns, for rows that come later too.
-    bool setKind(const Block& block, const Look& kind);
-    /// One cell: allocates nothing when the kind was used before.
-    bool setKind(int col, int row, const Look& kind);
+    /// Gives a block a type and leaves font, colours, border and lock. A block that covers all
+    /// rows becomes the look of its columns, for rows that come later too.
+    bool setType(const Block& block, const CellType& type);
+    /// One cell: allocates nothing when the type was used before.
+    bool setType(int col, int row, const CellType& type);
     /// Changes any part of the looks of a block.
     template <class Change>
     bool changeLooks(const Block& block, Change&& change) {
@@ -156,7 +160,7 @@ class Grid {
     bool addSpan(const Span& span);
     bool removeSpan(int col, int row);
     /// The span that holds the cell, or null.
-    const Span* spanAt(int col, int row) const { return m_sides->spanAt(col, row); }
+    const Span* spanAt(int col, int row) const { return m_sides->spans.at(col, row); }
     bool option(int number) const;
     bool option(Option option) const { return this->option(static_cast<int>(option)); }
     void setOption(int number, bool on);
@@ -226,9 +230,16 @@ class Grid {
         int start = 0;
         int length = 0;
     };
-    bool eachLook(const Block& block, const std::function<Look(const Look&)>& change);
+    using ChangeLook = std::function<Look(const Look&)>;
+    bool eachLook(const Block& block, const ChangeLook& change);
+    void changeHeaderLooks(Band& band, int from, int to, int count, const ChangeLook& change);
+    void changeColumnLooks(int col, const ChangeLook& change);
     void noteTouched(int col, int row);
     void noteStructure();
+    void dropBeyond(int lastCol, int lastRow);
+    void dropCells(int lastCol, int lastRow);
+    void putBackTouched();
+    void startFrom(const Document& document);
 
     int m_cols = 0;
     int m_rows = 0;
@@ -236,11 +247,12 @@ class Grid {
     LookTable m_looks;
     SharedSides m_sides;
     std::vector<const formula::CustomFunction*> m_custom;
-    int m_referenceStyle = 0;
+    std::bitset<64> m_options;  // but for those that lie in m_sides
+    bool m_changed = false;
 
     std::shared_ptr<const Document> m_document;
-    std::vector<CellAddress> m_touched;  // since m_document was restored
-    bool m_canUndo = false;              // m_touched is all that differs from m_document
+    std::vector<CellAddress> m_touched;  // cells changed since m_document was restored
+    bool m_canUndo = false;              // the cells differ from m_document in m_touched alone
 
     CellAddress m_active;
     std::optional<Block> m_selection;

@@ -1,4 +1,4 @@
-// What a cell is and how it looks: its kind (text, number, check box …), font, colours, border and
+// What a cell is (its type: text, number, check box …) and how it looks: font, colours, border and
 // lock. Looks are values; a grid interns them in a LookTable and a cell holds only the index, so
 // that a hundred thousand rows share a handful of looks.
 #pragma once
@@ -9,7 +9,6 @@
 #include <string>
 #include <string_view>
 #include <unordered_map>
-#include <vector>
 
 namespace control {
 
@@ -27,12 +26,38 @@ enum class CellKind : uint8_t {
     number = 14,        ///< takes numbers, nothing and error texts alone
 };
 
+struct CellType {
+    CellKind kind = CellKind::general;
+    uint8_t decimals = 0;      ///< number: 0 to 15
+    bool editable = false;     ///< combo box: other texts than the items may be typed
+    bool isIcon = false;       ///< picture handle: an icon, else a bitmap
+    int32_t maxLength = 0;     ///< edit: characters a user may type; 0 is no limit
+    uint32_t style = 0;        ///< display style, handed to views as it is
+    int32_t picture = 0;       ///< picture handle, check box (checked): number of the resource
+    int32_t otherPicture = 0;  ///< check box (unchecked)
+    double least = 0;          ///< number: range of what may be written; both 0 is no limit
+    double most = 0;
+    std::string text;  ///< combo items, button text or picture file
+
+    bool operator==(const CellType&) const = default;
+
+    bool isNumber() const { return kind == CellKind::number; }
+    /// Cells of this type keep a written text as text, whatever it reads like.
+    bool keepsText() const {
+        return kind != CellKind::general && kind != CellKind::number && kind != CellKind::checkBox;
+    }
+};
+
+CellType numberType(int decimals, uint32_t style = 0, double least = 0, double most = 0);
+CellType editType(int maxLength, uint32_t style = 0);
+
 struct Font {
     std::string name = "Tahoma";
     int height = 15;   ///< pixels
     int weight = 400;  ///< 400 plain, 700 bold
     bool italic = false;
     bool underlined = false;
+
     bool operator==(const Font&) const = default;
 };
 
@@ -53,42 +78,18 @@ enum BorderSide : uint8_t {
 };
 
 struct Look {
-    CellKind kind = CellKind::general;
-    uint8_t decimals = 0;      ///< number: 0 to 15
-    bool editable = false;     ///< combo box: other texts than the items may be typed
-    bool locked = false;       ///< a user cannot change the cell
-    bool isIcon = false;       ///< picture handle: an icon, else a bitmap
-    int32_t maxLength = 0;     ///< edit: characters a user may type; 0 is no limit
-    uint32_t style = 0;        ///< the kind's display style, handed to views as it is
-    int32_t picture = 0;       ///< picture handle, check box (checked): number of the resource
-    int32_t otherPicture = 0;  ///< check box (unchecked)
-    double least = 0;          ///< number: range of what may be written; both 0 is no limit
-    double most = 0;
-    std::string text;  ///< combo items, button text or picture file
-
+    CellType type;
     Font font;
     Colour textColour = automatic;
     Colour background = automatic;
+    Colour borderColour = automatic;
     uint8_t borderSides = 0;  ///< left, right, top, bottom added up
     uint8_t borderStyle = 0;
-    Colour borderColour = automatic;
     uint8_t alignment = 0;  ///< 0 by the value, 1 left, 2 right, 3 centred
+    bool locked = false;    ///< a user cannot change the cell
 
     bool operator==(const Look&) const = default;
-
-    bool isNumber() const { return kind == CellKind::number; }
-    /// Cells of this kind keep a written text as text, whatever it reads like.
-    bool keepsText() const {
-        return kind != CellKind::general && kind != CellKind::number && kind != CellKind::checkBox;
-    }
-    /// The kind's fields from `other`; font, colours, border and lock stay.
-    void takeKind(const Look& other);
 };
-
-/// A number cell of `decimals` places.
-Look numberLook(int decimals, uint32_t style = 0, double least = 0, double most = 0);
-/// A text cell; `maxLength` characters may be typed.
-Look editLook(int maxLength, uint32_t style = 0);
 
 /// Index of a look in its table.
 using LookIndex = uint16_t;
@@ -107,22 +108,21 @@ class LookTable {
     /// The index of `look`, which is added when it is new. A full table (65,536 looks) gives
     /// plainLook: the cell keeps its value and loses its decoration.
     LookIndex intern(const Look& look);
-    /// As interning the look `base` with the kind of `kind`, remembering the answer: a standards
-    /// run asks this for every equation.
-    LookIndex withKind(LookIndex base, const Look& kind);
+    /// As interning the look `base` with another type, remembering the answer: a standards run
+    /// asks this for every equation.
+    LookIndex withType(LookIndex base, const CellType& type);
 
   private:
     struct Remembered {
-        LookIndex base = 0;
-        LookIndex result = 0;
-        Look kind;
+        LookIndex base = inheritedLook;
+        LookIndex result = plainLook;
+        CellType type;
     };
-    static size_t hash(const Look& look);
 
     std::deque<Look> m_looks;  // looks stay where they are
     std::unordered_multimap<size_t, LookIndex> m_index;
-    std::array<Remembered, 4> m_remembered;
-    unsigned m_nextRemembered = 0;
+    std::array<Remembered, 8> m_remembered;
+    size_t m_nextRemembered = 0;
 };
 
 }  // namespace control

@@ -42,6 +42,9 @@ class Sheet {
     /// Writes a plain value; a formula in the cell is removed. Texts are copied.
     void setValue(int col, int row, const Value& value);
     void setLook(int col, int row, uint16_t look) { m_cells.obtain(col, row).look = look; }
+    /// Makes the cell what `from` is, a cell of any sheet that has no formula: value (its text is
+    /// shared, not copied) and look. A formula in the cell is removed.
+    void putBack(int col, int row, const Cell& from);
     /// Empties the cell: value, formula and look.
     void clearCell(int col, int row);
     void clear();

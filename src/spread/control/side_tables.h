@@ -1,30 +1,19 @@
-// What a sheet has beside its cells: header texts, sizes, spans, tags, notes, options. One value,
+// What a sheet has beside its cells: header texts, sizes, spans, tags, notes, settings. One value,
 // shared until it is changed (see SharedSides), so that a fresh copy of a document costs a pointer.
 #pragma once
 
-#include <bitset>
 #include <cstdint>
 #include <map>
 #include <memory>
+#include <set>
 #include <string>
-#include <string_view>
-#include <unordered_map>
 #include <vector>
 
 #include "spread/control/cells.h"
 #include "spread/control/look.h"
+#include "spread/control/span_table.h"
 
 namespace control {
-
-/// A block of cells: its anchor (top left) and its size.
-struct Span {
-    int col = 0, row = 0;
-    int cols = 1, rows = 1;
-    bool operator==(const Span&) const = default;
-    bool contains(int c, int r) const {
-        return c >= col && c < col + cols && r >= row && r < row + rows;
-    }
-};
 
 /// A cell's address as one number, ordered by row and then column. Header cells have 0.
 constexpr int64_t cellKey(int col, int row) {
@@ -44,8 +33,8 @@ struct Band {
     std::map<int, std::string> texts;  ///< by column or row; others show their letters or number
     std::map<int, LookIndex> looks;    ///< those that differ from `look`
     LookIndex look = inheritedLook;
-    std::map<int, int> sizes;    ///< pixels: column widths or row heights that differ
-    std::map<int, bool> hidden;  ///< the hidden columns or rows
+    std::map<int, int> sizes;  ///< pixels: column widths or row heights that differ
+    std::set<int> hidden;
     int defaultSize = 0;
     int headerSize = 0;  ///< pixels: height of the header row, or width of the header column
     bool operator==(const Band&) const = default;
@@ -55,11 +44,13 @@ struct SideTables {
     Band cols;
     Band rows;
     std::vector<LookIndex> columnLooks;  ///< by column, from 1; short when the rest inherits
-    std::vector<Span> spans;
+    SpanTable spans;
     CellTexts tags;
     CellTexts notes;
     std::string cornerText;
-    std::bitset<64> options;
+    bool columnHeaders = true;  ///< shown
+    bool rowHeaders = true;
+    int referenceStyle = 0;  ///< 0 and 1: A1; 2: R1C1
     int gridType = 0;
     Colour gridColour = automatic;
     Colour greyArea = automatic;
@@ -74,7 +65,6 @@ struct SideTables {
         const auto c = static_cast<size_t>(col);
         return c < columnLooks.size() ? columnLooks[c] : inheritedLook;
     }
-    const Span* spanAt(int col, int row) const;
 
     /// What belongs to rows or columns moves with them; what belonged to deleted ones goes.
     void insertRows(int at, int count);

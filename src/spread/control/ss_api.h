@@ -12,7 +12,7 @@
 
 namespace control {
 class Grid;
-struct Look;
+struct CellType;
 }  // namespace control
 
 using SSHandle = control::Grid*;
@@ -104,7 +104,7 @@ int SSSaveToFile(SSHandle grid, const char* path, bool dataOnly);
 const char* SSLastError(SSHandle grid);
 
 // --- cell kinds: a type is made, then given to cells ---------------------------------------------
-using SSCellType = control::Look;
+using SSCellType = control::CellType;
 bool SSSetTypeEdit(SSHandle grid, SSCellType& type, uint32_t style, int maxLength);
 bool SSSetTypeNumber(SSHandle grid, SSCellType& type, int decimals, double least, double most,
                      uint32_t style);

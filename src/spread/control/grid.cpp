@@ -1,0 +1,338 @@
+// Size, structure, settings, and starting from documents.
+#include "spread/control/grid.h"
+
+#include <algorithm>
+
+namespace control {
+namespace {
+
+// Beyond this many noted cells copying the whole sheet again is no slower than putting them back.
+constexpr size_t mostTouched = 4096;
+
+bool isOption(int number) {
+    return number >= 0 && number < 64;
+}
+
+// Groups first..first+count-1 and other..other+count-1 in 1..last that do not overlap.
+bool areSwappable(int first, int other, int count, int last) {
+    if (count < 1 || first < 1 || other < 1) return false;
+    if (first > last - count + 1 || other > last - count + 1) return false;
+    return first + count <= other || other + count <= first;
+}
+
+bool isRun(int at, int count, int last) {
+    return at >= 1 && at <= last && count >= 1;
+}
+
+}  // namespace
+
+Grid::Grid() : m_sheet(std::make_unique<Sheet>()) {
+    m_options.set(static_cast<size_t>(Option::repaint));
+    m_actionKeys = {ActionKey{'C', false, true}, ActionKey{'X', false, true},
+                    ActionKey{'V', false, true}};
+}
+
+Grid::~Grid() = default;
+
+SideTables& Grid::changeSides() {
+    m_changed = true;
+    return m_sides.change();
+}
+
+void Grid::noteTouched(int col, int row) {
+    m_changed = true;
+    if (!m_canUndo) return;
+    const CellAddress cell{col, row};
+    if (!m_touched.empty() && m_touched.back() == cell) return;
+    if (m_touched.size() == mostTouched)
+        noteStructure();
+    else
+        m_touched.push_back(cell);
+}
+
+void Grid::noteStructure() {
+    m_changed = true;
+    m_canUndo = false;
+    m_touched.clear();
+}
+
+// --- size ---------------------------------------------------------------------------------------
+
+bool Grid::setCols(int count) {
+    if (count < 0 || count > formula::maxCols) return false;
+    if (count == m_cols) return true;
+    noteStructure();
+    if (count < m_cols) dropBeyond(count, m_rows);
+    m_cols = count;
+    return true;
+}
+
+bool Grid::setRows(int count) {
+    if (count < 0 || count > formula::maxRows) return false;
+    if (count == m_rows) return true;
+    noteStructure();
+    if (count < m_rows) dropBeyond(m_cols, count);
+    m_rows = count;
+    return true;
+}
+
+void Grid::dropBeyond(int lastCol, int lastRow) {
+    dropCells(lastCol, lastRow);
+    changeSides().cut(lastCol, lastRow);
+    if (m_active.col > lastCol || m_active.row > lastRow) m_active = {};
+    m_selection.reset();
+    m_edit.reset();
+}
+
+void Grid::dropCells(int lastCol, int lastRow) {
+    if (lastCol == 0 || lastRow == 0) {
+        m_sheet->clear();
+        return;
+    }
+    std::vector<CellAddress> dropped;
+    const Area all{1, formula::maxRows, 1, formula::maxCols};
+    m_sheet->cells().each(all, [&](int row, int col, const Cell&) {
+        if (col > lastCol || row > lastRow) dropped.push_back({col, row});
+    });
+    for (const CellAddress& cell : dropped) m_sheet->clearCell(cell.col, cell.row);
+}
+
+// --- structure ----------------------------------------------------------------------------------
+
+bool Grid::insertRows(int at, int count) {
+    if (!isRun(at, count, m_rows)) return false;
+    count = std::min(count, m_rows - at + 1);
+    noteStructure();
+    dropCells(m_cols, m_rows - count);
+    m_sheet->insertRows(at, count);
+    SideTables& sides = changeSides();
+    sides.insertRows(at, count);
+    sides.cut(m_cols, m_rows);
+    return true;
+}
+
+bool Grid::deleteRows(int at, int count) {
+    if (!isRun(at, count, m_rows)) return false;
+    count = std::min(count, m_rows - at + 1);
+    noteStructure();
+    m_sheet->deleteRows(at, count);
+    changeSides().deleteRows(at, count);
+    return true;
+}
+
+bool Grid::insertCols(int at, int count) {
+    if (!isRun(at, count, m_cols)) return false;
+    count = std::min(count, m_cols - at + 1);
+    noteStructure();
+    dropCells(m_cols - count, m_rows);
+    m_sheet->insertCols(at, count);
+    SideTables& sides = changeSides();
+    sides.insertCols(at, count);
+    sides.cut(m_cols, m_rows);
+    return true;
+}
+
+bool Grid::deleteCols(int at, int count) {
+    if (!isRun(at, count, m_cols)) return false;
+    count = std::min(count, m_cols - at + 1);
+    noteStructure();
+    m_sheet->deleteCols(at, count);
+    changeSides().deleteCols(at, count);
+    return true;
+}
+
+bool Grid::swapRows(int first, int other, int count) {
+    if (!areSwappable(first, other, count, m_rows)) return false;
+    noteStructure();
+    m_sheet->swapRows(first, other, count);
+    changeSides().swapRows(first, other, count);
+    return true;
+}
+
+bool Grid::swapCols(int first, int other, int count) {
+    if (!areSwappable(first, other, count, m_cols)) return false;
+    noteStructure();
+    m_sheet->swapCols(first, other, count);
+    changeSides().swapCols(first, other, count);
+    return true;
+}
+
+bool Grid::copyBlock(const Block& given, int toCol, int toRow) {
+    const std::optional<Block> from = resolved(given);
+    if (!from || !isInside(toCol, toRow)) return false;
+    const int cols = std::min(from->col2 - from->col1, m_cols - toCol);
+    const int rows = std::min(from->row2 - from->row1, m_rows - toRow);
+    // From the far end when the blocks overlap that way, so that nothing is copied twice.
+    const bool backwards = toRow > from->row1 || (toRow == from->row1 && toCol > from->col1);
+    std::string tag;
+    for (int i = 0; i <= rows; ++i) {
+        for (int j = 0; j <= cols; ++j) {
+            const int r = backwards ? rows - i : i, c = backwards ? cols - j : j;
+            const CellAddress source{from->col1 + c, from->row1 + r};
+            const CellAddress target{toCol + c, toRow + r};
+            noteTouched(target.col, target.row);
+            const LookIndex look = lookIndex(source.col, source.row);
+            m_sheet->copyCell(source, target);
+            m_sheet->setLook(target.col, target.row, look == inheritedLook ? plainLook : look);
+            tag = text(source.col, source.row, Reading::tag);
+            if (tag != text(target.col, target.row, Reading::tag))
+                setTag(target.col, target.row, tag);
+        }
+    }
+    return true;
+}
+
+bool Grid::copyRowLooks(int from, int to) {
+    const auto isRow = [&](int row) { return row >= 1 && row <= m_rows; };
+    if (!isRow(from) || !isRow(to)) return false;
+    for (int col = 1; col <= m_cols; ++col) {
+        const LookIndex look = lookIndex(col, from);
+        if (look == lookIndex(col, to)) continue;
+        noteTouched(col, to);
+        m_sheet->setLook(col, to, look == inheritedLook ? plainLook : look);
+    }
+    if (rowHeight(from) != rowHeight(to)) setRowHeight(to, rowHeight(from));
+    return true;
+}
+
+bool Grid::copyColLooks(int from, int to) {
+    const auto isCol = [&](int col) { return col >= 1 && col <= m_cols; };
+    if (!isCol(from) || !isCol(to)) return false;
+    std::vector<LookIndex>& looks = changeSides().columnLooks;
+    const LookIndex look = m_sides->columnLook(from);
+    const auto last = static_cast<size_t>(std::max(from, to));
+    if (looks.size() <= last) looks.resize(last + 1, inheritedLook);
+    looks[static_cast<size_t>(to)] = look;
+    const auto area = [](int col) {
+        const auto c = static_cast<uint16_t>(col);
+        return Area{1, formula::maxRows, c, c};
+    };
+    std::vector<std::pair<int, LookIndex>> own;
+    m_sheet->cells().each(area(to), [&](int row, int, const Cell& cell) {
+        if (cell.look != inheritedLook) own.emplace_back(row, inheritedLook);
+    });
+    m_sheet->cells().each(area(from), [&](int row, int, const Cell& cell) {
+        if (cell.look != inheritedLook) own.emplace_back(row, cell.look);
+    });
+    for (const auto& [row, ownLook] : own) {
+        noteTouched(to, row);
+        m_sheet->setLook(to, row, ownLook);
+    }
+    if (colWidth(from) != colWidth(to)) setColWidth(to, colWidth(from));
+    return true;
+}
+
+std::optional<Block> Grid::resolved(const Block& block) const {
+    Block b = block;
+    if (b.col1 == -1) b.col1 = 1;
+    if (b.row1 == -1) b.row1 = 1;
+    if (b.col2 == -1) b.col2 = m_cols;
+    if (b.row2 == -1) b.row2 = m_rows;
+    b.col2 = std::min(b.col2, m_cols);
+    b.row2 = std::min(b.row2, m_rows);
+    if (b.col1 < 1 || b.row1 < 1 || b.col1 > b.col2 || b.row1 > b.row2) return std::nullopt;
+    return b;
+}
+
+// --- settings -----------------------------------------------------------------------------------
+
+bool Grid::option(int number) const {
+    if (!isOption(number)) return false;
+    switch (static_cast<Option>(number)) {
+        case Option::columnHeaders:
+            return m_sides->columnHeaders;
+        case Option::rowHeaders:
+            return m_sides->rowHeaders;
+        case Option::changed:
+            return m_changed;
+        default:
+            return m_options.test(static_cast<size_t>(number));
+    }
+}
+
+void Grid::setOption(int number, bool on) {
+    if (!isOption(number) || option(number) == on) return;
+    switch (static_cast<Option>(number)) {
+        case Option::columnHeaders:
+            changeSides().columnHeaders = on;
+            return;
+        case Option::rowHeaders:
+            changeSides().rowHeaders = on;
+            return;
+        case Option::changed:
+            m_changed = on;
+            return;
+        case Option::automaticRecalculation:
+            m_sheet->setAutomatic(on);
+            break;
+        default:
+            break;
+    }
+    m_options.set(static_cast<size_t>(number), on);
+}
+
+void Grid::setReferenceStyle(int style) {
+    if (style < 0 || style > 2 || style == referenceStyle()) return;
+    changeSides().referenceStyle = style;
+    m_sheet->setReferenceStyle(style == 2 ? formula::ReferenceStyle::r1c1
+                                          : formula::ReferenceStyle::a1);
+}
+
+void Grid::addCustomFunction(const formula::CustomFunction* function) {
+    if (std::find(m_custom.begin(), m_custom.end(), function) == m_custom.end())
+        m_custom.push_back(function);
+    m_sheet->addCustomFunction(function);
+}
+
+// --- documents ----------------------------------------------------------------------------------
+
+void Grid::restore(std::shared_ptr<const Document> document) {
+    if (m_canUndo && m_document == document) {
+        putBackTouched();
+    } else {
+        *m_sheet = document->sheet();
+        m_looks = document->looks();
+        m_document = std::move(document);
+    }
+    startFrom(*m_document);
+    // Formulas depend on cells beyond those that were touched.
+    m_canUndo = m_sheet->formulaCount() == 0;
+}
+
+void Grid::adopt(std::shared_ptr<Document> document) {
+    m_sheet.swap(document->m_sheet);
+    m_looks = std::move(document->m_looks);
+    m_document = nullptr;
+    startFrom(*document);
+    m_canUndo = false;
+}
+
+void Grid::putBackTouched() {
+    const Sheet& original = m_document->sheet();
+    for (const CellAddress& touched : m_touched) {
+        const Cell* cell = original.find(touched.col, touched.row);
+        if (cell && !cell->isBlank())
+            m_sheet->putBack(touched.col, touched.row, *cell);
+        else
+            m_sheet->clearCell(touched.col, touched.row);
+    }
+}
+
+void Grid::startFrom(const Document& document) {
+    m_touched.clear();
+    m_cols = document.cols();
+    m_rows = document.rows();
+    m_sides = document.sides();
+    m_active = {};
+    m_selection.reset();
+    m_edit.reset();
+    m_changed = false;
+    for (const formula::CustomFunction* function : m_custom) m_sheet->addCustomFunction(function);
+    const bool isR1C1 = m_sides->referenceStyle == 2;
+    if (isR1C1 != (m_sheet->referenceStyle() == formula::ReferenceStyle::r1c1))
+        m_sheet->setReferenceStyle(isR1C1 ? formula::ReferenceStyle::r1c1
+                                          : formula::ReferenceStyle::a1);
+    m_sheet->setAutomatic(option(Option::automaticRecalculation));
+}
+
+}  // namespace control

@@ -1,0 +1,190 @@
+// What a user does with a grid: selecting, typing, copying.
+#include <algorithm>
+
+#include "core_api/text/number_text.h"
+#include "spread/control/grid.h"
+
+namespace control {
+namespace {
+
+// Fields of a copied block that hold a separator or a quote are wrapped in quotes.
+void appendField(std::string& out, std::string_view field) {
+    if (field.find_first_of("\t\r\n\"") == std::string_view::npos) {
+        out += field;
+        return;
+    }
+    out += '"';
+    for (const char c : field) {
+        if (c == '"') out += '"';
+        out += c;
+    }
+    out += '"';
+}
+
+// Takes one field from the start of `text`, with what ends it: a tab, a line end or the text's end.
+struct Field {
+    std::string text;
+    bool endsLine = false;
+};
+
+Field takeField(std::string_view& text) {
+    Field field;
+    if (text.starts_with('"')) {
+        size_t at = 1;
+        for (; at < text.size(); ++at) {
+            if (text[at] == '"') {
+                if (at + 1 == text.size() || text[at + 1] != '"') break;
+                ++at;
+            }
+            field.text += text[at];
+        }
+        text.remove_prefix(std::min(at + 1, text.size()));
+    }
+    const size_t end = std::min(text.find_first_of("\t\r\n"), text.size());
+    field.text += text.substr(0, end);
+    field.endsLine = end == text.size() || text[end] != '\t';
+    const bool twoBytes = text.substr(end, 2) == "\r\n";
+    text.remove_prefix(std::min(end + (twoBytes ? 2 : 1), text.size()));
+    return field;
+}
+
+bool isItem(std::string_view items, std::string_view text) {
+    for (size_t at = 0; at <= items.size();) {
+        const size_t end = std::min(items.find('\t', at), items.size());
+        if (items.substr(at, end - at) == text) return true;
+        at = end + 1;
+    }
+    return false;
+}
+
+bool mayBeTyped(const CellType& type, std::string_view text) {
+    switch (type.kind) {
+        case CellKind::staticText:
+        case CellKind::button:
+        case CellKind::picture:
+        case CellKind::pictureHandle:
+            return false;
+        case CellKind::checkBox:
+            return text == "1" || text == "0";
+        case CellKind::comboBox:
+            return type.editable || text.empty() || isItem(type.text, text);
+        case CellKind::edit:
+            return type.maxLength == 0 || text.size() <= static_cast<size_t>(type.maxLength);
+        default:
+            return true;
+    }
+}
+
+bool isTypable(const CellType& type) {
+    return type.kind == CellKind::checkBox || mayBeTyped(type, "");
+}
+
+}  // namespace
+
+bool Grid::setActive(int col, int row) {
+    if (!isInside(col, row)) return false;
+    m_active = {col, row};
+    return true;
+}
+
+bool Grid::select(const Block& block) {
+    if (!resolved(block)) return false;
+    m_selection = block;
+    return true;
+}
+
+bool Grid::beginEdit() {
+    if (!isInside(m_active.col, m_active.row)) return false;
+    const Look& shown = look(m_active.col, m_active.row);
+    if (shown.locked || !isTypable(shown.type)) return false;
+    if (m_edit) return true;
+    m_edit.emplace();
+    if (option(Option::userFormulas)) {
+        const std::string formula = text(m_active.col, m_active.row, Reading::formula);
+        if (!formula.empty()) m_edit->text = "=" + formula;
+    }
+    if (m_edit->text.empty()) m_edit->text = text(m_active.col, m_active.row, Reading::data);
+    m_edit->start = static_cast<int>(m_edit->text.size());
+    return true;
+}
+
+bool Grid::setEditText(std::string_view text) {
+    if (!m_edit) return false;
+    m_edit->text = text;
+    m_edit->start = static_cast<int>(text.size());
+    m_edit->length = 0;
+    return true;
+}
+
+bool Grid::setEditSelection(int start, int length) {
+    if (!m_edit) return false;
+    const int size = static_cast<int>(m_edit->text.size());
+    m_edit->start = std::clamp(start, 0, size);
+    m_edit->length = std::clamp(length, 0, size - m_edit->start);
+    return true;
+}
+
+std::pair<int, int> Grid::editSelection() const {
+    return m_edit ? std::pair(m_edit->start, m_edit->length) : std::pair(0, 0);
+}
+
+bool Grid::endEdit(bool keep) {
+    if (!m_edit) return false;
+    if (keep && !enter(m_active.col, m_active.row, m_edit->text)) return false;
+    m_edit.reset();
+    return true;
+}
+
+bool Grid::enter(int col, int row, std::string_view typed) {
+    if (!isInside(col, row)) return false;
+    const Look& shown = look(col, row);
+    if (shown.locked) return false;
+    const bool isFormula = typed.size() > 1 && typed[0] == '=' && option(Option::userFormulas);
+    if (!mayBeTyped(shown.type, isFormula ? "" : typed)) return false;
+    if (isFormula) return setFormula(col, row, typed.substr(1));
+    if (shown.type.kind == CellKind::general) {
+        std::string_view rest = typed;
+        const std::optional<double> number = takeNumber(rest);
+        if (number && rest.empty()) return writeValue(col, row, *number);
+    }
+    return setData(col, row, typed);
+}
+
+std::string Grid::copyText(const Block& given) const {
+    const std::optional<Block> block = resolved(given);
+    std::string copied, buffer;
+    if (!block) return copied;
+    for (int row = block->row1; row <= block->row2; ++row) {
+        if (row > block->row1) copied += '\n';
+        for (int col = block->col1; col <= block->col2; ++col) {
+            if (col > block->col1) copied += '\t';
+            appendField(copied, text(col, row, Reading::data, buffer));
+        }
+    }
+    return copied;
+}
+
+bool Grid::pasteText(int toCol, int toRow, std::string_view text) {
+    if (!isInside(toCol, toRow)) return false;
+    bool taken = true;
+    int col = toCol, row = toRow;
+    while (!text.empty() && row <= m_rows) {
+        const Field field = takeField(text);
+        if (col <= m_cols) taken = enter(col, row, field.text) && taken;
+        col = field.endsLine ? toCol : col + 1;
+        row += field.endsLine ? 1 : 0;
+    }
+    return taken;
+}
+
+void Grid::setActionKey(KeyAction action, const ActionKey& key) {
+    m_actionKeys[static_cast<size_t>(action)] = key;
+}
+
+std::optional<KeyAction> Grid::keyAction(const ActionKey& key) const {
+    for (size_t i = 0; i < m_actionKeys.size(); ++i)
+        if (m_actionKeys[i].key != 0 && m_actionKeys[i] == key) return static_cast<KeyAction>(i);
+    return std::nullopt;
+}
+
+}  // namespace control

@@ -1,0 +1,236 @@
+// Looks, sizes and spans.
+#include <algorithm>
+
+#include "spread/control/grid.h"
+#include "spread/control/text_fit.h"
+
+namespace control {
+namespace {
+
+constexpr int widest = 10000;  // pixels that a column or row may have
+
+bool setSize(std::map<int, int>& sizes, int& headerSize, int index, int pixels) {
+    if (pixels < 0 || pixels > widest) return false;
+    (isHeader(index) ? headerSize : sizes[index]) = pixels;
+    return true;
+}
+
+int sizeOf(const Band& band, const Band& across, int index) {
+    if (isHeader(index)) return across.headerSize;
+    if (band.hidden.contains(index)) return 0;
+    const auto found = band.sizes.find(index);
+    return found == band.sizes.end() ? band.defaultSize : found->second;
+}
+
+// Remembers what became of each look, so that a long column changes each of its few looks once.
+class ChangedLooks {
+  public:
+    ChangedLooks(LookTable& looks, const std::function<Look(const Look&)>& change)
+        : m_looks(looks), m_change(change) {}
+    LookIndex operator()(LookIndex look) {
+        for (const auto& [from, to] : m_known)
+            if (from == look) return to;
+        const LookIndex to = m_looks.intern(m_change(m_looks[look]));
+        m_known.emplace_back(look, to);
+        return to;
+    }
+
+  private:
+    LookTable& m_looks;
+    const std::function<Look(const Look&)>& m_change;
+    std::vector<std::pair<LookIndex, LookIndex>> m_known;
+};
+
+LookIndex bandLook(const Band& band, int index) {
+    const auto found = band.looks.find(index);
+    return found == band.looks.end() ? band.look : found->second;
+}
+
+}  // namespace
+
+LookIndex Grid::lookIndex(int col, int row) const {
+    if (isHeader(row)) return isHeader(col) ? m_sides->cols.look : bandLook(m_sides->cols, col);
+    if (isHeader(col)) return bandLook(m_sides->rows, row);
+    const Cell* cell = m_sheet->find(col, row);
+    if (cell && cell->look != inheritedLook) return cell->look;
+    return m_sides->columnLook(col);
+}
+
+bool Grid::setType(int col, int row, const CellType& type) {
+    if (!isInside(col, row)) return setType(Block{col, row, col, row}, type);
+    const LookIndex now = lookIndex(col, row);
+    if (m_looks[now].type == type) return true;
+    noteTouched(col, row);
+    m_sheet->setLook(col, row, m_looks.withType(now, type));
+    return true;
+}
+
+bool Grid::setType(const Block& block, const CellType& type) {
+    if (block.col1 == block.col2 && block.row1 == block.row2 && isInside(block.col1, block.row1))
+        return setType(block.col1, block.row1, type);
+    return changeLooks(block, [&](Look& look) { look.type = type; });
+}
+
+bool Grid::eachLook(const Block& block, const ChangeLook& change) {
+    Block body = block;
+    const bool headerRow = isHeader(block.row1);
+    const bool headerCol = isHeader(block.col1);
+    if (headerRow) {
+        changeHeaderLooks(changeSides().cols, block.col1, block.col2, m_cols, change);
+        if (isHeader(block.row2)) return true;
+        body.row1 = 1;
+    }
+    if (headerCol) {
+        changeHeaderLooks(changeSides().rows, block.row1, block.row2, m_rows, change);
+        if (isHeader(block.col2)) return true;
+        body.col1 = 1;
+    }
+    const bool allRows = body.row1 == -1 || (body.row1 == 1 && body.row2 >= m_rows && m_rows > 1);
+    if (allRows && m_rows == 0) body.row1 = body.row2 = 1;  // columns of rows that are to come
+    const int lastCol = body.col1 == -1 ? m_cols : std::min(body.col2, m_cols);
+    const int firstCol = body.col1 == -1 ? 1 : body.col1;
+    if (firstCol < 1 || firstCol > lastCol) return false;
+    if (allRows) {
+        for (int col = firstCol; col <= lastCol; ++col) changeColumnLooks(col, change);
+        return true;
+    }
+    const int lastRow = std::min(body.row2, m_rows);
+    if (body.row1 < 1 || body.row1 > lastRow) return false;
+    ChangedLooks changed(m_looks, change);
+    for (int col = firstCol; col <= lastCol; ++col) {
+        for (int row = body.row1; row <= lastRow; ++row) {
+            noteTouched(col, row);
+            m_sheet->setLook(col, row, changed(lookIndex(col, row)));
+        }
+    }
+    return true;
+}
+
+void Grid::changeHeaderLooks(Band& band, int from, int to, int count, const ChangeLook& change) {
+    ChangedLooks changed(m_looks, change);
+    const bool all = from == -1 || isHeader(from) || (from == 1 && to >= count);
+    if (all) {
+        band.look = changed(band.look);
+        for (auto& [index, look] : band.looks) look = changed(look);
+        return;
+    }
+    for (int index = std::max(from, 1); index <= std::min(to, count); ++index)
+        band.looks[index] = changed(bandLook(band, index));
+}
+
+void Grid::changeColumnLooks(int col, const ChangeLook& change) {
+    ChangedLooks changed(m_looks, change);
+    std::vector<LookIndex>& looks = changeSides().columnLooks;
+    if (static_cast<size_t>(col) >= looks.size())
+        looks.resize(static_cast<size_t>(col) + 1, inheritedLook);
+    looks[static_cast<size_t>(col)] = changed(looks[static_cast<size_t>(col)]);
+    std::vector<std::pair<int, LookIndex>> own;
+    const auto c = static_cast<uint16_t>(col);
+    m_sheet->cells().each(Area{1, formula::maxRows, c, c}, [&](int row, int, const Cell& cell) {
+        if (cell.look != inheritedLook) own.emplace_back(row, cell.look);
+    });
+    for (const auto& [row, look] : own) {
+        noteTouched(col, row);
+        m_sheet->setLook(col, row, changed(look));
+    }
+}
+
+bool Grid::setBorder(const Block& block, int sides, int style, Colour colour) {
+    const auto draw = [&](const Block& cells, int which) {
+        return changeLooks(cells, [&](Look& look) {
+            const auto bits = static_cast<uint8_t>(which & 15);
+            look.borderSides = static_cast<uint8_t>(style == 0 ? look.borderSides & ~bits
+                                                               : look.borderSides | bits);
+            look.borderStyle = static_cast<uint8_t>(style);
+            look.borderColour = colour;
+        });
+    };
+    bool done = (sides & 15) == 0 || draw(block, sides);
+    if ((sides & borderOutline) != 0) {
+        const std::optional<Block> b = resolved(block);
+        if (!b) return false;
+        done = draw({b->col1, b->row1, b->col1, b->row2}, borderLeft) &&
+               draw({b->col2, b->row1, b->col2, b->row2}, borderRight) &&
+               draw({b->col1, b->row1, b->col2, b->row1}, borderTop) &&
+               draw({b->col1, b->row2, b->col2, b->row2}, borderBottom) && done;
+    }
+    return done;
+}
+
+int Grid::colWidth(int col) const {
+    return sizeOf(m_sides->cols, m_sides->rows, col);
+}
+int Grid::rowHeight(int row) const {
+    return sizeOf(m_sides->rows, m_sides->cols, row);
+}
+
+bool Grid::setColWidth(int col, int pixels) {
+    if (!isHeader(col) && (col < 1 || col > m_cols)) return false;
+    SideTables& sides = changeSides();
+    return setSize(sides.cols.sizes, sides.rows.headerSize, col, pixels);
+}
+
+bool Grid::setRowHeight(int row, int pixels) {
+    if (!isHeader(row) && (row < 1 || row > m_rows)) return false;
+    SideTables& sides = changeSides();
+    return setSize(sides.rows.sizes, sides.cols.headerSize, row, pixels);
+}
+
+bool Grid::setColHidden(int col, bool hidden) {
+    if (col < 1 || col > m_cols) return false;
+    std::set<int>& set = changeSides().cols.hidden;
+    hidden ? (void)set.insert(col) : (void)set.erase(col);
+    return true;
+}
+
+bool Grid::setRowHidden(int row, bool hidden) {
+    if (row < 1 || row > m_rows) return false;
+    std::set<int>& set = changeSides().rows.hidden;
+    hidden ? (void)set.insert(row) : (void)set.erase(row);
+    return true;
+}
+
+int Grid::fitWidth(int col) const {
+    std::string buffer;
+    TextSize most =
+        fittedSize(text(col, headerIndex, Reading::data, buffer), look(col, headerIndex));
+    for (int row = 1; row <= m_rows; ++row) {
+        const Span* span = spanAt(col, row);
+        if (span && span->cols > 1) continue;
+        const TextSize size = fittedSize(text(col, row, Reading::data, buffer), look(col, row));
+        most.width = std::max(most.width, size.width);
+    }
+    return most.width;
+}
+
+int Grid::fitHeight(int row) const {
+    std::string buffer;
+    TextSize most =
+        fittedSize(text(headerIndex, row, Reading::data, buffer), look(headerIndex, row));
+    for (int col = 1; col <= m_cols; ++col) {
+        const Span* span = spanAt(col, row);
+        if (span && span->rows > 1) continue;
+        const TextSize size = fittedSize(text(col, row, Reading::data, buffer), look(col, row));
+        most.height = std::max(most.height, size.height);
+    }
+    return most.height;
+}
+
+bool Grid::addSpan(const Span& given) {
+    Span span = given;
+    if (isHeader(span.col)) span.col = 0;
+    if (isHeader(span.row)) span.row = 0;
+    if (!isAddress(span.col, span.row) || span.cols < 1 || span.rows < 1) return false;
+    // A header cell spans along its own band alone.
+    span.cols = span.col == 0 ? 1 : std::min(span.cols, m_cols - span.col + 1);
+    span.rows = span.row == 0 ? 1 : std::min(span.rows, m_rows - span.row + 1);
+    changeSides().spans.add(span);
+    return true;
+}
+
+bool Grid::removeSpan(int col, int row) {
+    const int c = isHeader(col) ? 0 : col, r = isHeader(row) ? 0 : row;
+    return m_sides->spans.at(c, r) && changeSides().spans.removeAt(c, r);
+}
+
+}  // namespace control
