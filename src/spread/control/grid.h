@@ -113,7 +113,7 @@ class Grid {
     /// Text without "=", in the sheet's reference style. False with the reason, and the cell as it
     /// was, when refused. The empty text removes the formula and keeps the value.
     bool setFormula(int col, int row, std::string_view text, formula::ParseError* error = nullptr);
-    /// As above with a program compiled before for this very cell; takes `text` over.
+    /// As above with a program compiled before for this very cell, inside the sheet; shares `text`.
     void setFormula(int col, int row, const formula::ProgramRef& program, TextBlock* text);
     bool recalculateCell(int col, int row) { return m_sheet->recalculateCell(col, row); }
     void recalculate() { m_sheet->recalculate(); }
