@@ -12,3 +12,7 @@ if(VORMANT_SANITIZE)
     -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
   target_link_options(vormant_build_flags INTERFACE -fsanitize=address,undefined)
 endif()
+if(VORMANT_FUZZ)
+  # The fuzzer steers by the branches taken inside the module, not only in its own target.
+  target_compile_options(vormant_build_flags INTERFACE -fsanitize=fuzzer-no-link)
+endif()
