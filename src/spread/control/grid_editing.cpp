@@ -98,7 +98,7 @@ bool Grid::beginEdit() {
     const Look& shown = look(m_active.col, m_active.row);
     if (shown.locked || !isTypable(shown.type)) return false;
     if (m_edit) return true;
-    m_edit.emplace();
+    m_edit.emplace(Edit{});
     if (option(Option::userFormulas)) {
         const std::string formula = text(m_active.col, m_active.row, Reading::formula);
         if (!formula.empty()) m_edit->text = "=" + formula;
