@@ -1,0 +1,28 @@
+// The words behind the text numbers, one table an area. Rows are in order of their numbers; the
+// four texts are English, Dutch, German and French, written in UTF-8.
+#pragma once
+
+#include <array>
+#include <span>
+
+#include "core_api/settings.h"
+
+namespace texts {
+
+struct TextRow {
+    int number;
+    std::array<const char*, languageCount> words;
+};
+
+extern const std::span<const TextRow> generalTexts;
+extern const std::span<const TextRow> sheetTexts;
+extern const std::span<const TextRow> designerTexts;
+extern const std::span<const TextRow> macrodlgTexts;
+extern const std::span<const TextRow> sectionsTexts;
+extern const std::span<const TextRow> cutstockTexts;
+
+inline std::array<std::span<const TextRow>, 6> allTables() {
+    return {generalTexts, sheetTexts, designerTexts, macrodlgTexts, sectionsTexts, cutstockTexts};
+}
+
+}  // namespace texts
