@@ -138,6 +138,8 @@ std::optional<double> textToNumber(std::string_view text) {
     if (text.empty() || text.size() > longestNumber) return {};
     if (const auto number = plainNumber(text)) return number;
     if (const auto number = readDecorated(text)) return number;
+    // Blanks around a number are passed over, around a date they are not.
+    if (text.front() == ' ' || text.back() == ' ') return {};
     if (const auto date = readDateText(text)) return date->day.value_or(0) + date->time.value_or(0);
     return {};
 }

@@ -134,11 +134,11 @@ constexpr FunctionSpec rows[] = {
      "In how many orders some of a number of things can be chosen."},
     {"PERMUTATIONA", 2, 2, "v", binary<permutationsWithRepetition>, plain, "number, chosen",
      "In how many orders some of a number of things can be chosen when each may be chosen again."},
-    {"GCD", 1, anyCount, "a", combined<greatestDivisor>, plain, "number1, [number2], …",
+    {"GCD", 1, anyCount, "r", combined<greatestDivisor>, plain, "number1, [number2], …",
      "The greatest common divisor of whole numbers."},
-    {"LCM", 1, anyCount, "a", combined<leastMultiple>, plain, "number1, [number2], …",
+    {"LCM", 1, anyCount, "r", combined<leastMultiple>, plain, "number1, [number2], …",
      "The least common multiple of whole numbers."},
-    {"MULTINOMIAL", 1, anyCount, "a", multinomial, plain, "number1, [number2], …",
+    {"MULTINOMIAL", 1, anyCount, "r", multinomial, plain, "number1, [number2], …",
      "The factorial of the sum divided by the product of the factorials."},
 };
 

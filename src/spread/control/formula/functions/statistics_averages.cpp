@@ -25,8 +25,12 @@ Value average(Calculation& c, std::span<const Value> args) {
 using Numbers = std::vector<double>;
 
 double mean(const Numbers& numbers) {
-    return std::accumulate(numbers.begin(), numbers.end(), 0.0) /
-           static_cast<double>(numbers.size());
+    const auto count = static_cast<double>(numbers.size());
+    const double mean = std::accumulate(numbers.begin(), numbers.end(), 0.0) / count;
+    // What rounding left over is small against the numbers, but not against their distances.
+    double rest = 0;
+    for (const double x : numbers) rest += x - mean;
+    return mean + rest / count;
 }
 
 /// The sum of (x - mean)^power.
@@ -133,45 +137,45 @@ constexpr std::string_view numbers = "number1, [number2], …";
 constexpr std::string_view values = "value1, [value2], …";
 
 constexpr FunctionSpec rows[] = {
-    {"AVERAGE", 1, anyCount, "a", average<NonNumbers::ignored>, plain, numbers,
+    {"AVERAGE", 1, anyCount, "r", average<NonNumbers::ignored>, plain, numbers,
      "The average of all numbers."},
-    {"AVERAGEA", 1, anyCount, "a", average<counted>, plain, values,
+    {"AVERAGEA", 1, anyCount, "r", average<counted>, plain, values,
      "The average of all values; texts count as 0, TRUE as 1."},
-    {"VAR.S", 1, anyCount, "a", ofNumbers<sampleVariance>, plain, numbers,
+    {"VAR.S", 1, anyCount, "r", ofNumbers<sampleVariance>, plain, numbers,
      "The variance of a population, estimated from a sample."},
-    {"VAR", 1, anyCount, "a", ofNumbers<sampleVariance>, plain, numbers,
+    {"VAR", 1, anyCount, "r", ofNumbers<sampleVariance>, plain, numbers,
      "The variance of a population, estimated from a sample."},
-    {"VARA", 1, anyCount, "a", ofNumbers<sampleVariance, counted>, plain, values,
+    {"VARA", 1, anyCount, "r", ofNumbers<sampleVariance, counted>, plain, values,
      "As VAR; texts count as 0, TRUE as 1."},
-    {"VAR.P", 1, anyCount, "a", ofNumbers<variance>, plain, numbers,
+    {"VAR.P", 1, anyCount, "r", ofNumbers<variance>, plain, numbers,
      "The variance of a whole population."},
-    {"VARP", 1, anyCount, "a", ofNumbers<variance>, plain, numbers,
+    {"VARP", 1, anyCount, "r", ofNumbers<variance>, plain, numbers,
      "The variance of a whole population."},
-    {"VARPA", 1, anyCount, "a", ofNumbers<variance, counted>, plain, values,
+    {"VARPA", 1, anyCount, "r", ofNumbers<variance, counted>, plain, values,
      "As VARP; texts count as 0, TRUE as 1."},
-    {"STDEV.S", 1, anyCount, "a", ofNumbers<rootOf<sampleVariance>>, plain, numbers,
+    {"STDEV.S", 1, anyCount, "r", ofNumbers<rootOf<sampleVariance>>, plain, numbers,
      "The standard deviation of a population, estimated from a sample."},
-    {"STDEV", 1, anyCount, "a", ofNumbers<rootOf<sampleVariance>>, plain, numbers,
+    {"STDEV", 1, anyCount, "r", ofNumbers<rootOf<sampleVariance>>, plain, numbers,
      "The standard deviation of a population, estimated from a sample."},
-    {"STDEVA", 1, anyCount, "a", ofNumbers<rootOf<sampleVariance>, counted>, plain, values,
+    {"STDEVA", 1, anyCount, "r", ofNumbers<rootOf<sampleVariance>, counted>, plain, values,
      "As STDEV; texts count as 0, TRUE as 1."},
-    {"STDEV.P", 1, anyCount, "a", ofNumbers<rootOf<variance>>, plain, numbers,
+    {"STDEV.P", 1, anyCount, "r", ofNumbers<rootOf<variance>>, plain, numbers,
      "The standard deviation of a whole population."},
-    {"STDEVP", 1, anyCount, "a", ofNumbers<rootOf<variance>>, plain, numbers,
+    {"STDEVP", 1, anyCount, "r", ofNumbers<rootOf<variance>>, plain, numbers,
      "The standard deviation of a whole population."},
-    {"STDEVPA", 1, anyCount, "a", ofNumbers<rootOf<variance>, counted>, plain, values,
+    {"STDEVPA", 1, anyCount, "r", ofNumbers<rootOf<variance>, counted>, plain, values,
      "As STDEVP; texts count as 0, TRUE as 1."},
-    {"DEVSQ", 1, anyCount, "a", ofNumbers<squaredDeviations>, plain, numbers,
+    {"DEVSQ", 1, anyCount, "r", ofNumbers<squaredDeviations>, plain, numbers,
      "The sum of the squared distances from the average."},
-    {"AVEDEV", 1, anyCount, "a", ofNumbers<averageDeviation>, plain, numbers,
+    {"AVEDEV", 1, anyCount, "r", ofNumbers<averageDeviation>, plain, numbers,
      "The average distance from the average."},
-    {"GEOMEAN", 1, anyCount, "a", ofNumbers<geometricMean>, plain, numbers,
+    {"GEOMEAN", 1, anyCount, "r", ofNumbers<geometricMean>, plain, numbers,
      "The geometric mean of positive numbers."},
-    {"HARMEAN", 1, anyCount, "a", ofNumbers<harmonicMean>, plain, numbers,
+    {"HARMEAN", 1, anyCount, "r", ofNumbers<harmonicMean>, plain, numbers,
      "The harmonic mean of positive numbers."},
-    {"SKEW", 1, anyCount, "a", ofNumbers<skewness>, plain, numbers,
+    {"SKEW", 1, anyCount, "r", ofNumbers<skewness>, plain, numbers,
      "How much the distribution leans to one side of its average."},
-    {"KURT", 1, anyCount, "a", ofNumbers<kurtosis>, plain, numbers,
+    {"KURT", 1, anyCount, "r", ofNumbers<kurtosis>, plain, numbers,
      "How peaked the distribution is, compared with the normal one."},
     {"STANDARDIZE", 3, 3, "v", standardize, plain, "x, average, standard deviation",
      "The distance from the average in standard deviations."},
