@@ -1,0 +1,166 @@
+// The only file that knows the parser of command lines; it is slow to compile.
+#include "command_line.h"
+
+#include <CLI/CLI.hpp>
+#include <cstdio>
+
+#include "sheets/sheet_commands.h"
+#include "standards/library.h"
+#include "standards/standards_commands.h"
+
+namespace cli {
+
+namespace {
+
+/// All that a call can ask for, and what it asked for.
+struct Calls {
+    std::string library;
+    CheckRequest check;
+    TestRequest test;
+    RunRequest run;
+    BatchRequest batch;
+    ShowRequest show;
+    EvalRequest eval;
+    ConvertRequest convert;
+    std::function<ExitCode()> work;
+};
+
+/// An option that takes one "Name=Value" and may be given again.
+CLI::Option* addAssignments(CLI::App& command, const std::string& names,
+                            std::vector<std::string>& values, const std::string& help) {
+    return command.add_option(names, values, help)->type_name("NAME=VALUE")->allow_extra_args(
+        false);
+}
+
+/// `work` runs when `command` is called, with the library open.
+template <class Work>
+void onCall(CLI::App& command, Calls& calls, Work work) {
+    command.callback([&calls, work] {
+        calls.work = [&calls, work] {
+            return openLibrary(calls.library) ? work() : ExitCode::failed;
+        };
+    });
+}
+
+void addStandardsReaders(CLI::App& standards, Calls& calls) {
+    auto& list = *standards.add_subcommand(
+        "list", "Name the standards of the library with their inputs and outputs");
+    onCall(list, calls, [] { return listStandards(); });
+
+    auto& check = *standards.add_subcommand(
+        "check", "Look for mistakes in standards: file:row:column: message");
+    check.add_option("FILE", calls.check.files, "A standards file, or a name in the library")
+        ->required();
+    onCall(check, calls, [&calls] { return checkStandards(calls.check); });
+
+    auto& test = *standards.add_subcommand(
+        "test", "Run the check problems that stand beside a standard (NAME.cases.csv)");
+    auto* names = test.add_option("NAME", calls.test.names, "A standard");
+    auto* all =
+        test.add_flag("--all", calls.test.all, "Every standard of the library that has cases");
+    names->excludes(all);
+    onCall(test, calls, [&calls] { return testStandards(calls.test); });
+}
+
+void addStandardsRunners(CLI::App& standards, Calls& calls) {
+    auto& run = *standards.add_subcommand("run", "Run a standard and print its outputs");
+    run.add_option("NAME", calls.run.name, "A standard of the library, or a file")->required();
+    auto* set = addAssignments(run, "--set", calls.run.values, "Give an input its value");
+    auto* macro = run.add_option("--macro", calls.run.macroFile,
+                                 "Take the inputs from this macro file")
+                      ->type_name("FILE");
+    auto* key = run.add_option("--key", calls.run.mappingKey,
+                               "The line of the mapping file, or Module.GROUP")
+                    ->type_name("KEY");
+    auto* write =
+        run.add_flag("--write", calls.run.write, "Write the outputs back into the macro file");
+    addAssignments(run, "--gen", calls.run.genValues, "Replace a gen_ name by a value");
+    run.add_flag("--trace", calls.run.trace, "Print every equation with its formula and value");
+    run.add_flag("--json", calls.run.json, "Print one JSON object");
+    set->excludes(macro);
+    macro->needs(key);
+    key->needs(macro);
+    write->needs(macro);
+    onCall(run, calls, [&calls] { return runStandard(calls.run); });
+
+    auto& batch = *standards.add_subcommand(
+        "batch", "Run a standard once for every line of inputs; a filter");
+    batch.add_option("NAME", calls.batch.name, "A standard of the library, or a file")->required();
+    batch.add_option("INPUT", calls.batch.input, "A file of lines; - is the standard input");
+    batch.add_flag("--jsonl", calls.batch.jsonLines, "Lines are JSON objects instead of CSV");
+    batch.add_flag("!--no-header", calls.batch.header, "Leave out the line of output names");
+    addAssignments(batch, "--gen", calls.batch.genValues, "Replace a gen_ name by a value");
+    onCall(batch, calls, [&calls] { return batchStandard(calls.batch); });
+}
+
+void addSheetCommands(CLI::App& sheet, Calls& calls) {
+    auto& show = *sheet.add_subcommand("show", "Print a document as a table");
+    show.add_option("FILE", calls.show.file, "A document")->required();
+    show.add_flag("--formulas", calls.show.formulas, "Print formulas instead of their results");
+    onCall(show, calls, [&calls] { return showSheet(calls.show); });
+
+    auto& eval = *sheet.add_subcommand("eval", "Calculate formulas");
+    auto* text = eval.add_option("FORMULA", calls.eval.formula, "For example '=ROUND(A1/3,2)'");
+    auto* cells = eval.add_option("--cell", calls.eval.cells, "What a cell holds")
+                      ->type_name("ADDRESS=VALUE")
+                      ->allow_extra_args(false);
+    auto* lines = eval.add_flag("--jsonl", calls.eval.jsonLines,
+                                "Read formulas as JSON lines, write results as JSON lines");
+    auto* input = eval.add_option("--input", calls.eval.input, "The file of JSON lines")
+                      ->type_name("FILE");
+    lines->excludes(text)->excludes(cells);
+    input->needs(lines);
+    onCall(eval, calls, [&calls] { return evalFormula(calls.eval); });
+
+    auto& convert = *sheet.add_subcommand(
+        "convert", "Convert documents: .tws to .csv and .xlsx, .csv to .tws");
+    convert.add_option("FROM", calls.convert.from, "A document or CSV file")->required();
+    convert.add_option("TO", calls.convert.to, "The file to write")->required();
+    onCall(convert, calls, [&calls] { return convertSheet(calls.convert); });
+}
+
+ExitCode wrongCall(const CLI::App& app, const CLI::ParseError& error) {
+    std::string message = error.what();
+    while (message.ends_with('\n')) message.pop_back();
+    complain(message);
+    std::string names = "vormant";
+    const CLI::App* command = &app;
+    while (!command->get_subcommands().empty()) {
+        command = command->get_subcommands().front();
+        names += " " + command->get_name();
+    }
+    std::fprintf(stderr, "See '%s --help'.\n", names.c_str());
+    return ExitCode::wrongCall;
+}
+
+}  // namespace
+
+ExitCode runCommandLine(int argc, const char* const* argv) {
+    Calls calls;
+    CLI::App app("Connection standards and their spreadsheets, without a CAD program.", "vormant");
+    app.set_version_flag("--version", "vormant " VORMANT_VERSION, "Print the version");
+    app.add_option("--library", calls.library, "The library folder")
+        ->type_name("DIR")
+        ->envname("VORMANT_LIBRARY");
+    app.require_subcommand(1);
+    app.fallthrough();
+
+    auto& standards = *app.add_subcommand("standards", "Check, test and run connection standards");
+    standards.require_subcommand(1);
+    addStandardsReaders(standards, calls);
+    addStandardsRunners(standards, calls);
+    auto& sheet = *app.add_subcommand("sheet", "Show, calculate and convert spreadsheets");
+    sheet.require_subcommand(1);
+    addSheetCommands(sheet, calls);
+
+    try {
+        app.parse(argc, argv);
+    } catch (const CLI::Success& help) {
+        return app.exit(help) == 0 ? ExitCode::done : ExitCode::failed;
+    } catch (const CLI::ParseError& error) {
+        return wrongCall(app, error);
+    }
+    return calls.work();
+}
+
+}  // namespace cli

@@ -1,0 +1,10 @@
+// From the words of a call to the work: subcommands, options, help.
+#pragma once
+
+#include "console.h"
+
+namespace cli {
+
+ExitCode runCommandLine(int argc, const char* const* argv);
+
+}  // namespace cli

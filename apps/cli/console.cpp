@@ -1,0 +1,26 @@
+#include "console.h"
+
+#include <cstdio>
+#include <string>
+
+namespace cli {
+
+namespace {
+
+void writeError(const std::string& line) {
+    std::fwrite(line.data(), 1, line.size(), stderr);
+}
+
+}  // namespace
+
+void complain(std::string_view message) {
+    writeError("vormant: " + std::string(message) + "\n");
+}
+
+void complainAt(std::string_view file, long long line, std::string_view message) {
+    std::string text = "vormant: " + std::string(file) + ":";
+    if (line > 0) text += std::to_string(line) + ":";
+    writeError(text + " " + std::string(message) + "\n");
+}
+
+}  // namespace cli

@@ -1,0 +1,20 @@
+// What the program says to the person who called it: exit codes and the error stream. Messages go
+// out as "vormant: file:line: message", in UTF-8, one call a line.
+#pragma once
+
+#include <string_view>
+
+namespace cli {
+
+enum class ExitCode {
+    done = 0,
+    failed = 1,     ///< the call was right, the work did not succeed
+    wrongCall = 2,  ///< the call itself made no sense; nothing was begun
+};
+
+/// "vormant: message".
+void complain(std::string_view message);
+/// "vormant: file:line: message"; a line below 1 is left out.
+void complainAt(std::string_view file, long long line, std::string_view message);
+
+}  // namespace cli

@@ -1,0 +1,48 @@
+// Comma-separated values as spreadsheets exchange them: fields may stand in double quotes, a quote
+// inside is doubled, a quoted field may run over several lines. Fields are
+// UTF-8 and come back as they were written.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "io/line_source.h"
+
+namespace cli {
+
+class CsvReader {
+  public:
+    static constexpr size_t maxFields = 16384;
+
+    explicit CsvReader(LineSource& source) : m_source(source) {}
+
+    enum class Got {
+        record,
+        end,
+        bad,     ///< this record is no CSV, see error(); the next line can be read
+        failed,  ///< reading failed, see error(); nothing more comes
+    };
+
+    /// The next record that is not an empty line. Fields live until the next call.
+    Got next(std::vector<std::string_view>& fields);
+
+    long long lineNumber() const { return m_source.lineNumber(); }
+    const std::string& error() const { return m_error; }
+
+  private:
+    Got split(std::string_view record, std::vector<std::string_view>& fields);
+    Got splitQuoted(std::string_view record, std::vector<std::string_view>& fields);
+    Got bad(std::string_view message);
+    bool completeQuotes(std::string_view& record);
+
+    LineSource& m_source;
+    std::string m_error;
+    std::string m_unquoted;
+};
+
+/// Appends `field` to `line`, in quotes where it would not read back otherwise.
+void appendCsvField(std::string& line, std::string_view field);
+
+}  // namespace cli

@@ -1,0 +1,128 @@
+#include "io/output.h"
+#include "io/texts.h"
+#include "sheets/eval_record.h"
+#include "sheets/sheet_commands.h"
+
+namespace cli {
+
+namespace {
+
+bool recordFromCall(const EvalRequest& request, EvalRecord& record, std::string& error) {
+    std::string text;
+    if (!fromUtf8(request.formula, text, error)) return false;
+    record.formula = text.starts_with('=') ? text.substr(1) : text;
+    for (const std::string& option : request.cells) {
+        const auto assignment = splitAssignment(option);
+        const auto address = assignment ? cellAddress(assignment->name) : std::nullopt;
+        if (!address) {
+            error = "--cell " + option + ": write it as ADDRESS=VALUE, for example A1=10";
+            return false;
+        }
+        if (!fromUtf8(assignment->value, text, error)) return false;
+        record.cells.push_back({*address, contentFromText(text)});
+    }
+    return true;
+}
+
+// The formula stands in the last corner of the sheet, where no range that it reads meets it.
+control::CellAddress formulaPlace(const std::vector<EvalRecord::Cell>& cells) {
+    control::CellAddress place{formula::maxCols, formula::maxRows};
+    for (const auto& cell : cells)
+        if (cell.address.row >= place.row) place.row = cell.address.row - 1;
+    return place;
+}
+
+std::string plainText(const formula::Value& value) {
+    std::string text;
+    if (value.isNumber())
+        appendNumber(text, value.number());
+    else if (value.isBoolean())
+        text = value.truth() ? "TRUE" : "FALSE";
+    else if (value.isText())
+        appendUtf8(text, value.text());
+    else if (value.isError())
+        text = formula::errorText(value.error());
+    return text;
+}
+
+ExitCode evalOne(const EvalRequest& request) {
+    EvalRecord record;
+    std::string error;
+    if (!recordFromCall(request, record, error)) {
+        complain(error);
+        return ExitCode::wrongCall;
+    }
+    record.address = formulaPlace(record.cells);
+    control::Sheet sheet;
+    const auto value = evaluate(record, sheet, error);
+    if (!value) {
+        complain(error);
+        return ExitCode::failed;
+    }
+    Output output;
+    output.write(plainText(*value) + "\n");
+    return output.close() ? ExitCode::done : ExitCode::failed;
+}
+
+void appendError(std::string& line, const std::string& id, const LineSource& source,
+                 std::string_view message) {
+    line += "{\"id\":" + id + ",\"error\":";
+    appendJsonUtf8(line, "line " + std::to_string(source.lineNumber()) + ": " +
+                             std::string(message));
+    line += "}\n";
+}
+
+// Evaluates one line; false when an error record was written instead of a result.
+bool evalLine(std::string_view json, const LineSource& source, control::Sheet& sheet,
+              std::string& output) {
+    EvalRecord record;
+    std::string error;
+    std::optional<formula::Value> value;
+    if (readEvalRecord(json, record, error)) value = evaluate(record, sheet, error);
+    if (!value) {
+        appendError(output, record.id, source, error);
+        return false;
+    }
+    output += "{\"id\":" + record.id + ",\"got\":";
+    appendValueJson(output, *value);
+    output += "}\n";
+    return true;
+}
+
+ExitCode evalLines(const EvalRequest& request) {
+    std::string error;
+    auto source = LineSource::open(request.input, error);
+    if (!source) {
+        complainAt(request.input, 0, error);
+        return ExitCode::failed;
+    }
+    Output output;
+    source->whenWaiting([&] { output.flush(); });
+    control::Sheet sheet;
+    bool allDone = true;
+    std::string_view line;
+    LineSource::Got got;
+    while ((got = source->next(line)) == LineSource::Got::line ||
+           got == LineSource::Got::tooLong) {
+        if (got == LineSource::Got::tooLong) {
+            appendError(output.text(), "null", *source, "longer than 16 MiB");
+            allDone = false;
+        } else if (line.find_first_not_of(" \t") != line.npos) {
+            allDone &= evalLine(line, *source, sheet, output.text());
+        }
+        output.written();
+    }
+    if (got == LineSource::Got::failed) {
+        complainAt(source->name(), source->lineNumber(), source->error());
+        allDone = false;
+    }
+    return output.close() && allDone ? ExitCode::done : ExitCode::failed;
+}
+
+}  // namespace
+
+ExitCode evalFormula(const EvalRequest& request) {
+    return request.jsonLines ? evalLines(request) : evalOne(request);
+}
+
+}  // namespace cli

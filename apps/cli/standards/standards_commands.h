@@ -1,0 +1,45 @@
+// The "standards" subcommands. The library is open when they are called (standards/library.h).
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "console.h"
+
+namespace cli {
+
+ExitCode listStandards();
+
+struct CheckRequest {
+    std::vector<std::string> files;
+};
+ExitCode checkStandards(const CheckRequest& request);
+
+struct TestRequest {
+    std::vector<std::string> names;
+    bool all = false;
+};
+ExitCode testStandards(const TestRequest& request);
+
+struct RunRequest {
+    std::string name;
+    std::vector<std::string> values;     ///< "Name=Value"
+    std::vector<std::string> genValues;  ///< "Name=Value"
+    std::string macroFile;
+    std::string mappingKey;
+    bool write = false;  ///< the macro back into its file
+    bool trace = false;
+    bool json = false;
+};
+ExitCode runStandard(const RunRequest& request);
+
+struct BatchRequest {
+    std::string name;
+    std::string input = "-";
+    std::vector<std::string> genValues;
+    bool jsonLines = false;
+    bool header = true;  ///< write the line of names
+};
+ExitCode batchStandard(const BatchRequest& request);
+
+}  // namespace cli
