@@ -3,6 +3,8 @@
 #include <cstdio>
 #include <string>
 
+#include "platform/encodings.h"
+
 namespace cli {
 
 namespace {
@@ -21,6 +23,10 @@ void complainAt(std::string_view file, long long line, std::string_view message)
     std::string text = "vormant: " + std::string(file) + ":";
     if (line > 0) text += std::to_string(line) + ":";
     writeError(text + " " + std::string(message) + "\n");
+}
+
+void complainText(std::string_view windows1252) {
+    complain(encodings::toUtf8(windows1252));
 }
 
 }  // namespace cli

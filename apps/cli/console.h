@@ -17,4 +17,7 @@ void complain(std::string_view message);
 /// "vormant: file:line: message"; a line below 1 is left out.
 void complainAt(std::string_view file, long long line, std::string_view message);
 
+/// A message that the module made, in Windows-1252: "file:line: what: what to do".
+void complainText(std::string_view windows1252);
+
 }  // namespace cli

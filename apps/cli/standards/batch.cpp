@@ -1,0 +1,78 @@
+#include "console.h"
+#include "io/output.h"
+#include "standards/batch_input.h"
+#include "standards/batch_output.h"
+#include "standards/library.h"
+#include "standards/progress.h"
+#include "standards/standards_commands.h"
+#include "standards/value_run.h"
+#include "standards/variables.h"
+
+namespace cli {
+
+namespace {
+
+struct Count {
+    long long lines = 0;
+    long long failed = 0;
+};
+
+// Every line gets its record, in order. False when reading came to an early end.
+bool runLines(ValueRun& run, LineSource& source, BatchInput& input, BatchOutput& writer,
+              Output& output, Count& count) {
+    Progress progress(source);
+    std::string error;
+    for (;; ++count.lines) {
+        const BatchInput::Got got = input.next(run.cells(), error);
+        if (got == BatchInput::Got::end) return true;
+        if (got == BatchInput::Got::failed) {
+            complainAt(source.name(), source.lineNumber(), error);
+            return false;
+        }
+        if (got == BatchInput::Got::values && run.run(error)) {
+            writer.writeOutputs(run.cells());
+        } else {
+            ++count.failed;
+            writer.writeError(run.cells(),
+                              "line " + std::to_string(source.lineNumber()) + ": " + error);
+        }
+        output.written();
+        progress.step();
+    }
+}
+
+}  // namespace
+
+ExitCode batchStandard(const BatchRequest& request) {
+    const auto standard = findStandard(request.name);
+    if (!standard) return ExitCode::failed;
+    const auto run = ValueRun::open(*standard);
+    if (!run) return ExitCode::failed;
+    if (!setGenValues(run->data(), request.genValues)) return ExitCode::wrongCall;
+
+    std::string error;
+    auto source = LineSource::open(request.input, error);
+    if (!source) {
+        complainAt(request.input, 0, error);
+        return ExitCode::failed;
+    }
+    Output output;
+    source->whenWaiting([&] { output.flush(); });
+    const auto input = request.jsonLines ? makeJsonInput(*source) : makeCsvInput(*source);
+    if (!input->begin(run->cells(), error)) {
+        complainAt(source->name(), source->lineNumber(), error);
+        return ExitCode::failed;
+    }
+    BatchOutput writer(request.jsonLines, output.text());
+    if (request.header) writer.writeHeader(run->cells());
+
+    Count count;
+    const bool allRead = runLines(*run, *source, *input, writer, output, count);
+    const bool written = output.close();
+    if (count.failed > 0)
+        complain(std::to_string(count.failed) + " of " + std::to_string(count.lines) +
+                 " lines failed; see their error records");
+    return allRead && written && count.failed == 0 ? ExitCode::done : ExitCode::failed;
+}
+
+}  // namespace cli

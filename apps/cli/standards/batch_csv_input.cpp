@@ -1,0 +1,91 @@
+#include "io/csv.h"
+#include "io/texts.h"
+#include "standards/batch_input.h"
+#include "standards/variables.h"
+
+namespace cli {
+
+namespace {
+
+class CsvInput : public BatchInput {
+  public:
+    explicit CsvInput(LineSource& source) : m_reader(source) {}
+
+    bool begin(const TwVarCells& cells, std::string& error) override {
+        const auto got = m_reader.next(m_fields);
+        error = got == CsvReader::Got::end
+                    ? "there is no header; it names " + describe(cells, TwCellType::input)
+                    : m_reader.error();
+        return got == CsvReader::Got::record && takeHeader(cells, error);
+    }
+
+    Got next(TwVarCells& cells, std::string& error) override {
+        switch (m_reader.next(m_fields)) {
+            case CsvReader::Got::record:
+                return takeValues(cells, error) ? Got::values : Got::bad;
+            case CsvReader::Got::end:
+                return Got::end;
+            case CsvReader::Got::bad:
+                error = m_reader.error();
+                return Got::bad;
+            case CsvReader::Got::failed:
+                break;
+        }
+        error = m_reader.error();
+        return Got::failed;
+    }
+
+  private:
+    bool takeHeader(const TwVarCells& cells, std::string& error) {
+        std::vector<bool> given(static_cast<size_t>(cells.length()));
+        for (const auto field : m_fields) {
+            int index = 0;
+            std::string name;
+            if (!fromUtf8(field, name, error)) return false;
+            const bool known =
+                cells.findVarCell(name, index) == Acad::eOk && cells[index].isInput();
+            if (!known || given[static_cast<size_t>(index)]) {
+                error = "column \"" + std::string(field) + "\" " +
+                        (known ? "stands there twice" : "is no input") + "; the standard takes " +
+                        describe(cells, TwCellType::input);
+                return false;
+            }
+            given[static_cast<size_t>(index)] = true;
+            m_columns.push_back(index);
+        }
+        for (int i = 0; i < cells.length(); ++i) {
+            if (!cells[i].isInput() || given[static_cast<size_t>(i)]) continue;
+            error = "there is no column for the input ";
+            appendUtf8(error, cells[i].name());
+            return false;
+        }
+        return true;
+    }
+
+    bool takeValues(TwVarCells& cells, std::string& error) {
+        if (m_fields.size() != m_columns.size()) {
+            error = "there are " + std::to_string(m_fields.size()) + " fields, the header has " +
+                    std::to_string(m_columns.size());
+            return false;
+        }
+        for (size_t i = 0; i < m_fields.size(); ++i) {
+            TwVarCell& cell = cells[m_columns[i]];
+            if (!fromUtf8(m_fields[i], m_text, error)) return false;
+            cell.typedValue().setText(m_text);
+        }
+        return true;
+    }
+
+    CsvReader m_reader;
+    std::vector<std::string_view> m_fields;
+    std::vector<int> m_columns;  // the input of each column
+    std::string m_text;
+};
+
+}  // namespace
+
+std::unique_ptr<BatchInput> makeCsvInput(LineSource& source) {
+    return std::make_unique<CsvInput>(source);
+}
+
+}  // namespace cli

@@ -1,0 +1,114 @@
+#include "standards/library.h"
+
+#include <algorithm>
+#include <filesystem>
+
+#include "console.h"
+#include "core_api/files.h"
+#include "core_api/settings.h"
+#include "core_api/text/text_helpers.h"
+#include "io/texts.h"
+#include "platform/files.h"
+#include "platform/paths.h"
+
+namespace cli {
+
+namespace {
+
+constexpr std::string_view extension = ".tws";
+
+Vor_String standardsFolder() {
+    return gSettings.libDir() + "Connection Standards\\";
+}
+
+std::string installedLibrary() {
+    std::error_code error;
+    const auto program = std::filesystem::read_symlink("/proc/self/exe", error);
+    const auto folder = program.parent_path().parent_path() / "share" / "vormant" / "library";
+    return !error && std::filesystem::is_directory(folder, error) ? folder.string() : "";
+}
+
+std::string nameOf(const Vor_String& path) {
+    std::string name;
+    appendUtf8(name, path.view().substr(standardsFolder().str().size()));
+    name.resize(name.size() - extension.size());
+    std::replace(name.begin(), name.end(), '\\', '/');
+    return name;
+}
+
+std::string lastPart(const std::string& name) {
+    return name.substr(name.rfind('/') + 1);
+}
+
+void tellWhatThereIs(const std::string& typed, const std::vector<StandardName>& standards,
+                     const std::vector<StandardName>& matches) {
+    std::string message = "there is no standard \"" + typed + "\"";
+    if (gSettings.libDir().isEmpty()) {
+        complain(message + "; name a file, or the library with --library or VORMANT_LIBRARY");
+        return;
+    }
+    if (matches.size() > 1) message = "several standards are called \"" + typed + "\"";
+    message += matches.size() > 1 ? ":" : "; " + shownPath(gSettings.libDir()) + " has:";
+    for (const auto& standard : matches.size() > 1 ? matches : standards)
+        message += "\n  " + standard.name;
+    complain(message);
+}
+
+}  // namespace
+
+bool openLibrary(const std::string& folder) {
+    const std::string chosen = folder.empty() ? installedLibrary() : folder;
+    if (chosen.empty()) return true;
+    const auto inside = insidePath(chosen);
+    if (!inside) return false;
+    if (!files::isFolder(*inside)) {
+        complainAt(chosen, 0,
+                   "is no folder; the library is a folder that holds \"Connection "
+                   "Standards\"");
+        return false;
+    }
+    gSettings.setLibDir(*inside);
+    return true;
+}
+
+std::vector<StandardName> libraryStandards() {
+    std::vector<StandardName> standards;
+    if (gSettings.libDir().isEmpty()) return standards;
+    for (const auto& path : ObjectExportFindFilesRecursive(standardsFolder(), "*.tws"))
+        standards.push_back({nameOf(path), path});
+    return standards;
+}
+
+std::optional<StandardName> findStandard(const std::string& typed) {
+    const auto inside = insidePath(typed);
+    if (!inside) return std::nullopt;
+    if (files::exists(*inside)) return StandardName{typed, *inside};
+
+    const auto standards = libraryStandards();
+    std::vector<StandardName> matches;
+    std::string wanted = typed;
+    std::replace(wanted.begin(), wanted.end(), '\\', '/');
+    for (const auto& standard : standards) {
+        const Vor_String name(standard.name);
+        if (name.equal(wanted)) return standard;
+        if (Vor_String(lastPart(standard.name)).equal(wanted)) matches.push_back(standard);
+    }
+    if (matches.size() == 1) return matches.front();
+    tellWhatThereIs(typed, standards, matches);
+    return std::nullopt;
+}
+
+std::string shownPath(const Vor_String& path) {
+    return paths::toMachine(path);
+}
+
+std::optional<Vor_String> insidePath(const std::string& typed) {
+    auto inside = paths::toInside(typed);
+    if (!inside) {
+        complain("\"" + typed + "\" holds a character that Windows-1252 lacks");
+        return std::nullopt;
+    }
+    return Vor_String(std::move(*inside));
+}
+
+}  // namespace cli

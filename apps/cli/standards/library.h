@@ -1,0 +1,37 @@
+// The library folder that a call works with, and the standards in it. Outside, names are written
+// with slashes and in UTF-8, as people type them; inside, as the module wants them.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "core_api/text/vor_string.h"
+
+namespace cli {
+
+/// Makes `folder` the library. Empty: the one that was installed beside this program, if any; a
+/// call that names its files can do without. False, after telling why, when there is no such
+/// folder.
+bool openLibrary(const std::string& folder);
+
+struct StandardName {
+    std::string name;  ///< relative to the standards folder, no extension: "Parents/Haunch"
+    Vor_String path;
+};
+/// Every standard of the library, by name.
+std::vector<StandardName> libraryStandards();
+
+/// The standard meant by what was typed: a file, a name as libraryStandards gives it, or the last
+/// part of such a name when only one standard has it. Letter case does not matter. Nothing, after
+/// telling what there is, when there is none.
+std::optional<StandardName> findStandard(const std::string& typed);
+
+/// A path as people write it, for messages.
+std::string shownPath(const Vor_String& path);
+
+/// A typed path in its inside form. Nothing, after telling why, when it holds a character that
+/// Windows-1252 lacks.
+std::optional<Vor_String> insidePath(const std::string& typed);
+
+}  // namespace cli

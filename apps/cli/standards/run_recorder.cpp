@@ -1,0 +1,77 @@
+#include "mapping/tw_var_cells.h"
+#include "standards/run_report.h"
+
+namespace cli {
+
+RunRecorder::RunRecorder(RunReport& report)
+    : m_report(report),
+      m_observerBefore(setRunObserver(this)),
+      m_host(*this),
+      m_listener([this](const MessageBox& box) {
+          addMessage(box.lines());
+          return true;
+      }) {}
+
+RunRecorder::~RunRecorder() {
+    setRunObserver(m_observerBefore);
+}
+
+void RunRecorder::runStarted(std::string_view path, int) {
+    current().path = path;
+}
+
+void RunRecorder::equationDone(const EquationReport& equation) {
+    ReportedEquation kept;
+    kept.row = equation.row;
+    kept.column = equation.column;
+    kept.text = equation.text;
+    kept.name = equation.name;
+    kept.formula = equation.formula;
+    kept.value = equation.value;
+    kept.ok = equation.ok;
+    kept.message = equation.message;
+    kept.child = std::move(m_endedChild);
+    current().equations.push_back(std::move(kept));
+}
+
+void RunRecorder::childStarted(std::string_view path, int, int) {
+    m_children.push_back(std::make_unique<RunReport>());
+    m_children.back()->path = path;
+}
+
+void RunRecorder::childEnded(bool ok) {
+    m_endedChild = std::move(m_children.back());
+    m_endedChild->ok = ok;
+    m_children.pop_back();
+}
+
+void RunRecorder::warning(std::string_view text) {
+    addMessage({std::string(text)});
+}
+
+void RunRecorder::variablesKnown(const TwVarCells& variables) {
+    RunReport& report = current();
+    for (const auto& variable : variables) {
+        auto& list = variable.isInput()    ? report.inputs
+                     : variable.isOutput() ? report.outputs
+                                           : report.locals;
+        list.push_back({variable.name().str(), variable.value().str()});
+    }
+}
+
+void RunRecorder::runEnded(bool ok) {
+    current().ok = ok;
+    if (!ok) current().failure = lastRunFailure();
+}
+
+void RunRecorder::print(std::string_view text) {
+    if (text.ends_with('\n')) text.remove_suffix(1);
+    addMessage({std::string(text)});
+}
+
+void RunRecorder::addMessage(const std::vector<std::string>& lines) {
+    m_report.messages.push_back(lines);
+    for (const auto& child : m_children) child->messages.push_back(lines);
+}
+
+}  // namespace cli

@@ -1,0 +1,93 @@
+#include "standards/run_report.h"
+
+#include <algorithm>
+
+#include "io/json_writer.h"
+#include "platform/paths.h"
+
+namespace cli {
+
+namespace {
+
+void writeVariables(JsonWriter& json, std::string_view key,
+                    const std::vector<RunReport::Variable>& variables) {
+    json.key(key);
+    json.beginObject();
+    for (const auto& variable : variables) {
+        json.key(variable.name);
+        json.text(variable.value);
+    }
+    json.endObject();
+}
+
+void writeReport(JsonWriter& json, const RunReport& report);
+
+void writeEquation(JsonWriter& json, const ReportedEquation& equation) {
+    json.beginObject();
+    json.key("row");
+    json.number(equation.row);
+    json.key("column");
+    json.number(equation.column);
+    const auto text = [&](std::string_view key, std::string_view value) {
+        json.key(key);
+        json.text(value);
+    };
+    text("text", equation.text);
+    text("name", equation.name);
+    text("formula", equation.formula);
+    text("value", equation.value);
+    json.key("ok");
+    json.truth(equation.ok);
+    if (!equation.message.empty()) text("message", equation.message);
+    if (equation.child) {
+        json.key("child");
+        writeReport(json, *equation.child);
+    }
+    json.endObject();
+}
+
+void writeReport(JsonWriter& json, const RunReport& report) {
+    json.beginObject();
+    json.key("standard");
+    json.utf8(paths::toMachine(report.path));
+    json.key("ok");
+    json.truth(report.allWell());
+    writeVariables(json, "inputs", report.inputs);
+    writeVariables(json, "outputs", report.outputs);
+    writeVariables(json, "locals", report.locals);
+    json.key("equations");
+    json.beginArray();
+    for (const auto& equation : report.equations) writeEquation(json, equation);
+    json.endArray();
+    json.key("messages");
+    json.beginArray();
+    for (const auto& lines : report.messages) {
+        json.beginArray();
+        for (const auto& line : lines) json.text(line);
+        json.endArray();
+    }
+    if (!report.failure.isEmpty()) {
+        json.beginArray();
+        json.text(report.failure);
+        json.endArray();
+    }
+    json.endArray();
+    json.endObject();
+}
+
+}  // namespace
+
+bool RunReport::allWell() const {
+    return ok && std::all_of(equations.begin(), equations.end(), [](const auto& equation) {
+               return equation.ok && (!equation.child || equation.child->allWell());
+           });
+}
+
+std::string reportAsJson(const RunReport& report) {
+    std::string text;
+    JsonWriter json(text);
+    writeReport(json, report);
+    return text;
+}
+
+}  // namespace cli

@@ -1,0 +1,105 @@
+#include <algorithm>
+
+#include "console.h"
+#include "core_api/text/text_helpers.h"
+#include "io/texts.h"
+#include "platform/paths.h"
+#include "standards/run_report.h"
+
+namespace cli {
+
+namespace {
+
+using Variables = std::vector<RunReport::Variable>;
+
+void appendPadded(std::string& text, std::string_view windows1252, size_t width) {
+    appendUtf8(text, windows1252);
+    // A Windows-1252 byte is one character on the screen.
+    if (windows1252.size() < width) text.append(width - windows1252.size(), ' ');
+}
+
+void appendVariables(std::string& text, const std::string& indent, const char* heading,
+                     const Variables& variables) {
+    if (variables.empty()) return;
+    size_t width = 0;
+    for (const auto& variable : variables) width = std::max(width, variable.name.size());
+    text += indent + heading + "\n";
+    for (const auto& variable : variables) {
+        text += indent + "  ";
+        appendPadded(text, variable.name, width);
+        text += "  ";
+        appendUtf8(text, variable.value);
+        text += '\n';
+    }
+}
+
+void appendReport(std::string& text, const RunReport& report, std::string indent, bool trace);
+
+void appendEquation(std::string& text, const ReportedEquation& equation,
+                    const std::string& indent) {
+    const std::string cell = getAlfabet(equation.column).str() + std::to_string(equation.row);
+    text += indent + "  ";
+    appendPadded(text, cell, 5);
+    text += ' ';
+    appendUtf8(text, equation.text);
+    text += '\n' + indent + "        ";
+    if (!equation.ok) {
+        text += "failed";
+        if (!equation.message.empty()) text += ": ";
+        appendUtf8(text, equation.message);
+    } else if (equation.child) {
+        text += "calls " + paths::toMachine(equation.child->path);
+    } else {
+        text += '=';
+        appendUtf8(text, equation.formula);
+        text += "  ->  ";
+        appendUtf8(text, equation.value);
+    }
+    text += '\n';
+    if (equation.child) appendReport(text, *equation.child, indent + "          ", true);
+}
+
+void appendReport(std::string& text, const RunReport& report, std::string indent, bool trace) {
+    appendVariables(text, indent, "Inputs", report.inputs);
+    if (trace && !report.equations.empty()) {
+        text += indent + "Equations\n";
+        for (const auto& equation : report.equations) appendEquation(text, equation, indent);
+    }
+    appendVariables(text, indent, "Outputs", report.outputs);
+}
+
+void complainAboutEquations(const RunReport& report) {
+    for (const auto& equation : report.equations) {
+        if (equation.child) complainAboutEquations(*equation.child);
+        if (equation.ok) continue;
+        std::string message;
+        appendUtf8(message, equation.text);
+        message += ": ";
+        appendUtf8(message, equation.message.empty() ? "failed" : equation.message);
+        complainAt(paths::toMachine(report.path), equation.row, message);
+    }
+}
+
+}  // namespace
+
+std::string reportAsText(const RunReport& report, bool trace) {
+    std::string text = paths::toMachine(report.path) + "\n\n";
+    appendReport(text, report, "", trace);
+    return text;
+}
+
+void complainAbout(const RunReport& report) {
+    complainAboutEquations(report);
+    for (const auto& lines : report.messages) {
+        if (lines.front().starts_with("The following equation failed")) continue;
+        std::string message;
+        for (const auto& line : lines) {
+            if (!message.empty()) message += "\n  ";
+            appendUtf8(message, line);
+        }
+        complain(message);
+    }
+    if (!report.failure.isEmpty()) complainText(report.failure);
+}
+
+}  // namespace cli

@@ -1,0 +1,72 @@
+#include "standards/value_run.h"
+
+#include <algorithm>
+
+#include "console.h"
+#include "core_api/text/text_helpers.h"
+#include "io/texts.h"
+#include "mapping/start_dlg_standards_ss.h"
+#include "spread/control/formula/value.h"
+#include "standards/declarations.h"
+#include "standards/variables.h"
+
+namespace cli {
+
+namespace {
+
+// An output that shows an error must not be taken for a result.
+bool holdsError(const TwVarCell& cell) {
+    if (cell.typedValue().number()) return false;
+    const std::string_view text = cell.value();
+    if (isNumeric(cell.valueType())) return !text.empty() && !isNumber(text);
+    return text.starts_with('#') && formula::errorFromText(text).has_value();
+}
+
+}  // namespace
+
+void FailureWatch::note(const EquationReport& equation) {
+    m_failure = "row " + std::to_string(equation.row) + ": ";
+    appendUtf8(m_failure, equation.text);
+    m_failure += ": ";
+    appendUtf8(m_failure, equation.message.empty() ? "failed" : equation.message);
+}
+
+ToldOnce::ToldOnce()
+    : m_listener([this](const MessageBox& box) {
+          if (std::find(m_told.begin(), m_told.end(), box.text) == m_told.end()) {
+              m_told.push_back(box.text);
+              complainText(box.text);
+          }
+          return true;
+      }) {}
+
+std::unique_ptr<ValueRun> ValueRun::open(const StandardName& standard) {
+    Vor_String failure;
+    const auto declared = listDeclarations(standard.path, failure);
+    if (!declared) {
+        complainText(failure);
+        return nullptr;
+    }
+    return std::unique_ptr<ValueRun>(new ValueRun(requestFor(standard.path, *declared)));
+}
+
+bool ValueRun::run(std::string& error) {
+    m_watch.reset();
+    if (!StartDlgStandardsSS(m_data)) {
+        error.clear();
+        appendUtf8(error, lastRunFailure());
+        return false;
+    }
+    error = m_watch.failure();
+    if (!error.empty()) return false;
+    for (const auto& cell : m_data.varCells) {
+        if (!cell.isOutput() || !holdsError(cell)) continue;
+        appendUtf8(error, cell.name());
+        error += " is ";
+        appendUtf8(error, cell.value());
+        return false;
+    }
+    return true;
+}
+
+}  // namespace cli

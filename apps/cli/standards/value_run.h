@@ -1,0 +1,70 @@
+// A standard that is run on values again and again: check problems and batches. Everything that a
+// run needs is made once; a run itself fills in values and looks at what came back.
+#pragma once
+
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "mapping/tw_dlg_standards_data.h"
+#include "platform/window/message_box.h"
+#include "standards/library.h"
+#include "standards/run_observer.h"
+
+namespace cli {
+
+/// Notes the first equation that failed in a run or in a child of it.
+class FailureWatch : public RunObserver {
+  public:
+    FailureWatch() : m_before(setRunObserver(this)) {}
+    ~FailureWatch() override { setRunObserver(m_before); }
+    FailureWatch(const FailureWatch&) = delete;
+    FailureWatch& operator=(const FailureWatch&) = delete;
+
+    void reset() { m_failure.clear(); }
+    /// "row 9: Width=Gap+: why"; empty when all went well.
+    const std::string& failure() const { return m_failure; }
+
+  private:
+    void equationDone(const EquationReport& equation) override {
+        if (!equation.ok && m_failure.empty()) note(equation);
+    }
+    void note(const EquationReport& equation);
+
+    RunObserver* m_before;
+    std::string m_failure;  // UTF-8
+};
+
+/// Message boxes of runs that are alike: each text is told once.
+class ToldOnce {
+  public:
+    ToldOnce();
+
+  private:
+    std::vector<std::string> m_told;
+    MessageListenerScope m_listener;
+};
+
+class ValueRun {
+  public:
+    /// Nothing, after telling why, when the standard cannot be read.
+    static std::unique_ptr<ValueRun> open(const StandardName& standard);
+
+    /// Inputs and outputs. Fill in the inputs, run, read the outputs.
+    TwVarCells& cells() { return m_data.varCells; }
+    TwDlgStandardsData& data() { return m_data; }
+
+    /// False with the reason (UTF-8) when the run or an equation in it failed, or when an output
+    /// came back as an error.
+    bool run(std::string& error);
+
+  private:
+    explicit ValueRun(TwDlgStandardsData data) : m_data(std::move(data)) {}
+
+    TwDlgStandardsData m_data;
+    FailureWatch m_watch;
+    ToldOnce m_told;
+};
+
+}  // namespace cli

@@ -1,0 +1,29 @@
+// The variables of a standard as a caller sees them: given by name, handed to the run by position.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "mapping/tw_dlg_standards_data.h"
+
+namespace cli {
+
+/// "Column (String), Thickness (Double)", or "nothing".
+std::string describe(const TwVarCells& variables, TwCellType kind);
+
+/// The request of a run on values: the standard's inputs and outputs without values.
+TwDlgStandardsData requestFor(const Vor_String& path, const TwVarCells& declared);
+
+/// Why `value` cannot be the value of such a variable; empty when it can.
+std::string refusal(const TwVarCell& variable, std::string_view value);
+
+/// Fills the inputs of `cells` from "Name=Value" texts. False, after telling which name is not
+/// declared, given twice or not given, and what there is.
+bool setInputs(TwVarCells& cells, const std::vector<std::string>& assignments);
+
+/// Takes the "Name=Value" texts over as gen variables; false after telling which is none.
+bool setGenValues(TwDlgStandardsData& data, const std::vector<std::string>& assignments);
+
+}  // namespace cli
