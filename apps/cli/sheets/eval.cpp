@@ -1,3 +1,4 @@
+#include "io/line_source.h"
 #include "io/output.h"
 #include "io/texts.h"
 #include "sheets/eval_record.h"
