@@ -106,11 +106,13 @@ bool Case::hasTag(std::string_view tag) const {
 }
 
 std::optional<std::string> folder() {
+    const std::string source = VORMANT_SOURCE_DIR;
     const char* named = std::getenv("VORMANT_CONFORMANCE");
-    const std::filesystem::path path =
-        named ? named : std::filesystem::path(VORMANT_SOURCE_DIR) / "../shared/conformance";
-    if (!std::filesystem::is_directory(path)) return std::nullopt;
-    return path.string();
+    for (const std::string& path :
+         {named ? std::string(named) : std::string(), source + "/../shared/conformance",
+          source + "/../../shared/conformance"})
+        if (std::filesystem::is_directory(path)) return path;
+    return std::nullopt;
 }
 
 std::vector<Case> load(const std::string& folder) {
@@ -134,8 +136,8 @@ std::vector<std::string> calledFunctions(std::string_view formula) {
     bool inText = false;
     for (const char c : formula) {
         if (c == '"') inText = !inText;
-        const bool isWordCharacter = std::isalnum(static_cast<unsigned char>(c)) || c == '.' ||
-                                     c == '_' || c < 0;
+        const bool isWordCharacter =
+            std::isalnum(static_cast<unsigned char>(c)) || c == '.' || c == '_' || c < 0;
         if (!inText && c == '(' && !word.empty()) names.push_back(encodings::uppered(word));
         if (inText || !isWordCharacter)
             word.clear();
