@@ -143,10 +143,10 @@ class CellStore {
     bool hasDirty(const Area& area) const;
     bool hasFormula(const Area& area) const;
 
-    /// Calls visit(row, col, cell) for every cell of `area` that is not blank, column by column
-    /// and downwards. Costs what is stored, not what the area spans.
+    /// Calls visit(row, col, cell) for every cell of `area` that is stored, blank ones among them,
+    /// column by column and downwards. Costs what is stored, not what the area spans.
     template <class Visit>
-    void each(const Area& area, Visit&& visit) const {
+    void eachStored(const Area& area, Visit&& visit) const {
         const int lastCol = std::min<int>(area.col2, static_cast<int>(m_columns.size()) - 1);
         for (int col = area.col1; col <= lastCol; ++col) {
             const auto& blocks = m_columns[static_cast<size_t>(col)];
@@ -156,12 +156,18 @@ class CellStore {
                 const int end = std::min(lastRow, ((row - 1) | (blockRows - 1)) + 1);
                 if (const Block* block = blocks[static_cast<size_t>(row - 1) >> blockShift].get()) {
                     const Cell* cell = &block->cells[rowInBlock(row)];
-                    for (; row <= end; ++row, ++cell)
-                        if (!cell->isBlank()) visit(row, col, *cell);
+                    for (; row <= end; ++row, ++cell) visit(row, col, *cell);
                 }
                 row = end + 1;
             }
         }
+    }
+    /// The same without blank cells.
+    template <class Visit>
+    void each(const Area& area, Visit&& visit) const {
+        eachStored(area, [&](int row, int col, const Cell& cell) {
+            if (!cell.isBlank()) visit(row, col, cell);
+        });
     }
 
     /// The last column and row that hold anything; 0 when nothing does.

@@ -42,8 +42,11 @@ class Calculation {
     void each(const Value& argument, Visit&& visit) const {
         if (argument.isArea()) {
             checkDirty(argument.area());
-            m_cells->each(argument.area(), [&](int, int, const control::Cell& cell) {
-                if (cell.type != ValueType::empty) visit(cell.value());
+            m_cells->eachStored(argument.area(), [&](int, int, const control::Cell& cell) {
+                if (cell.type == ValueType::number) [[likely]]
+                    visit(Value(cell.number));
+                else if (cell.type != ValueType::empty)
+                    visit(cell.value());
             });
         } else if (argument.isArray()) {
             const Array& a = argument.array();
