@@ -15,6 +15,12 @@ ErrorStatus Vor_DbMacro::addBaseProf(const Vor_PrPl& profile) {
     return Acad::eOk;
 }
 
+ErrorStatus Vor_DbMacro::setBaseProf(int index, const Vor_PrPl& profile) {
+    if (!m_baseProfs.isIndex(index) || !arePlacementTextsGood(profile)) return Acad::eInvalidInput;
+    m_baseProfs[index] = profile;
+    return Acad::eOk;
+}
+
 ErrorStatus getBaseProf(const Vor_DbMacro* macro, int index, const Vor_PrPl*& profile) {
     const Vor_PrPl* found = macro ? macro->baseProf(index) : nullptr;
     if (!found) return Acad::eInvalidInput;

@@ -24,6 +24,10 @@ class VORMANT_API Vor_DbMacro {
     /// The name in `profile` is not used. eInvalidInput for a text that isMacroText refuses, or
     /// beyond maxMacroItems.
     ErrorStatus addBaseProf(const Vor_PrPl& profile);
+    /// eInvalidInput, with the old one kept, for a bad index or a refused text.
+    ErrorStatus setBaseProf(int index, const Vor_PrPl& profile);
+    /// Takes the place of the macro that is there, if any.
+    void setMacro(Vor_Macro macro) { m_macro = std::move(macro); }
 
     bool operator==(const Vor_DbMacro&) const = default;
 

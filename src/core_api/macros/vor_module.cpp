@@ -54,6 +54,15 @@ ErrorStatus Vor_Module::setVariable(std::string_view name, double value) {
     return Acad::eOk;
 }
 
+ErrorStatus Vor_Module::setVariable(const ConstraintVariable& variable) {
+    ConstraintVariable* old = findNamed(m_variables, variable.name);
+    if (!old || !isMacroNumber(variable.value)) return Acad::eInvalidInput;
+    Vor_String name = old->name;  // as it was spelt when it was added
+    *old = variable;
+    old->name = std::move(name);
+    return Acad::eOk;
+}
+
 ErrorStatus Vor_Module::setCutOffset(std::string_view name, TwCutOffsetType offset, double value) {
     CutConstraint* cut = findNamed(m_cuts, name);
     if (!cut || !hasCutOffset(cut->type, offset)) return Acad::eInvalidInput;
@@ -72,6 +81,12 @@ ErrorStatus Vor_Module::setFixed(std::string_view name, bool fixed) {
 bool Vor_Module::operator==(const Vor_Module& other) const {
     return type() == other.type() && m_name == other.m_name && m_groupName == other.m_groupName &&
            m_variables == other.m_variables && m_cuts == other.m_cuts && hasSameContent(other);
+}
+
+Vor_PlainModule::Vor_PlainModule(std::string_view name, Vor_ModuleType type)
+    : Vor_Module(name), m_type(type) {
+    const bool isPlain = type == Vor_ModuleType::plate || type == Vor_ModuleType::weld;
+    if (!isPlain) m_type = Vor_ModuleType::other;
 }
 
 std::unique_ptr<Vor_Module> Vor_PlainModule::clone() const {

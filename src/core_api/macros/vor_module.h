@@ -41,6 +41,8 @@ class VORMANT_API Vor_Module {
 
     /// eInvalidInput, with the old value kept, for an unknown name or a value out of range.
     ErrorStatus setVariable(std::string_view name, double value);
+    /// Puts `variable` with its flags in the place of the one of its name.
+    ErrorStatus setVariable(const ConstraintVariable& variable);
     ErrorStatus setCutOffset(std::string_view name, TwCutOffsetType offset, double value);
     /// For a variable with a flex/fix button; eInvalidInput for any other.
     ErrorStatus setFixed(std::string_view name, bool fixed);
@@ -64,8 +66,8 @@ class VORMANT_API Vor_Module {
 /// A module that has variables and cuts only: plates, welds and all else.
 class VORMANT_API Vor_PlainModule : public Vor_Module {
   public:
-    /// `type` is other, plate or weld.
-    Vor_PlainModule(std::string_view name, Vor_ModuleType type) : Vor_Module(name), m_type(type) {}
+    /// `type` is plate, weld or other; the types of the classes with more to them count as other.
+    Vor_PlainModule(std::string_view name, Vor_ModuleType type);
     Vor_ModuleType type() const override { return m_type; }
     std::unique_ptr<Vor_Module> clone() const override;
 
