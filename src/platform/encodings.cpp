@@ -13,18 +13,6 @@ constexpr std::array<char16_t, 32> c1Characters = {
     0x2039, 0x0152, 0x008D, 0x017D, 0x008F, 0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
     0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
 
-char32_t characterOf(unsigned char byte) {
-    return byte >= 0x80 && byte < 0xA0 ? c1Characters[byte - 0x80u] : byte;
-}
-
-std::optional<char> byteOf(char32_t character) {
-    if (character < 0x80 || (character >= 0xA0 && character <= 0xFF))
-        return static_cast<char>(character);
-    const auto* found = std::find(c1Characters.begin(), c1Characters.end(), character);
-    if (found == c1Characters.end()) return std::nullopt;
-    return static_cast<char>(0x80 + (found - c1Characters.begin()));
-}
-
 // Reads the multi-byte character at `position` and moves past it. Nothing for malformed, overlong
 // or surrogate sequences.
 std::optional<char32_t> takeCharacter(std::string_view utf8, size_t& position) {
@@ -55,6 +43,18 @@ std::optional<char32_t> takeCharacter(std::string_view utf8, size_t& position) {
 }
 
 }  // namespace
+
+char32_t characterOf(unsigned char byte) {
+    return byte >= 0x80 && byte < 0xA0 ? c1Characters[byte - 0x80u] : byte;
+}
+
+std::optional<char> byteOf(char32_t character) {
+    if (character < 0x80 || (character >= 0xA0 && character <= 0xFF))
+        return static_cast<char>(character);
+    const auto* found = std::find(c1Characters.begin(), c1Characters.end(), character);
+    if (found == c1Characters.end()) return std::nullopt;
+    return static_cast<char>(0x80 + (found - c1Characters.begin()));
+}
 
 std::string lowered(std::string_view text) {
     std::string result(text);

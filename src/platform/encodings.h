@@ -58,6 +58,10 @@ VORMANT_API int compareFolded(std::string_view a, std::string_view b);
 /// A hash that is the same for texts that differ only in letter case.
 VORMANT_API std::uint32_t hashFolded(std::string_view text);
 
+/// The Unicode character that a byte stands for, and the byte of a character, if it has one.
+VORMANT_API char32_t characterOf(unsigned char byte);
+VORMANT_API std::optional<char> byteOf(char32_t character);
+
 /// Why a UTF-8 text could not be taken over.
 struct VORMANT_API Utf8Error {
     size_t position = 0;     ///< byte position in the UTF-8 text, from 0

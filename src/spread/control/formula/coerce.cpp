@@ -6,64 +6,10 @@
 #include <cmath>
 #include <cstring>
 
+#include "spread/control/formula/decimal.h"
+
 namespace formula {
 namespace {
-
-/// A decimal number d.ddd * 10^exponent, its digits without trailing zeros.
-struct Decimal {
-    std::array<char, 32> digits;
-    int count = 0;
-    int exponent = 0;
-};
-
-/// Splits what to_chars wrote in scientific form ("1.25e-07").
-Decimal splitScientific(const char* text, const char* end) {
-    Decimal decimal;
-    for (; text != end && *text != 'e'; ++text)
-        if (*text != '.') decimal.digits[static_cast<size_t>(decimal.count++)] = *text;
-    if (text != end) ++text;
-    if (text != end && *text == '+') ++text;
-    std::from_chars(text, end, decimal.exponent);
-    while (decimal.count > 1 && decimal.digits[static_cast<size_t>(decimal.count - 1)] == '0')
-        --decimal.count;
-    return decimal;
-}
-
-/// Takes the last digit away, rounding half up.
-void dropDigit(Decimal& decimal) {
-    auto& digits = decimal.digits;
-    const bool up = digits[static_cast<size_t>(--decimal.count)] >= '5';
-    auto last = static_cast<size_t>(decimal.count - 1);
-    if (up) {
-        while (last > 0 && digits[last] == '9') --last;
-        if (digits[last] == '9') {
-            digits[last] = '1';
-            ++decimal.exponent;
-        } else {
-            ++digits[last];
-        }
-        decimal.count = static_cast<int>(last) + 1;
-    }
-    while (decimal.count > 1 && digits[static_cast<size_t>(decimal.count - 1)] == '0')
-        --decimal.count;
-}
-
-/// `magnitude` > 0 in at most 15 significant digits; beyond E+98 and E-98 the programs keep 14.
-Decimal toDecimal(double magnitude) {
-    char text[48];
-    // The shortest text is several times faster to make than one of a given length, and is the
-    // same where it has no more digits than that.
-    auto written =
-        std::to_chars(text, text + sizeof text, magnitude, std::chars_format::scientific);
-    Decimal decimal = splitScientific(text, written.ptr);
-    if (decimal.count > 15) {
-        written =
-            std::to_chars(text, text + sizeof text, magnitude, std::chars_format::scientific, 14);
-        decimal = splitScientific(text, written.ptr);
-    }
-    if (decimal.count == 15 && std::abs(decimal.exponent) >= 99) dropDigit(decimal);
-    return decimal;
-}
 
 char* append(char* out, const char* digits, int count) {
     std::memcpy(out, digits, static_cast<size_t>(count));
@@ -235,7 +181,8 @@ size_t writeNumber(double number, char (&buffer)[numberTextSize]) {
         return 1;
     }
     if (number < 0) *out++ = '-';
-    const Decimal decimal = toDecimal(magnitude);
+    Decimal decimal = toDecimal(magnitude);
+    if (std::abs(decimal.exponent) >= 99) keepDigits(decimal, 14);
     // The programs write out what fits 20 characters, the sign aside.
     const int fixedSize =
         decimal.exponent < 0 ? 1 - decimal.exponent + decimal.count : decimal.exponent + 1;
