@@ -12,9 +12,9 @@ struct FunctionTable {
     std::unordered_map<std::string_view, const FunctionSpec*> byName;
 
     FunctionTable() {
-        for (const auto family :
-             {mathFunctions, trigonometryFunctions, statisticsFunctions, matrixFunctions,
-              logicFunctions, lookupFunctions, informationFunctions, engineeringFunctions}) {
+        for (const auto family : {mathFunctions, trigonometryFunctions, statisticsFunctions,
+                                  matrixFunctions, logicFunctions, lookupFunctions, textFunctions,
+                                  informationFunctions, dateFunctions, engineeringFunctions}) {
             for (const FunctionSpec& spec : family()) {
                 all.push_back(&spec);
                 byName.emplace(spec.name, &spec);
