@@ -59,7 +59,7 @@ TEST_F(SheetTest, RefusedFormulasChangeNothing) {
     for (const std::string& text :
          {std::string("1+"), std::string("NOSUCH(1)"), std::string("Gap*2"), std::string("(1"),
           std::string("1 2"), std::string("\"open"), std::string("A1:"), std::string("XFE1"),
-          std::string("A1048577"), std::string("{1,2;3}"), std::string("1)"), std::string(),
+          std::string("A1048577"), std::string("{1,2;3}"), std::string("TRUE(1)"), std::string("1)"), std::string(),
           deep + "1" + std::string(300, ')'), std::string(100000, '('),
           std::string(100000, '-') + "1", std::string(40000, '1')}) {
         EXPECT_FALSE(formula(1, 1, text)) << text.substr(0, 40);

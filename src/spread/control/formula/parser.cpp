@@ -549,6 +549,7 @@ class Parser {
 }  // namespace
 
 char parameterClass(std::string_view params, size_t index) {
+    if (params.empty()) return 'v';
     const size_t open = params.find('(');
     if (open == std::string_view::npos) return params[std::min(index, params.size() - 1)];
     if (index < open) return params[index];
