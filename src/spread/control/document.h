@@ -3,21 +3,26 @@
 //
 //   vormant-sheet 1
 //   size COLUMNS ROWS
-//   option NAME VALUE
-//   look N KIND key=value …          only looks in use; texts quoted, with \" \\ \n \t \r
-//   colwidth A 24                    pixels; also rowheight, hidecol, hiderow, columnlook …
-//   header A "text                   rowheader 3 "text     corner "text
-//   span A1 COLUMNS ROWS
-//   tag B2 "text                     note B2 "text
+//   option NAME VALUE               refstyle, columnheaders, rowheaders, gridtype, colours
+//   look N KIND key=value …         only looks in use; texts in quotes
+//   colwidth A 24                   pixels; "all" for the usual width, "header" for the header
+//   hidecol A                       column's; rows likewise: rowheight 3 18, hiderow 3
+//   headerlook A @1                 "all" for those without their own; rowheaderlook 3 @1
+//   header A "text                  rowheader 3 "text
+//   collook A @2                    cells of the column that have no look of their own
+//   corner "text
+//   span A1 COLUMNS ROWS            in addresses "-" is the header column and 0 the header row
+//   tag B2 "text                    note B2 "text
 //   cells
-//   A1 "Input                        a text runs to the end of the line
-//   B2 @1 12.5                       look, value: number, "text, TRUE, FALSE, #error
-//   C3 @1 =A1*B1<TAB>25              formula, tab, result; an array formula is ={…}
-//   D4 @2                            look only
-//   end COUNT                        cell lines; guards against truncation
+//   A1 "Input                       a text runs to the end of the line; \\ \n \t \r stand for
+//   B2 @1 12.5                      themselves. Other values: number, TRUE, FALSE, #error
+//   C3 @1 =A1*B1<TAB>25             formula, tab, result; an array formula is ={=…}
+//   D4 @2                           look only
+//   end COUNT                       of cell lines; guards against truncation
 //
-// Cells stand by row, then column. Numbers are the shortest text that reads back to the same
-// double. Reading is all or nothing. A formula that calls an unknown function is kept.
+// Cells stand by row, then column, when written; they are read in any order. Numbers are the
+// shortest text that reads back to the same double. Reading is all or nothing. A formula that
+// calls an unknown function is kept.
 #pragma once
 
 #include <cstdint>
@@ -66,6 +71,9 @@ std::shared_ptr<Document> readDocument(std::string_view text, std::string_view n
 /// The document at `path` (host style). One that was read before and whose file is unchanged
 /// (size and modification time) comes from a bounded store of this process. Null with `error`.
 std::shared_ptr<const Document> loadDocument(std::string_view path, std::string& error);
+
+/// Loads it into `grid`. False with `error`, and the grid as it was.
+bool loadInto(Grid& grid, std::string_view path, std::string& error);
 
 /// The text of a grid's document.
 std::string writeDocument(const Grid& grid);

@@ -1,0 +1,227 @@
+// From a grid to its document's text.
+#include <array>
+#include <vector>
+
+#include "platform/files.h"
+#include "spread/control/document.h"
+#include "spread/control/document_looks.h"
+#include "spread/control/document_text.h"
+#include "spread/control/grid.h"
+
+namespace control {
+namespace {
+
+class DocumentWriter {
+  public:
+    explicit DocumentWriter(const Grid& grid)
+        : m_grid(grid), m_sides(grid.sides()), m_numbers(grid.looks().size(), 0) {}
+
+    std::string write() {
+        m_out << "vormant-sheet 1\nsize " << m_grid.cols() << ' ' << m_grid.rows() << '\n';
+        writeOptions();
+        writeLooks();
+        writeBand(m_sides.cols, "col", "header");
+        writeBand(m_sides.rows, "row", "rowheader");
+        writeSpansAndTexts();
+        m_out << "cells\n";
+        eachCell([this](int col, int row, const Cell& cell) { writeCell(col, row, cell); });
+        m_out << "end " << m_cellCount << '\n';
+        return m_out.take();
+    }
+
+  private:
+    // Calls visit(col, row, cell) row by row. The store lies by columns, so that a stripe of rows
+    // is sorted into its rows first; costs what is stored, not what the sheet spans.
+    template <class Visit>
+    void eachCell(Visit&& visit) {
+        const CellStore& cells = m_grid.sheet().cells();
+        const int lastRow = std::min(m_grid.rows(), cells.lastRow());
+        const auto lastCol = static_cast<uint16_t>(std::min(m_grid.cols(), cells.lastCol()));
+        if (lastRow == 0 || lastCol == 0) return;
+        std::array<std::vector<std::pair<int, const Cell*>>, CellStore::blockRows> stripe;
+        for (int first = 1; first <= lastRow; first += CellStore::blockRows) {
+            const int last = std::min(first + CellStore::blockRows - 1, lastRow);
+            cells.each(Area{first, last, 1, lastCol}, [&](int row, int col, const Cell& cell) {
+                stripe[static_cast<size_t>(row - first)].emplace_back(col, &cell);
+            });
+            for (int row = first; row <= last; ++row) {
+                auto& line = stripe[static_cast<size_t>(row - first)];
+                for (const auto& [col, cell] : line) visit(col, row, *cell);
+                line.clear();
+            }
+        }
+    }
+
+    void writeOption(std::string_view name, int value) {
+        m_out << "option " << name << ' ' << value << '\n';
+    }
+    void writeColour(std::string_view name, Colour colour) {
+        if (colour == automatic) return;
+        m_out << "option " << name << ' ' << static_cast<double>(colour) << '\n';
+    }
+
+    void writeOptions() {
+        if (m_sides.referenceStyle != 0) writeOption("refstyle", m_sides.referenceStyle);
+        if (!m_sides.columnHeaders) writeOption("columnheaders", 0);
+        if (!m_sides.rowHeaders) writeOption("rowheaders", 0);
+        if (m_sides.gridType != 0) writeOption("gridtype", m_sides.gridType);
+        writeColour("gridcolour", m_sides.gridColour);
+        writeColour("greyarea", m_sides.greyArea);
+        writeColour("lockedcolour", m_sides.lockedColour);
+        writeColour("selectionbackground", m_sides.selectionBackground);
+        writeColour("selectiontext", m_sides.selectionText);
+    }
+
+    void writeLooks() {
+        const auto use = [this](LookIndex look) { m_numbers[look] = 1; };
+        use(m_sides.cols.look);
+        use(m_sides.rows.look);
+        for (const auto& [index, look] : m_sides.cols.looks) use(look);
+        for (const auto& [index, look] : m_sides.rows.looks) use(look);
+        for (const LookIndex look : m_sides.columnLooks) use(look);
+        m_grid.sheet().cells().each(Area{1, formula::maxRows, 1, formula::maxCols},
+                                    [&](int, int, const Cell& cell) { use(cell.look); });
+        m_numbers[inheritedLook] = 0;
+        int number = 0;
+        for (size_t look = 0; look < m_numbers.size(); ++look) {
+            if (m_numbers[look] == 0) continue;
+            m_numbers[look] = ++number;
+            m_out << "look " << number << ' ';
+            writeLook(m_out, m_grid.looks()[static_cast<LookIndex>(look)]);
+            m_out << '\n';
+        }
+    }
+
+    void writeName(bool isCol, int index) {
+        if (isCol)
+            m_out.column(index);
+        else
+            m_out << index;
+    }
+
+    void writeBand(const Band& band, std::string_view what, std::string_view header) {
+        const bool isCol = what == "col";
+        const std::string_view size = isCol ? "colwidth " : "rowheight ";
+        const SideTables standard;
+        const Band& usual = isCol ? standard.cols : standard.rows;
+        if (band.defaultSize != usual.defaultSize)
+            m_out << size << "all " << band.defaultSize << '\n';
+        // The size across: the header column's width lies with the rows' band.
+        if (band.headerSize != usual.headerSize)
+            m_out << (isCol ? "rowheight " : "colwidth ") << "header " << band.headerSize << '\n';
+        for (const auto& [index, pixels] : band.sizes) {
+            m_out << size;
+            writeName(isCol, index);
+            m_out << ' ' << pixels << '\n';
+        }
+        for (const int index : band.hidden) {
+            m_out << "hide" << what << ' ';
+            writeName(isCol, index);
+            m_out << '\n';
+        }
+        if (band.look != inheritedLook)
+            m_out << header << "look all @" << m_numbers[band.look] << '\n';
+        for (const auto& [index, look] : band.looks) {
+            m_out << header << "look ";
+            writeName(isCol, index);
+            m_out << " @" << m_numbers[look] << '\n';
+        }
+        for (const auto& [index, text] : band.texts) {
+            m_out << header << ' ';
+            writeName(isCol, index);
+            m_out << " \"";
+            m_out.escaped(text);
+            m_out << '\n';
+        }
+    }
+
+    void writeTexts(std::string_view what, const CellTexts& texts) {
+        for (const auto& [key, text] : texts) {
+            m_out << what << ' ';
+            m_out.address(keyCol(key), keyRow(key));
+            m_out << " \"";
+            m_out.escaped(text);
+            m_out << '\n';
+        }
+    }
+
+    void writeSpansAndTexts() {
+        for (size_t col = 1; col < m_sides.columnLooks.size(); ++col) {
+            if (m_sides.columnLooks[col] == inheritedLook) continue;
+            m_out << "collook ";
+            m_out.column(static_cast<int>(col));
+            m_out << " @" << m_numbers[m_sides.columnLooks[col]] << '\n';
+        }
+        if (!m_sides.cornerText.empty()) {
+            m_out << "corner \"";
+            m_out.escaped(m_sides.cornerText);
+            m_out << '\n';
+        }
+        for (const Span& span : m_sides.spans.all()) {
+            m_out << "span ";
+            m_out.address(span.col, span.row);
+            m_out << ' ' << span.cols << ' ' << span.rows << '\n';
+        }
+        writeTexts("tag", m_sides.tags);
+        writeTexts("note", m_sides.notes);
+    }
+
+    void writeValue(const Cell& cell) {
+        switch (cell.type) {
+            case ValueType::number:
+                m_out << cell.number;
+                break;
+            case ValueType::text:
+                m_out << '"';
+                m_out.escaped(cell.text->view());
+                break;
+            case ValueType::boolean:
+                m_out << (cell.truth ? "TRUE" : "FALSE");
+                break;
+            case ValueType::error:
+                m_out << formula::errorText(cell.error);
+                break;
+            default:
+                break;
+        }
+    }
+
+    void writeCell(int col, int row, const Cell& cell) {
+        ++m_cellCount;
+        m_out.address(col, row);
+        if (cell.look != inheritedLook) m_out << " @" << m_numbers[cell.look];
+        if (cell.formula != 0) {
+            const bool isArray = m_grid.sheet().isArrayFormula(col, row);
+            m_out << (isArray ? " ={=" : " =");
+            m_out.escaped(m_grid.sheet().formula(col, row).value_or(""));
+            if (isArray) m_out << '}';
+            // A result that is older than what it was made from is left for the next calculation.
+            if (cell.type != ValueType::empty && !cell.dirty) {
+                m_out << '\t';
+                writeValue(cell);
+            }
+        } else if (cell.type != ValueType::empty) {
+            m_out << ' ';
+            writeValue(cell);
+        }
+        m_out << '\n';
+    }
+
+    const Grid& m_grid;
+    const SideTables& m_sides;
+    DocumentOutput m_out;
+    std::vector<int> m_numbers;  // by look: its number in the document
+    int m_cellCount = 0;
+};
+
+}  // namespace
+
+std::string writeDocument(const Grid& grid) {
+    return DocumentWriter(grid).write();
+}
+
+bool saveDocument(const Grid& grid, std::string_view path, std::string& error) {
+    return files::writeWhole(path, writeDocument(grid), error);
+}
+
+}  // namespace control
