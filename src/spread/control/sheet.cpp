@@ -43,6 +43,7 @@ Sheet& Sheet::operator=(const Sheet& other) {
     m_calculation.m_unsettled = other.m_calculation.m_unsettled;
     m_order = other.m_order;
     m_volatile = other.m_volatile;
+    m_unknown = other.m_unknown;
     m_changed = other.m_changed;
     m_custom = other.m_custom;
     m_style = other.m_style;
@@ -67,6 +68,7 @@ void Sheet::clear() {
     m_order.clear();
     m_unlinked.clear();
     m_volatile.clear();
+    m_unknown.clear();
     m_changed.clear();
     m_dependents.clear();
     m_liveFormulas = 0;
@@ -154,6 +156,7 @@ void Sheet::loadFormula(int col, int row, std::string_view text, const Value& ca
     cell.formula = newSlot(col, row, program, TextBlock::make(text));
     m_cells.setValue(cell, isKnown ? cached : Value(ErrorCode::name));
     m_slots[cell.formula].isArray = isArray;
+    if (!isKnown) m_unknown.push_back(cell.formula);
     if (!isKnown || !cached.isEmpty()) return;
     m_cells.setDirty(col, row, cell, true);
     m_dirtied.push_back(cell.formula);
@@ -232,6 +235,26 @@ void Sheet::setReferenceStyle(ReferenceStyle style) {
 
 void Sheet::addCustomFunction(const formula::CustomFunction* function) {
     m_custom.insert_or_assign(std::string_view(function->name), function);
+    if (!m_unknown.empty()) compileUnknown();
+}
+
+void Sheet::compileUnknown() {
+    std::erase_if(m_unknown, [this](uint32_t id) {
+        FormulaSlot& slot = m_slots[id];
+        if (!slot.live) return true;
+        ParseError error;
+        ParseSettings settings = parseSettings(slot.col, slot.row);
+        settings.arrayFormula = slot.isArray;
+        const ProgramRef program = formula::parse(slot.text->view(), settings, error);
+        if (!program) return false;
+        slot.program = program;
+        slot.linked = false;
+        m_unlinked.push_back(id);
+        if (program->isVolatile()) m_volatile.push_back(id);
+        m_cells.setDirty(slot.col, slot.row, *m_cells.find(slot.col, slot.row), true);
+        m_dirtied.push_back(id);
+        return true;
+    });
 }
 
 const formula::CustomFunction* Sheet::customFunction(std::string_view upperName) const {

@@ -68,7 +68,8 @@ class Sheet {
     formula::ReferenceStyle referenceStyle() const { return m_style; }
     void setReferenceStyle(formula::ReferenceStyle style);
 
-    /// Registers a function for formulas set from now on.
+    /// Registers a function for formulas set from now on, and for loaded ones that lacked it:
+    /// those become dirty.
     void addCustomFunction(const formula::CustomFunction* function);
     const formula::CustomFunction* customFunction(std::string_view upperName) const;
     formula::ParseSettings parseSettings(int col, int row) const;
@@ -116,6 +117,7 @@ class Sheet {
     void removeFormula(int col, int row, Cell& cell);
     void dropSlot(uint32_t id);
     void forgetDead();
+    void compileUnknown();
     void place(int col, int row, const formula::ProgramRef& program, TextBlock* text, bool isArray);
 
     // Following changes (recalculation.cpp).
@@ -148,6 +150,7 @@ class Sheet {
     std::vector<uint32_t> m_newOrder;
     std::vector<uint32_t> m_unlinked;
     std::vector<uint32_t> m_volatile;
+    std::vector<uint32_t> m_unknown;  // formulas that did not compile when they were loaded
     std::vector<CellAddress> m_changed;
     std::vector<uint32_t> m_dirtied;  // formulas that settle() made dirty
     std::vector<uint32_t> m_path;     // formulas being calculated, each waiting for those above
