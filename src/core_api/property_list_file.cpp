@@ -3,6 +3,7 @@
 
 #include "core_api/escaped_text.h"
 #include "core_api/property_list.h"
+#include "core_api/text/number_text.h"
 #include "core_api/text/text_helpers.h"
 #include "platform/files.h"
 
@@ -30,7 +31,7 @@ bool isOfType(Property::Type type, std::string_view value) {
         case Property::Type::flag:
             return value == "0" || value == "1";
         case Property::Type::number:
-            return isNumber(value) && value.find(' ') == std::string_view::npos;
+            return takeNumber(value) && value.empty();
         case Property::Type::whole:
             return value == std::to_string(textToInt(value));
     }

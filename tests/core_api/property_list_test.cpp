@@ -74,7 +74,7 @@ TEST(PropertyList, DamageIsRefusedByLineAndChangesNothing) {
         EXPECT_EQ(list.length(), 1);
     }
     for (const char* value : {"i\ta\t99999999999", "i\ta\t1.5", "i\ta\t", "d\ta\tinf", "d\ta\t 1",
-                              "d\ta\t1x", "b\ta\t2", "b\ta\t"}) {
+                              "d\ta\t1\t", "d\ta\t1x", "b\ta\t2", "b\ta\t"}) {
         Vor_String message;
         EXPECT_FALSE(list.read("properties 1\n" + std::string(value) + "\nend\n", "f", message));
         EXPECT_THAT(message.str(), HasSubstr("f:2: the value is not of its type")) << value;

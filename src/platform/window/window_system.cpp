@@ -1,13 +1,15 @@
 #include "platform/window/window_system.h"
 
 #include "platform/host/host.h"
+#include "platform/window/dialog.h"
 
 namespace {
 
 WindowSystem* installedSystem = nullptr;
 
+// Never destroyed: windows that are globals go at the very end and tell it so.
 WindowSystem& headlessSystem() {
-    static WindowSystem system;
+    static WindowSystem& system = *new WindowSystem;
     return system;
 }
 
@@ -29,4 +31,13 @@ int WindowSystem::messageBox(const MessageBox& box) {
     if (printed.empty() || printed.back() != '\n') printed += '\n';
     acutPrint(printed);
     return box.safeAnswer();
+}
+
+void WindowSystem::runModal(CDialog& dialog) {
+    acutPrint("Dialog cancelled, nobody can answer it: " + dialog.text() + "\n");
+    dialog.press(IDCANCEL);
+}
+
+int WindowSystem::popupMenu(CWnd&, std::span<const MenuEntry>) {
+    return 0;
 }

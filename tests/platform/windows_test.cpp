@@ -1,0 +1,166 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "core_api/texts/dial_text.h"
+#include "platform/host/host.h"
+#include "platform/window/dialog.h"
+#include "platform/window/text_question.h"
+#include "support/test_user.h"
+
+namespace {
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+
+class Printed : public Host {
+  public:
+    void print(std::string_view printed) override { text += printed; }
+    std::string text;
+};
+
+constexpr ControlTemplate controls[] = {
+    {Control::edit, 1207, {}, {10, 20, 40, 8}},
+    {Control::button, 1205, dialText(1141), {60, 20, 40, 8}},
+    {Control::button, IDOK, dialText(1), {60, 40, 40, 8}},
+    {Control::placeholder, 1001, {}, {10, 40, 40, 80}},
+};
+constexpr DialogResource resource{218, dialText(1136), {0, 0, 200, 160}, controls};
+
+class SampleDialog : public CDialog {
+  public:
+    explicit SampleDialog(CWnd* parent = nullptr) : CDialog(resource, parent) {}
+    ~SampleDialog() override { destroy(); }
+    void onCommand(int id, int code) override {
+        commands += std::to_string(id) + (code == clicked ? "! " : "~ ");
+        if (id == 1205) typed = item(1207)->text();
+        CDialog::onCommand(id, code);
+    }
+    void onDestroy() override { sizeAtEnd = windowRect(); }
+
+    std::string commands, typed;
+    CRect sizeAtEnd;
+};
+
+TEST(Dialogs, HiddenDialogHasItsItemsInPixels) {
+    SampleDialog dialog;
+    ASSERT_TRUE(dialog.create());
+    EXPECT_FALSE(dialog.create());
+    EXPECT_FALSE(dialog.isVisible());
+    EXPECT_EQ(dialog.text(), "Find and replace");
+    dialog.move({100, 50, 400, 310});
+    ASSERT_NE(dialog.item(1001), nullptr);
+    EXPECT_EQ(dialog.item(1001)->windowRect(), (CRect{115, 115, 175, 245}));
+    EXPECT_FALSE(dialog.item(1001)->isVisible());
+    dialog.show(true);
+    EXPECT_TRUE(dialog.item(1001)->isVisible());
+
+    // A grid takes a placeholder's seat; whoever goes first, nobody is left with a dead window.
+    auto grid = std::make_unique<CWnd>();
+    ASSERT_TRUE(dialog.item(1001)->destroy());
+    ASSERT_TRUE(grid->create({"fpSpread70", "", {15, 65, 75, 195}, 0, 1001, true}, &dialog));
+    EXPECT_EQ(dialog.item(1001), grid.get());
+    EXPECT_TRUE(grid->focus());
+    EXPECT_EQ(CWnd::focused(), grid.get());
+    EXPECT_TRUE(dialog.destroy());
+    EXPECT_EQ(CWnd::focused(), nullptr);
+    EXPECT_FALSE(grid->isCreated());
+    EXPECT_EQ(grid->parent(), nullptr);
+    EXPECT_EQ(dialog.sizeAtEnd, (CRect{100, 50, 400, 310}));
+    EXPECT_TRUE(dialog.create());
+}
+
+TEST(Dialogs, ScriptedUserWorksThroughOne) {
+    TestUser user;
+    user.whenOpens(218).types(1207, "M16").presses(1205).presses(IDOK);
+    SampleDialog dialog;
+    EXPECT_EQ(dialog.doModal(), IDOK);
+    EXPECT_EQ(dialog.commands, "1207~ 1205! 1! ");
+    EXPECT_EQ(dialog.typed, "M16");
+    EXPECT_FALSE(dialog.isCreated());
+}
+
+TEST(Dialogs, NobodyAnswersMeansCancelled) {
+    Printed host;
+    const HostScope scope(host);
+    SampleDialog dialog;
+    EXPECT_EQ(dialog.doModal(), IDCANCEL);
+    EXPECT_EQ(host.text, "Dialog cancelled, nobody can answer it: Find and replace\n");
+    MessageBox question{"Save", "Save it?", MessageIcon::question, MessageButtons::yesNoCancel};
+    EXPECT_EQ(showMessage(question), IDCANCEL);
+    question.buttons = MessageButtons::yesNo;
+    EXPECT_EQ(showMessage(question), IDNO);
+}
+
+TEST(Dialogs, TextQuestionGivesTheAnswerOnlyOnOk) {
+    TestUser user;
+    user.whenOpens(textQuestionNumber).types(textQuestionField, "Row 5").presses(IDOK);
+    user.whenOpens(textQuestionNumber).types(textQuestionField, "no").presses(IDCANCEL);
+    std::string answer = "kept";
+    EXPECT_TRUE(askText({"New", "Name", "Name of the new row:", "", "Ok", ""}, nullptr, answer));
+    EXPECT_EQ(answer, "Row 5");
+    EXPECT_FALSE(askText({"New", "", "", "", "Ok", "Cancel"}, nullptr, answer));
+    EXPECT_EQ(answer, "Row 5");
+}
+
+TEST(ScriptedUserProblems, AreNamed) {
+    ScriptedUser user;
+    user.whenOpens(218).types(9999, "x").presses(1205);
+    user.whenToldWithCaption("Save").presses(IDRETRY);
+    user.whenMenuOpens().picks("Cut");
+    user.whenTold("never");
+    SampleDialog dialog;
+    EXPECT_EQ(dialog.doModal(), IDCANCEL);
+    EXPECT_EQ(dialog.doModal(), IDCANCEL);
+    EXPECT_EQ(showMessage({"Save", "?", MessageIcon::question, MessageButtons::okCancel}),
+              IDCANCEL);
+    EXPECT_EQ(showMessage({"Other", "?", MessageIcon::question, MessageButtons::okCancel}),
+              IDCANCEL);
+    const MenuEntry entries[] = {{1, "Copy"}, {0, ""}};
+    EXPECT_EQ(user.popupMenu(dialog, entries), 0);
+    EXPECT_THAT(
+        user.problems(),
+        ElementsAre("dialog 218: item 9999 cannot be used", "dialog 218 is left open",
+                    "nobody answers dialog 218 \"Find and replace\"",
+                    "message box \"Save\" has no button 4",
+                    "nobody answers the question \"Other\": ?", "the menu has no entry \"Cut\""));
+    EXPECT_THAT(user.unusedAnswers(), ElementsAre("message box with \"never\" in its text"));
+}
+
+TEST(MessageBoxes, ListenersHearBeforeTheScreen) {
+    TestUser user;
+    user.whenToldWithCaption("Ask").presses(IDYES);
+    std::string heard;
+    {
+        const MessageListenerScope outer([&](const MessageBox& box) {
+            heard += "outer:" + box.caption + " ";
+            return box.caption == "Taken";
+        });
+        const MessageListenerScope inner([&](const MessageBox& box) {
+            heard += "inner:" + box.caption + " ";
+            return false;
+        });
+        showWarning("Taken", "not on the screen");
+        EXPECT_EQ(showMessage({"Ask", "a\n\nb", MessageIcon::question, MessageButtons::yesNo}),
+                  IDYES);
+    }
+    showWarning("", "alone\n");
+    EXPECT_EQ(heard, "inner:Taken outer:Taken inner:Ask outer:Ask ");
+    EXPECT_THAT(user.toldLines(), ElementsAre(ElementsAre("a", "", "b"), ElementsAre("alone", "")));
+}
+
+TEST(Host, PrintsTextsOfAnyLength) {
+    Printed host;
+    const HostScope scope(host);
+    const std::string name(3000, 'x');
+    acutPrintf("%s:%d\n", name.c_str(), 7);
+    EXPECT_EQ(host.text, name + ":7\n");
+    host.text.clear();
+    GrowingArray<int> numbers{1, 2};
+    EXPECT_FALSE(numbers.insertAt(3, 5));
+    EXPECT_FALSE(numbers.removeAt(-1));
+    EXPECT_EQ(host.text,
+              "*Error* Invalid index passed to insert.\n*Error* Invalid index passed to remove.\n");
+    EXPECT_EQ(numbers.length(), 2);
+}
+
+}  // namespace
