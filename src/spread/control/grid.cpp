@@ -41,6 +41,7 @@ SideTables& Grid::changeSides() {
 
 void Grid::noteTouched(int col, int row) {
     m_changed = true;
+    m_isAsLoaded = false;
     if (!m_canUndo) return;
     const CellAddress cell{col, row};
     if (!m_touched.empty() && m_touched.back() == cell) return;
@@ -52,6 +53,7 @@ void Grid::noteTouched(int col, int row) {
 
 void Grid::noteStructure() {
     m_changed = true;
+    m_isAsLoaded = false;
     m_canUndo = false;
     m_touched.clear();
 }
@@ -297,6 +299,7 @@ void Grid::restore(std::shared_ptr<const Document> document) {
     startFrom(*m_document);
     // Formulas depend on cells beyond those that were touched.
     m_canUndo = m_sheet->formulaCount() == 0;
+    m_isAsLoaded = true;
 }
 
 void Grid::adopt(std::shared_ptr<Document> document) {
@@ -305,6 +308,7 @@ void Grid::adopt(std::shared_ptr<Document> document) {
     m_document = nullptr;
     startFrom(*document);
     m_canUndo = false;
+    m_isAsLoaded = false;
 }
 
 void Grid::putBackTouched() {

@@ -223,6 +223,8 @@ class Grid {
     void adopt(std::shared_ptr<Document> document);
     /// What restore or adopt was given last, or null.
     const std::shared_ptr<const Document>& document() const { return m_document; }
+    /// No cell was changed since document() was restored.
+    bool isAsLoaded() const { return m_isAsLoaded; }
 
   private:
     struct Edit {
@@ -252,6 +254,7 @@ class Grid {
 
     std::shared_ptr<const Document> m_document;
     std::vector<CellAddress> m_touched;  // cells changed since m_document was restored
+    bool m_isAsLoaded = false;           // no cell was touched since then
     bool m_canUndo = false;              // the cells differ from m_document in m_touched alone
 
     CellAddress m_active;
