@@ -4,6 +4,7 @@
 #include <optional>
 #include <string_view>
 
+#include "core_api/macros/cut_constraint.h"
 #include "mapping/tw_var_cell.h"
 
 enum class TwMapType : int {
@@ -39,9 +40,16 @@ std::optional<TwValueType> mapTypeValueType(TwMapType kind);
 /// distances, general variables and cuts, then patterns, profiles and bolts.
 TwMapType mapTypeFromPrefix(std::string_view text);
 
-/// Cut kinds are offset types 0 to 8 in order.
+/// Cut kinds are the offset types in their order.
 inline bool isCutKind(TwMapType kind) {
     return kind >= TwMapType::cutOffset && kind <= TwMapType::cutRadius;
+}
+inline TwCutOffsetType cutOffsetTypeOf(TwMapType kind) {
+    return static_cast<TwCutOffsetType>(static_cast<int>(kind) -
+                                        static_cast<int>(TwMapType::cutOffset));
+}
+inline TwMapType mapTypeOfCut(TwCutOffsetType offset) {
+    return static_cast<TwMapType>(static_cast<int>(TwMapType::cutOffset) + offset);
 }
 /// Reached through the macro itself, not through one of its modules.
 bool isMacroLevel(TwMapType kind);

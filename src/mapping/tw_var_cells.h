@@ -20,8 +20,12 @@ class VORMANT_API TwVarCells {
     const TwVarCell& operator[](int index) const { return m_cells[index]; }
     void append(const TwVarCell& cell) { m_cells.append(cell); }
     bool removeAt(int index) { return m_cells.removeAt(index); }
+    /// Removes the cells at `indexes`, which ascend.
+    void removeAll(const Vor_Array<int>& indexes);
     /// Empties the cells; the mapping stays.
     void resetVarCells() { m_cells.clear(); }
+    /// The cells become copies of those of `other`; the mapping stays.
+    void takeCells(const TwVarCells& other) { m_cells = other.m_cells; }
     auto begin() { return m_cells.begin(); }
     auto end() { return m_cells.end(); }
     auto begin() const { return m_cells.begin(); }

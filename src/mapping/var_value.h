@@ -6,6 +6,10 @@
 
 #include "core_api/text/vor_string.h"
 
+namespace control {
+class Grid;
+}
+
 class VORMANT_API VarValue {
   public:
     VarValue() = default;
@@ -27,6 +31,14 @@ class VORMANT_API VarValue {
     /// The number behind the text when the value was set as one, else null.
     const double* number() const { return m_kind == Kind::text ? nullptr : &m_number; }
 
+    /// What the cell shows. A number is kept as one when `numberCell` says that the cell is a
+    /// number cell of at most shownDecimals places.
+    void readFrom(const control::Grid& grid, int column, int row, bool numberCell);
+
+    /// The text of an error ("#DIV/0!").
+    bool isError() const;
+
+    /// Places of a Double's cell and of the cell of a numeric equation.
     static constexpr int shownDecimals = 7;
 
   private:

@@ -1,0 +1,27 @@
+#include "mapping/run_timers.h"
+
+Vor_Timer gLoadFile("gLoadFile");
+Vor_Timer gInitSSForInput("gInitSSForInput");
+Vor_Timer gSSSGetFromMacro("gSSSGetFromMacro");
+Vor_Timer gInitMapping("gInitMapping");
+Vor_Timer gInitFromMacro("gInitFromMacro");
+Vor_Timer gSetMacroValuelsToSS("gSetMacroValuelsToSS");
+Vor_Timer gSSSreplaceGenVars("gSSSreplaceGenVars");
+Vor_Timer gCalcMain("gCalcMain");
+Vor_Timer gSetToMacro("gSetToMacro");
+Vor_Timer gGetFromVars("gGetFromVars");
+Vor_Timer gCalcChild("gCalcChild");
+Vor_Timer gSetToVars("gSetToVars");
+Vor_Timer gRegisterFuntions("gRegisterFuntions");
+Vor_Timer gFindDuplicates("gFindDuplicates");
+Vor_Timer gCalcCells("gCalcCells");
+Vor_Timer gCalcCellSplitSymbol("gCalcCellSplitSymbol");
+Vor_Timer gCalcCellFindVarCell("gCalcCellFindVarCell");
+Vor_Timer gCalcCellFindFunctions("gCalcCellFindFunctions");
+Vor_Timer gCalcCellCalcNativeFunctions("gCalcCellCalcNativeFunctions");
+Vor_Timer gCalcCellCalcFunctionsPrepare("gCalcCellCalcFunctionsPrepare");
+Vor_Timer gCalcCellCalcFunctions("gCalcCellCalcFunctions");
+Vor_Timer gCalcCellGetVarNames("gCalcCellGetVarNames");
+Vor_Timer gCalcCellGetVarCoords("gCalcCellGetVarCoords");
+Vor_Timer gCalcCellGetVarCoordName("gCalcCellGetVarCoordName");
+Vor_Timer gCalcCellReplaceVariables("gCalcCellReplaceVariables");

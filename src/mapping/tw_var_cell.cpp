@@ -1,0 +1,111 @@
+#include "mapping/tw_var_cell.h"
+
+#include <array>
+#include <optional>
+
+#include "core_api/text/text_helpers.h"
+#include "mapping/tw_dlg_standards_data.h"
+#include "spread/control/formula/value.h"
+#include "spread/vor_spread.h"
+
+namespace {
+
+constexpr std::array<std::string_view, 3> typeWords{"Int", "Double", "String"};
+constexpr int longestText = 9999;
+
+std::optional<TwValueType> typeOfDeclaration(std::string_view text) {
+    for (size_t i = 0; i < typeWords.size(); ++i)
+        if (text.starts_with(typeWords[i])) return static_cast<TwValueType>(i);
+    return std::nullopt;
+}
+
+ErrorStatus statusOf(bool done) {
+    return done ? Acad::eOk : Acad::eInvalidInput;
+}
+
+}  // namespace
+
+TwVarCell::TwVarCell(const Vor_String& name, TwCellType cellType, TwValueType valueType,
+                     const Vor_String& value)
+    : m_name(name), m_cellType(cellType), m_value(value), m_valueType(valueType) {}
+
+ErrorStatus TwVarCell::initialize(Vor_Spread& spread, const int& column, const int& row,
+                                  const TwCellType& cellType) {
+    Vor_String text;
+    if (!spread.getCellText(column, row, text, Vor_Spread::Reading::value))
+        return Acad::eInvalidInput;
+    text = stripSymbols(text, ' ', true, false);
+    const auto type = typeOfDeclaration(text);
+    if (!type) return Acad::eInvalidInput;
+    m_name = getSubstrAfter(text, " ");
+    m_valueType = *type;
+    m_cellType = cellType;
+    m_column = column;
+    m_row = row;
+    return Acad::eOk;
+}
+
+ErrorStatus TwVarCell::setNewValue(const Vor_String& value) {
+    m_value.setText(value);
+    return Acad::eOk;
+}
+
+ErrorStatus TwVarCell::setNewValue(Vor_Spread& spread, const Vor_String& value) {
+    m_value.setText(value);
+    return setValueToSS(spread);
+}
+
+ErrorStatus TwVarCell::setNewValue(Vor_Spread& spread, const VarValue& value) {
+    m_value = value;
+    return setValueToSS(spread);
+}
+
+ErrorStatus TwVarCell::setValueToSS(Vor_Spread& spread) const {
+    using formula::Value;
+    if (!spread.isAttached() || m_column < 1 || m_row < 1) return Acad::eInvalidInput;
+    control::Grid& grid = spread.grid();
+    if (m_valueType == TwValueType::String) {
+        return statusOf(spread.setTextCell(m_column, m_row, longestText, 0) &&
+                        grid.writeValue(m_column, m_row, Value::borrowedText(m_value.text())));
+    }
+    const int decimals = m_valueType == TwValueType::Int ? 0 : VarValue::shownDecimals;
+    if (!spread.setNumberCell(m_column, m_row, decimals)) return Acad::eInvalidInput;
+    const double* number = m_value.number();
+    return statusOf(grid.writeValue(m_column, m_row,
+                                    number ? Value(*number) : Value::borrowedText(m_value.text())));
+}
+
+ErrorStatus TwVarCell::getCurrentValue(Vor_Spread& spread, Vor_String& value) const {
+    Vor_String text;
+    if (m_column < 1 || m_row < 1 ||
+        !spread.getCellText(m_column, m_row, text, Vor_Spread::Reading::value))
+        return Acad::eInvalidInput;
+    value = std::move(text);
+    return Acad::eOk;
+}
+
+ErrorStatus TwVarCell::readFromSS(Vor_Spread& spread) {
+    if (!spread.isAttached() || !spread.grid().isInside(m_column, m_row))
+        return Acad::eInvalidInput;
+    m_value.readFrom(spread.grid(), m_column, m_row, m_valueType != TwValueType::String);
+    return Acad::eOk;
+}
+
+ErrorStatus TwVarCell::setValueFromOther(Vor_Spread& spread, const TwVarCell& other) {
+    return setNewValue(spread, other.m_value);
+}
+
+ErrorStatus TwVarCell::setValueFromMacro(TwSSMapping& mapping, TwDlgStandardsData& data) {
+    Vor_String text = m_value.text();
+    if (mapping.getMacroVarValue(m_name, m_valueType, text, data) != Acad::eOk)
+        return Acad::eInvalidInput;
+    m_value.setText(text);
+    return Acad::eOk;
+}
+
+ErrorStatus TwVarCell::setValueToMacro(TwSSMapping& mapping, TwDlgStandardsData& data) const {
+    Vor_String text = m_value.text();
+    // The core reads a text that is no number as 0: an error would become a distance of 0.
+    if (m_value.isError()) return Acad::eInvalidInput;
+    return mapping.setMacroVarValue(m_name, m_valueType, text, data);
+}
