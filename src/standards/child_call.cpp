@@ -1,0 +1,104 @@
+// Standards that call others.
+#include "core_api/files.h"
+#include "core_api/text/text_helpers.h"
+#include "mapping/mapping_file.h"
+#include "mapping/start_dlg_standards_ss.h"
+#include "standards/native_functions.h"
+#include "standards/run_chain.h"
+#include "standards/run_failure.h"
+#include "standards/run_observer.h"
+#include "standards/tw_standards_ss.h"
+
+namespace {
+
+ErrorStatus fail(Vor_String& reason, const Vor_String& why) {
+    reason = why;
+    return Acad::eInvalidInput;
+}
+
+/// Copies without cells of the parent's variables, in the order of the call.
+ErrorStatus bindVariables(const TwVarCells& parent, const Vor_StringArray& names, TwVarCells& bound,
+                          Vor_String& reason) {
+    for (const Vor_String& name : names) {
+        int index = 0;
+        if (parent.findVarCell(name, index) != Acad::eOk)
+            return fail(reason, "the call names \"" + name +
+                                    "\", which is no variable of this standard: declare it");
+        TwVarCell copy = parent[index];
+        copy.setCell(0, 0);
+        bound.append(copy);
+    }
+    return Acad::eOk;
+}
+
+}  // namespace
+
+Vor_String TwStandardsSS::findChildFile(const Vor_String& name) const {
+    const Vor_String standards = standardsFolder();
+    const Vor_String candidates[] = {name,
+                                     getPath(m_filePath) + ensureNoStartBSlash(name),
+                                     standards + name,
+                                     standards + "Childs\\" + name,
+                                     standards + "Data\\" + name,
+                                     standards + "Parents\\" + name};
+    for (const Vor_String& candidate : candidates)
+        if (ObjectExportFileExists(candidate)) return candidate;
+    return name;
+}
+
+ErrorStatus TwStandardsSS::callChild(const Vor_String& text, const Vor_String& functionName) {
+    Vor_String reason;
+    return runChild(text, functionName, {}, reason);
+}
+
+ErrorStatus TwStandardsSS::runChild(const Vor_String& text, const Vor_String& functionName,
+                                    control::CellAddress caller, Vor_String& reason) {
+    ChildCall call;
+    if (!parseChildCall(text, functionName, call, reason)) return Acad::eInvalidInput;
+    const Vor_String path = findChildFile(call.file);
+    if (!ObjectExportFileExists(path))
+        return fail(reason, "there is no file \"" + call.file +
+                                "\" beside this standard or in \"Connection Standards\", its "
+                                "\"Childs\", \"Data\" or \"Parents\": name the file with its "
+                                "extension");
+    TwDlgStandardsData child;
+    if (bindVariables(m_varCells, call.variables, child.varCells, reason) != Acad::eOk)
+        return Acad::eInvalidInput;
+    if (nativeFunctionOf(functionName) != static_cast<int>(NativeFunction::callChild))
+        return Acad::eOk;
+    if (path.equal(m_filePath) || RunningStandard::isRunning(path))
+        return fail(reason, "\"" + path +
+                                "\" is running already: a standard may not call itself, "
+                                "directly or through others");
+    if (RunningStandard::depth() > mostNestedRuns)
+        return fail(reason, "standards call each other more than " + Vor_String(mostNestedRuns, 0) +
+                                " deep: call fewer in a row");
+
+    child.mode = TwDlgStandardsData::Mode::variables;
+    child.standardsName = path;
+    child.genNames = m_genNames;
+    child.genValues = m_genValues;
+    RunObserver* observer = runObserver();
+    if (observer) observer->childStarted(path, caller.row, caller.col);
+    const bool done = StartDlgStandardsSS(child);
+    if (observer) observer->childEnded(done);
+    if (!done) return fail(reason, "the child failed: " + lastRunFailure());
+    return takeResults(child.varCells, reason);
+}
+
+/// What the parent declares as output takes the child's result.
+ErrorStatus TwStandardsSS::takeResults(const TwVarCells& results, Vor_String& reason) {
+    for (const TwVarCell& result : results) {
+        int index = 0;
+        if (!result.isOutput() || m_varCells.findVarCell(result.name(), index) != Acad::eOk)
+            continue;
+        TwVarCell& variable = m_varCells[index];
+        if (variable.isInput())
+            return fail(reason, "the child gives a value for \"" + variable.name() +
+                                    "\", which is an input: declare it as an output");
+        if (variable.setValueFromOther(*this, result) != Acad::eOk)
+            return fail(reason, "\"" + variable.name() + "\" takes no value \"" + result.value() +
+                                    "\" from the child");
+    }
+    return Acad::eOk;
+}

@@ -1,0 +1,19 @@
+// Call forms that the engine executes itself, instead of the control.
+#pragma once
+
+#include "core_api/text/vor_string_array.h"
+
+enum class NativeFunction { callChild = 0 };
+
+const Vor_StringArray& nativeFunctionNames();
+/// Nothing known by that name: -1, else a NativeFunction.
+int nativeFunctionOf(std::string_view name);
+
+/// CallChild( child file , variable 1 , … ) taken apart.
+struct ChildCall {
+    Vor_String file;  ///< as written, without quotes
+    Vor_StringArray variables;
+};
+/// False, with the reason, without parentheses after `function` or with fewer than two arguments.
+bool parseChildCall(const Vor_String& text, const Vor_String& function, ChildCall& call,
+                    Vor_String& reason);

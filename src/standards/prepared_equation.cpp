@@ -1,0 +1,93 @@
+#include "standards/prepared_equation.h"
+
+#include "core_api/text/text_helpers.h"
+#include "mapping/run_timers.h"
+#include "standards/native_functions.h"
+
+namespace {
+
+void split(PreparedEquation& equation, std::string_view text, bool& hasSymbol) {
+    const Vor_FunctionTimer timer(gCalcCellSplitSymbol);
+    hasSymbol = splitStringAtSymbol(text, '=', equation.name, equation.expression, true);
+    if (!hasSymbol) equation.expression = text;
+}
+
+int findTarget(const PreparedEquation& equation, const VariableReferences& references) {
+    const Vor_FunctionTimer timer(gCalcCellFindVarCell);
+    return references.find(equation.name);
+}
+
+bool findNative(PreparedEquation& equation) {
+    const Vor_FunctionTimer timer(gCalcCellFindFunctions);
+    return hasASubstr(equation.expression, nativeFunctionNames(), equation.function);
+}
+
+Vor_String translated(const Vor_String& expression, const VariableReferences& references) {
+    const Vor_FunctionTimer timer(gCalcCellReplaceVariables);
+    return references.translate(expression);
+}
+
+void compile(PreparedEquation& equation, const VariableReferences& references,
+             const control::Sheet& sheet) {
+    equation.formula = SharedText(translated(equation.expression, references));
+    formula::ParseError error;
+    const auto [col, row] = equation.cell;
+    equation.program =
+        formula::parse(equation.formula.view(), sheet.parseSettings(col, row), error);
+    if (equation.program) {
+        equation.kind = PreparedEquation::Kind::ordinary;
+    } else {
+        equation.kind = PreparedEquation::Kind::refused;
+        equation.refusal = error.message;
+    }
+}
+
+}  // namespace
+
+Vor_String coordinateName(const TwVarCell& variable) {
+    return getAlfabet(variable.column()) + Vor_String(variable.row(), 0);
+}
+
+VariableReferences makeReferences(const TwVarCells& variables) {
+    Vor_StringArray names;
+    {
+        const Vor_FunctionTimer timer(gCalcCellGetVarNames);
+        names.reserve(variables.length());
+        for (const TwVarCell& variable : variables) names.append(variable.name());
+    }
+    const Vor_FunctionTimer timer(gCalcCellGetVarCoords);
+    TextIndex firsts(names.length());
+    Vor_StringArray references;
+    references.reserve(names.length());
+    for (int i = 0; i < names.length(); ++i) {
+        const Vor_FunctionTimer nameTimer(gCalcCellGetVarCoordName);
+        const int first = firsts.add(names[i], i);
+        references.append(coordinateName(variables[first < 0 ? i : first]));
+    }
+    return VariableReferences(std::move(names), std::move(references));
+}
+
+PreparedEquation prepareEquation(std::string_view text, control::CellAddress cell,
+                                 const TwVarCells& variables, const VariableReferences& references,
+                                 const control::Sheet& sheet) {
+    PreparedEquation equation;
+    equation.cell = cell;
+    bool hasSymbol = false;
+    split(equation, text, hasSymbol);
+    equation.target = findTarget(equation, references);
+    if (findNative(equation)) {
+        equation.kind = PreparedEquation::Kind::childCall;
+    } else if (!hasSymbol) {
+        equation.refusal =
+            "there is no \"=\" in it: write Name=expression, or move labels out "
+            "of the rows below \"Calc\"";
+    } else if (equation.target < 0) {
+        equation.refusal = "no variable \"" + equation.name +
+                           "\" is declared: declare it below \"Input\", \"Output\" or \"Local\"";
+    } else {
+        const Vor_FunctionTimer timer(gCalcCellCalcFunctionsPrepare);
+        equation.givesText = variables[equation.target].valueType() == TwValueType::String;
+        compile(equation, references, sheet);
+    }
+    return equation;
+}

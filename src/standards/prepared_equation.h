@@ -1,0 +1,43 @@
+// One cell of the equation area, taken apart and compiled: everything about an equation that
+// follows from its text and the declared variables, so that a standard that is run a thousand
+// times is prepared once.
+#pragma once
+
+#include <optional>
+
+#include "mapping/tw_var_cells.h"
+#include "spread/control/sheet.h"
+#include "standards/replace_variables.h"
+#include "standards/shared_text.h"
+
+struct PreparedEquation {
+    enum class Kind {
+        ordinary,   ///< a formula whose result goes to a variable
+        childCall,  ///< contains a native function's name, anywhere
+        irregular,  ///< neither: no "=", or the name is not declared
+        refused,    ///< the control cannot make a formula of it
+    };
+
+    control::CellAddress cell;
+    Kind kind = Kind::irregular;
+    Vor_String name;        ///< before the "="; empty without one
+    Vor_String expression;  ///< after the "=", or the whole text
+    int target = -1;        ///< the variable of that name, or -1
+    /// The target is a String: the equation cell shows text.
+    bool givesText = false;
+    Vor_String function;  ///< childCall: the native function
+    SharedText formula;   ///< ordinary and refused: with cell references
+    formula::ProgramRef program;
+    Vor_String refusal;  ///< irregular and refused: why, and what to do
+};
+
+/// The cell reference of a variable: "B5".
+Vor_String coordinateName(const TwVarCell& variable);
+
+/// Every name with the reference of the first variable of that name.
+VariableReferences makeReferences(const TwVarCells& variables);
+
+/// `text` is what the cell shows; `sheet` knows the functions that formulas may call.
+PreparedEquation prepareEquation(std::string_view text, control::CellAddress cell,
+                                 const TwVarCells& variables, const VariableReferences& references,
+                                 const control::Sheet& sheet);

@@ -1,0 +1,102 @@
+#include "standards/prepared_standard.h"
+
+#include "core_api/text/text_helpers.h"
+#include "platform/encodings.h"
+
+namespace {
+
+bool comesBefore(control::CellAddress a, control::CellAddress b) {
+    return a.row != b.row ? a.row < b.row : a.col < b.col;
+}
+
+bool readsCalc(const control::Grid& grid, control::CellAddress cell) {
+    std::string buffer;
+    return encodings::equalFolded(grid.text(cell.col, cell.row, control::Reading::value, buffer),
+                                  markerWords[static_cast<size_t>(Marker::calc)]);
+}
+
+/// The text that the cell holds, in the block it shares with others; null for all else.
+control::TextBlock* textOf(const control::Grid& grid, control::CellAddress cell) {
+    const control::Cell* found = grid.sheet().find(cell.col, cell.row);
+    const bool isText = found && found->type == control::ValueType::text && found->formula == 0;
+    return isText ? found->text : nullptr;
+}
+
+}  // namespace
+
+PreparedStandard::PreparedStandard(Vor_Spread& spread) {
+    const auto filled = filledCells(spread.grid());
+    m_layout = StandardLayout(spread.grid(), filled);
+    declare(spread, filled, Marker::input, TwCellType::input);
+    declare(spread, filled, Marker::output, TwCellType::output);
+    declare(spread, filled, Marker::local, TwCellType::local);
+
+    Vor_StringArray names;
+    for (const TwVarCell& variable : m_declarations) {
+        names.append(variable.name());
+        const control::CellAddress cell{variable.column(), variable.row()};
+        const bool isBefore =
+            !m_layout.has(Marker::calc) || comesBefore(cell, m_layout.cell(Marker::calc));
+        if (variable.valueType() == TwValueType::String && isBefore)
+            m_textsBeforeCalc.push_back(cell);
+    }
+    m_duplicates = getDuplicateIndexes(names);
+    m_duplicateNames = getDuplicates(names);
+
+    const RowRange rows = m_layout.equationRows();
+    for (const control::CellAddress cell : filled)
+        if (cell.row >= rows.first && cell.row <= rows.last) m_places.push_back({cell, {}, {}});
+}
+
+TwVarCells PreparedStandard::variables() const {
+    TwVarCells variables = m_declarations;
+    variables.removeAll(m_duplicates);
+    return variables;
+}
+
+std::shared_ptr<PreparedStandard> PreparedStandard::ofDocument(Vor_Spread& spread) {
+    std::shared_ptr<void>& attachment = spread.document()->attachment();
+    if (!attachment) attachment = std::make_shared<PreparedStandard>(spread);
+    return std::static_pointer_cast<PreparedStandard>(attachment);
+}
+
+void PreparedStandard::declare(Vor_Spread& spread, const std::vector<control::CellAddress>& filled,
+                               Marker marker, TwCellType type) {
+    const RowRange rows = m_layout.declarationRows(marker);
+    for (const control::CellAddress cell : filled) {
+        TwVarCell variable;
+        if (cell.row >= rows.first && cell.row <= rows.last &&
+            variable.initialize(spread, cell.col, cell.row, type) == Acad::eOk)
+            m_declarations.append(variable);
+    }
+}
+
+bool PreparedStandard::calcMarkerHolds(const control::Grid& grid) const {
+    for (const control::CellAddress cell : m_textsBeforeCalc)
+        if (readsCalc(grid, cell)) return false;
+    return !m_layout.has(Marker::calc) || readsCalc(grid, m_layout.cell(Marker::calc));
+}
+
+const PreparedEquation& PreparedStandard::equationIn(Place& place, const TwVarCells& variables,
+                                                     const control::Grid& grid,
+                                                     PreparedEquation& changed) {
+    control::TextBlock* text = textOf(grid, place.cell);
+    if (text && text == place.text.block()) return place.equation;
+    if (text && !place.text.block()) {
+        place.text = SharedText::of(text);
+        place.equation = prepare(text->view(), place.cell, variables, grid);
+        return place.equation;
+    }
+    std::string buffer;
+    changed = prepare(grid.text(place.cell.col, place.cell.row, control::Reading::value, buffer),
+                      place.cell, variables, grid);
+    return changed;
+}
+
+PreparedEquation PreparedStandard::prepare(std::string_view text, control::CellAddress cell,
+                                           const TwVarCells& variables, const control::Grid& grid) {
+    // A variable list that still has its namesakes counts differently.
+    if (!m_references || m_references->count() != variables.length())
+        m_references = std::make_unique<VariableReferences>(makeReferences(variables));
+    return prepareEquation(text, cell, variables, *m_references, grid.sheet());
+}

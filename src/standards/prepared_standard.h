@@ -1,0 +1,62 @@
+// What the engine knows about one loaded document: its layout, its declarations and its equations.
+// It hangs on the document, which all sheets that were loaded from the file share, so that a run
+// only has to fill in values.
+#pragma once
+
+#include <memory>
+#include <vector>
+
+#include "mapping/tw_var_cells.h"
+#include "standards/prepared_equation.h"
+#include "standards/standard_layout.h"
+
+class PreparedStandard {
+  public:
+    /// Of the sheet as it is now. Equations are prepared when they are first wanted.
+    explicit PreparedStandard(Vor_Spread& spread);
+
+    /// That of the document that `spread` shows unchanged, made when it is not there yet.
+    static std::shared_ptr<PreparedStandard> ofDocument(Vor_Spread& spread);
+
+    const StandardLayout& layout() const { return m_layout; }
+    /// Everything that is declared, namesakes too.
+    const TwVarCells& declarations() const { return m_declarations; }
+    /// Everything that is declared but for second and later declarations of a name.
+    TwVarCells variables() const;
+    /// Indexes and names of second and later declarations of a name.
+    const Vor_Array<int>& duplicates() const { return m_duplicates; }
+    const Vor_StringArray& duplicateNames() const { return m_duplicateNames; }
+
+    /// A place in the equation area that is not empty.
+    struct Place {
+        control::CellAddress cell;
+        SharedText text;  ///< the cell's text when `equation` was prepared; none before
+        PreparedEquation equation;
+    };
+    std::vector<Place>& places() { return m_places; }
+    /// The "Calc" marker is still the first cell that reads so: neither replaced nor preceded by a
+    /// value.
+    bool calcMarkerHolds(const control::Grid& grid) const;
+
+    /// The equation in `place` for what the cell shows now: prepared before, when the cell still
+    /// holds the text of that time, else into `changed`. `variables` are the declarations without
+    /// namesakes.
+    const PreparedEquation& equationIn(Place& place, const TwVarCells& variables,
+                                       const control::Grid& grid, PreparedEquation& changed);
+    /// As above for a text that the caller read.
+    PreparedEquation prepare(std::string_view text, control::CellAddress cell,
+                             const TwVarCells& variables, const control::Grid& grid);
+
+  private:
+    void declare(Vor_Spread& spread, const std::vector<control::CellAddress>& filled, Marker marker,
+                 TwCellType type);
+
+    StandardLayout m_layout;
+    TwVarCells m_declarations;
+    Vor_Array<int> m_duplicates;
+    Vor_StringArray m_duplicateNames;
+    std::vector<Place> m_places;
+    /// Cells of Strings that come before the "Calc" marker, where a value could read "Calc".
+    std::vector<control::CellAddress> m_textsBeforeCalc;
+    std::unique_ptr<VariableReferences> m_references;
+};

@@ -1,0 +1,44 @@
+// Names of variables in a text replaced by something else, as whole words and regardless of
+// letter case: by cell references in equations, by values in every cell of a sheet.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "core_api/text/text_index.h"
+#include "core_api/text/vor_string_array.h"
+
+/// Replaces one name after another (the shorter list counts), so that what was put in for one
+/// name can be a later name. A name counts where no letter (ASCII), digit or underscore touches
+/// it. With `quoteTexts` values that are no numbers are put in double quotes. True when anything
+/// was replaced.
+bool replaceVariables(Vor_String& text, const Vor_StringArray& names, const Vor_StringArray& values,
+                      bool quoteTexts);
+
+/// The declared names of a sheet with their cell references, made once and asked for every
+/// equation. Gives exactly what replaceVariables gives, in one pass over the text, as long as all
+/// names are plain words and no two are equal; otherwise replaceVariables does the work.
+class VariableReferences {
+  public:
+    VariableReferences() = default;
+    VariableReferences(Vor_StringArray names, Vor_StringArray references);
+    // The index borrows the names.
+    VariableReferences(const VariableReferences&) = delete;
+    VariableReferences& operator=(const VariableReferences&) = delete;
+    VariableReferences(VariableReferences&&) = default;
+    VariableReferences& operator=(VariableReferences&&) = default;
+
+    int count() const { return m_names.length(); }
+    /// Index of the first variable of that name, letter case aside, or -1.
+    int find(std::string_view name) const { return m_index.find(name); }
+    Vor_String translate(std::string_view text) const;
+
+  private:
+    std::string_view translateWord(std::string_view word) const;
+
+    Vor_StringArray m_names;
+    Vor_StringArray m_references;
+    TextIndex m_index;
+    bool m_onePass = true;
+};

@@ -1,0 +1,34 @@
+// The standards that are running right now, each started by the one before: keeps a standard from
+// calling itself through others, and calls from nesting without end.
+#pragma once
+
+#include "core_api/text/vor_string.h"
+
+inline constexpr int mostNestedRuns = 32;
+
+/// One run, for the length of a scope.
+class RunningStandard {
+  public:
+    RunningStandard();
+    ~RunningStandard();
+    RunningStandard(const RunningStandard&) = delete;
+    RunningStandard& operator=(const RunningStandard&) = delete;
+
+    /// Known once the file is loaded; borrowed.
+    void setPath(const Vor_String& path) { m_path = &path; }
+
+    /// How many runs are under way.
+    static int depth() { return s_depth; }
+    /// A run of this file (letter case aside) is under way.
+    static bool isRunning(const Vor_String& path);
+    /// Differs from one outermost run to the next; 0 outside of any run. What is looked up on
+    /// disk may be remembered as long as it stays.
+    static unsigned long long serial() { return s_depth > 0 ? s_serial : 0; }
+
+  private:
+    const Vor_String* m_path = nullptr;
+    RunningStandard* m_caller;
+    static RunningStandard* s_innermost;
+    static int s_depth;
+    static unsigned long long s_serial;
+};

@@ -1,0 +1,134 @@
+#include "standards/tw_standards_ss.h"
+
+#include "core_api/files.h"
+#include "core_api/text/text_helpers.h"
+#include "mapping/mapping_file.h"
+#include "mapping/run_timers.h"
+#include "standards/functions/standards_functions.h"
+#include "standards/prepared_standard.h"
+#include "standards/run_failure.h"
+#include "standards/run_observer.h"
+#include "standards/standards_messages.h"
+
+TwStandardsSS::TwStandardsSS() = default;
+TwStandardsSS::~TwStandardsSS() = default;
+
+ErrorStatus TwStandardsSS::loadFile(const Vor_String& name) {
+    const bool isPath = ObjectExportFileExists(name);
+    const Vor_String path = isPath ? name : standardsFolder() + name + ".tws";
+    setBool(13, true);
+    setBool(static_cast<int>(control::Option::userFormulas), true);
+    setBool(static_cast<int>(control::Option::repaint), false);
+    setBool(static_cast<int>(control::Option::automaticRecalculation), false);
+    if (!loadFromFile(path)) {
+        setRunFailure(lastError());
+        return Acad::eInvalidInput;
+    }
+    m_filePath = path;
+    m_prepared.reset();
+    m_varCells.resetVarCells();
+    m_varCells.mapping() = TwSSMapping();
+    return Acad::eOk;
+}
+
+ErrorStatus TwStandardsSS::initVarCells() {
+    m_prepared = grid().isAsLoaded() ? PreparedStandard::ofDocument(*this)
+                                     : std::make_shared<PreparedStandard>(*this);
+    m_varCells.resetVarCells();
+    for (const Marker needed : {Marker::input, Marker::output}) {
+        if (m_prepared->layout().has(needed)) continue;
+        setRunFailure(m_filePath + ": no cell reads \"" + markerWords[static_cast<size_t>(needed)] +
+                      "\": add the marker above the declarations");
+        return Acad::eInvalidInput;
+    }
+    m_varCells.takeCells(m_prepared->declarations());
+    return Acad::eOk;
+}
+
+void TwStandardsSS::setGenVars(const Vor_StringArray& names, const Vor_StringArray& values) {
+    m_genNames = names;
+    m_genValues = values;
+}
+
+void TwStandardsSS::replaceGenVars() {
+    if (m_genNames.isEmpty()) return;
+    for (const control::CellAddress cell : filledCells(grid())) {
+        Vor_String text;
+        if (getCellText(cell.col, cell.row, text, Reading::value) &&
+            replaceVariables(text, m_genNames, m_genValues, true))
+            setData(cell.col, cell.row, text);
+    }
+}
+
+void TwStandardsSS::registerFunctions() {
+    if (m_knowsFunctions) return;  // they survive loading
+    for (const StandardsFunctionRow& row : standardsFunctions())
+        addCustomFunction(row.name, row.least, row.most, row.callback, 0);
+    m_knowsFunctions = true;
+}
+
+void TwStandardsSS::dropDuplicates() {
+    const Vor_Array<int>& duplicates = m_prepared->duplicates();
+    if (duplicates.isEmpty() || m_varCells.length() < m_prepared->declarations().length()) return;
+    const Vor_StringArray& names = m_prepared->duplicateNames();
+    reportDuplicateNames(m_filePath, names);
+    if (RunObserver* observer = runObserver())
+        observer->warning(m_filePath + ": declared more than once: " + arrToStr(names, ", ") +
+                          ": only the first declaration counts");
+    m_varCells.removeAll(duplicates);
+}
+
+ErrorStatus TwStandardsSS::calcCells() {
+    if (!m_prepared) return Acad::eInvalidInput;
+    {
+        const Vor_FunctionTimer timer(gRegisterFuntions);
+        registerFunctions();
+    }
+    {
+        const Vor_FunctionTimer timer(gFindDuplicates);
+        dropDuplicates();
+    }
+    const Vor_FunctionTimer timer(gCalcCells);
+    m_assignedIn.assign(static_cast<size_t>(m_varCells.length()), {});
+    const std::shared_ptr<PreparedStandard> prepared =
+        m_prepared->calcMarkerHolds(grid()) ? m_prepared
+                                            : std::make_shared<PreparedStandard>(*this);
+    if (!prepared->layout().has(Marker::calc)) {
+        setRunFailure(m_filePath + ": no cell reads \"Calc\": add the marker above the equations");
+        return Acad::eInvalidInput;
+    }
+    PreparedEquation changed;
+    Vor_String changedText;
+    for (PreparedStandard::Place& place : prepared->places()) {
+        const PreparedEquation& equation = prepared->equationIn(place, m_varCells, grid(), changed);
+        std::string_view text = place.text.view();
+        if (&equation == &changed) {
+            getCellText(place.cell.col, place.cell.row, changedText, Reading::value);
+            text = changedText;
+        }
+        if (!text.empty()) (void)evaluate(equation, text);
+    }
+    return Acad::eOk;
+}
+
+ErrorStatus TwStandardsSS::calcCell(int column, int row) {
+    Vor_String text;
+    if (!m_prepared || !getCellText(column, row, text, Reading::value) || text.isEmpty())
+        return Acad::eInvalidInput;
+    registerFunctions();
+    m_assignedIn.resize(static_cast<size_t>(m_varCells.length()));
+    return evaluate(m_prepared->prepare(text, {column, row}, m_varCells, grid()), text);
+}
+
+ErrorStatus TwStandardsSS::getVarCoordName(const Vor_String& name, Vor_String& coordinate) const {
+    const Vor_FunctionTimer timer(gCalcCellGetVarCoordName);
+    int index = 0;
+    if (m_varCells.findVarCell(name, index) != Acad::eOk) return Acad::eInvalidInput;
+    coordinate = coordinateName(m_varCells[index]);
+    return Acad::eOk;
+}
+
+control::CellAddress TwStandardsSS::assignedIn(int index) const {
+    const auto at = static_cast<size_t>(index);
+    return at < m_assignedIn.size() ? m_assignedIn[at] : control::CellAddress{};
+}

@@ -1,0 +1,79 @@
+// A loaded standards spreadsheet: the sheet, its variables, and the evaluation of its equations.
+// One run goes: loadFile, initVarCells, values into the variables and their cells, replaceGenVars,
+// calcCells, outputs read back. The object is used again and again; loading starts afresh.
+#pragma once
+
+#include <memory>
+#include <string_view>
+
+#include "mapping/tw_var_cells.h"
+#include "spread/vor_spread.h"
+
+class PreparedStandard;
+struct PreparedEquation;
+
+class TwStandardsSS : public Vor_Spread {
+  public:
+    TwStandardsSS();
+    ~TwStandardsSS() override;
+
+    /// `name` is a file, or a name in the standards folder without extension. On failure nothing
+    /// changes and lastRunFailure() (run_observer.h) says why.
+    ErrorStatus loadFile(const Vor_String& name);
+    /// Full path of what was loaded last.
+    const Vor_String& filePath() const { return m_filePath; }
+
+    /// The declared variables, namesakes too, in declaration order. Fails without the "Input" or
+    /// "Output" marker.
+    ErrorStatus initVarCells();
+    const TwVarCells& varCells() const { return m_varCells; }
+    /// For their values; which there are and in which order is the sheet's business.
+    TwVarCells& varCells() { return m_varCells; }
+
+    void setGenVars(const Vor_StringArray& names, const Vor_StringArray& values);
+    /// Replaces the gen names in every cell by their values, texts in quotes.
+    void replaceGenVars();
+
+    /// Evaluates every equation, by rows and from the left. One that fails is reported and passed
+    /// over. Fails without the "Calc" marker.
+    ErrorStatus calcCells();
+    /// Evaluates one cell as it is now.
+    ErrorStatus calcCell(int column, int row);
+    /// The reference of the variable's cell: "B5". `coordinate` is untouched on failure.
+    ErrorStatus getVarCoordName(const Vor_String& name, Vor_String& coordinate) const;
+
+    /// Runs the standard that `text` calls on the variables it names. `functionName` is the native
+    /// function found in it.
+    ErrorStatus callChild(const Vor_String& text, const Vor_String& functionName);
+    /// Where a child's file lies: as named, beside this standard, in the standards folder or those
+    /// below it; the name itself when nowhere.
+    Vor_String findChildFile(const Vor_String& name) const;
+
+    /// Makes the functions of standards known to formulas; calcCells does so by itself.
+    void registerFunctions();
+    /// What is known about the document since initVarCells; null before.
+    PreparedStandard* prepared() { return m_prepared.get(); }
+    /// Takes second and later declarations of a name out of the variables, with a message.
+    void dropDuplicates();
+
+    /// The cell of the equation that gave variable `index` its value in the last calculation; row
+    /// 0 when none did.
+    control::CellAddress assignedIn(int index) const;
+
+  private:
+    struct Turn;  // one equation cell's turn
+
+    ErrorStatus evaluate(const PreparedEquation& equation, std::string_view text);
+    ErrorStatus assign(Turn& turn);
+    ErrorStatus runChild(const Vor_String& text, const Vor_String& functionName,
+                         control::CellAddress caller, Vor_String& reason);
+    ErrorStatus takeResults(const TwVarCells& results, Vor_String& reason);
+
+    Vor_String m_filePath;
+    TwVarCells m_varCells;
+    Vor_StringArray m_genNames;
+    Vor_StringArray m_genValues;
+    std::shared_ptr<PreparedStandard> m_prepared;
+    std::vector<control::CellAddress> m_assignedIn;  // by variable
+    bool m_knowsFunctions = false;
+};

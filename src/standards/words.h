@@ -1,0 +1,30 @@
+// What counts as a word in equations: letters (ASCII), digits and underscores. Anything else,
+// letters with accents too, is a boundary.
+#pragma once
+
+#include <algorithm>
+#include <string_view>
+
+inline bool isWordCharacter(char c) {
+    return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z') || (c >= '0' && c <= '9') || c == '_';
+}
+
+inline bool isPlainWord(std::string_view text) {
+    return std::all_of(text.begin(), text.end(), isWordCharacter);
+}
+
+/// Calls word(text) for every word and other(text) for what stands between, in order.
+template <class Word, class Other>
+void eachWord(std::string_view text, Word&& word, Other&& other) {
+    for (size_t at = 0; at < text.size();) {
+        const bool isWord = isWordCharacter(text[at]);
+        size_t end = at + 1;
+        while (end < text.size() && isWordCharacter(text[end]) == isWord) ++end;
+        const std::string_view part = text.substr(at, end - at);
+        if (isWord)
+            word(part);
+        else
+            other(part);
+        at = end;
+    }
+}
