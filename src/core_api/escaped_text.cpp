@@ -1,4 +1,4 @@
-#include "platform/escaped_text.h"
+#include "core_api/escaped_text.h"
 
 #include <algorithm>
 

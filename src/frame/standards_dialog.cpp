@@ -1,0 +1,170 @@
+#include "frame/standards_dialog.h"
+
+#include "mapping/run_timers.h"
+#include "platform/host/host.h"
+#include "standards/prepared_equation.h"
+#include "standards/run_chain.h"
+#include "standards/run_failure.h"
+#include "standards/run_observer.h"
+
+namespace {
+
+ErrorStatus fail(const TwStandardsSS& spread, const Vor_String& why) {
+    setRunFailure(spread.filePath() + ": " + why);
+    return Acad::eInvalidInput;
+}
+
+Vor_String refusalOf(const TwVarCell& variable) {
+    return "\"" + variable.name() + "\" (" + coordinateName(variable) + ") takes no value \"" +
+           variable.value() + "\": give an Int or Double a number up to 99999999999999";
+}
+
+}  // namespace
+
+std::unique_ptr<StandardsDialog> StandardsDialog::create() {
+    std::unique_ptr<StandardsDialog> dialog(new StandardsDialog);
+    dialog->m_spread.attachHidden();
+    return dialog->m_spread.isAttached() ? std::move(dialog) : nullptr;
+}
+
+ErrorStatus StandardsDialog::run(RunningStandard& running) {
+    {
+        const Vor_FunctionTimer timer(gLoadFile);
+        if (m_spread.loadFile(m_data.standardsName) != Acad::eOk) return Acad::eInvalidInput;
+    }
+    running.setPath(m_spread.filePath());
+    RunObserver* observer = runObserver();
+    if (observer) observer->runStarted(m_spread.filePath(), RunningStandard::depth() - 1);
+    ErrorStatus status = Acad::eInvalidInput;
+    if (m_data.mode == TwDlgStandardsData::Mode::macro) {
+        status = initSSForInput();
+        if (status == Acad::eOk) status = calcMain();
+    } else {
+        status = getFromVars();
+        if (status == Acad::eOk) status = calcChild();
+    }
+    if (observer) observer->variablesKnown(m_spread.varCells());
+    return status;
+}
+
+ErrorStatus StandardsDialog::initSSForInput() {
+    if (!m_data.macro || !m_data.transaction)
+        return fail(m_spread, "a run on a macro needs the macro and a transaction");
+    TwVarCells& variables = m_spread.varCells();
+    {
+        const Vor_FunctionTimer timer(gInitSSForInput);
+        m_spread.setGenVars(m_data.genNames, m_data.genValues);
+        if (m_spread.initVarCells() != Acad::eOk) return Acad::eInvalidInput;
+    }
+    {
+        const Vor_FunctionTimer timer(gSSSGetFromMacro);
+        if (variables.getFromMacro(m_data) != Acad::eOk)
+            return fail(m_spread, "the macro's values cannot be read");
+    }
+    {
+        const Vor_FunctionTimer timer(gSetMacroValuelsToSS);
+        if (variables.setValuesToSS(m_spread) != Acad::eOk) {
+            for (const TwVarCell& variable : variables)
+                if (variable.setValueToSS(m_spread) != Acad::eOk)
+                    return fail(m_spread, refusalOf(variable));
+        }
+    }
+    const Vor_FunctionTimer timer(gSSSreplaceGenVars);
+    m_spread.replaceGenVars();
+    return Acad::eOk;
+}
+
+ErrorStatus StandardsDialog::calcMain() {
+    TwVarCells& variables = m_spread.varCells();
+    {
+        const Vor_FunctionTimer timer(gCalcMain);
+        if (m_spread.calcCells() != Acad::eOk) return Acad::eInvalidInput;
+        if (variables.getValuesFromSS(m_spread) != Acad::eOk)
+            return fail(m_spread, "the outputs cannot be read");
+    }
+    warnOfErrors();
+    const Vor_FunctionTimer timer(gSetToMacro);
+    variables.setToMacro(m_data);
+    m_data.varCells = variables;
+    return Acad::eOk;
+}
+
+ErrorStatus StandardsDialog::getFromVars() {
+    const Vor_FunctionTimer timer(gGetFromVars);
+    m_spread.setGenVars(m_data.genNames, m_data.genValues);
+    if (m_spread.initVarCells() != Acad::eOk) {
+        // The run goes on without variables.
+        if (RunObserver* observer = runObserver()) observer->warning(lastRunFailure());
+    }
+    int position = 0;
+    for (TwVarCell& variable : m_spread.varCells()) {
+        const ErrorStatus status = variable.isLocal() ? variable.setNewValue(m_spread, VarValue())
+                                                      : bind(variable, position++);
+        if (status != Acad::eOk) return status;
+    }
+    m_spread.replaceGenVars();
+    return Acad::eOk;
+}
+
+/// The variable takes the value of the data's cell at `position`.
+ErrorStatus StandardsDialog::bind(TwVarCell& variable, int position) {
+    const TwVarCells& given = m_data.varCells;
+    if (position >= given.length())
+        return fail(m_spread, "no value is given for \"" + variable.name() +
+                                  "\": give one for every input and output of the standard, in "
+                                  "its order");
+    const TwVarCell& source = given[position];
+    if (variable.isOutput() && source.isInput())
+        return fail(m_spread, "the input \"" + source.name() +
+                                  "\" stands in the place of the "
+                                  "output \"" +
+                                  variable.name() +
+                                  "\": give outputs where the standard has outputs");
+    if (variable.setNewValue(m_spread, source.typedValue()) != Acad::eOk)
+        return fail(m_spread, refusalOf(variable));
+    return Acad::eOk;
+}
+
+ErrorStatus StandardsDialog::calcChild() {
+    {
+        const Vor_FunctionTimer timer(gCalcChild);
+        if (m_spread.calcCells() != Acad::eOk) return Acad::eInvalidInput;
+    }
+    warnOfErrors();
+    return setToVars();
+}
+
+ErrorStatus StandardsDialog::setToVars() {
+    const Vor_FunctionTimer timer(gSetToVars);
+    int position = 0;
+    for (const TwVarCell& variable : m_spread.varCells()) {
+        if (variable.isLocal()) continue;
+        const int at = position++;
+        if (!variable.isOutput()) continue;
+        if (at >= m_data.varCells.length())
+            return fail(m_spread, "no place is given for the output \"" + variable.name() + "\"");
+        m_data.varCells[at].typedValue() = variable.typedValue();
+    }
+    return Acad::eOk;
+}
+
+/// An error in an output reaches no macro; somebody should know.
+void StandardsDialog::warnOfErrors() {
+    const bool onMacro = m_data.mode == TwDlgStandardsData::Mode::macro;
+    RunObserver* observer = runObserver();
+    if (!onMacro && !observer) return;
+    const TwVarCells& variables = m_spread.varCells();
+    for (int i = 0; i < variables.length(); ++i) {
+        const TwVarCell& variable = variables[i];
+        if (!variable.isOutput() || !variable.typedValue().isError()) continue;
+        const control::CellAddress cell = m_spread.assignedIn(i);
+        const Vor_String place = cell.row > 0 ? m_spread.filePath() + ":" + Vor_String(cell.row, 0)
+                                              : m_spread.filePath();
+        const Vor_String text =
+            place + ": output \"" + variable.name() + "\" is " + variable.value() +
+            (cell.row > 0 ? " by the equation in this row" : "") +
+            (onMacro ? "; the macro keeps its value" : "") + ": check the values it is made from";
+        if (observer) observer->warning(text);
+        if (onMacro) acutPrint(text + "\n");
+    }
+}

@@ -1,0 +1,37 @@
+#include "frame/tw_ss_dlgs_mgr.h"
+
+TwSSDlgsMgr gSSDlgsMgr;
+
+StandardsDialog* TwSSDlgsMgr::getDlg() {
+    for (size_t i = 0; i < m_dialogs.size(); ++i) {
+        if (m_inUse[i] || !m_dialogs[i]) continue;
+        m_inUse[i] = true;
+        return m_dialogs[i].get();
+    }
+    auto dialog = StandardsDialog::create();
+    if (!dialog) return nullptr;
+    m_dialogs.push_back(std::move(dialog));
+    m_inUse.push_back(true);
+    return m_dialogs.back().get();
+}
+
+ErrorStatus TwSSDlgsMgr::releaseDlg(void* dlg) {
+    for (size_t i = 0; i < m_dialogs.size(); ++i) {
+        if (m_dialogs[i].get() != dlg || !dlg) continue;
+        m_inUse[i] = false;
+        return Acad::eOk;
+    }
+    return Acad::eInvalidInput;
+}
+
+ErrorStatus TwSSDlgsMgr::destroyDlg(const int& index) {
+    if (index < 0 || index >= length() || !m_dialogs[static_cast<size_t>(index)])
+        return Acad::eInvalidInput;
+    m_dialogs.erase(m_dialogs.begin() + index);
+    return Acad::eOk;
+}
+
+void TwSSDlgsMgr::destroyAll() {
+    for (int i = length() - 1; i >= 0; --i) (void)destroyDlg(i);
+    m_inUse.clear();
+}
