@@ -1,6 +1,6 @@
 #include "core_api/files.h"
 
-#include "core_api/escaped_text.h"
+#include "platform/escaped_text.h"
 #include "platform/files.h"
 
 namespace {

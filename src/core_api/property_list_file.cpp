@@ -1,10 +1,10 @@
 // The text form of property lists.
 #include <string>
 
-#include "core_api/escaped_text.h"
 #include "core_api/property_list.h"
 #include "core_api/text/number_text.h"
 #include "core_api/text/text_helpers.h"
+#include "platform/escaped_text.h"
 #include "platform/files.h"
 
 namespace {

@@ -1,8 +1,8 @@
 #include <string>
 
-#include "core_api/escaped_text.h"
 #include "core_api/files.h"
 #include "core_api/text/text_helpers.h"
+#include "platform/escaped_text.h"
 #include "platform/files.h"
 
 namespace {

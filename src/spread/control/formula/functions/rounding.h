@@ -33,31 +33,35 @@ inline double halfDigit(double magnitude) {
     return 0.5 / exactPowersOfTen[15 - digits];
 }
 
-/// Whether `distance` vanishes in 15 significant digits of `magnitude`.
-inline bool vanishes(double distance, double magnitude) {
-    return distance <= 5.1e-15 * magnitude && distance < halfDigit(magnitude);
+/// The quick answer to most: whether `distance` is so small that the 15th digit must be looked up.
+inline bool isNear(double distance, double magnitude) {
+    return distance <= 5.1e-15 * magnitude;
 }
 
-// The three below take magnitudes from 0 up to noFraction.
+// The three below take magnitudes from 0 up to noFraction. Half a unit of the 15th digit is rounded
+// up, as anywhere.
 
 inline double down(double magnitude) {
     const auto whole = static_cast<double>(static_cast<int64_t>(magnitude));
     const double toNext = 1 - (magnitude - whole);
-    return vanishes(toNext, magnitude) ? whole + 1 : whole;
+    return isNear(toNext, magnitude) && toNext <= halfDigit(magnitude) ? whole + 1 : whole;
 }
 
 inline double up(double magnitude) {
     const auto whole = static_cast<double>(static_cast<int64_t>(magnitude));
     const double above = magnitude - whole;
-    return above == 0 || vanishes(above, magnitude) ? whole : whole + 1;
+    if (above == 0) return whole;
+    return isNear(above, magnitude) && above < halfDigit(magnitude) ? whole : whole + 1;
 }
 
 inline double nearest(double magnitude) {
     const auto whole = static_cast<double>(static_cast<int64_t>(magnitude));
-    const double overHalf = magnitude - whole - 0.5;
-    if (overHalf >= 0) return whole + 1;
+    const double toHalf = 0.5 - (magnitude - whole);
+    if (toHalf <= 0) return whole + 1;
     // Above 1e14 the 15 digits end at the whole number: no tie can be seen in them.
-    return magnitude < 1e14 && vanishes(-overHalf, magnitude) ? whole + 1 : whole;
+    const bool isTie =
+        isNear(toHalf, magnitude) && magnitude < 1e14 && toHalf <= halfDigit(magnitude);
+    return isTie ? whole + 1 : whole;
 }
 
 /// `whole` applied to the magnitude of `x` at that decimal; `x` itself when its 15 digits end

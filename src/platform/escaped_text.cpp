@@ -1,4 +1,4 @@
-#include "core_api/escaped_text.h"
+#include "platform/escaped_text.h"
 
 #include <algorithm>
 

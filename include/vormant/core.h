@@ -1,0 +1,12 @@
+// What the core module offers its users: texts, files, settings, sections, properties, timers.
+#pragma once
+
+#include "core_api/dialog_state.h"
+#include "core_api/files.h"
+#include "core_api/numbers.h"
+#include "core_api/property_list.h"
+#include "core_api/sections/section_tables.h"
+#include "core_api/settings.h"
+#include "core_api/text/text_helpers.h"
+#include "core_api/texts/dial_text.h"
+#include "core_api/timers.h"
