@@ -6,6 +6,7 @@
 #include <string>
 #include <string_view>
 
+#include "spread/control/formula/functions/argument_reader.h"
 #include "spread/control/formula/functions/arguments.h"
 #include "spread/control/formula/functions/family_parts.h"
 
@@ -39,17 +40,15 @@ int digitValue(char c) {
 }
 
 /// The number that the digits of `argument`, a text or a number, mean. No digits mean 0.
-Result<double> fromDigits(const Value& argument, Base base) {
-    if (argument.isError()) return argument.error();
+Result<double> fromDigits(Calculation& c, const Value& argument, Base base) {
     if (argument.isBoolean()) return ErrorCode::value;
     if (argument.isMissing()) return ErrorCode::na;
-    const std::string text = argument.isText()     ? std::string(argument.text())
-                             : argument.isNumber() ? numberToText(argument.number())
-                                                   : std::string();
-    if (text.size() > mostDigits) return ErrorCode::num;
+    const Result<std::string_view> text = textOf(c, argument);
+    if (!text) return text.error();
+    if (text->size() > mostDigits) return ErrorCode::num;
     int64_t number = 0;
-    for (const char c : text) {
-        const int digit = digitValue(c);
+    for (const char character : *text) {
+        const int digit = digitValue(character);
         if (digit < 0 || digit >= static_cast<int>(base.radix())) return ErrorCode::num;
         number = number * base.radix() + digit;
     }
@@ -85,8 +84,8 @@ const Value* placesOf(std::span<const Value> args) {
 }
 
 template <const Base& from>
-Value toDecimal(Calculation&, std::span<const Value> args) {
-    const Result<double> number = fromDigits(args[0], from);
+Value toDecimal(Calculation& c, std::span<const Value> args) {
+    const Result<double> number = fromDigits(c, args[0], from);
     return number ? Value(*number) : Value(number.error());
 }
 
@@ -98,7 +97,7 @@ Value fromDecimal(Calculation& c, std::span<const Value> args) {
 
 template <const Base& from, const Base& to>
 Value convert(Calculation& c, std::span<const Value> args) {
-    const Result<double> number = fromDigits(args[0], from);
+    const Result<double> number = fromDigits(c, args[0], from);
     return number ? toDigits(c, *number, to, placesOf(args)) : Value(number.error());
 }
 

@@ -7,6 +7,7 @@
 #include <string>
 #include <string_view>
 
+#include "spread/control/formula/functions/argument_reader.h"
 #include "spread/control/formula/functions/arguments.h"
 #include "spread/control/formula/functions/family_parts.h"
 
@@ -16,6 +17,7 @@ namespace {
 constexpr std::string_view romanLetters = "IVXLCDM";
 constexpr std::array<int, 7> romanValues = {1, 5, 10, 50, 100, 500, 1000};
 constexpr double greatestRoman = 3999;
+constexpr size_t longestNumeral = 255;
 
 /// Appends the greatest numeral that `rest` still holds and takes it off. A letter may be written
 /// before one of higher value to be subtracted: classically I, X, C before the next two letters;
@@ -74,18 +76,11 @@ char upper(char c) {
     return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
 }
 
-/// A plain value as the text that it shows.
-std::string shownText(const Value& value) {
-    if (value.isText()) return std::string(value.text());
-    if (value.isBoolean()) return value.truth() ? "TRUE" : "FALSE";
-    return value.isNumber() ? numberToText(value.number()) : std::string();
-}
-
-Value arabic(Calculation&, std::span<const Value> args) {
-    if (args[0].isError()) return args[0].error();
-    const std::string whole = shownText(args[0]);
-    if (whole.size() > 255) return ErrorCode::value;
-    std::string_view text = trimmed(whole);
+Value arabic(Calculation& c, std::span<const Value> args) {
+    const Result<std::string_view> given = textOf(c, args[0]);
+    if (!given) return given.error();
+    if (given->size() > longestNumeral) return ErrorCode::value;
+    std::string_view text = trimmed(*given);
     const bool isNegative = text.starts_with('-');
     if (isNegative) text.remove_prefix(1);
     int total = 0;
@@ -129,15 +124,15 @@ Value inBase(Calculation& c, std::span<const Value> args) {
     return c.text(text);
 }
 
-Value fromBase(Calculation&, std::span<const Value> args) {
-    if (args[0].isError()) return args[0].error();
+Value fromBase(Calculation& c, std::span<const Value> args) {
+    const Result<std::string_view> text = textOf(c, args[0]);
+    if (!text) return text.error();
     const Result<int> radix = radixOf(args[1]);
     if (!radix) return radix.error();
-    const std::string text = shownText(args[0]);
-    if (text.size() > 255) return ErrorCode::value;
+    if (text->size() > longestNumeral) return ErrorCode::value;
     double result = 0;
-    for (const char c : trimmed(text)) {
-        const size_t digit = digits.find(upper(c));
+    for (const char character : trimmed(*text)) {
+        const size_t digit = digits.find(upper(character));
         if (digit == std::string_view::npos || digit >= static_cast<size_t>(*radix))
             return ErrorCode::num;
         result = result * *radix + static_cast<double>(digit);

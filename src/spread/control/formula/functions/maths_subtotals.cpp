@@ -69,7 +69,8 @@ Value callChosen(Calculation& c, size_t choice, std::span<const Value> args, Lef
 Value subtotal(Calculation& c, std::span<const Value> args) {
     const Result<double> number = numberOf(args[0]);
     if (!number) return number.error();
-    // From 101 on hidden rows are left out as well; rows of a calculating sheet are never hidden.
+    // From 101 on hidden rows are meant to be left out too, but hiding is a matter of the grid that
+    // no calculation knows of: they count.
     const double choice = *number > 100 ? *number - 100 : *number;
     if (!(choice >= 1 && choice < subtotalChoices + 1)) return ErrorCode::value;
     return callChosen(c, static_cast<size_t>(choice), args.subspan(1), {});
