@@ -1,6 +1,8 @@
 #include "spread/control/formula/evaluator.h"
 
 #include <algorithm>
+#include <cmath>
+#include <optional>
 
 #include "spread/control/formula/coerce.h"
 #include "spread/control/formula/operators.h"
@@ -8,20 +10,48 @@
 
 namespace formula {
 
+namespace {
+
+/// Whether a comparison of two numbers holds; nothing when they are so close that only
+/// compareValues can tell whether they count as equal.
+inline std::optional<bool> compared(Op op, double a, double b) {
+    const double difference = a - b;
+    if (!(std::abs(difference) > 1e-13 * std::abs(a))) return std::nullopt;
+    const bool isLess = difference < 0;
+    switch (op) {
+        case Op::equal:
+            return false;
+        case Op::notEqual:
+            return true;
+        case Op::less:
+        case Op::lessEqual:
+            return isLess;
+        default:
+            return !isLess;
+    }
+}
+
+/// What a cell shows for the result of its formula: nothing is shown as 0.
+Value shownResult(const Value& result) {
+    return result.isEmpty() || result.isMissing() ? Value(0.0) : result;
+}
+
+}  // namespace
+
 Value Evaluator::run(const Program& program, int col, int row, bool& blocked) {
     const auto needed = static_cast<size_t>(program.stackDepth()) + 1;
     if (m_stack.size() < needed) m_stack.resize(std::max<size_t>(needed, 64));
-    m_top = m_stack.data();
     m_calculation.m_hostCol = col;
     m_calculation.m_hostRow = row;
     m_calculation.m_dirtyAreas.clear();
-    const auto code = program.code();
-    blocked = !execute(code.data(), code.data() + code.size());
-    if (blocked) return Value();
-    const Value& result = m_top[-1];
-    return result.isSingle() && !result.isEmpty() && !result.isMissing() ? result
-           : result.isSingle()                                           ? Value(0.0)
-                                                                         : single(result);
+    const Value* top = execute(program.code());
+    if (top && !top[-1].isSingle()) {
+        const Value result = single(top[-1]);
+        blocked = !m_calculation.m_dirtyAreas.empty();
+        return shownResult(result);
+    }
+    blocked = !top;
+    return top ? shownResult(top[-1]) : Value();
 }
 
 inline Value Evaluator::area(const Instruction& first, const Instruction& second) const {
@@ -37,157 +67,148 @@ inline Value Evaluator::cell(const Instruction& i) const {
     return m_calculation.cell(col, row);
 }
 
-// False when a cell was met that has to be calculated first.
-bool Evaluator::execute(const Instruction* begin, const Instruction* end) {
+// The end of the stack, with the result below it; null when a cell was met that has to be
+// calculated first. The stack grows upwards from m_stack; `top` is one past its last value.
+const Value* Evaluator::execute(std::span<const Instruction> code) {
     const auto& dirty = m_calculation.m_dirtyAreas;
+    const Instruction* const begin = code.data();
+    const Instruction* const end = begin + code.size();
+    Value* top = m_stack.data();
     for (const Instruction* i = begin; i != end;) {
         switch (i->op) {
             case Op::number:
-                push(i->number);
-                ++i;
+                *top++ = i->number;
                 break;
             case Op::text:
-                push(Value::borrowedText(i->text->view()));
-                ++i;
+                *top++ = Value::borrowedText(i->text->view());
                 break;
             case Op::boolean:
-                push(Value::boolean(i->a != 0));
-                ++i;
+                *top++ = Value::boolean(i->a != 0);
                 break;
             case Op::error:
-                push(static_cast<ErrorCode>(i->a));
-                ++i;
+                *top++ = static_cast<ErrorCode>(i->a);
                 break;
             case Op::missing:
-                push(Value::missing());
-                ++i;
+                *top++ = Value::missing();
                 break;
             case Op::cell:
-                push(cell(*i));
-                if (!dirty.empty()) return false;
-                ++i;
+                *top++ = cell(*i);
+                if (!dirty.empty()) return nullptr;
                 break;
             case Op::reference:
-                push(area(*i, *i));
-                ++i;
+                *top++ = area(*i, *i);
                 break;
             case Op::area:
             case Op::place:
-                push(area(i[0], i[1]));
-                i += 2;
-                break;
-            case Op::corner:
+                *top++ = area(i[0], i[1]);
                 ++i;
                 break;
             case Op::matrix: {
-                const Value gathered = matrix(*i);
-                m_top -= i->a * i->place.row;
-                push(gathered);
-                ++i;
+                Value* first = top - i->a * i->place.row;
+                *first = matrix(*i, first);
+                top = first + 1;
                 break;
             }
             case Op::negate:
-                if (m_top[-1].isNumber()) {
-                    m_top[-1] = m_top[-1].number() == 0 ? 0.0 : -m_top[-1].number();
-                    ++i;
-                    break;
-                }
-                [[fallthrough]];
             case Op::percent:
-                m_top[-1] = unarySlow(i->op, i->flags, m_top[-1]);
-                ++i;
+                top[-1] = unary(*i, top[-1]);
                 break;
             case Op::add:
             case Op::subtract:
             case Op::multiply:
             case Op::divide:
             case Op::power:
-                --m_top;
-                if (m_top[-1].isNumber() && m_top[0].isNumber()) [[likely]]
-                    m_top[-1] = arithmetic(i->op, m_top[-1].number(), m_top[0].number());
-                else
-                    m_top[-1] = binarySlow(i->op, i->flags, m_top[-1], m_top[0]);
-                if (!dirty.empty()) return false;
-                ++i;
+                --top;
+                if (top[-1].isNumber() && top[0].isNumber()) [[likely]] {
+                    top[-1] = arithmetic(i->op, top[-1].number(), top[0].number());
+                    break;
+                }
+                top[-1] = binary(*i, top[-1], top[0]);
+                if (!dirty.empty()) return nullptr;
                 break;
-            case Op::concatenate:
             case Op::equal:
             case Op::notEqual:
             case Op::less:
             case Op::lessEqual:
             case Op::greater:
             case Op::greaterEqual:
-                --m_top;
-                m_top[-1] = binarySlow(i->op, i->flags, m_top[-1], m_top[0]);
-                if (!dirty.empty()) return false;
-                ++i;
+                --top;
+                if (top[-1].isNumber() && top[0].isNumber()) [[likely]]
+                    if (const auto is = compared(i->op, top[-1].number(), top[0].number())) {
+                        top[-1] = Value::boolean(*is);
+                        break;
+                    }
+                [[fallthrough]];
+            case Op::concatenate:
+                if (i->op == Op::concatenate) --top;
+                top[-1] = binary(*i, top[-1], top[0]);
+                if (!dirty.empty()) return nullptr;
                 break;
             case Op::range:
-                --m_top;
-                m_top[-1] = spanned(m_top[-1], m_top[0]);
-                ++i;
+                --top;
+                top[-1] = spanned(top[-1], top[0]);
                 break;
             case Op::single:
-                if (!m_top[-1].isSingle()) m_top[-1] = single(m_top[-1]);
-                if (!dirty.empty()) return false;
-                ++i;
+                if (top[-1].isSingle()) break;
+                top[-1] = single(top[-1]);
+                if (!dirty.empty()) return nullptr;
                 break;
             case Op::call:
             case Op::callCustom: {
-                Value* args = m_top - i->argc;
-                const Value result = i->op == Op::call ? call(*i, args) : callCustom(*i, args);
-                m_top = args;
-                push(result);
-                if (!dirty.empty()) return false;
-                ++i;
+                Value* args = top - i->argc;
+                *args = i->op == Op::call ? call(*i, args) : callCustom(*i, args);
+                top = args + 1;
+                if (!dirty.empty()) return nullptr;
                 break;
             }
             case Op::jump:
                 i = begin + i->a;
-                break;
-            case Op::jumpIfNot:
-                i = jumpIfNot(*i, begin);
-                break;
-            case Op::jumpUnlessError: {
-                const Value& top = m_top[-1];
-                const bool isCaught = top.isError() && (i->b == 0 || top.error() == ErrorCode::na);
-                if (isCaught) --m_top;
-                i = isCaught ? i + 1 : begin + i->a;
-                break;
+                continue;
+            case Op::jumpIfNot: {
+                const auto truth = toBoolean(top[-1]);
+                if (truth) {
+                    --top;
+                    if (*truth) break;
+                    i = begin + i->a;
+                } else {
+                    top[-1] = truth.error();
+                    i = begin + i->place.row;
+                }
+                continue;
             }
-            case Op::choose:
-                i = choose(*i, begin);
-                break;
+            case Op::jumpUnlessError:
+                if (top[-1].isError() && (i->b == 0 || top[-1].error() == ErrorCode::na)) {
+                    --top;
+                    break;
+                }
+                i = begin + i->a;
+                continue;
+            case Op::choose: {
+                const auto index = toNumber(top[-1]);
+                if (index && *index >= 1 && *index < i->argc + 1) {
+                    --top;
+                    i += static_cast<int>(*index);
+                } else {
+                    top[-1] = index ? ErrorCode::value : index.error();
+                    i = begin + i->a;
+                }
+                continue;
+            }
             case Op::plus:
-                ++i;
+            case Op::corner:
                 break;
         }
+        ++i;
     }
-    return true;
+    return top;
 }
 
-Value Evaluator::matrix(const Instruction& i) {
+Value Evaluator::matrix(const Instruction& i, const Value* values) {
     const int cols = i.place.row;
     Array* array = m_calculation.newArray(i.a, cols);
     if (!array) return ErrorCode::num;
-    std::copy(m_top - i.a * cols, m_top, array->cells);
+    std::copy(values, values + i.a * cols, array->cells);
     return Value::array(array);
-}
-
-const Instruction* Evaluator::jumpIfNot(const Instruction& i, const Instruction* begin) {
-    const Value condition = *--m_top;
-    const auto truth =
-        condition.isBoolean() ? Result<bool>(condition.truth()) : toBoolean(condition);
-    if (truth) return *truth ? &i + 1 : begin + i.a;
-    push(truth.error());
-    return begin + i.place.row;
-}
-
-const Instruction* Evaluator::choose(const Instruction& i, const Instruction* begin) {
-    const auto index = toNumber(*--m_top);
-    if (index && *index >= 1 && *index < i.argc + 1) return &i + static_cast<int>(*index);
-    push(index ? ErrorCode::value : index.error());
-    return begin + i.a;
 }
 
 Value Evaluator::single(const Value& value) {
@@ -216,42 +237,38 @@ Value Evaluator::spanned(const Value& a, const Value& b) {
                         std::min(x.col1, y.col1), std::max(x.col2, y.col2)});
 }
 
-Value Evaluator::binarySlow(Op op, uint8_t flags, const Value& a, const Value& b) {
-    if (a.isSingle() && b.isSingle()) [[likely]] {
-        if (a.isNumber() && b.isNumber() && op >= Op::equal) {
-            // Numbers closer than this may still count as equal: compareValues decides.
-            const double difference = a.number() - b.number();
-            if (std::abs(difference) > 1e-13 * std::abs(a.number())) {
-                const bool isLess = difference < 0;
-                const bool wantsLess = op == Op::less || op == Op::lessEqual;
-                const bool wantsGreater = op == Op::greater || op == Op::greaterEqual;
-                return Value::boolean(op == Op::notEqual || (isLess ? wantsLess : wantsGreater));
-            }
-        }
-        return applyBinary(m_calculation, op, a, b);
-    }
-    if (!(flags & Instruction::inArray)) return binarySlow(op, flags, single(a), single(b));
-    const int rows = std::max(Calculation::rows(a), Calculation::rows(b));
-    const int cols = std::max(Calculation::cols(a), Calculation::cols(b));
-    Array* result = m_calculation.newArray(rows, cols);
-    if (!result) return ErrorCode::num;
-    for (int r = 0; r < rows; ++r)
-        for (int c = 0; c < cols; ++c)
-            result->at(r, c) = applyBinary(m_calculation, op, m_calculation.element(a, r, c),
-                                           m_calculation.element(b, r, c));
-    return Value::array(result);
+Value Evaluator::binary(const Instruction& i, const Value& a, const Value& b) {
+    if (a.isSingle() && b.isSingle()) [[likely]]
+        return applyBinary(m_calculation, i.op, a, b);
+    if (!(i.flags & Instruction::inArray))
+        return applyBinary(m_calculation, i.op, plainOf(a), plainOf(b));
+    return eachElement(std::max(Calculation::rows(a), Calculation::rows(b)),
+                       std::max(Calculation::cols(a), Calculation::cols(b)), [&](int r, int c) {
+                           return applyBinary(m_calculation, i.op, m_calculation.element(a, r, c),
+                                              m_calculation.element(b, r, c));
+                       });
 }
 
-Value Evaluator::unarySlow(Op op, uint8_t flags, const Value& a) {
-    if (a.isSingle()) return applyUnary(op, a);
-    if (!(flags & Instruction::inArray)) return applyUnary(op, single(a));
-    const int rows = Calculation::rows(a);
-    const int cols = Calculation::cols(a);
+Value Evaluator::unary(const Instruction& i, const Value& a) {
+    if (a.isSingle()) [[likely]]
+        return applyUnary(i.op, a);
+    if (!(i.flags & Instruction::inArray)) return applyUnary(i.op, single(a));
+    return eachElement(Calculation::rows(a), Calculation::cols(a), [&](int r, int c) {
+        return applyUnary(i.op, m_calculation.element(a, r, c));
+    });
+}
+
+Value Evaluator::plainOf(const Value& value) {
+    return value.isSingle() ? value : single(value);
+}
+
+// An array of what `make` gives for each row and column from 0.
+template <class Make>
+Value Evaluator::eachElement(int rows, int cols, Make&& make) {
     Array* result = m_calculation.newArray(rows, cols);
     if (!result) return ErrorCode::num;
     for (int r = 0; r < rows; ++r)
-        for (int c = 0; c < cols; ++c)
-            result->at(r, c) = applyUnary(op, m_calculation.element(a, r, c));
+        for (int c = 0; c < cols; ++c) result->at(r, c) = make(r, c);
     return Value::array(result);
 }
 
@@ -273,25 +290,19 @@ Value Evaluator::callLifted(const Instruction& i, Value* args) {
         cols = std::max(cols, Calculation::cols(args[n]));
     }
     if (!isLifted) return i.function->call(m_calculation, Args(args, i.argc));
-    Array* result = m_calculation.newArray(rows, cols);
-    if (!result) return ErrorCode::num;
     m_lifted.resize(i.argc);
-    for (int r = 0; r < rows; ++r)
-        for (int c = 0; c < cols; ++c) {
-            for (size_t n = 0; n < i.argc; ++n)
-                m_lifted[n] = args[n].isSingle() || !takesPlain(n)
-                                  ? args[n]
-                                  : m_calculation.element(args[n], r, c);
-            const Value one = i.function->call(m_calculation, Args(m_lifted.data(), i.argc));
-            result->at(r, c) = one.isSingle() ? one : single(one);
-        }
-    return Value::array(result);
+    return eachElement(rows, cols, [&](int r, int c) {
+        for (size_t n = 0; n < i.argc; ++n)
+            m_lifted[n] = args[n].isSingle() || !takesPlain(n)
+                              ? args[n]
+                              : m_calculation.element(args[n], r, c);
+        return plainOf(i.function->call(m_calculation, Args(m_lifted.data(), i.argc)));
+    });
 }
 
 Value Evaluator::callCustom(const Instruction& i, Value* args) {
     if (!i.custom->cellArguments)
-        for (int n = 0; n < i.argc; ++n)
-            if (!args[n].isSingle()) args[n] = single(args[n]);
+        for (int n = 0; n < i.argc; ++n) args[n] = plainOf(args[n]);
     return i.custom->call(m_calculation, Args(args, i.argc));
 }
 

@@ -20,24 +20,23 @@ class Evaluator {
 
   private:
     using Args = std::span<const Value>;
-    bool execute(const Instruction* begin, const Instruction* end);
-    void push(const Value& value) { *m_top++ = value; }
-    Value single(const Value& value);
-    Value binarySlow(Op op, uint8_t flags, const Value& a, const Value& b);
-    Value unarySlow(Op op, uint8_t flags, const Value& a);
-    Value spanned(const Value& a, const Value& b);
-    Value matrix(const Instruction& i);
+    const Value* execute(std::span<const Instruction> code);
     Value area(const Instruction& first, const Instruction& second) const;
     Value cell(const Instruction& i) const;
-    const Instruction* jumpIfNot(const Instruction& i, const Instruction* begin);
-    const Instruction* choose(const Instruction& i, const Instruction* begin);
+    Value single(const Value& value);
+    Value plainOf(const Value& value);
+    Value unary(const Instruction& i, const Value& a);
+    Value binary(const Instruction& i, const Value& a, const Value& b);
+    Value spanned(const Value& a, const Value& b);
+    Value matrix(const Instruction& i, const Value* values);
+    template <class Make>
+    Value eachElement(int rows, int cols, Make&& make);
     Value call(const Instruction& i, Value* args);
     Value callLifted(const Instruction& i, Value* args);
     Value callCustom(const Instruction& i, Value* args);
 
     Calculation& m_calculation;
     std::vector<Value> m_stack;
-    Value* m_top = nullptr;  // one past the last value
     std::vector<Value> m_lifted;
 };
 
