@@ -78,8 +78,8 @@ void checkBinding(StandardCheck& check, control::CellAddress cell, const TwVarCe
                                   "child's output \"" +
                                   wanted.name() + "\": name an output");
         } else if (given.isLocal()) {
-            check.warn(cell, "the child's output \"" + wanted.name() + "\" is lost: \"" +
-                                 given.name() + "\" is a local; declare it as an output");
+            control::CellAddress& drops = check.uses[static_cast<size_t>(index)].dropsResult;
+            if (drops.row == 0) drops = cell;
         } else {
             check.uses[static_cast<size_t>(index)].isAssigned = true;
         }

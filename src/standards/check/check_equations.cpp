@@ -50,6 +50,27 @@ Vor_String describeRefusal(const PreparedEquation& equation) {
            Vor_String(equation.formula.view()) + ")";
 }
 
+void checkLocal(StandardCheck& check, const TwVarCell& variable, const StandardCheck::Use& use) {
+    const control::CellAddress cell{variable.column(), variable.row()};
+    const Vor_String quoted = "\"" + variable.name() + "\"";
+    const bool dropsResult = use.dropsResult.row > 0;
+    if (!use.isRead && !use.isAssigned) {
+        // A local that only stands in calls takes results that are not wanted.
+        if (!dropsResult) check.warn(cell, "nothing uses the local " + quoted);
+        return;
+    }
+    if (dropsResult)
+        check.warn(use.dropsResult, "the child's result is lost: " + quoted +
+                                        " is a local; declare it as an output");
+    if (!use.isRead)
+        check.warn(cell, "the local " + quoted + " is assigned and never used");
+    else if (!use.isAssigned)
+        check.warn(cell, "the local " + quoted + " is used and never assigned: it is empty");
+    else if (use.readTooEarly.row > 0)
+        check.warn(use.readTooEarly,
+                   "the local " + quoted + " is used before the equation that assigns it");
+}
+
 void checkQuoted(StandardCheck& check, const PreparedEquation& equation, int variable) {
     const Vor_String& name = check.variables[variable].name();
     check.warn(equation.cell, "the text in quotes holds the variable name \"" + name +
@@ -91,15 +112,6 @@ void checkUse(StandardCheck& check) {
             check.warn(cell, "no equation assigns the output " + quoted);
         if (variable.isInput() && !use.isRead)
             check.warn(cell, "no equation uses the input " + quoted);
-        if (!variable.isLocal()) continue;
-        if (!use.isRead && !use.isAssigned)
-            check.warn(cell, "nothing uses the local " + quoted);
-        else if (!use.isRead)
-            check.warn(cell, "the local " + quoted + " is assigned and never used");
-        else if (!use.isAssigned)
-            check.warn(cell, "the local " + quoted + " is used and never assigned: it is empty");
-        else if (use.readTooEarly.row > 0)
-            check.warn(use.readTooEarly,
-                       "the local " + quoted + " is used before the equation that assigns it");
+        if (variable.isLocal()) checkLocal(check, variable, use);
     }
 }

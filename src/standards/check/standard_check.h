@@ -43,6 +43,7 @@ struct StandardCheck : OpenedStandard {
         bool isRead = false;
         bool isAssigned = false;
         control::CellAddress readTooEarly;  ///< the first cell that reads it while it has no value
+        control::CellAddress dropsResult;   ///< the first call whose result a local does not keep
     };
     std::vector<Use> uses;  ///< by variable
     void read(int variable, control::CellAddress cell);
