@@ -110,6 +110,7 @@ std::string Utf8Error::message(std::string_view utf8) const {
 }
 
 std::optional<std::string> fromUtf8(std::string_view utf8, Utf8Error& error) {
+    if (isAscii(utf8)) return std::string(utf8);
     std::string result;
     result.reserve(utf8.size());
     for (size_t position = 0; position < utf8.size();) {
@@ -136,6 +137,7 @@ std::optional<std::string> fromUtf8(std::string_view utf8) {
 }
 
 std::string toUtf8(std::string_view windows1252) {
+    if (isAscii(windows1252)) return std::string(windows1252);
     std::string result;
     result.reserve(windows1252.size());
     for (const char c : windows1252) {

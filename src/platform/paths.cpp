@@ -34,9 +34,14 @@ std::string findFolded(const std::string& folder, std::string_view name) {
 
 }  // namespace
 
-std::string toMachine(std::string_view inside) {
+std::string asWritten(std::string_view inside) {
     std::string path = encodings::toUtf8(inside);
     std::replace(path.begin(), path.end(), '\\', '/');
+    return path;
+}
+
+std::string toMachine(std::string_view inside) {
+    std::string path = asWritten(inside);
     if (path.empty() || path.find('\0') != std::string::npos || existsExactly(path)) return path;
 
     std::string resolved;

@@ -17,6 +17,10 @@ namespace paths {
 /// One system call when the exact name exists.
 VORMANT_API std::string toMachine(std::string_view inside);
 
+/// The machine form of `inside` as it is written, without looking whether it exists: for callers
+/// that try it first and turn to toMachine only when it fails.
+VORMANT_API std::string asWritten(std::string_view inside);
+
 /// The inside form of a machine path. Nothing when a character is not in Windows-1252.
 VORMANT_API std::optional<std::string> toInside(std::string_view machine);
 
