@@ -42,6 +42,13 @@ std::optional<char32_t> takeCharacter(std::string_view utf8, size_t& position) {
     return character;
 }
 
+// Nearly all texts are ASCII, which is the same in both forms.
+bool isAscii(std::string_view text) {
+    unsigned char all = 0;
+    for (const char c : text) all = static_cast<unsigned char>(all | static_cast<unsigned char>(c));
+    return all < 0x80;
+}
+
 }  // namespace
 
 char32_t characterOf(unsigned char byte) {
