@@ -48,7 +48,7 @@ TEST_F(MacroAccess, ModulesAreFoundByGroupThenByNameAndEmptyGroupsMeanTheWholeMa
     EXPECT_EQ(module->name(), "Bolts2");
 }
 
-TEST_F(MacroAccess, DistancesTakeWholeNumbersTextsOnlyAndKeepTheOldValueOtherwise) {
+TEST_F(MacroAccess, DistancesTakeNumbersOnlyAndKeepTheOldValueOtherwise) {
     Vor_String value;
     ASSERT_EQ(getSetConstrVarValue(plate, "d1", value, get), Acad::eOk);
     EXPECT_EQ(value, "120.5");

@@ -4,6 +4,9 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
 #include <string>
 
 #include "core_api/macros/macro_key.h"
@@ -233,6 +236,26 @@ TEST(MacroFile, AMacroTooLargeForAFileIsNotSaved) {
     EXPECT_EQ(saveMacro(folder.inside("m.macro"), Vor_DbMacro(), message), Acad::eInvalidInput);
     EXPECT_EQ(folder.read("m.macro"), "old");
     EXPECT_EQ(folder.fileCount(), 1);
+}
+
+// What is shipped is written as the program writes it, so that saving one makes no needless
+// differences.
+TEST(MacroFile, EveryShippedMacroIsSavedAsItStands) {
+    int macros = 0;
+    for (const auto& entry : std::filesystem::directory_iterator(
+             std::filesystem::path(VORMANT_SOURCE_DIR) / "library" / "Macros")) {
+        if (entry.path().extension() != ".macro") continue;
+        ++macros;
+        std::ifstream file(entry.path(), std::ios::binary);
+        const std::string text{std::istreambuf_iterator<char>(file), {}};
+        Vor_DbMacro macro;
+        Vor_String message;
+        ASSERT_EQ(readText(text, macro, message), Acad::eOk) << entry.path() << message.str();
+        Vor_PropertyList properties;
+        ASSERT_EQ(writeMacro(macro, properties, message), Acad::eOk);
+        EXPECT_EQ(properties.write(), text) << entry.path();
+    }
+    EXPECT_GT(macros, 0);
 }
 
 }  // namespace
