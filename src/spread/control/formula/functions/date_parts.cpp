@@ -19,15 +19,16 @@ Value partOfDate(Calculation& c, Arguments args) {
     return static_cast<double>(calendar::dateOf(wholeDay(number)).*part);
 }
 
-/// The seconds of the day, to the nearest one, divided and cut to what a clock shows.
-Value partOfTime(Calculation& c, Arguments args, int divisor, int limit) {
+/// The seconds of the day; the nearest ones when `isRounded`, else cut to the millisecond that has
+/// been reached.
+Result<int> secondsOfDay(Calculation& c, Arguments args, bool isRounded) {
     ArgumentReader read(c, args);
     const double number = read.number(0);
     if (read.failed()) return read.error();
     if (!isInCalendar(number)) return ErrorCode::num;
     const double ofDay = (number - std::floor(number)) * calendar::secondsPerDay;
-    const auto seconds = static_cast<int>(std::lround(ofDay)) % calendar::secondsPerDay;
-    return static_cast<double>(seconds / divisor % limit);
+    const double shift = isRounded ? 0.5 : 0.0005;
+    return static_cast<int>(ofDay + shift) % calendar::secondsPerDay;
 }
 
 Result<DateText> readDate(Calculation& c, Arguments args) {
@@ -120,15 +121,18 @@ Value day(Calculation& c, Arguments args) {
 }
 
 Value hour(Calculation& c, Arguments args) {
-    return partOfTime(c, args, 3600, 24);
+    const Result<int> seconds = secondsOfDay(c, args, false);
+    return seconds ? Value(*seconds / 3600) : Value(seconds.error());
 }
 
 Value minute(Calculation& c, Arguments args) {
-    return partOfTime(c, args, 60, 60);
+    const Result<int> seconds = secondsOfDay(c, args, false);
+    return seconds ? Value(*seconds / 60 % 60) : Value(seconds.error());
 }
 
 Value second(Calculation& c, Arguments args) {
-    return partOfTime(c, args, 1, 60);
+    const Result<int> seconds = secondsOfDay(c, args, true);
+    return seconds ? Value(*seconds % 60) : Value(seconds.error());
 }
 
 Value weekday(Calculation& c, Arguments args) {

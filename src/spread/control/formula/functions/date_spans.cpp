@@ -31,6 +31,11 @@ int europeanDays360(Date start, Date end) {
     return daysOf360(start, end);
 }
 
+/// The day of a moment rounded to seconds: half a second before midnight is the next day.
+int nearestDay(double number) {
+    return std::min(wholeDay(number + 0.5 / calendar::secondsPerDay), calendar::lastDay);
+}
+
 /// DAYS360 looks at the end of February only where the time begins.
 int americanDays360(Date start, Date end) {
     if (isLastOfMonth(start)) start.day = 30;
@@ -122,8 +127,8 @@ Value days360(Calculation& c, Arguments args) {
     const bool isEuropean = read.truth(2, false);
     if (read.failed()) return read.error();
     if (!isInCalendar(start) || !isInCalendar(end)) return ErrorCode::num;
-    const Date from = calendar::dateOf(wholeDay(start));
-    const Date to = calendar::dateOf(wholeDay(end));
+    const Date from = calendar::dateOf(nearestDay(start));
+    const Date to = calendar::dateOf(nearestDay(end));
     return static_cast<double>(isEuropean ? europeanDays360(from, to) : americanDays360(from, to));
 }
 

@@ -53,6 +53,24 @@ int comparableFrom(const LookupVector& vector, const Value& key, int i, int end)
     return i;
 }
 
+/// The last of the run of elements equal to `key` that holds `first` and ends at or before `last`.
+int lastEqual(const LookupVector& vector, const Value& key, int first, int last) {
+    const auto isEqual = [&](int i) {
+        const Value value = vector.at(i);
+        return value.type() == key.type() && compareKeys(value, key) == 0;
+    };
+    // Mostly there is one; long runs are halved.
+    if (first == last || !isEqual(first + 1)) return first;
+    while (first < last) {
+        const int middle = first + (last - first + 1) / 2;
+        if (isEqual(middle))
+            first = middle;
+        else
+            last = middle - 1;
+    }
+    return first;
+}
+
 /// XMATCH without an order to rely on: every element is looked at until one fits exactly.
 class BestMatch {
   public:
@@ -185,12 +203,16 @@ std::optional<int> findAscending(const LookupVector& vector, const Value& wanted
     const Value key = keyOf(wanted);
     std::optional<int> best;
     int low = 0;
-    int high = vector.storedSize();
-    while (low < high) {
+    int high = vector.storedSize() - 1;
+    // Data out of order has no right answer, but the programs agree on one: they halve just so and
+    // stop at the first element met that equals the key.
+    while (low <= high) {
         const int middle = low + (high - low) / 2;
-        const int probe = comparableFrom(vector, key, middle, high);
-        if (probe == high || compareKeys(vector.at(probe), key) > 0) {
-            high = middle;
+        const int probe = comparableFrom(vector, key, middle, high + 1);
+        const int order = probe > high ? 1 : compareKeys(vector.at(probe), key);
+        if (order == 0) return lastEqual(vector, key, probe, high);
+        if (order > 0) {
+            high = middle - 1;
         } else {
             best = probe;
             low = probe + 1;

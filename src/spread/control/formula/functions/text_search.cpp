@@ -142,7 +142,10 @@ Value partAtDelimiter(Calculation& c, Arguments args) {
     const Result<Cut> cut = readCut(c, args);
     if (!cut) return cut.error();
     const auto hit = chosenHit(*cut);
-    if (!hit) return args.size() > 5 && !args[5].isMissing() ? args[5] : Value(ErrorCode::na);
+    if (!hit) {
+        if (args.size() <= 5 || args[5].isMissing()) return ErrorCode::na;
+        return args[5].isEmpty() ? Value::borrowedText("") : args[5];
+    }
     return Value::borrowedText(before ? cut->text.substr(0, hit->begin)
                                       : cut->text.substr(hit->end));
 }
