@@ -49,47 +49,83 @@ char* writeScientific(const Decimal& decimal, char* out) {
     return std::to_chars(out, out + 3, exponent).ptr;
 }
 
-/// Place of every byte in the order of the programs: symbols, digits, letters; a letter and its
-/// capital share one place, accented letters follow their plain one.
-constexpr std::array<uint8_t, 256> makeOrder() {
+/// Where every byte stands in the order of the programs: symbols, digits, letters. A letter and its
+/// capital share one place.
+struct TextOrder {
+    std::array<uint8_t, 256> base{};   ///< an accented letter stands with its plain one
+    std::array<uint8_t, 256> place{};  ///< and right behind it where all else is equal
+};
+
+constexpr bool isHighLetter(unsigned c) {
+    if (c >= 0xC0) return c != 0xD7 && c != 0xF7;
+    return c == 0x83 || c == 0x8A || c == 0x8C || c == 0x8E || c == 0x9A || c == 0x9C ||
+           c == 0x9E || c == 0x9F;
+}
+
+constexpr TextOrder makeTextOrder() {
     constexpr std::string_view symbols = " _-,;:!?.'\"()[]{}@*/\\&#%`^+<=>|~$";
-    constexpr std::string_view letters =
-        "a\xE1\xE0\xE2\xE4\xE3\xE5\xE6"
-        "bc\xE7"
-        "d\xF0"
-        "e\xE9\xE8\xEA\xEB"
-        "f\x83"
-        "ghi\xED\xEC\xEE\xEF"
-        "jklmn\xF1"
-        "o\xF3\xF2\xF4\xF6\xF5\xF8\x9C"
-        "pqrs\x9A\xDF"
-        "tu\xFA\xF9\xFB\xFC"
-        "vwxy\xFD\xFF"
-        "z\x9E\xFE";
-    std::array<uint8_t, 256> order{};
-    uint8_t next = 1;
-    const auto place = [&](std::string_view bytes) {
-        for (const char c : bytes) order[static_cast<uint8_t>(c)] = next++;
+    constexpr std::string_view letters[] = {
+        "a\xE1\xE0\xE2\xE4\xE3\xE5\xE6",
+        "b",
+        "c\xE7",
+        "d\xF0",
+        "e\xE9\xE8\xEA\xEB",
+        "f\x83",
+        "g",
+        "h",
+        "i\xED\xEC\xEE\xEF",
+        "j",
+        "k",
+        "l",
+        "m",
+        "n\xF1",
+        "o\xF3\xF2\xF4\xF6\xF5\xF8\x9C",
+        "p",
+        "q",
+        "r",
+        "s\x9A\xDF",
+        "t",
+        "u\xFA\xF9\xFB\xFC",
+        "v",
+        "w",
+        "x",
+        "y\xFD\xFF",
+        "z\x9E",
+        "\xFE",
     };
-    for (unsigned c = 1; c < ' '; ++c) order[c] = next++;
-    order[0x7F] = next++;
-    place(symbols);
-    for (unsigned c = 0x80; c < 0x100; ++c) {
-        const bool isLetter = c >= 0xC0 ? c != 0xD7 && c != 0xF7
-                                        : c == 0x83 || c == 0x8A || c == 0x8C || c == 0x8E ||
-                                              c == 0x9A || c == 0x9C || c == 0x9E || c == 0x9F;
-        if (!isLetter) order[c] = next++;
-    }
-    place("0123456789");
-    place(letters);
-    for (unsigned c = 'A'; c <= 'Z'; ++c) order[c] = order[c + 0x20];
+    TextOrder order;
+    uint8_t next = 1;
+    // The bytes of `group`, all with the base of the first.
+    const auto place = [&](std::string_view group) {
+        const uint8_t base = next;
+        for (const char c : group) {
+            order.base[static_cast<uint8_t>(c)] = base;
+            order.place[static_cast<uint8_t>(c)] = next++;
+        }
+    };
+    const auto placeOne = [&](unsigned c) {
+        const char byte = static_cast<char>(c);
+        place({&byte, 1});
+    };
+    const auto copyPlace = [&order](unsigned from, unsigned to) {
+        order.base[to] = order.base[from];
+        order.place[to] = order.place[from];
+    };
+    for (unsigned c = 1; c < ' '; ++c) placeOne(c);
+    placeOne(0x7F);
+    for (const char& c : symbols) place({&c, 1});
+    for (unsigned c = 0x80; c < 0x100; ++c)
+        if (!isHighLetter(c)) placeOne(c);
+    for (unsigned c = '0'; c <= '9'; ++c) placeOne(c);
+    for (const std::string_view group : letters) place(group);
+    for (unsigned c = 'A'; c <= 'Z'; ++c) copyPlace(c + 0x20, c);
     for (unsigned c = 0xC0; c <= 0xDE; ++c)
-        if (c != 0xD7) order[c] = order[c + 0x20];
-    for (const unsigned c : {0x8AU, 0x8CU, 0x8EU}) order[c] = order[c + 0x10];
-    order[0x9F] = order[0xFF];
+        if (c != 0xD7) copyPlace(c + 0x20, c);
+    for (const unsigned c : {0x8AU, 0x8CU, 0x8EU}) copyPlace(c + 0x10, c);
+    copyPlace(0xFF, 0x9F);
     return order;
 }
-constexpr std::array<uint8_t, 256> order = makeOrder();
+constexpr TextOrder order = makeTextOrder();
 
 /// Numbers, texts, booleans, in this order; empty and missing have no place of their own.
 int rank(const Value& value) {
@@ -192,12 +228,16 @@ size_t writeNumber(double number, char (&buffer)[numberTextSize]) {
 
 int compareTexts(std::string_view a, std::string_view b) {
     const size_t common = std::min(a.size(), b.size());
+    int accents = 0;
     for (size_t i = 0; i < common; ++i) {
-        const int difference =
-            order[static_cast<uint8_t>(a[i])] - order[static_cast<uint8_t>(b[i])];
-        if (difference != 0) return difference;
+        const auto left = static_cast<uint8_t>(a[i]);
+        const auto right = static_cast<uint8_t>(b[i]);
+        if (left == right) continue;
+        if (order.base[left] != order.base[right]) return order.base[left] - order.base[right];
+        if (accents == 0) accents = order.place[left] - order.place[right];
     }
-    return a.size() < b.size() ? -1 : a.size() > b.size();
+    if (a.size() != b.size()) return a.size() < b.size() ? -1 : 1;
+    return accents;
 }
 
 int compareNumbers(double a, double b) {

@@ -212,6 +212,7 @@ Value Evaluator::matrix(const Instruction& i, const Value* values) {
 }
 
 Value Evaluator::single(const Value& value) {
+    if (value.isSingle()) return value;
     if (value.isArray()) {
         const Array& array = value.array();
         return array.rows * array.cols > 0 ? array.cells[0] : Value(ErrorCode::value);

@@ -1,4 +1,3 @@
-#include <algorithm>
 
 #include "spread/control/formula/functions/argument_reader.h"
 #include "spread/control/formula/functions/date_family.h"
@@ -47,8 +46,9 @@ int daysIntoWeek(int day, int firstDay) {
 int isoWeek(int day) {
     // A week belongs to the year that its Thursday lies in.
     const int thursday = day - daysIntoWeek(day, 1) + 3;
-    const int year = thursday < 1 ? 1899 : calendar::dateOf(thursday).year;
-    return (thursday - calendar::dayNumber({std::max(year, 1900), 1, 1})) / 7 + 1;
+    if (thursday < 1) return 52;  // of 1899
+    const int newYear = calendar::dayNumber({calendar::dateOf(thursday).year, 1, 1});
+    return (thursday - newYear) / 7 + 1;
 }
 
 /// The weekday (0 is Sunday) on which the weeks of a numbering 1, 2 or 11 to 17 begin; below 0 for

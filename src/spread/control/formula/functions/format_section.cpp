@@ -144,7 +144,7 @@ class FormatParser {
         return true;
     }
 
-    /// ".00" behind seconds.
+    /// ".00" behind seconds, at most three zeros; more are digits, which dates do not have.
     bool takeSecondFraction() {
         const auto& pieces = section().pieces;
         const bool isBehindSeconds =
@@ -153,9 +153,10 @@ class FormatParser {
         if (!isBehindSeconds) return false;
         m_rest.remove_prefix(1);
         int count = 0;
-        for (; !m_rest.empty() && m_rest.front() == '0'; m_rest.remove_prefix(1)) ++count;
+        for (; count < 3 && !m_rest.empty() && m_rest.front() == '0'; m_rest.remove_prefix(1))
+            ++count;
         add(Part::secondFraction, '0', count);
-        return count <= 3;
+        return true;
     }
 
     bool takeQuoted() {

@@ -1,4 +1,6 @@
+#include <algorithm>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "spread/control/formula/functions/argument_reader.h"
@@ -13,7 +15,11 @@ using Arguments = std::span<const Value>;
 class Joiner {
   public:
     Joiner(Calculation& c, std::vector<std::string_view> delimiters, bool ignoresEmpty)
-        : m_calculation(c), m_delimiters(std::move(delimiters)), m_ignoresEmpty(ignoresEmpty) {}
+        : m_calculation(c), m_delimiters(std::move(delimiters)), m_ignoresEmpty(ignoresEmpty) {
+        // With nothing between them empty texts do not show.
+        const auto isEmpty = [](std::string_view delimiter) { return delimiter.empty(); };
+        if (std::all_of(m_delimiters.begin(), m_delimiters.end(), isEmpty)) m_ignoresEmpty = true;
+    }
 
     bool failed() const { return m_failed; }
     Value result() { return m_failed ? Value(m_error) : m_calculation.text(m_text); }
@@ -38,7 +44,7 @@ class Joiner {
         if (m_count > 0 && !m_delimiters.empty())
             m_text += m_delimiters[(m_count - 1) % m_delimiters.size()];
         m_text += *text;
-        // Counting as well ends the walk over a sheet of empty cells with nothing between them.
+        // Counting as well ends a walk over empty cells with a list of mostly empty delimiters.
         if (++m_count > maxElements || m_text.size() > longestText) fail(ErrorCode::value);
     }
     void fail(ErrorCode error) {
