@@ -248,6 +248,10 @@ std::optional<int> findExtended(const LookupVector& vector, const Value& wanted,
     if (wanted.isEmpty() || wanted.isMissing()) return findEmpty(vector);
     if (search == SearchMode::ascending || search == SearchMode::descending)
         return findInOrder(vector, wanted, match, search == SearchMode::ascending);
+    if (match == MatchMode::exact && search == SearchMode::first) {
+        if (wanted.isNumber()) return findNumber(vector, wanted.number());
+        if (wanted.isText()) return findText(vector, wanted.text());
+    }
     BestMatch best(wanted, match, search);
     vector.find([&best](int i, const Value& value) { return best(i, value); });
     return best.result();
