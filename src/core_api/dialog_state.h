@@ -1,5 +1,6 @@
-// What dialogs remember between sessions, by dialog name ("DLG_FINDREPLACE"): their place on the
-// screen and a few switches. A value that cannot be kept is told on the command line and forgotten.
+// What dialogs remember from one run to the next, by dialog name ("DLG_FINDREPLACE"): their place
+// on the screen and a few switches. A value that cannot be kept is told on the command line and
+// forgotten.
 #pragma once
 
 #include "core_api/text/vor_string.h"

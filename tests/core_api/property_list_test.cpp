@@ -99,4 +99,31 @@ TEST(PropertyList, AbsurdSizesAreRefused) {
     EXPECT_THAT(message.str(), HasSubstr("larger than 1000 bytes"));
 }
 
+// Every cut and every changed byte of a good file: refused with a line, or read as something that
+// comes back the same from its own text.
+TEST(PropertyList, SurvivesCutsAndChangedBytes) {
+    const std::string good =
+        "properties 1\ns\tname\tA\\tB\ni\tcount\t-3\nd\twidth\t1.5e3\nb\ton\t1\nend\n";
+    for (size_t length = 0; length + 1 < good.size(); ++length) {
+        Vor_PropertyList list;
+        Vor_String message;
+        EXPECT_FALSE(list.read(good.substr(0, length), "f", message)) << "cut at " << length;
+        EXPECT_TRUE(message.beginsWith("f:")) << "cut at " << length;
+    }
+    for (size_t at = 0; at < good.size(); ++at) {
+        for (const char c : {'\0', '\t', '\n', '\\', '9', 'x', '\xFF'}) {
+            std::string changed = good;
+            changed[at] = c;
+            Vor_PropertyList list, again;
+            Vor_String message;
+            if (!list.read(changed, "f", message)) {
+                EXPECT_THAT(message.str(), testing::MatchesRegex("f:[0-9]+: .+; .+")) << at;
+                continue;
+            }
+            ASSERT_TRUE(again.read(list.write(), "again", message)) << message.str();
+            EXPECT_EQ(again, list) << "byte " << at << " made " << static_cast<int>(c);
+        }
+    }
+}
+
 }  // namespace

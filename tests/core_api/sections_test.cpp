@@ -108,4 +108,42 @@ TEST_F(SectionTables, FollowTheLibraryAndTellOfDamageOnce) {
     EXPECT_EQ(getSectionValue("IPE-200", 0, text), Acad::eOk);
 }
 
+TEST_F(SectionTables, ShortRowsAndRepeatedNamesAreHarmless) {
+    folder.write("Prof/ODD.pr",
+                 "\nSysName\tI/O\tE\tD\tG\tF\th\n1\n\n2\t1\tIPE 200\n1\t1\tagain\t\t\t\t7\n");
+    gSectionTables.reload();
+    Vor_String text("kept");
+    EXPECT_EQ(getSectionValue("ODD-1", 0, text), Acad::eInvalidInput);  // the first row counts
+    EXPECT_EQ(getSectionValue("ODD-2", 0, text), Acad::eInvalidInput);
+    EXPECT_EQ(getSectionValue("ODD-", 0, text), Acad::eInvalidInput);
+    EXPECT_EQ(text.str(), "kept");
+    ASSERT_EQ(getSectionValue("again", 0, text), Acad::eOk);
+    EXPECT_EQ(text.str(), "7");
+    // Of two tables with one user name the alphabet's first has it.
+    ASSERT_TRUE(gSectionTables.getSystemName("ipe 200", text));
+    EXPECT_EQ(text.str(), "IPE-200");
+}
+
+TEST_F(SectionTables, EverySizeOfTheSampleLibraryIsFoundByBothNames) {
+    std::string library = VORMANT_SOURCE_DIR "/library";
+    gSettings.setLibDir(library);
+    const Vor_StringArray names = gSectionTables.tableNames();
+    if (names.isEmpty()) GTEST_SKIP() << "no section tables in " << library;
+    for (int i = 0; i < names.length(); ++i) {
+        const SectionTable* table = gSectionTables.table(i);
+        ASSERT_NE(table, nullptr) << names[i].str();
+        for (int row = 0; row < table->rows().length(); ++row) {
+            const Vor_String name = table->fullName(row);
+            const auto bySystemName = gSectionTables.find(name);
+            EXPECT_TRUE(bySystemName.table == table && bySystemName.row == row) << name.str();
+            const auto byUserName = gSectionTables.find(table->userName(row, 0));
+            EXPECT_TRUE(byUserName.table == table && byUserName.row == row) << name.str();
+            for (int column = 0; column < table->valueColumns().length(); ++column) {
+                const Vor_String* value = table->value(row, column);
+                EXPECT_TRUE(value && isNumber(*value)) << name.str() << " column " << column;
+            }
+        }
+    }
+}
+
 }  // namespace

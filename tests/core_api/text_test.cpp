@@ -2,11 +2,14 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <bit>
 #include <charconv>
 #include <cmath>
 #include <limits>
 #include <random>
 
+#include "core_api/property_list.h"
 #include "core_api/text/number_text.h"
 #include "platform/encodings.h"
 
@@ -106,6 +109,15 @@ TEST(NumberText, ReadsWhatAtofReads) {
     EXPECT_EQ(textToInt("99999999999999999999"), std::numeric_limits<int>::max());
 }
 
+TEST(NumberText, ExactTextReadsBackAsTheSameNumber) {
+    std::mt19937_64 random(11);
+    for (int i = 0; i < 20000; ++i) {
+        const double number = std::bit_cast<double>(random());
+        if (!std::isfinite(number)) continue;
+        ASSERT_EQ(textToDouble(exactNumberText(number)), number) << std::hexfloat << number;
+    }
+}
+
 TEST(Encodings, EveryByteSurvivesAndCasesPair) {
     std::string all;
     for (int i = 0; i < 256; ++i) all.push_back(static_cast<char>(i));
@@ -158,6 +170,41 @@ TEST(VorString, SearchesAndReplaces) {
     EXPECT_EQ(text.str(), ">gapgap");
 }
 
+// Against the plain way: lower both texts, then search bytes.
+TEST(VorString, FoldedSearchAgreesWithLoweredTexts) {
+    std::mt19937 random(3);
+    const std::string_view letters = "aAbB\xC4\xE4\x9F\xFF+";
+    const auto draw = [&](size_t length) {
+        std::string text;
+        while (text.size() < length) text += letters[random() % letters.size()];
+        return text;
+    };
+    for (int i = 0; i < 5000; ++i) {
+        const Vor_String text = draw(random() % 12);
+        const std::string part = draw(1 + random() % 3);
+        const int start = static_cast<int>(random() % 4);
+        const size_t plain =
+            encodings::lowered(text).find(encodings::lowered(part), static_cast<size_t>(start));
+        const int expected = plain == std::string::npos ? -1 : static_cast<int>(plain);
+        ASSERT_EQ(text.findFirstFrom(part, start), expected) << text.str() << " " << part;
+        ASSERT_EQ(text.equal(part), encodings::lowered(text) == encodings::lowered(part));
+        ASSERT_EQ(text.beginsWith(part), text.findFirstFrom(part, 0) == 0);
+    }
+}
+
+TEST(TextHelpers, RowsOfColumnsComeBack) {
+    const Vor_StringArray lines{
+        "a\xBF"
+        "b",
+        "", "\xBF", "c"};
+    const auto rows = arrToArrArr(lines, '\xBF');
+    ASSERT_EQ(rows.length(), 4);
+    EXPECT_EQ(rows[0], (Vor_StringArray{"a", "b"}));
+    EXPECT_EQ(rows[1].length(), 1);
+    EXPECT_EQ(rows[2].length(), 2);
+    EXPECT_EQ(arrArrToArr(rows, '\xBF'), lines);
+}
+
 TEST(TextHelpers, Split) {
     Vor_String before("kept"), after("kept");
     EXPECT_FALSE(splitString("no separator", "=", before, after));
@@ -203,6 +250,29 @@ TEST(TextHelpers, NaturalOrder) {
         ObjectExportAddToSorted(sorted, name);
     }
     EXPECT_EQ(arrToStr(sorted, "|").str(), "HEA 99|HEA 1000|IPE|ipe 80|IPE 080A|IPE 100");
+}
+
+TEST(TextHelpers, NaturalOrderDoesNotDependOnTheOrderOfAdding) {
+    std::vector<std::string> names{"M8",      "M10", "M012", "M12",   "M12x40",
+                                   "M12x140", "m9",  "9999", "99999", "12345678901234567890123",
+                                   "A",       "B-2", "B-10"};
+    std::string expected;
+    std::mt19937 random(5);
+    for (int i = 0; i < 200; ++i) {
+        Vor_StringArray sorted;
+        for (const std::string& name : names) {
+            const int index = ObjectExportAddToSorted(sorted, name);
+            ASSERT_EQ(sorted[index].str(), name);
+        }
+        // M012 and M12 are the same to this order; which comes first is the order of adding.
+        Vor_String joined = arrToStr(sorted, " ");
+        joined.replaceSubString("M012", "M12");
+        if (i == 0) expected = joined.str();
+        ASSERT_EQ(joined.str(), expected);
+        std::shuffle(names.begin(), names.end(), random);
+    }
+    EXPECT_EQ(expected,
+              "9999 99999 12345678901234567890123 A B-2 B-10 M8 m9 M10 M12 M12 M12x40 M12x140");
 }
 
 TEST(TextHelpers, ColumnLettersAndPaths) {

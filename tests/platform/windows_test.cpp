@@ -69,6 +69,50 @@ TEST(Dialogs, HiddenDialogHasItsItemsInPixels) {
     EXPECT_TRUE(dialog.create());
 }
 
+TEST(Dialogs, DisabledAndHiddenItemsTakeNothing) {
+    SampleDialog dialog;
+    EXPECT_FALSE(dialog.press(1205));  // not created
+    ASSERT_TRUE(dialog.create());
+    dialog.item(1205)->enable(false);
+    dialog.item(1207)->enable(false);
+    EXPECT_FALSE(dialog.press(1205));
+    EXPECT_FALSE(dialog.type(1207, "x"));
+    EXPECT_FALSE(dialog.press(4711));
+    EXPECT_EQ(dialog.commands, "");
+    EXPECT_FALSE(dialog.item(IDOK)->focus());  // the dialog is hidden
+    dialog.show(true);
+    EXPECT_FALSE(dialog.item(1205)->focus());
+    EXPECT_TRUE(dialog.item(IDOK)->focus());
+    EXPECT_TRUE(dialog.press(IDCANCEL));  // the title bar's cross
+    EXPECT_EQ(dialog.result(), IDCANCEL);
+}
+
+// What a screen is told: every window made goes again, children before their parent.
+TEST(Windows, ScreenIsToldOfEveryWindow) {
+    class Screen : public WindowSystem {
+      public:
+        void created(CWnd& window) override { log += "+" + std::to_string(window.id()); }
+        void destroyed(CWnd& window) override { log += "-" + std::to_string(window.id()); }
+        void changed(CWnd& window, WindowChange change) override {
+            if (change == WindowChange::text) log += "=" + window.text();
+        }
+        std::string log;
+    };
+    Screen screen;
+    WindowSystem* const before = WindowSystem::install(&screen);
+    {
+        CWnd top, child;
+        ASSERT_TRUE(top.create({"Frame", "", {0, 0, 9, 9}, 0, 1, true}, nullptr));
+        CWnd* const kept = top.adopt(std::make_unique<CWnd>());
+        ASSERT_TRUE(kept->create({"Edit", "", {0, 0, 9, 9}, 0, 2, true}, &top));
+        ASSERT_TRUE(child.create({"Edit", "", {0, 0, 9, 9}, 0, 3, true}, kept));
+        EXPECT_FALSE(child.create({"Edit", "", {}, 0, 4, true}, &top));
+        child.setText("M16");
+    }
+    WindowSystem::install(before);
+    EXPECT_EQ(screen.log, "+1+2+3=M16-3-2-1");
+}
+
 TEST(Dialogs, ScriptedUserWorksThroughOne) {
     TestUser user;
     user.whenOpens(218).types(1207, "M16").presses(1205).presses(IDOK);

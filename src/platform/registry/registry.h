@@ -1,4 +1,4 @@
-// Named text values under keys ("Software\Vormant\Dialogs"), kept between sessions: one text file
+// Named text values under keys ("Software\Vormant\Dialogs"), kept from run to run: one text file
 // a root in the user's configuration folder ($XDG_CONFIG_HOME/vormant/, else ~/.config/vormant/).
 // A file is read when first asked for and again when another program changed it. Letter case in
 // keys and names does not matter. File form: a first line "registry 1", then key, name and value
