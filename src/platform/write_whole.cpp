@@ -65,6 +65,7 @@ int writeAll(int descriptor, std::string_view content) {
         const int error = steps().write(descriptor, content, written);
         if (error == EINTR) continue;
         if (error != 0) return error;
+        if (written == 0) return EIO;  // no error and no progress: not again for ever
         content.remove_prefix(written);
     }
     return steps().flush(descriptor);
