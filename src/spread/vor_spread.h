@@ -6,15 +6,11 @@
 #pragma once
 
 #include <memory>
-#include <string>
-#include <vector>
 
 #include "core_api/text/vor_array.h"
 #include "core_api/text/vor_string.h"
 #include "core_api/text/vor_string_array.h"
 #include "spread/t_spread.h"
-
-class CWnd;
 
 class VORMANT_API Vor_Spread : public TSpread {
   public:
@@ -23,28 +19,26 @@ class VORMANT_API Vor_Spread : public TSpread {
     /// What getCellText reads: entered data (0), formula (1), tag (2) or value (3).
     using Reading = control::Reading;
 
-    Vor_Spread();
-    ~Vor_Spread() override;
-
     // --- creation and layout ----------------------------------------------------------------
     /// Takes the place of item `ctrlId` of `parent`, which is destroyed. Unless `exactRect` the
     /// grid lies 5 to the left of and 20 above the item. Starts with 0 rows and columns.
     bool attach(CWnd* parent, int ctrlId, bool exactRect);
-    /// A grid without a window, for programs and engines that only calculate.
-    void attachHidden();
-    bool isAttached() const { return m_attached; }
-    CWnd* parent() const { return m_parent; }
-    int controlId() const { return m_controlId; }
+    /// A window of its own that is never shown, for engines that only calculate.
+    bool attachHidden();
+    bool isAttached() const { return isCreated(); }
     /// 0: a table that is read and picked from; 1: one that is typed into.
     bool setStandardLook(int mode);
-    void setFontName(const Vor_String& name) { m_fontName = name; }
-    void setFontHeight(int height) { m_fontHeight = height; }
+    void setFontName(const Vor_String& name);
+    void setFontHeight(int height);
     const Vor_String& fontName() const { return m_fontName; }
     int fontHeight() const { return m_fontHeight; }
     /// Header cells bold, body cells plain, both in the font of this object.
     bool setFonts();
-    /// Modes 0 (none) to 5; `count` and `value` serve modes 3 and 4.
+    /// What autoSize() does. 0: nothing. 1: all columns alike. 2: as wide and tall as the texts.
+    /// 3: the first `count` columns (the last for a negative count) share `value` percent. 4:
+    /// column `count` (or headerIndex) gets `value` pixels. In 3 and 4 the others share the rest.
     bool setAutoSize(int mode, int count = 0, int value = 0);
+    /// Mode 5: each listed column has its width, the others share the rest.
     bool setFixedWidths(int mode, const Vor_Array<int>& columns, const Vor_Array<int>& widths);
     bool autoSize();
     /// Width of the grid's window without its scroll bar, in pixels.
@@ -71,8 +65,8 @@ class VORMANT_API Vor_Spread : public TSpread {
     bool setCheck(int col, int row, bool checked);
 
     // --- columns and rows -------------------------------------------------------------------
-    // Written from 1 to the shorter of the array and the sheet; `asValue` writes through the value
-    // call instead of the data call.
+    // Written from 1 to the shorter of the array and the sheet; false when a cell refuses its text,
+    // with the others written. `asValue` writes through the value call instead of the data call.
     bool setColumn(int col, const Vor_StringArray& texts, bool asValue = false);
     bool getColumn(int col, Vor_StringArray& texts, Reading kind = Reading::data) const;
     bool setColumn(int col, const Vor_Array<int>& numbers);
@@ -170,17 +164,22 @@ class VORMANT_API Vor_Spread : public TSpread {
     enum TabAction { tabMoves = 0, tabNotHandled = 1, tabLeavesForwards = 2, tabLeavesBackwards };
     /// What the grid does with a key; only Tab is ever handled.
     void handleTabKey(int key, int& action);
+    static constexpr int tabKey = 9;
+    void onCommand(int id, int code) override;
 
     // --- linked cells -----------------------------------------------------------------------
     /// Cells of `dependentCol` are locked where the check box in `checkCol` is off.
     bool linkCheckColumn(int checkCol, int dependentCol);
+    /// What the control tells of a cell: `code` 0x3B or 0x3C when its check box was clicked.
+    void onCellCommand(int code, int col, int row);
 
     // --- files and formulas -----------------------------------------------------------------
     bool loadFromFile(const Vor_String& path);
     bool saveToFile(const Vor_String& path);
     /// Why the last load or save failed: "file:line: what: what to do".
-    const Vor_String& lastError() const { return m_lastError; }
-    /// The document that was loaded last, unchanged and shared, or null.
+    const std::string& lastError() const { return grid().lastError(); }
+    /// The document that was loaded last, unchanged and shared; null when it was too large to
+    /// share.
     const std::shared_ptr<const control::Document>& document() const { return grid().document(); }
     bool setFormula(int col, int row, const Vor_String& text);
     bool reCalcCell(int col, int row);
@@ -189,11 +188,20 @@ class VORMANT_API Vor_Spread : public TSpread {
                            int flags);
 
   private:
-    bool m_attached = false;
-    CWnd* m_parent = nullptr;
-    int m_controlId = 0;
+    int columnsToShare() const;
+    template <class Width>
+    void shareWidths(int total, int columns, Width&& ownWidth);
+    void fitToTexts();
+    bool askName(bool isRow, Vor_String& name);
+    bool isEditable(int col, int row) const;
+    control::CellAddress firstEditable() const;
+    control::CellAddress lastEditable() const;
+    bool checkSelection(bool checked);
+    void applyLink(int row);
+
     Vor_String m_fontName = "Tahoma";
     int m_fontHeight = 15;
+    bool m_hasFonts = false;  // setFonts() was called; rows that grow copy them
     int m_autoSizeMode = 0;
     int m_autoSizeCount = 0;
     int m_autoSizeValue = 0;
@@ -202,5 +210,4 @@ class VORMANT_API Vor_Spread : public TSpread {
     Vor_Array<int> m_menuCommands;
     int m_checkColumn = -1;
     int m_dependentColumn = -1;
-    Vor_String m_lastError;
 };

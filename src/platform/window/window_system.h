@@ -38,6 +38,8 @@ class VORMANT_API WindowSystem {
     virtual int messageBox(const MessageBox& box);
     /// Lets the user work with a modal dialog until it is ended. Headless: it is cancelled.
     virtual void runModal(CDialog& dialog);
+    /// The Shift key, at this moment.
+    virtual bool isShiftHeld() { return false; }
     /// The command picked, 0 for none.
     virtual int popupMenu(CWnd& owner, std::span<const MenuEntry> entries);
 };

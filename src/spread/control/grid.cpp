@@ -3,6 +3,8 @@
 
 #include <algorithm>
 
+#include "platform/files.h"
+
 namespace control {
 namespace {
 
@@ -10,7 +12,7 @@ namespace {
 constexpr size_t mostTouched = 4096;
 
 bool isOption(int number) {
-    return number >= 0 && number < 64;
+    return number >= 0 && number < optionCount;
 }
 
 // Groups first..first+count-1 and other..other+count-1 in 1..last that do not overlap.
@@ -193,7 +195,6 @@ bool Grid::copyRowLooks(int from, int to) {
         noteTouched(col, to);
         m_sheet->setLook(col, to, look == inheritedLook ? plainLook : look);
     }
-    if (rowHeight(from) != rowHeight(to)) setRowHeight(to, rowHeight(from));
     return true;
 }
 
@@ -220,7 +221,6 @@ bool Grid::copyColLooks(int from, int to) {
         noteTouched(to, row);
         m_sheet->setLook(to, row, ownLook);
     }
-    if (colWidth(from) != colWidth(to)) setColWidth(to, colWidth(from));
     return true;
 }
 
@@ -281,8 +281,9 @@ void Grid::setReferenceStyle(int style) {
 }
 
 void Grid::addCustomFunction(const formula::CustomFunction* function) {
-    if (std::find(m_custom.begin(), m_custom.end(), function) == m_custom.end())
-        m_custom.push_back(function);
+    if (std::find(m_custom.begin(), m_custom.end(), function) != m_custom.end()) return;
+    std::erase_if(m_custom, [&](const auto* other) { return other->name == function->name; });
+    m_custom.push_back(function);
     m_sheet->addCustomFunction(function);
 }
 
@@ -309,6 +310,21 @@ void Grid::adopt(std::shared_ptr<Document> document) {
     startFrom(*document);
     m_canUndo = false;
     m_isAsLoaded = false;
+}
+
+bool Grid::load(std::string_view path) {
+    m_lastError.clear();
+    return loadInto(*this, path, m_lastError);
+}
+
+bool Grid::save(std::string_view path) {
+    m_lastError.clear();
+    return saveDocument(*this, path, m_lastError);
+}
+
+bool Grid::saveTexts(std::string_view path) {
+    m_lastError.clear();
+    return files::writeWhole(path, copyText({1, 1, -1, -1}) + "\n", m_lastError);
 }
 
 void Grid::putBackTouched() {

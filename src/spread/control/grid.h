@@ -31,6 +31,9 @@ constexpr bool isHeader(int index) {
     return index == headerIndex || index == 0;
 }
 
+/// Options are numbered from 0 up to this.
+inline constexpr int optionCount = 64;
+
 enum class Reading { data = 0, formula = 1, tag = 2, value = 3 };
 
 /// The switches of SSSetBool that mean something to the grid itself; others are kept as they are.
@@ -58,6 +61,14 @@ struct ActionKey {
     bool operator==(const ActionKey&) const = default;
 };
 enum class KeyAction { copy = 0, cut = 1, paste = 2 };
+
+/// What only views act on.
+struct ViewSettings {
+    int appearance = 0;
+    int cursorType = 0;
+    int cursorStyle = 0;
+    int editEnterAction = 0;  ///< where Enter goes after typing: 0 stays, 5 to the next cell
+};
 
 class Grid {
   public:
@@ -121,6 +132,7 @@ class Grid {
     void setReferenceStyle(int style);
     int referenceStyle() const { return m_sides->referenceStyle; }
     /// Registered for formulas set from now on, in this grid and through every load.
+    /// One of the same name that was registered before is replaced.
     void addCustomFunction(const formula::CustomFunction* function);
     const Sheet& sheet() const { return *m_sheet; }
 
@@ -187,9 +199,11 @@ class Grid {
     // --- selection, editing, clipboard ------------------------------------------------------
     /// (0, 0) when no cell is active.
     CellAddress active() const { return m_active; }
+    /// Takes a selection away.
     bool setActive(int col, int row);
     /// The selected block; nothing when only a cell is active.
     const std::optional<Block>& selection() const { return m_selection; }
+    /// Makes its first corner active.
     bool select(const Block& block);
     void deselect() { m_selection.reset(); }
     /// Edit mode: the active cell's text being typed. False when the cell is locked or static.
@@ -215,7 +229,17 @@ class Grid {
     /// A block with its -1 ends filled in and cut to the sheet; nothing when it lies outside.
     std::optional<Block> resolved(const Block& block) const;
 
+    ViewSettings& view() { return m_view; }
+    const ViewSettings& view() const { return m_view; }
+
     // --- documents --------------------------------------------------------------------------
+    /// Host-style paths. False with lastError() as "file:line: what: what to do"; after a failed
+    /// load the grid is as it was, after a failed save the file.
+    bool load(std::string_view path);
+    bool save(std::string_view path);
+    /// The data texts as tab-separated lines in Windows-1252.
+    bool saveTexts(std::string_view path);
+    const std::string& lastError() const { return m_lastError; }
     /// Starts a fresh copy. When the grid started from this same document before, only what was
     /// touched since is put back. Registered functions stay.
     void restore(std::shared_ptr<const Document> document);
@@ -249,7 +273,7 @@ class Grid {
     LookTable m_looks;
     SharedSides m_sides;
     std::vector<const formula::CustomFunction*> m_custom;
-    std::bitset<64> m_options;  // but for those that lie in m_sides
+    std::bitset<optionCount> m_options;  // but for those that lie in m_sides
     bool m_changed = false;
 
     std::shared_ptr<const Document> m_document;
@@ -261,6 +285,8 @@ class Grid {
     std::optional<Block> m_selection;
     std::optional<Edit> m_edit;
     std::array<ActionKey, 3> m_actionKeys;
+    ViewSettings m_view;
+    std::string m_lastError;
 };
 
 }  // namespace control

@@ -84,11 +84,14 @@ bool isTypable(const CellType& type) {
 bool Grid::setActive(int col, int row) {
     if (!isInside(col, row)) return false;
     m_active = {col, row};
+    m_selection.reset();
     return true;
 }
 
 bool Grid::select(const Block& block) {
-    if (!resolved(block)) return false;
+    const std::optional<Block> inside = resolved(block);
+    if (!inside) return false;
+    m_active = {inside->col1, inside->row1};
     m_selection = block;
     return true;
 }

@@ -30,7 +30,8 @@ class ChangedLooks {
     LookIndex operator()(LookIndex look) {
         for (const auto& [from, to] : m_known)
             if (from == look) return to;
-        const LookIndex to = m_looks.intern(m_change(m_looks[look]));
+        const Look changed = m_change(m_looks[look]);
+        const LookIndex to = changed == m_looks[look] ? look : m_looks.intern(changed);
         m_known.emplace_back(look, to);
         return to;
     }
@@ -99,8 +100,11 @@ bool Grid::eachLook(const Block& block, const ChangeLook& change) {
     ChangedLooks changed(m_looks, change);
     for (int col = firstCol; col <= lastCol; ++col) {
         for (int row = body.row1; row <= lastRow; ++row) {
+            const LookIndex now = lookIndex(col, row);
+            const LookIndex next = changed(now);
+            if (next == now) continue;
             noteTouched(col, row);
-            m_sheet->setLook(col, row, changed(lookIndex(col, row)));
+            m_sheet->setLook(col, row, next);
         }
     }
     return true;
@@ -130,8 +134,10 @@ void Grid::changeColumnLooks(int col, const ChangeLook& change) {
         if (cell.look != inheritedLook) own.emplace_back(row, cell.look);
     });
     for (const auto& [row, look] : own) {
+        const LookIndex next = changed(look);
+        if (next == look) continue;
         noteTouched(col, row);
-        m_sheet->setLook(col, row, changed(look));
+        m_sheet->setLook(col, row, next);
     }
 }
 

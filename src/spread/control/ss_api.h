@@ -88,8 +88,9 @@ int SSGetCellType(SSHandle grid, int col, int row);
 bool SSClearRange(SSHandle grid, int col, int row, int col2, int row2);
 
 // --- formulas ---------------------------------------------------------------------------------
-/// `check` true: refused when it does not compile. False: kept all the same, shown as #NAME?.
-bool SSSetFormula(SSHandle grid, int col, int row, const char* text, bool check = true);
+/// False, with the cell as it was, when the text does not compile. The empty text removes the
+/// formula and keeps its value.
+bool SSSetFormula(SSHandle grid, int col, int row, const char* text);
 bool SSReCalcCell(SSHandle grid, int col, int row);
 bool SSReCalc(SSHandle grid);
 /// 0 default and 1: A1; 2: R1C1. False for others.
@@ -99,6 +100,7 @@ int SSGetRefStyle(SSHandle grid);
 // --- files ------------------------------------------------------------------------------------
 /// 1 is success. On failure the sheet is as it was, and SSLastError says why.
 int SSLoadFromFile(SSHandle grid, const char* path);
+/// `dataOnly`: the texts that a user sees, tab-separated, instead of the document.
 int SSSaveToFile(SSHandle grid, const char* path, bool dataOnly);
 /// "file:line: what: what to do" of this grid's last failed load or save; empty after a good one.
 const char* SSLastError(SSHandle grid);
