@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "core_api/texts/texts.h"
+#include "platform/window/dialog.h"
 #include "platform/window/scripted_user.h"
 #include "platform/window/text_question.h"
 #include "support/temporary_folder.h"

@@ -174,8 +174,9 @@ int SSGetRefStyle(SSHandle grid) {
 int SSLoadFromFile(SSHandle grid, const char* path) {
     return grid && grid->load(viewOf(path));
 }
-int SSSaveToFile(SSHandle grid, const char* path) {
-    return grid && grid->save(viewOf(path));
+int SSSaveToFile(SSHandle grid, const char* path, bool dataOnly) {
+    if (!grid) return 0;
+    return dataOnly ? grid->saveTexts(viewOf(path)) : grid->save(viewOf(path));
 }
 const char* SSLastError(SSHandle grid) {
     return grid ? grid->lastError().c_str() : "";
