@@ -53,15 +53,36 @@ TEST_F(SheetTest, OperatorsHaveTheirUsualPrecedence) {
     }
 }
 
+TEST_F(SheetTest, AreasCountCellByCellInsideAggregatesAndOnceElsewhere) {
+    for (int row = 1; row <= 3; ++row) number(1, row, row);
+    const std::pair<const char*, const char*> cases[] = {
+        {"SUM(A1:A3*A1:A3)", "14"},
+        {"MAX(IF(A1:A3>1,A1:A3,9))", "9"},
+        {"SUM(IF(A1>5,1/0,A1:A3))", "6"},
+        {"SUM(IFERROR(1/(A1:A3-2),10))", "10"},
+        {"SUM(CHOOSE(2,1/0,A1:A3))", "6"},
+        {"COUNT(1/(A1:A3>1))", "2"},
+        {"SUM(-A1:A3,ABS(A1:A3-3))", "-3"},
+        {"A1:A3*10", "20"},
+        {"IF(A1:A3>1,\"more\",\"less\")", "more"},
+        {"SUMPRODUCT((A1:A3>1)*A1:A3)", "5"},
+    };
+    for (const auto& [text, expected] : cases) {
+        ASSERT_TRUE(formula(3, 2, text)) << text << ": " << error.message;
+        EXPECT_EQ(shown(3, 2), expected) << text;
+    }
+    EXPECT_FALSE(formula(3, 2, "A1:B2*2") && shown(3, 2) != "#VALUE!");
+}
+
 TEST_F(SheetTest, RefusedFormulasChangeNothing) {
     ASSERT_TRUE(formula(1, 1, "1+1"));
     const std::string deep(300, '(');
     for (const std::string& text :
          {std::string("1+"), std::string("NOSUCH(1)"), std::string("Gap*2"), std::string("(1"),
           std::string("1 2"), std::string("\"open"), std::string("A1:"), std::string("XFE1"),
-          std::string("A1048577"), std::string("{1,2;3}"), std::string("TRUE(1)"), std::string("1)"), std::string(),
-          deep + "1" + std::string(300, ')'), std::string(100000, '('),
-          std::string(100000, '-') + "1", std::string(40000, '1')}) {
+          std::string("A1048577"), std::string("{1,2;3}"), std::string("TRUE(1)"),
+          std::string("1)"), std::string(), deep + "1" + std::string(300, ')'),
+          std::string(100000, '('), std::string(100000, '-') + "1", std::string(40000, '1')}) {
         EXPECT_FALSE(formula(1, 1, text)) << text.substr(0, 40);
         EXPECT_FALSE(error.message.empty());
     }

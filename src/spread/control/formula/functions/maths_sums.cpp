@@ -76,11 +76,11 @@ Value seriesSum(Calculation& c, std::span<const Value> args) {
 }
 
 constexpr FunctionSpec rows[] = {
-    {"SUM", 1, anyCount, "r", sum, plain, "number1, [number2], …",
+    {"SUM", 1, anyCount, "a", sum, plain, "number1, [number2], …",
      "The sum of all numbers; texts, booleans and empty cells in areas are left out."},
-    {"SUMSQ", 1, anyCount, "r", sumOfSquares, plain, "number1, [number2], …",
+    {"SUMSQ", 1, anyCount, "a", sumOfSquares, plain, "number1, [number2], …",
      "The sum of the squares of all numbers."},
-    {"PRODUCT", 1, anyCount, "r", product, plain, "number1, [number2], …",
+    {"PRODUCT", 1, anyCount, "a", product, plain, "number1, [number2], …",
      "All numbers multiplied; 0 when there is none."},
     {"SUMX2MY2", 2, 2, "a", sumOfPairs<squareMinusSquare>, plain, "x values, y values",
      "The sum of x^2 - y^2 over all pairs."},

@@ -191,15 +191,15 @@ constexpr std::string_view numbers = "number1, [number2], …";
 constexpr std::string_view values = "value1, [value2], …";
 
 constexpr FunctionSpec rows[] = {
-    {"MIN", 1, anyCount, "r", least<ignored>, plain, numbers,
+    {"MIN", 1, anyCount, "a", least<ignored>, plain, numbers,
      "The least number, 0 when there is none."},
-    {"MAX", 1, anyCount, "r", greatest<ignored>, plain, numbers,
+    {"MAX", 1, anyCount, "a", greatest<ignored>, plain, numbers,
      "The greatest number, 0 when there is none."},
-    {"MINA", 1, anyCount, "r", least<counted>, plain, values,
+    {"MINA", 1, anyCount, "a", least<counted>, plain, values,
      "The least value; texts count as 0, TRUE as 1."},
-    {"MAXA", 1, anyCount, "r", greatest<counted>, plain, values,
+    {"MAXA", 1, anyCount, "a", greatest<counted>, plain, values,
      "The greatest value; texts count as 0, TRUE as 1."},
-    {"MEDIAN", 1, anyCount, "r", median, plain, numbers,
+    {"MEDIAN", 1, anyCount, "a", median, plain, numbers,
      "The number in the middle of all; of an even count the average of the middle two."},
     {"MODE", 1, anyCount, "a", mode, plain, numbers,
      "The most frequent number; #N/A when none comes twice."},

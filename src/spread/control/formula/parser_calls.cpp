@@ -1,0 +1,227 @@
+// Function calls: how arguments arrive, and the calls whose branches are chosen while calculating.
+#include "spread/control/formula/parser_grammar.h"
+
+namespace formula {
+
+namespace {
+
+/// Aggregates and tests give one value whatever they are given; the others might give areas.
+bool returnsSingle(std::string_view name) {
+    return name == "SUM" || name == "MIN" || name == "MAX" || name == "AND" || name == "OR" ||
+           name == "COUNT" || name == "AVERAGE";
+}
+
+bool isLazy(std::string_view name) {
+    return name == "IF" || name == "IFERROR" || name == "IFNA" || name == "CHOOSE";
+}
+
+Kind joined(Kind a, Kind b) {
+    return a == Kind::single && b == Kind::single ? Kind::single : Kind::open;
+}
+
+}  // namespace
+
+char parameterClass(std::string_view params, size_t index) {
+    if (params.empty()) return 'v';
+    const size_t open = params.find('(');
+    if (open == std::string_view::npos) return params[std::min(index, params.size() - 1)];
+    if (index < open) return params[index];
+    const std::string_view group = params.substr(open + 1, params.size() - open - 2);
+    return group[(index - open) % group.size()];
+}
+
+bool Parser::call(const std::string& upper, const Token& nameToken, Want want, Kind& kind) {
+    if (m_nesting >= maxNesting) return fail("nested deeper than 256");
+    const Nested nested(m_nesting);
+    const CustomFunction* custom =
+        m_settings.findCustom ? m_settings.findCustom(m_settings.registry, upper) : nullptr;
+    const FunctionSpec* spec = custom ? nullptr : findFunction(upper);
+    if (!custom && !spec)
+        return failAt(nameToken,
+                      "unknown function '" + std::string(m_lexer.textOf(nameToken)) + "'");
+    advance();  // the parenthesis
+    if (spec && isLazy(upper)) return lazyCall(*spec, nameToken, want, kind);
+    int count = 0;
+    if (isSymbol(Symbol::close))
+        advance();
+    else if (!arguments(count, [&](int index) {
+                 if (custom) return custom->cellArguments ? 'r' : 'v';
+                 return parameterClass(spec->params, static_cast<size_t>(index));
+             }))
+        return false;
+    return spec ? emitCall(*spec, count, nameToken, kind)
+                : emitCall(*custom, count, nameToken, kind);
+}
+
+bool Parser::checkCount(std::string_view name, int count, int least, int most,
+                        const Token& nameToken) {
+    if (count >= least && count <= most) return true;
+    const int limit = count < least ? least : most;
+    return failAt(nameToken, std::string(name) +
+                                 (count < least ? " needs at least " : " takes at most ") +
+                                 std::to_string(limit) + (limit == 1 ? " argument" : " arguments"));
+}
+
+bool Parser::emitCall(const FunctionSpec& spec, int count, const Token& nameToken, Kind& kind) {
+    if (!checkCount(spec.name, count, spec.least, spec.most, nameToken)) return false;
+    Instruction& i = m_code.emit(Op::call, 1 - count);
+    i.argc = static_cast<uint8_t>(count);
+    i.function = &spec;
+    m_code.isVolatile |= (spec.flags & formula::isVolatile) != 0;
+    const bool takesPlain = spec.params.find_first_not_of('v') == std::string_view::npos;
+    kind = returnsSingle(spec.name) || (takesPlain && !m_code.inArray) ? Kind::single : Kind::open;
+    return true;
+}
+
+bool Parser::emitCall(const CustomFunction& custom, int count, const Token& nameToken, Kind& kind) {
+    if (!checkCount(custom.name, count, custom.least, custom.most, nameToken)) return false;
+    Instruction& i = m_code.emit(Op::callCustom, 1 - count);
+    i.argc = static_cast<uint8_t>(count);
+    i.custom = &custom;
+    kind = Kind::single;
+    return true;
+}
+
+/// The arguments up to the closing parenthesis; `count` goes on from where it stands.
+template <class ParameterOf>
+bool Parser::arguments(int& count, ParameterOf&& parameterOf) {
+    for (;;) {
+        if (count == anyCount) return fail("more than 255 arguments");
+        if (!argument(parameterOf(count))) return false;
+        ++count;
+        if (isSymbol(Symbol::close)) {
+            advance();
+            return true;
+        }
+        if (!expect(Symbol::comma, "',' or ')'")) return false;
+    }
+}
+
+bool Parser::argument(char parameter) {
+    if (isSymbol(Symbol::comma) || isSymbol(Symbol::close)) {
+        m_code.emit(Op::missing, 1);
+        return true;
+    }
+    const bool wasInArray = m_code.inArray;
+    if (parameter == 'a') m_code.inArray = true;
+    Kind kind;
+    const size_t start = m_code.position();
+    const bool isGood = comparison(parameter == 'v' ? Want::single : Want::reference, kind);
+    m_code.inArray = wasInArray;
+    if (!isGood) return false;
+    if (parameter == 'v') {
+        m_code.makeSingle(kind);
+    } else if (parameter == 'p') {
+        if (kind == Kind::reference && m_code.position() - start == 1) placeOnly(start);
+        if (kind == Kind::area) m_code[start].op = Op::place;
+    }
+    return true;
+}
+
+/// A lone reference whose cell is not read: ROW(A1) in A1 is no circle.
+void Parser::placeOnly(size_t start) {
+    m_code[start].op = Op::place;
+    Instruction corner = m_code[start];
+    corner.op = Op::corner;
+    m_code.append(corner);
+}
+
+bool Parser::lazyCall(const FunctionSpec& spec, const Token& nameToken, Want want, Kind& kind) {
+    Kind first;
+    if (!branch(Want::single, first)) return false;
+    if (first != Kind::single) {
+        int count = 1;
+        if (!expect(Symbol::comma, "','")) return false;
+        return arguments(count, [](int) { return 'v'; }) && emitCall(spec, count, nameToken, kind);
+    }
+    if (spec.name == "CHOOSE") return chooseBranches(want, kind);
+    if (!expect(Symbol::comma, "','")) return false;
+    if (spec.name == "IF") return ifBranches(want, kind);
+    return ifErrorBranches(want, kind, spec.name == "IFNA");
+}
+
+/// A branch of IF, IFERROR or CHOOSE, and what it leaves.
+bool Parser::branch(Want want, Kind& kind) {
+    if (isSymbol(Symbol::comma) || isSymbol(Symbol::close)) {
+        m_code.emit(Op::number, 1).number = 0;
+        kind = Kind::single;
+        return true;
+    }
+    if (!comparison(want, kind)) return false;
+    if (want == Want::single) m_code.makeSingle(kind);
+    return true;
+}
+
+bool Parser::ifBranches(Want want, Kind& kind) {
+    const size_t test = m_code.position();
+    m_code.emit(Op::jumpIfNot, -1);
+    if (!branch(want, kind)) return false;
+    const size_t skip = m_code.position();
+    m_code.emit(Op::jump, -1);
+    m_code.jumpHere(test);
+    Kind other = Kind::single;
+    if (isSymbol(Symbol::comma)) {
+        advance();
+        if (!branch(want, other)) return false;
+    } else {
+        m_code.emit(Op::boolean, 1).a = 0;
+    }
+    m_code.jumpHere(skip);
+    m_code[test].place = {static_cast<int32_t>(m_code.position()), 0};
+    kind = joined(kind, other);
+    return expect(Symbol::close, "')'");
+}
+
+bool Parser::ifErrorBranches(Want want, Kind& kind, bool onlyMissing) {
+    const size_t test = m_code.position();
+    Instruction& i = m_code.emit(Op::jumpUnlessError, -1);
+    i.b = onlyMissing;
+    Kind other;
+    if (!branch(want, other)) return false;
+    m_code.jumpHere(test);
+    kind = joined(Kind::single, other);
+    return expect(Symbol::close, "')'");
+}
+
+bool Parser::chooseBranches(Want want, Kind& kind) {
+    const size_t choose = m_code.position();
+    m_code.emit(Op::choose, -1);
+    const size_t tableSize = countBranches();
+    if (tableSize == 0) return fail("CHOOSE needs at least 2 arguments");
+    if (tableSize > 254) return fail("more than 255 arguments");
+    m_code[choose].argc = static_cast<uint8_t>(tableSize);
+    for (size_t n = 0; n < tableSize; ++n) m_code.emit(Op::jump, 0);
+    std::vector<size_t> skips;
+    kind = Kind::single;
+    for (size_t n = 0; n < tableSize; ++n) {
+        if (!expect(Symbol::comma, "','")) return false;
+        m_code.jumpHere(choose + 1 + n);
+        Kind one;
+        if (!branch(want, one)) return false;
+        kind = joined(kind, one);
+        skips.push_back(m_code.position());
+        m_code.emit(Op::jump, -1);
+    }
+    m_code.adjustDepth(1);
+    for (const size_t skip : skips) m_code.jumpHere(skip);
+    m_code.jumpHere(choose);
+    return expect(Symbol::close, "')'");
+}
+
+/// Counts the arguments that follow at this level, without taking them.
+size_t Parser::countBranches() const {
+    Lexer ahead = m_lexer;
+    Token token = m_token;
+    size_t count = 0;
+    int depth = 0;
+    while (token.kind != TokenKind::end && token.kind != TokenKind::invalid) {
+        if (token.symbol == Symbol::open || token.symbol == Symbol::openBrace) ++depth;
+        if (token.symbol == Symbol::close || token.symbol == Symbol::closeBrace)
+            if (depth-- == 0) break;
+        if (token.symbol == Symbol::comma && depth == 0) ++count;
+        ahead.next(token);
+    }
+    return count;
+}
+
+}  // namespace formula
