@@ -69,17 +69,18 @@ std::optional<int> LookupVector::find(Visit&& visit) const {
     // Areas are walked in pieces, since the walk over stored cells does not stop early.
     constexpr int firstPiece = 256;
     constexpr int largestPiece = 16384;
-    std::optional<int> found;
+    int found = -1;
     const int size = storedSize();
-    for (int first = 0, end = 0; first < size && !found; first = end) {
+    for (int first = 0, end = 0; first < size && found < 0; first = end) {
         end = std::min(first + (first == 0 ? firstPiece : largestPiece), size);
         const Value piece = part(first, end - 1);
-        m_calculation.eachAt(piece, [&](int row, int col, const Value& value) {
-            const int i = first + (m_isRow ? col : row);
-            if (!found && visit(i, value)) found = i;
+        m_calculation.eachAt(piece, [&, isRow = m_isRow](int row, int col, const Value& value) {
+            if (found >= 0) return;
+            const int i = first + (isRow ? col : row);
+            if (visit(i, value)) found = i;
         });
     }
-    return found;
+    return found < 0 ? std::nullopt : std::optional(found);
 }
 
 }  // namespace formula
