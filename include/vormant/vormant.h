@@ -1,0 +1,9 @@
+// The whole module.
+#pragma once
+
+#include <vormant/core.h>
+#include <vormant/frame.h>
+#include <vormant/macros.h>
+#include <vormant/mapping.h>
+#include <vormant/spread.h>
+#include <vormant/standards.h>
