@@ -75,8 +75,8 @@ TEST(FunctionsManual, ExamplesGiveTheResultsShown) {
                                                  : formula::Value::borrowedText(row[col]);
                 if (!row[col].empty()) sheet.set(static_cast<int>(col), textToInt(row[0]), value);
             }
-        } else if (row.size() > 1 && row[0].starts_with("`=") && row[1].starts_with("`")) {
-            EXPECT_EQ(sheet(manual::code(row[0]).substr(1)), manual::code(row[1])) << row[0];
+        } else if (const auto example = manual::exampleIn(row); !example.formula.empty()) {
+            EXPECT_EQ(sheet(example.formula), example.result) << example.formula;
             ++examples;
         }
     }
