@@ -8,7 +8,7 @@ TextBlock* TextBlock::make(std::string_view text) {
     auto* block = static_cast<TextBlock*>(::operator new(sizeof(TextBlock) + text.size()));
     block->references = 1;
     block->size = static_cast<uint32_t>(text.size());
-    std::memcpy(block + 1, text.data(), text.size());
+    if (!text.empty()) std::memcpy(block + 1, text.data(), text.size());
     return block;
 }
 
