@@ -49,7 +49,8 @@ Value text(Calculation& c, Arguments args) {
     if (read.failed()) return read.error();
     const Result<std::string> formatted = formatValue(args[0], format);
     if (!formatted) return formatted.error();
-    return c.text(*formatted);
+    const std::string shown = *formatted;
+    return shown.size() > longestText ? Value(ErrorCode::value) : c.text(shown);
 }
 
 Value value(Calculation&, Arguments args) {
