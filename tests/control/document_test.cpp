@@ -31,6 +31,9 @@ void fill(Grid& grid) {
     grid.setType(4, 2, combo);
     grid.changeLooks({1, headerIndex, -1, headerIndex}, [](Look& look) { look.font.weight = 700; });
     grid.changeLooks({headerIndex, 2, headerIndex, 2}, [](Look& look) { look.locked = true; });
+    EXPECT_EQ(grid.look(5, headerIndex).font.weight, 700);
+    EXPECT_EQ(grid.look(headerIndex, 2).locked, true);
+    EXPECT_EQ(grid.look(headerIndex, 3).locked, false);
     grid.setBorder({1, 1, 2, 2}, control::borderOutline, 6, control::rgb(1, 2, 3));
     grid.setData(1, 1, "quote \" backslash \\ tab \t line \n return \r euro \x80 e \xE9");
     grid.setData(2, 1, "0.1");

@@ -46,7 +46,8 @@ enum class Option {
     changed = 30,       ///< set by every change, cleared by whoever saved
 };
 
-/// A block of cells; -1 for both ends of a direction means all of it. Both corners included.
+/// A block of cells, both corners included. -1 as the second end means the last column or row, as
+/// the first end the first one.
 struct Block {
     int col1 = 1, row1 = 1;
     int col2 = 1, row2 = 1;
@@ -260,6 +261,7 @@ class Grid {
     bool eachLook(const Block& block, const ChangeLook& change);
     void changeHeaderLooks(Band& band, int from, int to, int count, const ChangeLook& change);
     void changeColumnLooks(int col, const ChangeLook& change);
+    void changeCellLooks(const Block& block, const ChangeLook& change);
     void noteTouched(int col, int row);
     void noteStructure();
     void dropBeyond(int lastCol, int lastRow);

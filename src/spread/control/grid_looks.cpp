@@ -72,34 +72,35 @@ bool Grid::setType(const Block& block, const CellType& type) {
     return changeLooks(block, [&](Look& look) { look.type = type; });
 }
 
-bool Grid::eachLook(const Block& block, const ChangeLook& change) {
-    Block body = block;
-    const bool headerRow = isHeader(block.row1);
-    const bool headerCol = isHeader(block.col1);
-    if (headerRow) {
+bool Grid::eachLook(const Block& given, const ChangeLook& change) {
+    Block block = given;
+    const bool allRows = (block.row2 == -1 && block.row1 <= 1) ||
+                         (block.row1 <= 1 && block.row2 >= m_rows && m_rows > 1);
+    if (block.col2 == -1) block.col2 = m_cols;
+    if (block.row2 == -1) block.row2 = m_rows;
+    const bool wholeHeader = isHeader(given.row2) || isHeader(given.col2);
+    if (isHeader(block.row1))
         changeHeaderLooks(changeSides().cols, block.col1, block.col2, m_cols, change);
-        if (isHeader(block.row2)) return true;
-        body.row1 = 1;
-    }
-    if (headerCol) {
+    if (isHeader(block.col1))
         changeHeaderLooks(changeSides().rows, block.row1, block.row2, m_rows, change);
-        if (isHeader(block.col2)) return true;
-        body.col1 = 1;
-    }
-    const bool allRows = body.row1 == -1 || (body.row1 == 1 && body.row2 >= m_rows && m_rows > 1);
-    if (allRows && m_rows == 0) body.row1 = body.row2 = 1;  // columns of rows that are to come
-    const int lastCol = body.col1 == -1 ? m_cols : std::min(body.col2, m_cols);
-    const int firstCol = body.col1 == -1 ? 1 : body.col1;
+    if (wholeHeader) return true;
+    const auto startOf = [](int first) { return first == -1 || isHeader(first) ? 1 : first; };
+    const int firstCol = startOf(block.col1), lastCol = std::min(block.col2, m_cols);
+    const int firstRow = startOf(block.row1), lastRow = std::min(block.row2, m_rows);
     if (firstCol < 1 || firstCol > lastCol) return false;
     if (allRows) {
         for (int col = firstCol; col <= lastCol; ++col) changeColumnLooks(col, change);
         return true;
     }
-    const int lastRow = std::min(body.row2, m_rows);
-    if (body.row1 < 1 || body.row1 > lastRow) return false;
+    if (firstRow < 1 || firstRow > lastRow) return false;
+    changeCellLooks({firstCol, firstRow, lastCol, lastRow}, change);
+    return true;
+}
+
+void Grid::changeCellLooks(const Block& block, const ChangeLook& change) {
     ChangedLooks changed(m_looks, change);
-    for (int col = firstCol; col <= lastCol; ++col) {
-        for (int row = body.row1; row <= lastRow; ++row) {
+    for (int col = block.col1; col <= block.col2; ++col) {
+        for (int row = block.row1; row <= block.row2; ++row) {
             const LookIndex now = lookIndex(col, row);
             const LookIndex next = changed(now);
             if (next == now) continue;
@@ -107,13 +108,11 @@ bool Grid::eachLook(const Block& block, const ChangeLook& change) {
             m_sheet->setLook(col, row, next);
         }
     }
-    return true;
 }
 
 void Grid::changeHeaderLooks(Band& band, int from, int to, int count, const ChangeLook& change) {
     ChangedLooks changed(m_looks, change);
-    const bool all = from == -1 || isHeader(from) || (from == 1 && to >= count);
-    if (all) {
+    if (from <= 1 && (to >= count || isHeader(to))) {
         band.look = changed(band.look);
         for (auto& [index, look] : band.looks) look = changed(look);
         return;
