@@ -35,15 +35,14 @@ class DocumentWriter {
     template <class Visit>
     void eachCell(Visit&& visit) {
         const CellStore& cells = m_grid.sheet().cells();
-        const int lastRow = std::min(m_grid.rows(), cells.lastRow());
-        const auto lastCol = static_cast<uint16_t>(std::min(m_grid.cols(), cells.lastCol()));
-        if (lastRow == 0 || lastCol == 0) return;
+        const int lastRow = m_usedCols.empty() ? 0 : cells.lastRow();
         std::array<std::vector<std::pair<int, const Cell*>>, CellStore::blockRows> stripe;
         for (int first = 1; first <= lastRow; first += CellStore::blockRows) {
             const int last = std::min(first + CellStore::blockRows - 1, lastRow);
-            cells.each(Area{first, last, 1, lastCol}, [&](int row, int col, const Cell& cell) {
-                stripe[static_cast<size_t>(row - first)].emplace_back(col, &cell);
-            });
+            for (const uint16_t used : m_usedCols)
+                cells.each(Area{first, last, used, used}, [&](int row, int col, const Cell& cell) {
+                    stripe[static_cast<size_t>(row - first)].emplace_back(col, &cell);
+                });
             for (int row = first; row <= last; ++row) {
                 auto& line = stripe[static_cast<size_t>(row - first)];
                 for (const auto& [col, cell] : line) visit(col, row, *cell);
@@ -72,6 +71,7 @@ class DocumentWriter {
         writeColour("selectiontext", m_sides.selectionText);
     }
 
+    // Also notes which columns hold anything.
     void writeLooks() {
         const auto use = [this](LookIndex look) { m_numbers[look] = 1; };
         use(m_sides.cols.look);
@@ -80,7 +80,11 @@ class DocumentWriter {
         for (const auto& [index, look] : m_sides.rows.looks) use(look);
         for (const LookIndex look : m_sides.columnLooks) use(look);
         m_grid.sheet().cells().each(Area{1, formula::maxRows, 1, formula::maxCols},
-                                    [&](int, int, const Cell& cell) { use(cell.look); });
+                                    [&](int, int col, const Cell& cell) {
+                                        use(cell.look);
+                                        if (m_usedCols.empty() || m_usedCols.back() != col)
+                                            m_usedCols.push_back(static_cast<uint16_t>(col));
+                                    });
         m_numbers[inheritedLook] = 0;
         int number = 0;
         for (size_t look = 0; look < m_numbers.size(); ++look) {
@@ -211,6 +215,7 @@ class DocumentWriter {
     const SideTables& m_sides;
     DocumentOutput m_out;
     std::vector<int> m_numbers;  // by look: its number in the document
+    std::vector<uint16_t> m_usedCols;
     int m_cellCount = 0;
 };
 
