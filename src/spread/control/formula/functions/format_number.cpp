@@ -1,6 +1,7 @@
 #include <algorithm>
 #include <charconv>
 #include <cmath>
+#include <limits>
 #include <span>
 
 #include "spread/control/formula/functions/format_section.h"
@@ -136,18 +137,18 @@ std::string writeScientific(Pieces pieces, size_t at, Decimal& decimal) {
     return text;
 }
 
+/// Whole numbers, as doubles since a top has no limit.
 struct Fraction {
-    int64_t top, bottom;
+    double top, bottom;
 };
 
-/// The fraction nearest to `number` (0 to 1) whose bottom is at most `largest`.
-Fraction nearestFraction(double number, int64_t largest) {
+/// The fraction nearest to `number` whose bottom is at most `largest`.
+Fraction nearestFraction(double number, double largest) {
     Fraction best{0, 1};
-    double error = 2;
-    for (int64_t bottom = 1; bottom <= largest && error > 0; ++bottom) {
-        const auto top = std::llround(number * static_cast<double>(bottom));
-        const double difference =
-            std::fabs(number - static_cast<double>(top) / static_cast<double>(bottom));
+    double error = std::numeric_limits<double>::infinity();
+    for (double bottom = 1; bottom <= largest && error > 0; ++bottom) {
+        const double top = std::round(number * bottom);
+        const double difference = std::fabs(number - top / bottom);
         if (difference < error - 1e-12) {
             best = {top, bottom};
             error = difference;
@@ -158,12 +159,12 @@ Fraction nearestFraction(double number, int64_t largest) {
 
 /// Where the parts of a fraction lie among the pieces: [wholes) other [tops) slash [bottoms).
 struct FractionLayout {
-    size_t top, slash, end;  ///< first piece of the top, the slash, behind the bottom
-    int64_t bottom = 0;      ///< a bottom written as number ("# ?/8"), else 0
+    size_t top, end;    ///< the first piece of the top, the one behind the bottom
+    double bottom = 0;  ///< a bottom written as number ("# ?/8"), else 0
 };
 
 FractionLayout layOut(std::vector<Piece>& pieces, size_t slash) {
-    FractionLayout layout{slash, slash, slash + 1};
+    FractionLayout layout{slash, slash + 1};
     while (layout.top > 0 && pieces[layout.top - 1].part == Part::digit) --layout.top;
     std::string fixed;
     for (; layout.end < pieces.size(); ++layout.end) {
@@ -187,8 +188,8 @@ FractionLayout layOut(std::vector<Piece>& pieces, size_t slash) {
     return layout;
 }
 
-std::string padded(int64_t number, Pieces places, bool isLeftAligned) {
-    std::string text = std::to_string(number);
+std::string padded(double number, Pieces places, bool isLeftAligned) {
+    std::string text = formatFixed(number, 0, false);
     const auto width = static_cast<size_t>(std::max(countDigits(places), 1));
     if (text.size() >= width) return text;
     const char symbol = places.empty() ? '#' : places.front().symbol;
@@ -207,13 +208,10 @@ std::string writeFraction(std::vector<Piece> pieces, size_t slash, double number
     const bool hasWhole = countDigits(wholePieces) > 0;
     double whole = hasWhole ? std::floor(number) : 0;
     const double rest = number - whole;
-    Fraction fraction{std::llround(rest * static_cast<double>(layout.bottom)), layout.bottom};
-    if (layout.bottom == 0) {
-        const int places = std::clamp(countDigits(bottomPieces), 1, 4);
-        fraction = nearestFraction(rest - std::floor(rest),
-                                   static_cast<int64_t>(std::pow(10, places)) - 1);
-        fraction.top += static_cast<int64_t>(std::min(std::floor(rest), 1e15)) * fraction.bottom;
-    }
+    const int places = std::clamp(countDigits(bottomPieces), 1, 4);
+    Fraction fraction = layout.bottom > 0
+                            ? Fraction{std::round(rest * layout.bottom), layout.bottom}
+                            : nearestFraction(rest, std::pow(10, places) - 1);
     if (hasWhole && fraction.top == fraction.bottom) {
         whole += 1;
         fraction.top = 0;
@@ -221,11 +219,11 @@ std::string writeFraction(std::vector<Piece> pieces, size_t slash, double number
     isZero = whole == 0 && fraction.top == 0;
     std::string text = writeWhole(wholePieces, toDecimal(whole), false);
     const std::string top = padded(fraction.top, topPieces, false);
-    const std::string bottom =
-        layout.bottom ? std::to_string(layout.bottom) : padded(fraction.bottom, bottomPieces, true);
+    const std::string bottom = layout.bottom > 0 ? formatFixed(layout.bottom, 0, false)
+                                                 : padded(fraction.bottom, bottomPieces, true);
     if (hasWhole && fraction.top == 0) {
-        if (whole == 0 && countDigits(wholePieces) > 0 && text.find('0') == std::string::npos)
-            text.insert(0, "0");
+        // Nothing at all still shows as 0, even by "#".
+        if (isZero && text.find('0') == std::string::npos) text.insert(0, "0");
         text.append(top.size() + 1 + bottom.size(), ' ');
     } else {
         text += top + "/" + bottom;
@@ -245,6 +243,18 @@ std::string writeGeneral(Pieces pieces, double magnitude) {
                 : piece.part == Part::percent ? std::string("%")
                                               : piece.text;
     return text;
+}
+
+/// Six digits and an exponent: "1.23457E+11".
+std::string shortScientific(Decimal decimal) {
+    keepDigits(decimal, 6);
+    std::string text(1, decimal.digits[0]);
+    if (decimal.count > 1) text += '.';
+    for (int i = 1; i < decimal.count; ++i) text += decimal.digits[static_cast<size_t>(i)];
+    text += decimal.exponent < 0 ? "E-" : "E+";
+    const int exponent = std::abs(decimal.exponent);
+    if (exponent < 10) text += '0';
+    return text + std::to_string(exponent);
 }
 
 }  // namespace
@@ -279,27 +289,20 @@ namespace formula {
 
 std::string formatGeneral(double number) {
     constexpr int longest = 11;
-    Decimal decimal = toDecimal(std::fabs(number));
+    const Decimal decimal = toDecimal(std::fabs(number));
     if (decimal.isZero()) return "0";
-    std::string text = number < 0 ? "-" : "";
-    if (decimal.exponent >= longest || decimal.exponent < -4) {
-        keepDigits(decimal, 6);
-        text += decimal.digitAt(decimal.exponent);
-        if (decimal.count > 1) text += '.';
-        for (int i = 1; i < decimal.count; ++i) text += decimal.digits[static_cast<size_t>(i)];
-        text += decimal.exponent < 0 ? "E-" : "E+";
-        const int exponent = std::abs(decimal.exponent);
-        if (exponent < 10) text += '0';
-        return text + std::to_string(exponent);
-    }
+    const std::string sign = number < 0 ? "-" : "";
     // A point takes one of the characters, a leading zero another.
-    const int whole = std::max(decimal.exponent + 1, 1);
-    roundToPlaces(decimal, std::max(longest - 1 - whole, 0));
-    for (int power = std::max(decimal.exponent, 0); power >= 0; --power)
-        text += decimal.digitAt(power);
-    const int places = decimal.count - decimal.exponent - 1;
+    Decimal rounded = decimal;
+    roundToPlaces(rounded, std::max(longest - 1 - std::max(decimal.exponent + 1, 1), 0));
+    if (decimal.exponent < -4 || rounded.exponent >= longest)
+        return sign + number_format::shortScientific(decimal);
+    const int places = std::max(rounded.count - rounded.exponent - 1, 0);
+    std::string text = sign;
+    for (int power = std::max(rounded.exponent, 0); power >= 0; --power)
+        text += rounded.digitAt(power);
     if (places > 0) text += '.';
-    for (int place = 1; place <= places; ++place) text += decimal.digitAt(-place);
+    for (int place = 1; place <= places; ++place) text += rounded.digitAt(-place);
     return text;
 }
 
