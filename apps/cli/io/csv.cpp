@@ -59,7 +59,7 @@ CsvReader::Got CsvReader::next(std::vector<std::string_view>& fields) {
                 m_error = m_source.error();
                 return Got::failed;
         }
-    } while (record.empty());
+    } while (record.empty() && m_emptyLines == EmptyLines::skipped);
     return split(record, fields);
 }
 

@@ -16,7 +16,10 @@ class CsvReader {
   public:
     static constexpr size_t maxFields = 16384;
 
-    explicit CsvReader(LineSource& source) : m_source(source) {}
+    enum class EmptyLines { skipped, kept };
+
+    explicit CsvReader(LineSource& source, EmptyLines emptyLines = EmptyLines::skipped)
+        : m_source(source), m_emptyLines(emptyLines) {}
 
     enum class Got {
         record,
@@ -25,7 +28,7 @@ class CsvReader {
         failed,  ///< reading failed, see error(); nothing more comes
     };
 
-    /// The next record that is not an empty line. Fields live until the next call.
+    /// The next record. Fields live until the next call; a kept empty line has one empty field.
     Got next(std::vector<std::string_view>& fields);
 
     long long lineNumber() const { return m_source.lineNumber(); }
@@ -38,6 +41,7 @@ class CsvReader {
     bool completeQuotes(std::string_view& record);
 
     LineSource& m_source;
+    EmptyLines m_emptyLines;
     std::string m_error;
     std::string m_unquoted;
 };

@@ -1,5 +1,6 @@
 #include "io/output.h"
 #include "io/texts.h"
+#include "io/typed_paths.h"
 #include "standards/library.h"
 #include "standards/standards_check.h"
 #include "standards/standards_commands.h"

@@ -8,8 +8,8 @@
 #include "core_api/settings.h"
 #include "core_api/text/text_helpers.h"
 #include "io/texts.h"
+#include "io/typed_paths.h"
 #include "platform/files.h"
-#include "platform/paths.h"
 
 namespace cli {
 
@@ -96,19 +96,6 @@ std::optional<StandardName> findStandard(const std::string& typed) {
     if (matches.size() == 1) return matches.front();
     tellWhatThereIs(typed, standards, matches);
     return std::nullopt;
-}
-
-std::string shownPath(const Vor_String& path) {
-    return paths::toMachine(path);
-}
-
-std::optional<Vor_String> insidePath(const std::string& typed) {
-    auto inside = paths::toInside(typed);
-    if (!inside) {
-        complain("\"" + typed + "\" holds a character that Windows-1252 lacks");
-        return std::nullopt;
-    }
-    return Vor_String(std::move(*inside));
 }
 
 }  // namespace cli

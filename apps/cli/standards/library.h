@@ -27,11 +27,4 @@ std::vector<StandardName> libraryStandards();
 /// telling what there is, when there is none.
 std::optional<StandardName> findStandard(const std::string& typed);
 
-/// A path as people write it, for messages.
-std::string shownPath(const Vor_String& path);
-
-/// A typed path in its inside form. Nothing, after telling why, when it holds a character that
-/// Windows-1252 lacks.
-std::optional<Vor_String> insidePath(const std::string& typed);
-
 }  // namespace cli

@@ -2,6 +2,7 @@
 #include "core_api/macros/macro_file.h"
 #include "core_api/settings.h"
 #include "io/output.h"
+#include "io/typed_paths.h"
 #include "mapping/start_dlg_standards_ss.h"
 #include "platform/host/transaction.h"
 #include "standards/declarations.h"

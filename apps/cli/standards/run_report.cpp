@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "io/json_writer.h"
-#include "platform/paths.h"
+#include "io/typed_paths.h"
 
 namespace cli {
 
@@ -49,7 +49,7 @@ void writeEquation(JsonWriter& json, const ReportedEquation& equation) {
 void writeReport(JsonWriter& json, const RunReport& report) {
     json.beginObject();
     json.key("standard");
-    json.utf8(paths::toMachine(report.path));
+    json.utf8(shownPath(report.path));
     json.key("ok");
     json.truth(report.allWell());
     writeVariables(json, "inputs", report.inputs);

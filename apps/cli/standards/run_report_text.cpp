@@ -3,7 +3,7 @@
 #include "console.h"
 #include "core_api/text/text_helpers.h"
 #include "io/texts.h"
-#include "platform/paths.h"
+#include "io/typed_paths.h"
 #include "standards/run_report.h"
 
 namespace cli {
@@ -48,7 +48,7 @@ void appendEquation(std::string& text, const ReportedEquation& equation,
         if (!equation.message.empty()) text += ": ";
         appendUtf8(text, equation.message);
     } else if (equation.child) {
-        text += "calls " + paths::toMachine(equation.child->path);
+        text += "calls " + shownPath(equation.child->path);
     } else {
         text += '=';
         appendUtf8(text, equation.formula);
@@ -76,14 +76,14 @@ void complainAboutEquations(const RunReport& report) {
         appendUtf8(message, equation.text);
         message += ": ";
         appendUtf8(message, equation.message.empty() ? "failed" : equation.message);
-        complainAt(paths::toMachine(report.path), equation.row, message);
+        complainAt(shownPath(report.path), equation.row, message);
     }
 }
 
 }  // namespace
 
 std::string reportAsText(const RunReport& report, bool trace) {
-    std::string text = paths::toMachine(report.path) + "\n\n";
+    std::string text = shownPath(report.path) + "\n\n";
     appendReport(text, report, "", trace);
     return text;
 }

@@ -4,6 +4,7 @@
 #include "core_api/text/text_helpers.h"
 #include "io/output.h"
 #include "io/texts.h"
+#include "io/typed_paths.h"
 #include "platform/files.h"
 #include "standards/case_table.h"
 #include "standards/library.h"

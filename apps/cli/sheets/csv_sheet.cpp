@@ -1,0 +1,108 @@
+#include "console.h"
+#include "core_api/text/text_helpers.h"
+#include "io/csv.h"
+#include "io/texts.h"
+#include "sheets/eval_record.h"
+#include "sheets/sheet_file.h"
+
+namespace cli {
+
+namespace {
+
+using formula::Value;
+
+void appendCell(std::string& line, const control::Grid& grid, int col, int row) {
+    const Value value = grid.sheet().value(col, row);
+    std::string text;
+    if (const auto formulaText = grid.sheet().formula(col, row)) {
+        text = "=";
+        appendUtf8(text, *formulaText);
+        appendCsvField(line, text);
+    } else if (value.isNumber()) {
+        appendNumber(line, value.number());
+    } else if (value.isBoolean()) {
+        line += value.truth() ? "TRUE" : "FALSE";
+    } else if (value.isError()) {
+        line += formula::errorText(value.error());
+    } else if (value.isText()) {
+        appendUtf8(text, value.text());
+        appendCsvField(line, text);
+    }
+}
+
+/// Writes one field into the cell (col, row), which the grid has.
+bool placeField(control::Grid& grid, int col, int row, std::string_view field, std::string& error) {
+    std::string text;
+    if (!fromUtf8(field, text, error)) return false;
+    if (text.starts_with('=')) {
+        formula::ParseError problem;
+        if (grid.setFormula(col, row, std::string_view(text).substr(1), &problem)) return true;
+        error = "the formula " + std::string(field) + " is refused: ";
+        appendUtf8(error, problem.message);
+        return false;
+    }
+    if (isNumber(text)) return grid.writeValue(col, row, textToDouble(text));
+    return grid.writeValue(col, row, Value::borrowedText(text));
+}
+
+bool placeRecord(control::Grid& grid, int row, const std::vector<std::string_view>& fields,
+                 std::string& error) {
+    const int cols = static_cast<int>(fields.size());
+    if (!grid.setRows(row) || (cols > grid.cols() && !grid.setCols(cols))) {
+        error = "a sheet has 1048576 rows and 16384 columns at most";
+        return false;
+    }
+    for (int col = 1; col <= cols; ++col) {
+        const auto field = fields[static_cast<size_t>(col - 1)];
+        if (field.empty() || placeField(grid, col, row, field, error)) continue;
+        error = "cell " + cellName({col, row}) + ": " + error;
+        return false;
+    }
+    return true;
+}
+
+}  // namespace
+
+std::optional<std::string> sheetAsCsv(const control::Grid& grid, std::string& error) {
+    constexpr long long maxFields = 100'000'000;
+    const auto [cols, rows] = usedArea(grid);
+    if (static_cast<long long>(cols) * rows > maxFields) {
+        error = "cells lie as far out as " + cellName({cols, rows}) + ", too far for CSV";
+        return std::nullopt;
+    }
+    std::string text;
+    for (int row = 1; row <= rows; ++row) {
+        for (int col = 1; col <= cols; ++col) {
+            if (col > 1) text += ',';
+            appendCell(text, grid, col, row);
+        }
+        text += '\n';
+    }
+    return text;
+}
+
+bool sheetFromCsv(const std::string& path, control::Grid& grid) {
+    std::string error;
+    auto source = LineSource::open(path, error);
+    if (!source) {
+        complainAt(path, 0, error);
+        return false;
+    }
+    CsvReader reader(*source, CsvReader::EmptyLines::kept);
+    std::vector<std::string_view> fields;
+    CsvReader::Got got;
+    int row = 0;
+    while ((got = reader.next(fields)) == CsvReader::Got::record) {
+        if (placeRecord(grid, ++row, fields, error)) continue;
+        complainAt(path, reader.lineNumber(), error);
+        return false;
+    }
+    if (got != CsvReader::Got::end) {
+        complainAt(path, reader.lineNumber(), reader.error());
+        return false;
+    }
+    grid.recalculate();
+    return true;
+}
+
+}  // namespace cli

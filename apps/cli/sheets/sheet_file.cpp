@@ -1,0 +1,60 @@
+#include "sheets/sheet_file.h"
+
+#include <filesystem>
+
+#include "console.h"
+#include "io/typed_paths.h"
+#include "platform/encodings.h"
+#include "platform/files.h"
+#include "spread/control/document.h"
+
+namespace cli {
+
+std::optional<SheetFormat> sheetFormat(const std::string& path) {
+    const std::string extension =
+        encodings::lowered(std::filesystem::path(path).extension().string());
+    if (extension == ".csv") return SheetFormat::csv;
+    if (extension == ".xlsx") return SheetFormat::xlsx;
+    if (extension == ".tws" || extension == ".sss") return SheetFormat::document;
+    return std::nullopt;
+}
+
+bool loadSheet(const std::string& path, SheetFormat format, control::Grid& grid) {
+    if (format == SheetFormat::csv) return sheetFromCsv(path, grid);
+    const auto inside = insidePath(path);
+    if (!inside) return false;
+    std::string error;
+    auto document = control::loadDocument(*inside, error);
+    if (!document) {
+        complainText(error);
+        return false;
+    }
+    grid.restore(std::move(document));
+    return true;
+}
+
+bool saveSheet(const control::Grid& grid, const std::string& path, SheetFormat format) {
+    const auto inside = insidePath(path);
+    if (!inside) return false;
+    std::string error;
+    if (format == SheetFormat::document) {
+        if (control::saveDocument(grid, *inside, error)) return true;
+        complainText(error);
+        return false;
+    }
+    const auto content =
+        format == SheetFormat::csv ? sheetAsCsv(grid, error) : sheetAsXlsx(grid, error);
+    if (!content) {
+        complainAt(path, 0, error);
+        return false;
+    }
+    if (files::writeWhole(*inside, *content, error)) return true;
+    complainText(error);
+    return false;
+}
+
+UsedArea usedArea(const control::Grid& grid) {
+    return {grid.sheet().cells().lastCol(), grid.sheet().cells().lastRow()};
+}
+
+}  // namespace cli

@@ -1,0 +1,309 @@
+// The only file that knows the workbook library. It writes to a file of its own choosing, so the
+// bytes are taken from a temporary one and written where they belong like every other file.
+#include <unistd.h>
+#include <xlsxwriter.h>
+
+#include <algorithm>
+#include <array>
+#include <cctype>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <unordered_map>
+
+#include "platform/encodings.h"
+#include "sheets/eval_record.h"
+#include "sheets/sheet_file.h"
+
+namespace cli {
+
+namespace {
+
+using formula::Value;
+
+/// Functions younger than the file format carry a prefix in it: those with a dot in their name but
+/// for four, and these.
+bool needsPrefix(std::string_view name) {
+    static constexpr std::array<std::string_view, 4> dottedOld = {
+        "ERROR.TYPE", "ISO.CEILING", "NETWORKDAYS.INTL", "WORKDAY.INTL"};
+    static constexpr std::array<std::string_view, 47> young = {
+        "ACOT",      "ACOTH",        "AGGREGATE", "ARABIC",      "ARRAYTOTEXT", "BASE",
+        "BITAND",    "BITLSHIFT",    "BITOR",     "BITRSHIFT",   "BITXOR",      "COMBINA",
+        "CONCAT",    "COT",          "COTH",      "CSC",         "CSCH",        "DAYS",
+        "DECIMAL",   "FORMULATEXT",  "GAMMA",     "GAUSS",       "IFNA",        "IFS",
+        "ISFORMULA", "ISOWEEKNUM",   "MAXIFS",    "MINIFS",      "MUNIT",       "NUMBERVALUE",
+        "PDURATION", "PERMUTATIONA", "PHI",       "RRI",         "SEC",         "SECH",
+        "SHEET",     "SHEETS",       "SWITCH",    "TEXTAFTER",   "TEXTBEFORE",  "TEXTJOIN",
+        "TEXTSPLIT", "UNICHAR",      "UNICODE",   "VALUETOTEXT", "XOR"};
+    static constexpr std::array<std::string_view, 2> lookups = {"XLOOKUP", "XMATCH"};
+    const auto isIn = [&](const auto& names) {
+        return std::find(names.begin(), names.end(), name) != names.end();
+    };
+    if (name.find('.') != name.npos) return !isIn(dottedOld);
+    return isIn(young) || isIn(lookups);
+}
+
+/// The formula as the file format writes it, "=" in front, UTF-8.
+std::string fileFormula(std::string_view text) {
+    std::string result = "=";
+    std::string word;
+    bool inText = false;
+    const auto endWord = [&](char next) {
+        if (next == '(' && needsPrefix(encodings::uppered(word))) result += "_xlfn.";
+        result += word;
+        word.clear();
+    };
+    for (const char c : text) {
+        if (c == '"') inText = !inText;
+        if (!inText && (std::isalnum(static_cast<unsigned char>(c)) || c == '.' || c == '_')) {
+            word += c;
+            continue;
+        }
+        endWord(c);
+        result += c;
+    }
+    endWord('\0');
+    return encodings::toUtf8(result);
+}
+
+lxw_color_t fileColour(control::Colour colour) {
+    return (colour & 0xFFU) << 16 | (colour & 0xFF00U) | (colour >> 16 & 0xFFU);
+}
+
+void setFont(lxw_format* format, const control::Look& look) {
+    const control::Font& font = look.font;
+    format_set_font_name(format, encodings::toUtf8(font.name).c_str());
+    format_set_font_size(format, font.height * 0.75);  // pixels at 96 to the inch, in points
+    if (font.weight >= 600) format_set_bold(format);
+    if (font.italic) format_set_italic(format);
+    if (font.underlined) format_set_underline(format, LXW_UNDERLINE_SINGLE);
+    if (look.textColour != control::automatic)
+        format_set_font_color(format, fileColour(look.textColour));
+}
+
+void setBorders(lxw_format* format, const control::Look& look) {
+    if (look.borderStyle == 0) return;
+    const auto has = [&](control::BorderSide side) { return (look.borderSides & side) != 0; };
+    if (has(control::borderLeft)) format_set_left(format, LXW_BORDER_THIN);
+    if (has(control::borderRight)) format_set_right(format, LXW_BORDER_THIN);
+    if (has(control::borderTop)) format_set_top(format, LXW_BORDER_THIN);
+    if (has(control::borderBottom)) format_set_bottom(format, LXW_BORDER_THIN);
+    if (look.borderColour != control::automatic)
+        format_set_border_color(format, fileColour(look.borderColour));
+}
+
+void setNumberFormat(lxw_format* format, const control::CellType& type) {
+    if (type.isNumber()) {
+        const std::string decimals(type.decimals, '0');
+        format_set_num_format(format, decimals.empty() ? "0" : ("0." + decimals).c_str());
+    } else if (type.keepsText()) {
+        format_set_num_format(format, "@");
+    }
+}
+
+/// One workbook being filled from a grid.
+class Workbook {
+  public:
+    Workbook(const control::Grid& grid, const std::string& path)
+        : m_grid(grid), m_book(workbook_new(path.c_str())) {
+        if (m_book) m_page = workbook_add_worksheet(m_book, nullptr);
+    }
+    Workbook(const Workbook&) = delete;
+    Workbook& operator=(const Workbook&) = delete;
+    ~Workbook() {
+        if (m_book) workbook_close(m_book);
+    }
+
+    bool write(std::string& error) {
+        if (!m_page) {
+            error = "there is not enough memory for a workbook";
+            return false;
+        }
+        writeSizes();
+        writeSpans();
+        const auto [cols, rows] = usedArea(m_grid);
+        const formula::Area all{1, std::max(rows, 1), 1, static_cast<uint16_t>(std::max(cols, 1))};
+        m_grid.sheet().cells().each(
+            all, [&](int row, int col, const control::Cell& cell) { writeCell(col, row, cell); });
+        writeNotes();
+        note(workbook_close(std::exchange(m_book, nullptr)), {});
+        error = m_error;
+        return m_error.empty();
+    }
+
+  private:
+    static lxw_row_t rowOf(int row) { return static_cast<lxw_row_t>(row - 1); }
+    static lxw_col_t colOf(int col) { return static_cast<lxw_col_t>(col - 1); }
+
+    void note(lxw_error result, const std::string& where) {
+        if (result != LXW_NO_ERROR && m_error.empty())
+            m_error = where + std::string(where.empty() ? "" : ": ") + lxw_strerror(result);
+    }
+
+    lxw_format* formatOf(control::LookIndex index) {
+        auto& format = m_formats[index];
+        if (format || index == control::plainLook) return format;
+        const control::Look& look = m_grid.looks()[index];
+        format = workbook_add_format(m_book);
+        setNumberFormat(format, look.type);
+        setFont(format, look);
+        setBorders(format, look);
+        if (look.background != control::automatic) {
+            format_set_pattern(format, LXW_PATTERN_SOLID);
+            format_set_bg_color(format, fileColour(look.background));
+        }
+        static constexpr uint8_t alignments[] = {LXW_ALIGN_NONE, LXW_ALIGN_LEFT, LXW_ALIGN_RIGHT,
+                                                 LXW_ALIGN_CENTER};
+        if (look.alignment < std::size(alignments))
+            format_set_align(format, alignments[look.alignment]);
+        return format;
+    }
+
+    void writeSizes() {
+        const control::SideTables& sides = m_grid.sides();
+        for (const auto& [row, pixels] : sides.rows.sizes)
+            if (row >= 1) worksheet_set_row_pixels(m_page, rowOf(row), pixelsOf(pixels), nullptr);
+        const int cols = std::max(usedArea(m_grid).cols, lastSized(sides.cols));
+        for (int col = 1; col <= cols; ++col) {
+            lxw_row_col_options options{};
+            options.hidden = sides.cols.hidden.contains(col);
+            const auto size = sides.cols.sizes.find(col);
+            const auto look = sides.columnLook(col);
+            if (size == sides.cols.sizes.end() && !options.hidden && look == control::inheritedLook)
+                continue;
+            const int pixels = size == sides.cols.sizes.end() ? m_grid.colWidth(col) : size->second;
+            worksheet_set_column_pixels_opt(
+                m_page, colOf(col), colOf(col), pixelsOf(pixels),
+                look == control::inheritedLook ? nullptr : formatOf(look), &options);
+        }
+    }
+    static uint32_t pixelsOf(int pixels) { return static_cast<uint32_t>(std::max(pixels, 0)); }
+    static int lastSized(const control::Band& band) {
+        const int sized = band.sizes.empty() ? 0 : band.sizes.rbegin()->first;
+        return std::max(sized, band.hidden.empty() ? 0 : *band.hidden.rbegin());
+    }
+
+    void writeSpans() {
+        for (const auto& span : m_grid.sides().spans.all()) {
+            if (span.col < 1 || span.row < 1 || (span.cols < 2 && span.rows < 2)) continue;
+            note(worksheet_merge_range(m_page, rowOf(span.row), colOf(span.col),
+                                       rowOf(span.row + span.rows - 1),
+                                       colOf(span.col + span.cols - 1), "",
+                                       formatOf(m_grid.lookIndex(span.col, span.row))),
+                 "the span at " + cellName({span.col, span.row}));
+        }
+    }
+
+    void writeNotes() {
+        for (const auto& [key, text] : m_grid.sides().notes) {
+            const int col = control::keyCol(key), row = control::keyRow(key);
+            if (col < 1 || row < 1) continue;
+            note(worksheet_write_comment(m_page, rowOf(row), colOf(col),
+                                         encodings::toUtf8(text).c_str()),
+                 "the note of " + cellName({col, row}));
+        }
+    }
+
+    void writeCell(int col, int row, const control::Cell& cell) {
+        lxw_format* format = formatOf(m_grid.lookIndex(col, row));
+        const auto text = m_grid.sheet().formula(col, row);
+        note(text ? writeFormula(col, row, *text, cell.value(), format)
+                  : writeValue(col, row, cell.value(), format),
+             "cell " + cellName({col, row}));
+    }
+
+    lxw_error writeValue(int col, int row, const Value& value, lxw_format* format) {
+        switch (value.type()) {
+            case formula::ValueType::number:
+                return worksheet_write_number(m_page, rowOf(row), colOf(col), value.number(),
+                                              format);
+            case formula::ValueType::boolean:
+                return worksheet_write_boolean(m_page, rowOf(row), colOf(col), value.truth(),
+                                               format);
+            case formula::ValueType::text:
+                return worksheet_write_string(m_page, rowOf(row), colOf(col),
+                                              encodings::toUtf8(value.text()).c_str(), format);
+            case formula::ValueType::error: {
+                // A plain error value can only be written as the formula that gives it.
+                const std::string error(formula::errorText(value.error()));
+                return worksheet_write_formula_str(m_page, rowOf(row), colOf(col),
+                                                   ("=" + error).c_str(), format, error.c_str());
+            }
+            default:
+                return worksheet_write_blank(m_page, rowOf(row), colOf(col), format);
+        }
+    }
+
+    lxw_error writeFormula(int col, int row, std::string_view text, const Value& result,
+                           lxw_format* format) {
+        std::string converted;
+        if (m_grid.sheet().referenceStyle() == formula::ReferenceStyle::r1c1) {
+            converted = formula::convertStyle(text, formula::ReferenceStyle::r1c1,
+                                              formula::ReferenceStyle::a1, col, row)
+                            .value_or(std::string(text));
+            text = converted;
+        }
+        const std::string formula = fileFormula(text);
+        const double number = result.isNumber() ? result.number() : 0;
+        if (m_grid.sheet().isArrayFormula(col, row))
+            return worksheet_write_array_formula_num(m_page, rowOf(row), colOf(col), rowOf(row),
+                                                     colOf(col), formula.c_str(), format, number);
+        if (result.isNumber())
+            return worksheet_write_formula_num(m_page, rowOf(row), colOf(col), formula.c_str(),
+                                               format, number);
+        std::string shown;
+        if (result.isText()) shown = encodings::toUtf8(result.text());
+        if (result.isBoolean()) shown = result.truth() ? "TRUE" : "FALSE";
+        if (result.isError()) shown = formula::errorText(result.error());
+        return worksheet_write_formula_str(m_page, rowOf(row), colOf(col), formula.c_str(), format,
+                                           shown.c_str());
+    }
+
+    const control::Grid& m_grid;
+    lxw_workbook* m_book;
+    lxw_worksheet* m_page = nullptr;
+    std::unordered_map<control::LookIndex, lxw_format*> m_formats;
+    std::string m_error;
+};
+
+/// A temporary file that goes when it is no longer needed.
+class TemporaryFile {
+  public:
+    TemporaryFile() {
+        std::error_code error;
+        m_path = (std::filesystem::temp_directory_path(error) / "vormant-XXXXXX").string();
+        const int descriptor = ::mkstemp(m_path.data());
+        m_exists = descriptor >= 0;
+        if (m_exists) ::close(descriptor);
+    }
+    TemporaryFile(const TemporaryFile&) = delete;
+    TemporaryFile& operator=(const TemporaryFile&) = delete;
+    ~TemporaryFile() {
+        if (m_exists) ::unlink(m_path.c_str());
+    }
+    bool exists() const { return m_exists; }
+    const std::string& path() const { return m_path; }
+
+  private:
+    std::string m_path;
+    bool m_exists = false;
+};
+
+}  // namespace
+
+std::optional<std::string> sheetAsXlsx(const control::Grid& grid, std::string& error) {
+    const TemporaryFile file;
+    if (!file.exists()) {
+        error = "no temporary file can be made";
+        return std::nullopt;
+    }
+    if (!Workbook(grid, file.path()).write(error)) return std::nullopt;
+    std::ifstream stream(file.path(), std::ios::binary);
+    std::string bytes(std::istreambuf_iterator<char>(stream), {});
+    if (!bytes.empty()) return bytes;
+    error = "the workbook was not written";
+    return std::nullopt;
+}
+
+}  // namespace cli
