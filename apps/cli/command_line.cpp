@@ -28,8 +28,9 @@ struct Calls {
 /// An option that takes one "Name=Value" and may be given again.
 CLI::Option* addAssignments(CLI::App& command, const std::string& names,
                             std::vector<std::string>& values, const std::string& help) {
-    return command.add_option(names, values, help)->type_name("NAME=VALUE")->allow_extra_args(
-        false);
+    return command.add_option(names, values, help)
+        ->type_name("NAME=VALUE")
+        ->allow_extra_args(false);
 }
 
 /// `work` runs when `command` is called, with the library open.
@@ -66,9 +67,9 @@ void addStandardsRunners(CLI::App& standards, Calls& calls) {
     auto& run = *standards.add_subcommand("run", "Run a standard and print its outputs");
     run.add_option("NAME", calls.run.name, "A standard of the library, or a file")->required();
     auto* set = addAssignments(run, "--set", calls.run.values, "Give an input its value");
-    auto* macro = run.add_option("--macro", calls.run.macroFile,
-                                 "Take the inputs from this macro file")
-                      ->type_name("FILE");
+    auto* macro =
+        run.add_option("--macro", calls.run.macroFile, "Take the inputs from this macro file")
+            ->type_name("FILE");
     auto* key = run.add_option("--key", calls.run.mappingKey,
                                "The line of the mapping file, or Module.GROUP")
                     ->type_name("KEY");
@@ -106,30 +107,42 @@ void addSheetCommands(CLI::App& sheet, Calls& calls) {
                       ->allow_extra_args(false);
     auto* lines = eval.add_flag("--jsonl", calls.eval.jsonLines,
                                 "Read formulas as JSON lines, write results as JSON lines");
-    auto* input = eval.add_option("--input", calls.eval.input, "The file of JSON lines")
-                      ->type_name("FILE");
+    auto* input =
+        eval.add_option("--input", calls.eval.input, "The file of JSON lines")->type_name("FILE");
     lines->excludes(text)->excludes(cells);
     input->needs(lines);
     onCall(eval, calls, [&calls] { return evalFormula(calls.eval); });
 
-    auto& convert = *sheet.add_subcommand(
-        "convert", "Convert documents: .tws to .csv and .xlsx, .csv to .tws");
+    auto& convert =
+        *sheet.add_subcommand("convert", "Convert documents: .tws to .csv and .xlsx, .csv to .tws");
     convert.add_option("FROM", calls.convert.from, "A document or CSV file")->required();
     convert.add_option("TO", calls.convert.to, "The file to write")->required();
     onCall(convert, calls, [&calls] { return convertSheet(calls.convert); });
 }
 
+/// The subcommand that the call got as far as.
+const CLI::App& commandMeant(const CLI::App& app) {
+    const auto chosen = app.get_subcommands();
+    return chosen.empty() ? app : commandMeant(*chosen.front());
+}
+
+std::string fullName(const CLI::App& command) {
+    const CLI::App* parent = command.get_parent();
+    return (parent ? fullName(*parent) + " " : "") + command.get_name();
+}
+
 ExitCode wrongCall(const CLI::App& app, const CLI::ParseError& error) {
+    const CLI::App& command = commandMeant(app);
+    const auto unknown = app.remaining(true);
     std::string message = error.what();
+    if (!unknown.empty())
+        message = "\"" + unknown.front() + "\" makes no sense here";
+    else if (dynamic_cast<const CLI::RequiredError*>(&error) &&
+             command.get_require_subcommand_min() > 0)
+        message = "say which command you mean";
     while (message.ends_with('\n')) message.pop_back();
     complain(message);
-    std::string names = "vormant";
-    const CLI::App* command = &app;
-    while (!command->get_subcommands().empty()) {
-        command = command->get_subcommands().front();
-        names += " " + command->get_name();
-    }
-    std::fprintf(stderr, "See '%s --help'.\n", names.c_str());
+    std::fprintf(stderr, "See '%s --help'.\n", fullName(command).c_str());
     return ExitCode::wrongCall;
 }
 

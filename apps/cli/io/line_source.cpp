@@ -83,22 +83,17 @@ LineSource::Got LineSource::takeLine(size_t length, std::string_view& record) {
     while (true) {
         const char* begin = m_buffer.data() + m_begin;
         const size_t available = m_filled - m_begin;
-        size_t end = available;
-        if (const void* found = std::memchr(begin + searched, '\n', available - searched)) {
-            end = static_cast<size_t>(static_cast<const char*>(found) - begin);
-            m_next = m_begin + end + 1;
-        } else if (available > maxRecord) {
-            return Got::tooLong;
-        } else if (fill()) {
+        const void* found = std::memchr(begin + searched, '\n', available - searched);
+        const size_t end =
+            found ? static_cast<size_t>(static_cast<const char*>(found) - begin) : available;
+        if (end > maxRecord) return Got::tooLong;
+        if (!found && fill()) {
             searched = available;
             continue;
-        } else if (!m_error.empty()) {
-            return Got::failed;
-        } else if (available == length) {
-            return Got::end;
-        } else {
-            m_next = m_filled;  // the last line lacks its end
         }
+        if (!found && !m_error.empty()) return Got::failed;
+        if (!found && available == length) return Got::end;
+        m_next = m_begin + end + (found ? 1 : 0);  // the last line may lack its end
         record = std::string_view(begin, end);
         if (record.ends_with('\r')) record.remove_suffix(1);
         return Got::line;
@@ -108,13 +103,13 @@ LineSource::Got LineSource::takeLine(size_t length, std::string_view& record) {
 // Reads on to the end of a line that does not fit, without keeping it.
 LineSource::Got LineSource::skipRecord() {
     while (true) {
-        m_begin = m_next = m_filled;
-        if (!fill()) return m_error.empty() ? Got::tooLong : Got::failed;
         const char* begin = m_buffer.data() + m_begin;
         if (const void* found = std::memchr(begin, '\n', m_filled - m_begin)) {
-            m_next = static_cast<size_t>(static_cast<const char*>(found) - m_buffer.data()) + 1;
+            m_next = m_begin + static_cast<size_t>(static_cast<const char*>(found) - begin) + 1;
             return Got::tooLong;
         }
+        m_begin = m_next = m_filled;
+        if (!fill()) return m_error.empty() ? Got::tooLong : Got::failed;
     }
 }
 
@@ -125,8 +120,8 @@ bool LineSource::fill() {
     if (m_whenWaiting && wouldWait(m_descriptor.number())) m_whenWaiting();
     ssize_t count = 0;
     do {
-        count = ::read(m_descriptor.number(), m_buffer.data() + m_filled,
-                       m_buffer.size() - m_filled);
+        count =
+            ::read(m_descriptor.number(), m_buffer.data() + m_filled, m_buffer.size() - m_filled);
     } while (count < 0 && errno == EINTR);
     if (count < 0) m_error = std::strerror(errno);
     m_atEnd = count <= 0;

@@ -55,9 +55,9 @@ void appendJsonUtf8(std::string& line, std::string_view utf8) {
 void appendNumber(std::string& line, double number) {
     char text[32];
     const bool isPlain = std::fabs(number) < 1e15 && (number == 0 || std::fabs(number) >= 1e-7);
-    const auto end = isPlain ? std::to_chars(text, text + sizeof text, number,
-                                             std::chars_format::fixed)
-                             : std::to_chars(text, text + sizeof text, number);
+    const auto end = isPlain
+                         ? std::to_chars(text, text + sizeof text, number, std::chars_format::fixed)
+                         : std::to_chars(text, text + sizeof text, number);
     line.append(number == 0 ? "0" : std::string_view(text, end.ptr));
 }
 

@@ -25,14 +25,6 @@ bool recordFromCall(const EvalRequest& request, EvalRecord& record, std::string&
     return true;
 }
 
-// The formula stands in the last corner of the sheet, where no range that it reads meets it.
-control::CellAddress formulaPlace(const std::vector<EvalRecord::Cell>& cells) {
-    control::CellAddress place{formula::maxCols, formula::maxRows};
-    for (const auto& cell : cells)
-        if (cell.address.row >= place.row) place.row = cell.address.row - 1;
-    return place;
-}
-
 std::string plainText(const formula::Value& value) {
     std::string text;
     if (value.isNumber())
@@ -48,12 +40,11 @@ std::string plainText(const formula::Value& value) {
 
 ExitCode evalOne(const EvalRequest& request) {
     EvalRecord record;
-    std::string error;
-    if (!recordFromCall(request, record, error)) {
+    std::string error = "give a formula, or --jsonl to read them from lines";
+    if (request.formula.empty() || !recordFromCall(request, record, error)) {
         complain(error);
         return ExitCode::wrongCall;
     }
-    record.address = formulaPlace(record.cells);
     control::Sheet sheet;
     const auto value = evaluate(record, sheet, error);
     if (!value) {
@@ -68,8 +59,8 @@ ExitCode evalOne(const EvalRequest& request) {
 void appendError(std::string& line, const std::string& id, const LineSource& source,
                  std::string_view message) {
     line += "{\"id\":" + id + ",\"error\":";
-    appendJsonUtf8(line, "line " + std::to_string(source.lineNumber()) + ": " +
-                             std::string(message));
+    appendJsonUtf8(line,
+                   "line " + std::to_string(source.lineNumber()) + ": " + std::string(message));
     line += "}\n";
 }
 
@@ -103,8 +94,7 @@ ExitCode evalLines(const EvalRequest& request) {
     bool allDone = true;
     std::string_view line;
     LineSource::Got got;
-    while ((got = source->next(line)) == LineSource::Got::line ||
-           got == LineSource::Got::tooLong) {
+    while ((got = source->next(line)) == LineSource::Got::line || got == LineSource::Got::tooLong) {
         if (got == LineSource::Got::tooLong) {
             appendError(output.text(), "null", *source, "longer than 16 MiB");
             allDone = false;

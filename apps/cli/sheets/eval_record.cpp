@@ -75,8 +75,8 @@ bool readFields(const Json& json, EvalRecord& record, std::string& error) {
     if (const auto cells = json.find("cells"); cells != json.end())
         if (!readCells(*cells, record, error)) return false;
     if (const auto cell = json.find("cell"); cell != json.end()) {
-        const auto address = cell->is_string() ? cellAddress(cell->get_ref<const std::string&>())
-                                               : std::nullopt;
+        const auto address =
+            cell->is_string() ? cellAddress(cell->get_ref<const std::string&>()) : std::nullopt;
         if (!address) {
             error = R"("cell" must be the address of a cell)";
             return false;
@@ -107,10 +107,10 @@ void place(control::Sheet& sheet, const EvalRecord::Cell& cell) {
         sheet.setValue(col, row, *code);
 }
 
-std::string refusal(control::CellAddress address, const formula::ParseError& problem) {
-    std::string message = "formula in " + cellName(address) + ": ";
+std::string refusal(const std::string& where, const formula::ParseError& problem) {
+    std::string message = where + " is refused: ";
     appendUtf8(message, problem.message);
-    return message + " (at character " + std::to_string(problem.position + 1) + ")";
+    return message + " (character " + std::to_string(problem.position + 1) + ")";
 }
 
 }  // namespace
@@ -153,16 +153,15 @@ std::optional<formula::Value> evaluate(const EvalRecord& record, control::Sheet&
     for (const auto& [address, content] : record.cells) {
         const auto* text = std::get_if<FormulaText>(&content);
         if (text && !sheet.setFormula(address.col, address.row, text->text, problem)) {
-            error = refusal(address, problem);
+            error = refusal("the formula in " + cellName(address), problem);
             return std::nullopt;
         }
     }
     const auto [col, row] = record.address;
-    const bool accepted = record.isArray
-                              ? sheet.setArrayFormula(col, row, record.formula, problem)
-                              : sheet.setFormula(col, row, record.formula, problem);
+    const bool accepted = record.isArray ? sheet.setArrayFormula(col, row, record.formula, problem)
+                                         : sheet.setFormula(col, row, record.formula, problem);
     if (!accepted) {
-        error = refusal(record.address, problem);
+        error = refusal("the formula", problem);
         return std::nullopt;
     }
     sheet.recalculateCell(col, row);

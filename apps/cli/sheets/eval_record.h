@@ -5,7 +5,8 @@
 //
 // A cell holds a number, true or false, a text, a formula (a text that starts with "="),
 // {"error": "#N/A"}, or {"text": "=5"} for a text that would be taken for something else. "cell"
-// is where the formula stands; the tag "array" makes it an array formula.
+// is where the formula stands, usually the last corner of the sheet, where no range that it reads
+// meets it; the tag "array" makes it an array formula.
 #pragma once
 
 #include <optional>
@@ -32,7 +33,7 @@ struct EvalRecord {
     };
     std::string id = "null";  ///< as JSON
     std::vector<Cell> cells;
-    control::CellAddress address{1, 1};
+    control::CellAddress address{formula::maxCols, formula::maxRows};
     std::string formula;
     bool isArray = false;
 };

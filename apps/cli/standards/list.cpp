@@ -1,5 +1,8 @@
+#include "console.h"
+#include "core_api/settings.h"
 #include "io/output.h"
 #include "io/texts.h"
+#include "io/typed_paths.h"
 #include "standards/declarations.h"
 #include "standards/library.h"
 #include "standards/standards_commands.h"
@@ -8,9 +11,16 @@
 namespace cli {
 
 ExitCode listStandards() {
+    const auto standards = libraryStandards();
+    if (standards.empty()) {
+        complain(gSettings.libDir().isEmpty()
+                     ? "name the library with --library or VORMANT_LIBRARY"
+                     : "there are no standards in " + shownPath(gSettings.libDir()));
+        return ExitCode::failed;
+    }
     Output output;
     bool allRead = true;
-    for (const auto& standard : libraryStandards()) {
+    for (const auto& standard : standards) {
         Vor_String failure;
         const auto variables = listDeclarations(standard.path, failure);
         if (!variables) {
