@@ -25,19 +25,18 @@ struct ShownRow {
 
 ShownRow shownRow(const control::Grid& grid, int row, int cols, bool formulas) {
     ShownRow shown;
-    std::string buffer;
     for (int col = 1; col <= cols; ++col) {
         const control::Cell* cell = grid.sheet().find(col, row);
         if (!cell || cell->isBlank()) continue;
-        std::string text;
-        if (const auto formulaText = grid.sheet().formula(col, row); formulas && formulaText)
-            text = "=" + std::string(*formulaText);
-        else
-            text = grid.text(col, row, control::Reading::data, buffer);
+        const auto formulaText = grid.sheet().formula(col, row);
+        const bool isFormula = formulas && formulaText;
+        std::string text = isFormula ? "=" + std::string(*formulaText)
+                                     : grid.text(col, row, control::Reading::data);
         if (text.empty()) continue;
         for (char& c : text)
             if (c >= 0 && c < ' ') c = ' ';
-        shown.cells.push_back({col, std::move(text), grid.sheet().value(col, row).isNumber()});
+        const bool isNumber = !isFormula && grid.sheet().value(col, row).isNumber();
+        shown.cells.push_back({col, std::move(text), isNumber});
     }
     return shown;
 }

@@ -143,7 +143,7 @@ class Workbook {
 
     lxw_format* formatOf(control::LookIndex index) {
         auto& format = m_formats[index];
-        if (format || index == control::plainLook) return format;
+        if (format) return format;
         const control::Look& look = m_grid.looks()[index];
         format = workbook_add_format(m_book);
         setNumberFormat(format, look.type);
