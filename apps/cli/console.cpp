@@ -3,7 +3,7 @@
 #include <cstdio>
 #include <string>
 
-#include "platform/encodings.h"
+#include "io/typed_paths.h"
 
 namespace cli {
 
@@ -26,7 +26,7 @@ void complainAt(std::string_view file, long long line, std::string_view message)
 }
 
 void complainText(std::string_view windows1252) {
-    complain(encodings::toUtf8(windows1252));
+    complain(shownMessage(windows1252));
 }
 
 }  // namespace cli

@@ -1,5 +1,4 @@
 #include "io/output.h"
-#include "io/texts.h"
 #include "io/typed_paths.h"
 #include "standards/library.h"
 #include "standards/standards_check.h"
@@ -14,7 +13,7 @@ void appendFinding(std::string& text, const std::string& file, const StandardsFi
     if (finding.row > 0) text += std::to_string(finding.row) + ":";
     if (finding.column > 0) text += std::to_string(finding.column) + ":";
     text += finding.severity == StandardsFinding::Severity::error ? " error: " : " warning: ";
-    appendUtf8(text, finding.message);
+    text += shownMessage(finding.message);
     text += '\n';
 }
 

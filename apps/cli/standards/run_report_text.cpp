@@ -45,8 +45,7 @@ void appendEquation(std::string& text, const ReportedEquation& equation,
     text += '\n' + indent + "        ";
     if (!equation.ok) {
         text += "failed";
-        if (!equation.message.empty()) text += ": ";
-        appendUtf8(text, equation.message);
+        if (!equation.message.empty()) text += ": " + shownMessage(equation.message);
     } else if (equation.child) {
         text += "calls " + shownPath(equation.child->path);
     } else {
@@ -75,7 +74,7 @@ void complainAboutEquations(const RunReport& report) {
         std::string message;
         appendUtf8(message, equation.text);
         message += ": ";
-        appendUtf8(message, equation.message.empty() ? "failed" : equation.message);
+        message += equation.message.empty() ? "failed" : shownMessage(equation.message);
         complainAt(shownPath(report.path), equation.row, message);
     }
 }
@@ -95,7 +94,7 @@ void complainAbout(const RunReport& report) {
         std::string message;
         for (const auto& line : lines) {
             if (!message.empty()) message += "\n  ";
-            appendUtf8(message, line);
+            message += shownMessage(line);
         }
         complain(message);
     }

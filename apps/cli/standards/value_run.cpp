@@ -5,6 +5,7 @@
 #include "console.h"
 #include "core_api/text/text_helpers.h"
 #include "io/texts.h"
+#include "io/typed_paths.h"
 #include "mapping/start_dlg_standards_ss.h"
 #include "spread/control/formula/value.h"
 #include "standards/declarations.h"
@@ -28,7 +29,7 @@ void FailureWatch::note(const EquationReport& equation) {
     m_failure = "row " + std::to_string(equation.row) + ": ";
     appendUtf8(m_failure, equation.text);
     m_failure += ": ";
-    appendUtf8(m_failure, equation.message.empty() ? "failed" : equation.message);
+    m_failure += equation.message.empty() ? "failed" : shownMessage(equation.message);
 }
 
 ToldOnce::ToldOnce()
@@ -53,8 +54,7 @@ std::unique_ptr<ValueRun> ValueRun::open(const StandardName& standard) {
 bool ValueRun::run(std::string& error) {
     m_watch.reset();
     if (!StartDlgStandardsSS(m_data)) {
-        error.clear();
-        appendUtf8(error, lastRunFailure());
+        error = shownMessage(lastRunFailure());
         return false;
     }
     error = m_watch.failure();

@@ -1,0 +1,135 @@
+// Documents shown and converted.
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "program.h"
+#include "zip_entry.h"
+
+namespace {
+
+using testing::HasSubstr;
+using testing::Not;
+
+const std::string document =
+    "vormant-sheet 1\nsize 4 9\n"
+    "look 1 number decimals=2\n"
+    "cells\n"
+    "A1 \"Section\nB1 \"Mass\nC1 \"Total\n"
+    "A2 \"IPE 200 \xC3\x9C\nB2 @1 22.4\nC2 =B2*3\t67.2\n"
+    "A4 \"a text that runs on\nB4 @1 -0.5\n"
+    "C5 =1/0\t#DIV/0!\nC6 =NOSUCH(1)\t#NAME?\nB7 \"a,\"b\"\\nc\n"
+    "end 12\n";
+
+TEST(SheetShow, PrintsAnAlignedTable) {
+    const program::Folder folder;
+    const auto file = folder.write("a.tws", document);
+    const auto result = program::run({"sheet", "show", file});
+    EXPECT_EQ(result.exitCode, 0) << result.err;
+    EXPECT_EQ(result.out,
+              "   A                    B        C\n"
+              "1  Section              Mass     Total\n"
+              "2  IPE 200 \xC3\x9C              22.40     67.2\n"
+              "4  a text that runs on    -0.50\n"
+              "5                                #DIV/0!\n"
+              "6                                #NAME?\n"
+              "7                       a,\"b\" c\n");
+    EXPECT_THAT(
+        program::run({"sheet", "show", "--formulas", file}).out,
+        testing::AllOf(HasSubstr("=B2*3\n"), HasSubstr("=NOSUCH(1)\n"), Not(HasSubstr("67.2"))));
+}
+
+TEST(SheetConvert, CsvIsReadByWhatItsFieldsLookLike) {
+    const program::Folder folder;
+    const auto csv = folder.write(
+        "a.csv", "name,12,-1.5e3,\"=IF(B1>1,\"\"x,y\"\",0)\"\n\n\"two\nlines\",,TRUE,=B1*2\n");
+    const auto result = program::run({"sheet", "convert", csv, folder / "a.tws"});
+    EXPECT_EQ(result.exitCode, 0) << result.err;
+    EXPECT_THAT(folder.read("a.tws"),
+                HasSubstr("size 4 3\ncells\n"
+                          "A1 \"name\nB1 12\nC1 -1500\nD1 =IF(B1>1,\"x,y\",0)\t\"x,y\n"
+                          "A3 \"two\\nlines\nC3 \"TRUE\nD3 =B1*2\t24\n"));
+    // And back: the same fields, numbers written the usual way.
+    EXPECT_EQ(program::run({"sheet", "convert", folder / "a.tws", folder / "b.csv"}).exitCode, 0);
+    EXPECT_EQ(folder.read("b.csv"),
+              "name,12,-1500,\"=IF(B1>1,\"\"x,y\"\",0)\"\n,,,\n\"two\nlines\",,TRUE,=B1*2\n");
+}
+
+TEST(SheetConvert, WorkbooksKeepFormulasResultsAndFormats) {
+    const program::Folder folder;
+    const auto file = folder.write(
+        "a.tws",
+        "vormant-sheet 1\nsize 3 3\nlook 1 number decimals=3\nspan B3 2 1\n"
+        "cells\nA1 @1 2.5\nB1 @1 =A1*2\t5\nC1 =IFS(A1>2,\"a<b\")\t\"a<b\nA2 \"\xC3\x9C\n"
+        "B2 =STDEV.S(A1:B1)&ERROR.TYPE(C2)\t\"x\nC2 =1/0\t#DIV/0!\nB3 \"wide\nend 8\n");
+    const auto result = program::run({"sheet", "convert", file, folder / "a.XLSX"});
+    EXPECT_EQ(result.exitCode, 0) << result.err;
+    const std::string archive = folder.read("a.XLSX");
+    const std::string sheet = zipEntry(archive, "xl/worksheets/sheet1.xml");
+    EXPECT_THAT(sheet, HasSubstr("<v>2.5</v>"));
+    EXPECT_THAT(sheet, HasSubstr("<f>A1*2</f><v>5</v>"));
+    EXPECT_THAT(sheet, HasSubstr("<f>_xlfn.IFS(A1&gt;2,\"a&lt;b\")</f><v>a&lt;b</v>"));
+    EXPECT_THAT(sheet, HasSubstr("<f>_xlfn.STDEV.S(A1:B1)&amp;ERROR.TYPE(C2)</f>"));
+    EXPECT_THAT(sheet, HasSubstr("<f>1/0</f><v>#DIV/0!</v>"));
+    EXPECT_THAT(sheet, HasSubstr("<mergeCell ref=\"B3:C3\"/>"));
+    EXPECT_THAT(zipEntry(archive, "xl/sharedStrings.xml"), HasSubstr("\xC3\x9C"));
+    EXPECT_THAT(zipEntry(archive, "xl/styles.xml"), HasSubstr("formatCode=\"0.000\""));
+}
+
+TEST(SheetConvert, WhatCannotBeReadLeavesTheTargetAlone) {
+    const struct {
+        std::string name;
+        std::string content;
+        std::string message;
+    } cases[] = {
+        {"a.csv", "1,2\n3,\"=ROUND(1\"\n", "a.csv:2: cell B2: the formula =ROUND(1 is refused"},
+        {"a.csv", "=NOSUCH(1)\n", "a.csv:1: cell A1"},
+        {"a.csv", "\xE4\xB8\xAD\n", "a.csv:1: cell A1: character U+4E2D"},
+        {"a.csv", "\xFF\n", "a.csv:1: cell A1: byte 0xFF"},
+        {"a.csv", "x\n\"y\n", "a.csv:2: a quoted field has no end"},
+        {"a.csv", std::string("x\0y", 3), "a.csv:1: cell A1: a zero byte"},
+        {"a.csv", std::string(16384, ','), "a.csv:1: more than 16384 fields"},
+        {"a.tws", "", "a.tws"},
+        {"a.tws", document.substr(0, document.size() - 20), "a.tws"},
+        {"a.tws", "vormant-sheet 1\nsize 2000000000 2000000000\ncells\nend 0\n", "a.tws:2:"},
+        {"a.tws", std::string("\x7F\x45\x4C\x46\0\1", 6), "a.tws:1:"},
+    };
+    for (const auto& row : cases) {
+        SCOPED_TRACE(row.message);
+        const program::Folder folder;
+        const auto from = folder.write(row.name, row.content);
+        for (const std::string to : {"to.tws", "to.csv", "to.xlsx"}) {
+            folder.write(to, "old");
+            const auto result = program::run({"sheet", "convert", from, folder / to});
+            EXPECT_EQ(result.exitCode, 1);
+            EXPECT_THAT(result.err, testing::StartsWith("vormant: "));
+            EXPECT_THAT(result.err, HasSubstr(row.message));
+            EXPECT_EQ(folder.read(to), "old");
+        }
+        EXPECT_EQ(folder.names().size(), 4u) << "something was left behind";
+    }
+}
+
+TEST(SheetConvert, SparseSheetsAreNotBlownUp) {
+    const program::Folder folder;
+    const auto file = folder.write("a.tws",
+                                   "vormant-sheet 1\nsize 16384 1048576\ncells\n"
+                                   "A1 1\nXFD1048576 2\nend 2\n");
+    const auto csv = program::run({"sheet", "convert", file, folder / "a.csv"});
+    EXPECT_EQ(csv.exitCode, 1);
+    EXPECT_THAT(csv.err, HasSubstr("XFD1048576, too far for CSV"));
+    EXPECT_EQ(program::run({"sheet", "convert", file, folder / "a.xlsx"}).exitCode, 0);
+    EXPECT_EQ(program::run({"sheet", "show", file}).out,
+              "         A  XFD\n      1  1\n1048576       2\n");
+}
+
+TEST(SheetConvert, AFolderThatCannotBeWrittenIsNamed) {
+    const program::Folder folder;
+    const auto file = folder.write("a.tws", document);
+    for (const std::string to : {"no/a.csv", "no/a.xlsx", "no/b.tws"}) {
+        const auto result = program::run({"sheet", "convert", file, folder / to});
+        EXPECT_EQ(result.exitCode, 1);
+        EXPECT_THAT(result.err, HasSubstr(folder / to));
+    }
+}
+
+}  // namespace
