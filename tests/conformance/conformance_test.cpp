@@ -15,12 +15,6 @@
 #include "spread/control/formula/function.h"
 #include "spread/control/sheet.h"
 
-// Families that may not be linked yet.
-namespace formula {
-std::span<const FunctionSpec> textFunctions() __attribute__((weak));
-std::span<const FunctionSpec> dateFunctions() __attribute__((weak));
-}  // namespace formula
-
 namespace conformance {
 namespace {
 
@@ -59,9 +53,9 @@ std::string familyOf(const std::string& name) {
         add("matrices", formula::matrixFunctions());
         add("logic", formula::logicFunctions());
         add("look-up", formula::lookupFunctions());
-        if (formula::textFunctions) add("text", formula::textFunctions());
+        add("text", formula::textFunctions());
         add("information", formula::informationFunctions());
-        if (formula::dateFunctions) add("dates", formula::dateFunctions());
+        add("dates", formula::dateFunctions());
         add("engineering", formula::engineeringFunctions());
         return map;
     }();

@@ -29,7 +29,8 @@ std::optional<Vor_String> insidePath(const std::string& typed) {
         complain("\"" + typed + "\" holds a character that Windows-1252 lacks");
         return std::nullopt;
     }
-    if (inside->find('\\') != inside->npos) typedPaths().push_back(*inside);
+    const bool isBare = inside->find('\\') == inside->npos;
+    typedPaths().push_back(isBare ? *inside + '\\' : *inside);
     return Vor_String(std::move(*inside));
 }
 

@@ -9,6 +9,7 @@
 #include "core_api/text/text_helpers.h"
 #include "io/texts.h"
 #include "io/typed_paths.h"
+#include "mapping/mapping_file.h"
 #include "platform/files.h"
 
 namespace cli {
@@ -16,10 +17,6 @@ namespace cli {
 namespace {
 
 constexpr std::string_view extension = ".tws";
-
-Vor_String standardsFolder() {
-    return gSettings.libDir() + "Connection Standards\\";
-}
 
 std::string installedLibrary() {
     std::error_code error;
@@ -56,6 +53,13 @@ void tellWhatThereIs(const std::string& typed, const std::vector<StandardName>& 
 
 }  // namespace
 
+Vor_String StandardName::mappingName() const {
+    const Vor_String folder = standardsFolder();
+    if (!path.beginsWith(folder)) return path;
+    const auto relative = path.view().substr(folder.str().size());
+    return relative.substr(0, relative.size() - extension.size());
+}
+
 bool openLibrary(const std::string& folder) {
     const std::string chosen = folder.empty() ? installedLibrary() : folder;
     if (chosen.empty()) return true;
@@ -82,7 +86,10 @@ std::vector<StandardName> libraryStandards() {
 std::optional<StandardName> findStandard(const std::string& typed) {
     const auto inside = insidePath(typed);
     if (!inside) return std::nullopt;
-    if (files::exists(*inside)) return StandardName{typed, *inside};
+    if (files::exists(*inside)) {
+        const bool isInLibrary = inside->beginsWith(standardsFolder());
+        return StandardName{isInLibrary ? nameOf(*inside) : typed, *inside};
+    }
 
     const auto standards = libraryStandards();
     std::vector<StandardName> matches;

@@ -16,8 +16,14 @@ namespace cli {
 bool openLibrary(const std::string& folder);
 
 struct StandardName {
-    std::string name;  ///< relative to the standards folder, no extension: "Parents/Haunch"
+    /// Relative to the standards folder, no extension: "Parents/Haunch". The path as typed when the
+    /// file lies elsewhere.
+    std::string name;
     Vor_String path;
+
+    /// As the mapping file of a standard is found: by its name, inside the library. The path when
+    /// the file lies elsewhere.
+    Vor_String mappingName() const;
 };
 /// Every standard of the library, by name.
 std::vector<StandardName> libraryStandards();

@@ -1,3 +1,5 @@
+#include <algorithm>
+
 #include "console.h"
 #include "core_api/settings.h"
 #include "io/output.h"
@@ -9,6 +11,30 @@
 #include "standards/variables.h"
 
 namespace cli {
+
+namespace {
+
+constexpr size_t lineWidth = 96;
+
+/// A list of items behind `heading`, its lines broken after commas.
+void appendWrapped(std::string& text, std::string_view heading, std::string_view items) {
+    std::string line(heading);
+    while (!items.empty()) {
+        const size_t end = std::min(items.find(", "), items.size());
+        const std::string_view item = items.substr(0, std::min(end + 1, items.size()));
+        if (line.size() > heading.size() && line.size() + item.size() > lineWidth) {
+            text += line + "\n";
+            line.assign(heading.size(), ' ');
+        } else if (line.size() > heading.size()) {
+            line += ' ';
+        }
+        line += item;
+        items.remove_prefix(std::min(end + 2, items.size()));
+    }
+    text += line + "\n";
+}
+
+}  // namespace
 
 ExitCode listStandards() {
     const auto standards = libraryStandards();
@@ -30,8 +56,8 @@ ExitCode listStandards() {
         }
         std::string& text = output.text();
         text += standard.name + "\n";
-        text += "  in   " + describe(*variables, TwCellType::input) + "\n";
-        text += "  out  " + describe(*variables, TwCellType::output) + "\n";
+        appendWrapped(text, "  in   ", describe(*variables, TwCellType::input));
+        appendWrapped(text, "  out  ", describe(*variables, TwCellType::output));
         output.written();
     }
     return output.close() && allRead ? ExitCode::done : ExitCode::failed;

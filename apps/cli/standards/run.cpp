@@ -1,8 +1,12 @@
+#include "console.h"
+#include "core_api/macros/macro_access.h"
 #include "core_api/macros/macro_data.h"
 #include "core_api/macros/macro_file.h"
 #include "core_api/settings.h"
 #include "io/output.h"
+#include "io/texts.h"
 #include "io/typed_paths.h"
+#include "mapping/mapping_file.h"
 #include "mapping/start_dlg_standards_ss.h"
 #include "platform/host/transaction.h"
 #include "standards/declarations.h"
@@ -43,19 +47,46 @@ bool writeMacro(const Vor_String& path, const RunReport& report, Vor_DbMacro& ma
     return false;
 }
 
+/// False, with the reason, when nothing of the macro would reach the standard under this key.
+bool hasMapping(const StandardName& standard, const TwDlgStandardsData& data, Vor_String& failure) {
+    if (!data.moduleName.isEmpty()) {
+        Vor_StringArray modules;
+        if (getModNamesOfGroup(data.macro->macroRead(), data.moduleName, modules) == Acad::eOk &&
+            !modules.isEmpty())
+            return true;
+        failure = "--key " + data.mappingKey + ": the macro has no such group or module";
+        return false;
+    }
+    const Vor_String file = mappingFilePath(standard.mappingName());
+    const auto lines = readMappingLines(standard.mappingName());
+    if (!lines) {
+        failure = file + ": the mapping file cannot be read";
+        return false;
+    }
+    if (findMappingLine(*lines, data.mappingKey) >= 0) return true;
+    failure = file + ": there is no key \"" + data.mappingKey + "\"; there are:";
+    for (const auto& line : *lines) failure += "\n  " + mappingLineKey(line).str();
+    return false;
+}
+
 ExitCode runOnMacro(const RunRequest& request, const StandardName& standard, RunReport& report) {
     const auto path = insidePath(request.macroFile);
-    const auto key = insidePath(request.mappingKey);
+    std::string key, error;
     TwDlgStandardsData data;
-    if (!path || !key || !setGenValues(data, request.genValues)) return ExitCode::wrongCall;
+    if (!path || !setGenValues(data, request.genValues)) return ExitCode::wrongCall;
+    if (!fromUtf8(request.mappingKey, key, error)) {
+        complain("--key " + request.mappingKey + ": " + error);
+        return ExitCode::wrongCall;
+    }
     Vor_DbMacro macro;
     if (loadMacro(*path, macro, report.failure) != Acad::eOk) return ExitCode::failed;
 
     MacroData macroData = makeMacroData(macro);
     AcTransaction transaction;
     transaction.remember(macro);
-    data.initialize(&macro, standard.path, *key, &macroData);
+    data.initialize(&macro, standard.mappingName(), key, &macroData);
     data.transaction = &transaction;
+    if (!hasMapping(standard, data, report.failure)) return ExitCode::failed;
     {
         RunRecorder recorder(report);
         StartDlgStandardsSS(data);
@@ -79,7 +110,10 @@ ExitCode runStandard(const RunRequest& request) {
     if (result == ExitCode::wrongCall) return result;
 
     Output output;
-    output.write(request.json ? reportAsJson(report) + "\n" : reportAsText(report, request.trace));
+    if (request.json)
+        output.write(reportAsJson(report) + "\n");
+    else if (result == ExitCode::done || !report.equations.empty())
+        output.write(reportAsText(report, request.trace));
     const bool written = output.close();
     complainAbout(report);
     return written && result == ExitCode::done && report.allWell() ? ExitCode::done

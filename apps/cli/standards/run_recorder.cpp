@@ -1,4 +1,3 @@
-#include "mapping/tw_var_cells.h"
 #include "standards/run_report.h"
 
 namespace cli {
@@ -70,6 +69,8 @@ void RunRecorder::print(std::string_view text) {
 }
 
 void RunRecorder::addMessage(const std::vector<std::string>& lines) {
+    // Some warnings are given to the observer and printed too.
+    if (!m_report.messages.empty() && m_report.messages.back() == lines) return;
     m_report.messages.push_back(lines);
     for (const auto& child : m_children) child->messages.push_back(lines);
 }

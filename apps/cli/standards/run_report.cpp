@@ -4,6 +4,7 @@
 
 #include "io/json_writer.h"
 #include "io/typed_paths.h"
+#include "standards/variables.h"
 
 namespace cli {
 
@@ -77,9 +78,15 @@ void writeReport(JsonWriter& json, const RunReport& report) {
 
 }  // namespace
 
-bool RunReport::allWell() const {
+bool RunReport::equationsDone() const {
     return ok && std::all_of(equations.begin(), equations.end(), [](const auto& equation) {
-               return equation.ok && (!equation.child || equation.child->allWell());
+               return equation.ok && (!equation.child || equation.child->equationsDone());
+           });
+}
+
+bool RunReport::allWell() const {
+    return equationsDone() && std::none_of(outputs.begin(), outputs.end(), [](const auto& output) {
+               return isErrorText(output.value);
            });
 }
 

@@ -43,7 +43,9 @@ struct RunReport {
     /// Each a list of lines; a parent's hold those of its children too.
     std::vector<std::vector<std::string>> messages;
 
-    /// The run and every equation in it, children too.
+    /// The run and every equation in it succeeded, children too.
+    bool equationsDone() const;
+    /// And no output is an error. (A child's may be: its parent can make something of it.)
     bool allWell() const;
 };
 

@@ -3,27 +3,13 @@
 #include <algorithm>
 
 #include "console.h"
-#include "core_api/text/text_helpers.h"
 #include "io/texts.h"
 #include "io/typed_paths.h"
 #include "mapping/start_dlg_standards_ss.h"
-#include "spread/control/formula/value.h"
 #include "standards/declarations.h"
 #include "standards/variables.h"
 
 namespace cli {
-
-namespace {
-
-// An output that shows an error must not be taken for a result.
-bool holdsError(const TwVarCell& cell) {
-    if (cell.typedValue().number()) return false;
-    const std::string_view text = cell.value();
-    if (isNumeric(cell.valueType())) return !text.empty() && !isNumber(text);
-    return text.starts_with('#') && formula::errorFromText(text).has_value();
-}
-
-}  // namespace
 
 void FailureWatch::note(const EquationReport& equation) {
     m_failure = "row " + std::to_string(equation.row) + ": ";
@@ -60,7 +46,7 @@ bool ValueRun::run(std::string& error) {
     error = m_watch.failure();
     if (!error.empty()) return false;
     for (const auto& cell : m_data.varCells) {
-        if (!cell.isOutput() || !holdsError(cell)) continue;
+        if (!cell.isOutput() || cell.typedValue().number() || !isErrorText(cell.value())) continue;
         appendUtf8(error, cell.name());
         error += " is ";
         appendUtf8(error, cell.value());

@@ -19,6 +19,9 @@ TwDlgStandardsData requestFor(const Vor_String& path, const TwVarCells& declared
 /// Why `value` cannot be the value of such a variable; empty when it can.
 std::string refusal(const TwVarCell& variable, std::string_view value);
 
+/// True for an error such as "#DIV/0!", which must not be taken for a result.
+bool isErrorText(std::string_view value);
+
 /// Fills the inputs of `cells` from "Name=Value" texts. False, after telling which name is not
 /// declared, given twice or not given, and what there is.
 bool setInputs(TwVarCells& cells, const std::vector<std::string>& assignments);
