@@ -22,10 +22,10 @@ inline std::string column(const std::vector<std::string>& texts) {
 class Library : public program::Folder {
   public:
     Library() {
-        add("Plate", {"Input", "String Column", "Double Thickness", "Output", "Double Width",
-                      "Int Count", "String Name", "Local", "Double Gap", "Calc",
-                      "Gap=2*Thickness", "Width=ROUND(100/3+Gap,1)", "Count=Width/10",
-                      "Name=Column&\" / \"&Width"});
+        add("Plate",
+            {"Input", "String Column", "Double Thickness", "Output", "Double Width", "Int Count",
+             "String Name", "Local", "Double Gap", "Calc", "Gap=2*Thickness",
+             "Width=ROUND(100/3+Gap,1)", "Count=ROUND(Width/10,0)", "Name=Column&\" / \"&Width"});
         add("Childs/Base", {"Input", "Double T", "Output", "Double W", "Calc", "W=T*2"});
         add("Parents/Frame", {"Input", "Double T", "Output", "Double W", "Calc",
                               "CallChild(\"Base.tws\",T,W)", "W=W+1"});

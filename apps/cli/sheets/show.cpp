@@ -1,9 +1,10 @@
 #include <algorithm>
+#include <map>
 #include <vector>
 
+#include "core_api/text/text_helpers.h"
 #include "io/output.h"
 #include "io/texts.h"
-#include "sheets/eval_record.h"
 #include "sheets/sheet_commands.h"
 #include "sheets/sheet_file.h"
 
@@ -11,48 +12,56 @@ namespace cli {
 
 namespace {
 
-constexpr size_t widest = 40;  // of a column whose neighbour is in use
-
-/// One row as it is shown: its cells that hold anything, from the left.
-struct ShownRow {
-    struct Cell {
-        int col = 0;
-        std::string text;
-        bool isNumber = false;
-    };
-    std::vector<Cell> cells;
-};
-
-ShownRow shownRow(const control::Grid& grid, int row, int cols, bool formulas) {
-    ShownRow shown;
-    for (int col = 1; col <= cols; ++col) {
-        const control::Cell* cell = grid.sheet().find(col, row);
-        if (!cell || cell->isBlank()) continue;
-        const auto formulaText = grid.sheet().formula(col, row);
-        const bool isFormula = formulas && formulaText;
-        std::string text = isFormula ? "=" + std::string(*formulaText)
-                                     : grid.text(col, row, control::Reading::data);
-        if (text.empty()) continue;
-        for (char& c : text)
-            if (c >= 0 && c < ' ') c = ' ';
-        const bool isNumber = !isFormula && grid.sheet().value(col, row).isNumber();
-        shown.cells.push_back({col, std::move(text), isNumber});
-    }
-    return shown;
+std::string columnName(int col) {
+    return getAlfabet(col).str();
 }
 
-/// The width that each column needs. The last text of a row runs on over the empty cells beside
-/// it and does not count.
-std::vector<size_t> columnWidths(const control::Grid& grid, UsedArea area, bool formulas) {
-    std::vector<size_t> widths(static_cast<size_t>(area.cols) + 1, 0);
-    for (int row = 1; row <= area.rows; ++row) {
-        const auto cells = shownRow(grid, row, area.cols, formulas).cells;
-        for (size_t i = 0; i < cells.size(); ++i) {
-            size_t& width = widths[static_cast<size_t>(cells[i].col)];
-            const bool runsOn = i + 1 == cells.size() && !cells[i].isNumber;
-            const size_t name = cellName({cells[i].col, 1}).size() - 1;
-            width = std::max({width, name, runsOn ? 0 : std::min(cells[i].text.size(), widest)});
-        }
+constexpr size_t widest = 40;  // of a column whose neighbour is in use
+
+/// A cell that shows something. Cells stand by row and then column.
+struct ShownCell {
+    int row = 0;
+    int col = 0;
+    std::string text;
+    bool isNumber = false;
+    bool isLast = false;  ///< of its row
+};
+
+ShownCell shownCell(const control::Grid& grid, int col, int row, bool formulas) {
+    const auto formulaText = grid.sheet().formula(col, row);
+    const bool isFormula = formulas && formulaText;
+    std::string text =
+        isFormula ? "=" + std::string(*formulaText) : grid.text(col, row, control::Reading::data);
+    for (char& c : text)
+        if (c >= 0 && c < ' ') c = ' ';
+    const bool isNumber = !isFormula && grid.sheet().value(col, row).isNumber();
+    return {row, col, std::move(text), isNumber, false};
+}
+
+std::vector<ShownCell> shownCells(const control::Grid& grid, bool formulas) {
+    std::vector<ShownCell> cells;
+    const formula::Area all{1, formula::maxRows, 1, formula::maxCols};
+    grid.sheet().cells().each(all, [&](int row, int col, const control::Cell&) {
+        ShownCell cell = shownCell(grid, col, row, formulas);
+        if (!cell.text.empty()) cells.push_back(std::move(cell));
+    });
+    std::sort(cells.begin(), cells.end(), [](const ShownCell& a, const ShownCell& b) {
+        return a.row != b.row ? a.row < b.row : a.col < b.col;
+    });
+    for (size_t i = 0; i < cells.size(); ++i)
+        cells[i].isLast = i + 1 == cells.size() || cells[i + 1].row != cells[i].row;
+    return cells;
+}
+
+/// The columns in use and the width that each needs. The last text of a row runs on over the
+/// empty cells beside it and does not count.
+std::map<int, size_t> columnWidths(const std::vector<ShownCell>& cells) {
+    std::map<int, size_t> widths;
+    for (const auto& cell : cells) {
+        const size_t name = columnName(cell.col).size();
+        const size_t text = cell.isLast && !cell.isNumber ? 0 : std::min(cell.text.size(), widest);
+        size_t& width = widths[cell.col];
+        width = std::max({width, name, text});
     }
     return widths;
 }
@@ -61,54 +70,54 @@ void pad(std::string& line, size_t count) {
     line.append(count, ' ');
 }
 
-void appendShown(std::string& line, const ShownRow::Cell& cell, size_t width, bool isLast) {
+void appendShown(std::string& line, const ShownCell& cell, size_t width) {
     const size_t length = cell.text.size();
     if (cell.isNumber && length < width) pad(line, width - length);
-    if (length > width && !isLast) {
+    if (length > width && !cell.isLast) {
         appendUtf8(line, std::string_view(cell.text).substr(0, width - 1));
         line += "~";
         return;
     }
     appendUtf8(line, cell.text);
-    if (!cell.isNumber && length < width && !isLast) pad(line, width - length);
+    if (!cell.isNumber && length < width && !cell.isLast) pad(line, width - length);
 }
 
 class Table {
   public:
-    Table(std::vector<size_t> widths, size_t margin)
-        : m_widths(std::move(widths)), m_margin(margin) {}
+    explicit Table(const std::vector<ShownCell>& cells)
+        : m_widths(columnWidths(cells)),
+          m_margin(cells.empty() ? 1 : std::to_string(cells.back().row).size()) {}
 
     void appendHeader(std::string& text) const {
         std::string line(m_margin, ' ');
-        for (size_t col = 1; col < m_widths.size(); ++col) {
-            if (m_widths[col] == 0) continue;
-            std::string name = cellName({static_cast<int>(col), 1});
-            name.pop_back();
-            line += "  " + name;
-            pad(line, m_widths[col] - name.size());
+        for (const auto& [col, width] : m_widths) {
+            line += "  " + columnName(col);
+            pad(line, width - columnName(col).size());
         }
         line.resize(line.find_last_not_of(' ') + 1);
         text += line + "\n";
     }
 
-    void appendRow(std::string& text, int row, const ShownRow& shown) const {
-        const std::string number = std::to_string(row);
-        pad(text, m_margin - number.size());
-        text += number;
-        size_t col = 1;
-        for (const auto& cell : shown.cells) {
-            for (; col < static_cast<size_t>(cell.col); ++col)
-                if (m_widths[col] > 0) pad(text, m_widths[col] + 2);
-            text += "  ";
-            appendShown(text, cell, m_widths[col], &cell == &shown.cells.back());
-            ++col;
+    /// The next cell, in order.
+    void appendCell(std::string& text, const ShownCell& cell) {
+        if (m_next == m_widths.begin()) {
+            const std::string number = std::to_string(cell.row);
+            pad(text, m_margin - number.size());
+            text += number;
         }
+        for (; m_next->first < cell.col; ++m_next) pad(text, m_next->second + 2);
+        text += "  ";
+        appendShown(text, cell, m_next->second);
+        ++m_next;
+        if (!cell.isLast) return;
         text += '\n';
+        m_next = m_widths.begin();
     }
 
   private:
-    std::vector<size_t> m_widths;  // by column, from 1; 0 is not shown
-    size_t m_margin;
+    std::map<int, size_t> m_widths;  // by column
+    size_t m_margin;                 // for the row numbers
+    std::map<int, size_t>::const_iterator m_next = m_widths.begin();
 };
 
 }  // namespace
@@ -117,14 +126,12 @@ ExitCode showSheet(const ShowRequest& request) {
     control::Grid grid;
     const auto format = sheetFormat(request.file).value_or(SheetFormat::document);
     if (!loadSheet(request.file, format, grid)) return ExitCode::failed;
-    const UsedArea area = usedArea(grid);
-    const Table table(columnWidths(grid, area, request.formulas), std::to_string(area.rows).size());
+    const auto cells = shownCells(grid, request.formulas);
+    Table table(cells);
     Output output;
     table.appendHeader(output.text());
-    for (int row = 1; row <= area.rows; ++row) {
-        const ShownRow shown = shownRow(grid, row, area.cols, request.formulas);
-        if (shown.cells.empty()) continue;
-        table.appendRow(output.text(), row, shown);
+    for (const auto& cell : cells) {
+        table.appendCell(output.text(), cell);
         output.written();
     }
     return output.close() ? ExitCode::done : ExitCode::failed;

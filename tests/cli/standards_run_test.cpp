@@ -1,0 +1,262 @@
+// One run of a standard, on given values and on a macro.
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <nlohmann/json.hpp>
+
+#include "library.h"
+
+namespace {
+
+using testing::HasSubstr;
+using testing::Not;
+using Json = nlohmann::json;
+
+TEST(Run, PrintsInputsAndOutputs) {
+    const Library library;
+    const auto result =
+        library.call({"run", "plate", "--set", "Thickness=2.5", "--set", "column=HEA \xC3\x9C"});
+    EXPECT_EQ(result.exitCode, 0) << result.err;
+    EXPECT_EQ(result.err, "");
+    EXPECT_THAT(result.out, HasSubstr("Inputs\n"
+                                      "  Column     HEA \xC3\x9C\n"
+                                      "  Thickness  2.5\n"
+                                      "Outputs\n"
+                                      "  Width  38.3\n"
+                                      "  Count  4\n"
+                                      "  Name   HEA \xC3\x9C / 38.3\n"));
+    EXPECT_THAT(result.out, Not(HasSubstr("Equations")));
+}
+
+TEST(Run, InputsAreCheckedByNameBeforeAnythingRuns) {
+    const Library library;
+    const struct {
+        std::vector<std::string> sets;
+        std::string message;
+    } calls[] = {
+        {{"Column=x"},
+         "input Thickness is not given; the standard takes Column (String), "
+         "Thickness (Double)"},
+        {{"Column=x", "Thickness=1", "Thick=2"}, "--set Thick=2: the standard has no such input"},
+        {{"Column=x", "Thickness=1", "Width=2"}, "--set Width=2: the standard has no such input"},
+        {{"Column=x", "Thickness=1", "Gap=2"}, "--set Gap=2: the standard has no such input"},
+        {{"Column=x", "Thickness=1", "COLUMN=y"}, "given twice"},
+        {{"Column=x", "Thickness=ten"}, "Thickness is a number (Double)"},
+        {{"Column"}, "Name=Value"},
+        {{"=5"}, "Name=Value"},
+        {{"Column=\xE4\xB8\xAD", "Thickness=1"}, "U+4E2D"},
+    };
+    for (const auto& call : calls) {
+        SCOPED_TRACE(call.message);
+        std::vector<std::string> arguments = {"run", "Plate"};
+        for (const auto& set : call.sets) arguments.insert(arguments.end(), {"--set", set});
+        const auto result = library.call(arguments);
+        EXPECT_EQ(result.exitCode, 2);
+        EXPECT_EQ(result.out, "");
+        EXPECT_THAT(result.err, HasSubstr(call.message));
+    }
+}
+
+TEST(Run, StandardsAreFoundByNamePartOfItOrFile) {
+    const Library library;
+    library.add("Parents/Twin", {"Input", "Output", "Calc"});
+    library.add("Childs/Twin", {"Input", "Output", "Calc"});
+    const auto run = [&](const std::string& name) {
+        return library.call({"run", name, "--set", "T=1"});
+    };
+    for (const std::string& name :
+         {std::string("Childs/Base"), std::string("base"), std::string("childs\\BASE"),
+          library / "Connection Standards/Childs/Base.tws"})
+        EXPECT_THAT(run(name).out, HasSubstr("W  2\n")) << name;
+
+    const auto unknown = run("Nope");
+    EXPECT_EQ(unknown.exitCode, 1);
+    EXPECT_THAT(unknown.err, HasSubstr("there is no standard \"Nope\""));
+    EXPECT_THAT(unknown.err, HasSubstr("\n  Parents/Frame\n"));
+    const auto twin = run("Twin");
+    EXPECT_EQ(twin.exitCode, 1);
+    EXPECT_THAT(twin.err, HasSubstr("several standards"));
+}
+
+TEST(Run, TheTraceNestsChildren) {
+    const Library library;
+    const auto result = library.call({"run", "Frame", "--set", "T=5", "--trace"});
+    EXPECT_EQ(result.exitCode, 0) << result.err;
+    EXPECT_THAT(result.out, HasSubstr("  A6    CallChild(\"Base.tws\",T,W)\n"
+                                      "        calls " +
+                                      (library / "Connection Standards/Childs/Base.tws") +
+                                      "\n"
+                                      "          Inputs\n            T  5\n"
+                                      "          Equations\n"
+                                      "            A6    W=T*2\n"
+                                      "                  =A2*2  ->  10\n"
+                                      "          Outputs\n            W  10\n"
+                                      "  A7    W=W+1\n"
+                                      "        =A4+1  ->  11\n"));
+}
+
+TEST(Run, JsonHoldsTheWholeRun) {
+    const Library library;
+    const auto result = library.call(
+        {"run", "Plate", "--set", "Thickness=2", "--set", "Column=\"x\\y\"", "--json"});
+    EXPECT_EQ(result.exitCode, 0) << result.err;
+    const Json report = Json::parse(result.out);
+    EXPECT_EQ(report["standard"], library / "Connection Standards/Plate.tws");
+    EXPECT_EQ(report["ok"], true);
+    EXPECT_EQ(report["inputs"], Json({{"Column", "\"x\\y\""}, {"Thickness", "2"}}));
+    EXPECT_EQ(report["outputs"],
+              Json({{"Width", "37.3"}, {"Count", "4"}, {"Name", "\"x\\y\" / 37.3"}}));
+    EXPECT_EQ(report["locals"], Json({{"Gap", "4"}}));
+    EXPECT_EQ(report["messages"], Json::array());
+    ASSERT_EQ(report["equations"].size(), 4u);
+    EXPECT_EQ(report["equations"][1], Json({{"row", 12},
+                                            {"column", 1},
+                                            {"text", "Width=ROUND(100/3+Gap,1)"},
+                                            {"name", "Width"},
+                                            {"formula", "ROUND(100/3+A9,1)"},
+                                            {"value", "37.3"},
+                                            {"ok", true}}));
+
+    const Json parent = Json::parse(library.call({"run", "Frame", "--set", "T=5", "--json"}).out);
+    const Json& child = parent["equations"][0]["child"];
+    EXPECT_EQ(child["standard"], library / "Connection Standards/Childs/Base.tws");
+    EXPECT_EQ(child["outputs"], Json({{"W", "10"}}));
+    EXPECT_EQ(child["equations"][0]["value"], "10");
+}
+
+TEST(Run, AFailedEquationIsToldWithFileAndRowAndFailsTheCall) {
+    const Library library;
+    const std::string file = library / "Connection Standards/Failing.tws";
+    const auto text = library.call({"run", "Failing", "--set", "T=2", "--trace"});
+    EXPECT_EQ(text.exitCode, 1);
+    EXPECT_THAT(text.err, testing::StartsWith("vormant: " + file + ":6: W=T+: "));
+    EXPECT_EQ(std::count(text.err.begin(), text.err.end(), '\n'), 1) << text.err;
+    EXPECT_THAT(text.out, testing::AllOf(HasSubstr("failed: "), HasSubstr("W  0.5")));
+
+    const auto json = library.call({"run", "Failing", "--set", "T=2", "--json"});
+    EXPECT_EQ(json.exitCode, 1);
+    const Json report = Json::parse(json.out);
+    EXPECT_EQ(report["ok"], false);
+    EXPECT_EQ(report["equations"][0]["ok"], false);
+    EXPECT_EQ(report["outputs"]["W"], "0.5");
+    ASSERT_EQ(report["messages"].size(), 1u);
+    EXPECT_EQ(report["messages"][0][0], "The following equation failed:");
+}
+
+TEST(Run, AnOutputThatIsAnErrorFailsTheCall) {
+    const Library library;
+    library.add("Divide", {"Input", "Double T", "Output", "Double W", "Calc", "W=1/T"});
+    const auto result = library.call({"run", "Divide", "--set", "T=0"});
+    EXPECT_EQ(result.exitCode, 1);
+    EXPECT_THAT(result.out, HasSubstr("W  #DIV/0!"));
+    EXPECT_THAT(result.err, HasSubstr("W\" is #DIV/0!"));
+}
+
+TEST(Run, WhatCannotBeRunFailsWithOneMessage) {
+    const Library library;
+    library.add("NoOutput", {"Input", "Double T", "Calc"});
+    library.add("NoCalc", {"Input", "Double T", "Output", "Double W"});
+    library.add("Self",
+                {"Input", "Double T", "Output", "Double W", "Calc", "CallChild(\"Self.tws\",T,W)"});
+    library.add("Ring", {"Input", "Double T", "Output", "Double W", "Calc",
+                         "CallChild(\"Ring2.tws\",T,W)"});
+    library.add("Ring2",
+                {"Input", "Double T", "Output", "Double W", "Calc", "CallChild(\"Ring.tws\",T,W)"});
+    library.write("Connection Standards/Empty.tws", "");
+    library.write("Connection Standards/Binary.tws", std::string("\x7F\x45\x4C\x46\0\1\2", 7));
+    library.write("Connection Standards/Cut.tws", column({"Input", "Output"}).substr(0, 40));
+    for (const std::string name :
+         {"NoOutput", "NoCalc", "Self", "Ring", "Empty", "Binary", "Cut"}) {
+        SCOPED_TRACE(name);
+        const auto result = library.call({"run", name, "--set", "T=1"});
+        EXPECT_EQ(result.exitCode, 1);
+        EXPECT_THAT(result.err, HasSubstr(name));
+        const auto json = library.call({"run", name, "--set", "T=1", "--json"});
+        EXPECT_EQ(json.exitCode, 1);
+        EXPECT_EQ(Json::parse(json.out)["ok"], false);
+        EXPECT_FALSE(Json::parse(json.out)["messages"].empty());
+    }
+}
+
+TEST(Run, GenValuesReplaceNamesInTheSheet) {
+    const Library library;
+    library.add("Gen", {"Input", "Double T", "Output", "Double W", "String S", "Calc",
+                        "W=gen_Length/T", "S=gen_Name"});
+    const auto result = library.call(
+        {"run", "Gen", "--set", "T=4", "--gen", "gen_Length=600", "--gen", "gen_Name=IPE-200"});
+    EXPECT_EQ(result.exitCode, 0) << result.err;
+    EXPECT_THAT(result.out, HasSubstr("W  150\n  S  IPE-200\n"));
+    EXPECT_EQ(library.call({"run", "Gen", "--set", "T=4", "--gen", "x"}).exitCode, 2);
+}
+
+class RunOnMacro : public testing::Test {
+  protected:
+    RunOnMacro() {
+        std::filesystem::copy(VORMANT_SOURCE_DIR "/library", m_folder.path(),
+                              std::filesystem::copy_options::recursive);
+    }
+    program::Result run(std::vector<std::string> options, const std::string& key) const {
+        options.insert(options.begin(), {"--library", m_folder.path().string(), "standards", "run",
+                                         "EndPlate", "--macro", m_folder / m_macro, "--key", key});
+        return program::run(options);
+    }
+    program::Folder m_folder;
+    std::string m_macro = "Macros/EndPlate.macro";
+};
+
+TEST_F(RunOnMacro, WritesTheMacroBackOnlyWhenAsked) {
+    const std::string before = m_folder.read(m_macro);
+    const auto dry = run({"--json"}, "BeamToColumn");
+    EXPECT_EQ(dry.exitCode, 0) << dry.err;
+    EXPECT_EQ(Json::parse(dry.out)["inputs"]["BeamSection"], "IPE-300");
+    EXPECT_EQ(m_folder.read(m_macro), before);
+
+    const std::string height = Json::parse(dry.out)["outputs"]["PlateHeight"];
+    EXPECT_EQ(run({"--write"}, "BeamToColumn").exitCode, 0);
+    EXPECT_THAT(m_folder.read(m_macro), HasSubstr("module.Plate.var.Height\t" + height + "\n"));
+    EXPECT_NE(m_folder.read(m_macro), before);
+}
+
+TEST_F(RunOnMacro, SaysWhatIsMissingAndLeavesTheMacroAlone) {
+    const std::string before = m_folder.read(m_macro);
+    const struct {
+        std::string key;
+        std::string message;
+    } calls[] = {
+        {"Nope", "EndPlate.map: there is no key \"Nope\"; there are:\n  BeamToColumn"},
+        {"Module.Nope", "no such group"},
+        {"Module.", "EndPlate.map: there is no key \"Module.\""},
+    };
+    for (const auto& call : calls) {
+        const auto result = run({"--write"}, call.key);
+        EXPECT_EQ(result.exitCode, 1);
+        EXPECT_EQ(result.out, "");
+        EXPECT_THAT(result.err, HasSubstr(call.message));
+    }
+    EXPECT_EQ(m_folder.read(m_macro), before);
+
+    // An equation that fails keeps the file from being written.
+    const std::string standard = "Connection Standards/EndPlate.tws";
+    std::string text = m_folder.read(standard);
+    text.replace(text.find("=TONUMBER("), 10, "=NONUMBER(");
+    m_folder.write(standard, text);
+    const auto failed = run({"--write"}, "BeamToColumn");
+    EXPECT_EQ(failed.exitCode, 1);
+    EXPECT_THAT(failed.err, HasSubstr("EndPlate.macro: left as it was"));
+    EXPECT_EQ(m_folder.read(m_macro), before);
+}
+
+TEST_F(RunOnMacro, BrokenMacrosAndMappingsAreNamed) {
+    for (const std::string_view content : {"", "garbage", "\x7F\x45\x4C\x46"}) {
+        m_folder.write(m_macro, content);
+        const auto result = run({}, "BeamToColumn");
+        EXPECT_EQ(result.exitCode, 1);
+        EXPECT_THAT(result.err, HasSubstr("EndPlate.macro"));
+    }
+    std::filesystem::remove(m_folder / "Connection Standards/EndPlate.map");
+    std::filesystem::copy(VORMANT_SOURCE_DIR "/library/Macros/EndPlate.macro", m_folder / m_macro,
+                          std::filesystem::copy_options::overwrite_existing);
+    EXPECT_THAT(run({}, "BeamToColumn").err, HasSubstr("EndPlate.map: the mapping file cannot"));
+}
+
+}  // namespace
