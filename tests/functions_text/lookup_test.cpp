@@ -65,6 +65,8 @@ TEST(Lookup, TablesAnswerFromOtherRowsAndColumns) {
                              {"HLOOKUP(\"b\",{\"a\",\"b\";1,2},2,FALSE)", "2"},
                              {"LOOKUP(250,B1:B3,A1:A3)", "HEB"},
                              {"LOOKUP(250,{100,200,300;\"x\",\"y\",\"z\"})", "y"},
+                             {"LOOKUP(\"DO\",{\"DO\",\"BL\",\"ST\",\"RE\",\"AR\"},{1,2,3,4,5})",
+                              "1"},  // no order
                              {"LOOKUP(2,1/({1,0,1,0}=1),{10,20,30,40})", "30"},
                              {"XLOOKUP(150,B1:B3,A1:A3,\"none\",-1)", "HEA"},
                              {"XLOOKUP(150,B1:B3,A1:A3,\"none\",1)", "HEB"},

@@ -62,37 +62,38 @@ constexpr bool isHighLetter(unsigned c) {
            c == 0x9E || c == 0x9F;
 }
 
+constexpr std::string_view symbols = " _-,;:!?.'\"()[]{}@*/\\&#%`^+<=>|~$";
+constexpr std::string_view letterGroups[] = {
+    "a\xE1\xE0\xE2\xE4\xE3\xE5\xE6",
+    "b",
+    "c\xE7",
+    "d\xF0",
+    "e\xE9\xE8\xEA\xEB",
+    "f\x83",
+    "g",
+    "h",
+    "i\xED\xEC\xEE\xEF",
+    "j",
+    "k",
+    "l",
+    "m",
+    "n\xF1",
+    "o\xF3\xF2\xF4\xF6\xF5\xF8\x9C",
+    "p",
+    "q",
+    "r",
+    "s\x9A\xDF",
+    "t",
+    "u\xFA\xF9\xFB\xFC",
+    "v",
+    "w",
+    "x",
+    "y\xFD\xFF",
+    "z\x9E",
+    "\xFE",
+};
+
 constexpr TextOrder makeTextOrder() {
-    constexpr std::string_view symbols = " _-,;:!?.'\"()[]{}@*/\\&#%`^+<=>|~$";
-    constexpr std::string_view letters[] = {
-        "a\xE1\xE0\xE2\xE4\xE3\xE5\xE6",
-        "b",
-        "c\xE7",
-        "d\xF0",
-        "e\xE9\xE8\xEA\xEB",
-        "f\x83",
-        "g",
-        "h",
-        "i\xED\xEC\xEE\xEF",
-        "j",
-        "k",
-        "l",
-        "m",
-        "n\xF1",
-        "o\xF3\xF2\xF4\xF6\xF5\xF8\x9C",
-        "p",
-        "q",
-        "r",
-        "s\x9A\xDF",
-        "t",
-        "u\xFA\xF9\xFB\xFC",
-        "v",
-        "w",
-        "x",
-        "y\xFD\xFF",
-        "z\x9E",
-        "\xFE",
-    };
     TextOrder order;
     uint8_t next = 1;
     // The bytes of `group`, all with the base of the first.
@@ -117,7 +118,7 @@ constexpr TextOrder makeTextOrder() {
     for (unsigned c = 0x80; c < 0x100; ++c)
         if (!isHighLetter(c)) placeOne(c);
     for (unsigned c = '0'; c <= '9'; ++c) placeOne(c);
-    for (const std::string_view group : letters) place(group);
+    for (const std::string_view group : letterGroups) place(group);
     for (unsigned c = 'A'; c <= 'Z'; ++c) copyPlace(c + 0x20, c);
     for (unsigned c = 0xC0; c <= 0xDE; ++c)
         if (c != 0xD7) copyPlace(c + 0x20, c);
