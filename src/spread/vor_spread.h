@@ -89,6 +89,8 @@ class VORMANT_API Vor_Spread : public TSpread {
 
     // --- cell kinds -------------------------------------------------------------------------
     static constexpr int defaultTextLength = 200;
+    /// Number cells take numbers from its negative to this.
+    static constexpr double largestNumber = 99999999999999.0;
     bool setTextCell(const control::Block& block, int maxLength = defaultTextLength,
                      unsigned style = 0);
     bool setTextCell(int col, int row, int maxLength, unsigned style);

@@ -9,7 +9,6 @@ using control::CellType;
 
 namespace {
 
-constexpr double largestNumber = 99999999999999.0;
 constexpr int checkedPicture = 8134;
 constexpr int uncheckedPicture = 8136;
 constexpr int frameStyle = 6;
@@ -17,7 +16,8 @@ constexpr int frameSides = control::borderRight;
 constexpr int pictureNeighbourSides = control::borderOutline | control::borderRight;
 
 CellType numberCell(int decimals, unsigned style) {
-    return control::numberType(decimals, style, -largestNumber, largestNumber);
+    return control::numberType(decimals, style, -Vor_Spread::largestNumber,
+                               Vor_Spread::largestNumber);
 }
 
 CellType checkBoxCell() {

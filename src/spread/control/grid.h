@@ -105,6 +105,9 @@ class Grid {
     formula::Value shownValue(int col, int row) const;
     /// As shownValue for a value that stands in a cell of this type.
     static formula::Value shown(const CellType& type, const formula::Value& value);
+    /// The value reading of such a cell as text; lies in `buffer` or in `value`.
+    static std::string_view shownText(const CellType& type, const formula::Value& value,
+                                      std::string& buffer);
 
     // --- texts ------------------------------------------------------------------------------
     /// `text` as data and as value differ only in their names: both follow writeValue. Header
@@ -127,6 +130,10 @@ class Grid {
     bool setFormula(int col, int row, std::string_view text, formula::ParseError* error = nullptr);
     /// As above with a program compiled before for this very cell, inside the sheet; shares `text`.
     void setFormula(int col, int row, const formula::ProgramRef& program, TextBlock* text);
+    /// What a formula of the cell would give, without putting it there (Sheet::evaluate).
+    std::optional<formula::Value> evaluate(const formula::Program& program, int col, int row) {
+        return m_sheet->evaluate(program, col, row);
+    }
     bool recalculateCell(int col, int row) { return m_sheet->recalculateCell(col, row); }
     void recalculate() { m_sheet->recalculate(); }
     /// 0 and 1 are A1, 2 is R1C1.

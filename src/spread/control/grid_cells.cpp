@@ -179,6 +179,10 @@ Value Grid::shown(const CellType& type, const Value& value) {
     return value;
 }
 
+std::string_view Grid::shownText(const CellType& type, const Value& value, std::string& buffer) {
+    return textOf(shown(type, value), type, false, buffer);
+}
+
 Value Grid::shownValue(int col, int row) const {
     if (!isInside(col, row)) return Value();
     return shown(look(col, row).type, m_sheet->value(col, row));

@@ -136,6 +136,13 @@ inline bool Sheet::tryCalculate(uint32_t id) {
     return !blocked;
 }
 
+std::optional<Value> Sheet::evaluate(const formula::Program& program, int col, int row) {
+    m_calculation.endCalculation();
+    bool blocked = false;
+    const Value result = m_evaluator.run(program, col, row, blocked);
+    return blocked ? std::nullopt : std::optional(result);
+}
+
 // Calculates `first`, and before it whatever dirty formula it reads. The path of formulas that
 // wait for each other is kept here, not on the C++ stack.
 void Sheet::calculate(uint32_t first) {

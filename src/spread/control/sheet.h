@@ -54,7 +54,10 @@ class Sheet {
     bool setFormula(int col, int row, std::string_view text, formula::ParseError& error);
     /// As above with a program compiled before for this very cell.
     void setFormula(int col, int row, const formula::ProgramRef& program, TextBlock* text);
-    /// As above for a document that is being loaded: calculated later, or `cached` kept as its
+    /// What `program` gives as a formula of the cell, without putting it there. Nothing when it
+    /// reads formulas that have to be calculated first. A text lives until the next calculation.
+    std::optional<Value> evaluate(const formula::Program& program, int col, int row);
+    /// As setFormula for a document that is being loaded: calculated later, or `cached` kept as its
     /// value. A text that does not compile (its function may be registered later) is kept too; the
     /// cell shows #NAME?.
     void loadFormula(int col, int row, std::string_view text, const Value& cached,
