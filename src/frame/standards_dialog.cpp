@@ -9,6 +9,12 @@
 
 namespace {
 
+constexpr int gridId = 1000;
+constexpr ControlTemplate controls[] = {
+    {Control::placeholder, gridId, "", CRect(7, 7, 300, 200)},
+};
+const DialogResource resource{253, "Connection Standards", CRect(0, 0, 314, 214), controls};
+
 ErrorStatus fail(const TwStandardsSS& spread, const Vor_String& why) {
     setRunFailure(spread.filePath() + ": " + why);
     return Acad::eInvalidInput;
@@ -21,10 +27,13 @@ Vor_String refusalOf(const TwVarCell& variable) {
 
 }  // namespace
 
-std::unique_ptr<StandardsDialog> StandardsDialog::create() {
+StandardsDialog::StandardsDialog() : CDialog(resource, Host::current().mainWindow()) {}
+
+std::unique_ptr<StandardsDialog> StandardsDialog::make() {
     std::unique_ptr<StandardsDialog> dialog(new StandardsDialog);
-    dialog->m_spread.attachHidden();
-    return dialog->m_spread.isAttached() ? std::move(dialog) : nullptr;
+    const bool isMade = dialog->create() && dialog->m_spread.attach(dialog.get(), gridId, true);
+    dialog->m_spread.setFillsEquationCells(false);  // nobody sees them
+    return isMade ? std::move(dialog) : nullptr;
 }
 
 ErrorStatus StandardsDialog::run(RunningStandard& running) {

@@ -1,20 +1,19 @@
-// The hidden dialog that a standards run computes in: one spreadsheet and its own copy of the
-// request. Pooled by TwSSDlgsMgr; a run loads its document afresh, the rest is reused.
+// The hidden dialog (resource 253) that a standards run computes in: one spreadsheet and its own
+// copy of the request. Pooled by TwSSDlgsMgr; a run loads its document afresh, the rest is reused.
 #pragma once
 
 #include <memory>
 
 #include "mapping/tw_dlg_standards_data.h"
+#include "platform/window/dialog.h"
 #include "standards/tw_standards_ss.h"
 
 class RunningStandard;
 
-class StandardsDialog {
+class StandardsDialog : public CDialog {
   public:
-    static constexpr int resource = 253;
-
-    /// Null when the spreadsheet cannot be made.
-    static std::unique_ptr<StandardsDialog> create();
+    /// Null when the window or its spreadsheet cannot be made.
+    static std::unique_ptr<StandardsDialog> make();
 
     TwDlgStandardsData& data() { return m_data; }
     TwStandardsSS& spread() { return m_spread; }
@@ -25,7 +24,7 @@ class StandardsDialog {
     ErrorStatus run(RunningStandard& running);
 
   private:
-    StandardsDialog() = default;
+    StandardsDialog();
 
     // Values from and to the macro.
     ErrorStatus initSSForInput();

@@ -8,7 +8,7 @@ StandardsDialog* TwSSDlgsMgr::getDlg() {
         m_inUse[i] = true;
         return m_dialogs[i].get();
     }
-    auto dialog = StandardsDialog::create();
+    auto dialog = StandardsDialog::make();
     if (!dialog) return nullptr;
     m_dialogs.push_back(std::move(dialog));
     m_inUse.push_back(true);

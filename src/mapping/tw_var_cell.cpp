@@ -4,6 +4,7 @@
 #include <optional>
 
 #include "core_api/text/text_helpers.h"
+#include "mapping/cell_types.h"
 #include "mapping/tw_dlg_standards_data.h"
 #include "spread/control/formula/value.h"
 #include "spread/vor_spread.h"
@@ -11,7 +12,6 @@
 namespace {
 
 constexpr std::array<std::string_view, 3> typeWords{"Int", "Double", "String"};
-constexpr int longestText = 9999;
 
 std::optional<TwValueType> typeOfDeclaration(std::string_view text) {
     for (size_t i = 0; i < typeWords.size(); ++i)
@@ -64,15 +64,10 @@ ErrorStatus TwVarCell::setValueToSS(Vor_Spread& spread) const {
     using formula::Value;
     if (!spread.isAttached() || m_column < 1 || m_row < 1) return Acad::eInvalidInput;
     control::Grid& grid = spread.grid();
-    if (m_valueType == TwValueType::String) {
-        return statusOf(spread.setTextCell(m_column, m_row, longestText, 0) &&
-                        grid.writeValue(m_column, m_row, Value::borrowedText(m_value.text())));
-    }
-    const int decimals = m_valueType == TwValueType::Int ? 0 : VarValue::shownDecimals;
-    if (!spread.setNumberCell(m_column, m_row, decimals)) return Acad::eInvalidInput;
-    const double* number = m_value.number();
-    return statusOf(grid.writeValue(m_column, m_row,
-                                    number ? Value(*number) : Value::borrowedText(m_value.text())));
+    const double* number = isNumeric(m_valueType) ? m_value.number() : nullptr;
+    const Value value = number ? Value(*number) : Value::borrowedText(m_value.text());
+    return statusOf(grid.setType(m_column, m_row, variableCellType(m_valueType)) &&
+                    grid.writeValue(m_column, m_row, value));
 }
 
 ErrorStatus TwVarCell::getCurrentValue(Vor_Spread& spread, Vor_String& value) const {
@@ -87,7 +82,7 @@ ErrorStatus TwVarCell::getCurrentValue(Vor_Spread& spread, Vor_String& value) co
 ErrorStatus TwVarCell::readFromSS(Vor_Spread& spread) {
     if (!spread.isAttached() || !spread.grid().isInside(m_column, m_row))
         return Acad::eInvalidInput;
-    m_value.readFrom(spread.grid(), m_column, m_row, m_valueType != TwValueType::String);
+    m_value.readFrom(spread.grid(), m_column, m_row);
     return Acad::eOk;
 }
 

@@ -12,16 +12,20 @@ void VarValue::makeText() const {
     m_kind = Kind::numberWithText;
 }
 
-void VarValue::readFrom(const control::Grid& grid, int column, int row, bool numberCell) {
-    if (numberCell) {
-        const formula::Value shown = grid.shownValue(column, row);
+void VarValue::take(const control::CellType& type, const formula::Value& value) {
+    if (type.isNumber() && type.decimals <= shownDecimals) {
+        const formula::Value shown = control::Grid::shown(type, value);
         if (shown.isNumber()) {
             setNumber(shown.number());
             return;
         }
     }
     std::string buffer;
-    setText(grid.text(column, row, control::Reading::value, buffer));
+    setText(control::Grid::shownText(type, value, buffer));
+}
+
+void VarValue::readFrom(const control::Grid& grid, int column, int row) {
+    take(grid.look(column, row).type, grid.sheet().value(column, row));
 }
 
 bool VarValue::isError() const {

@@ -8,6 +8,10 @@
 
 namespace control {
 class Grid;
+struct CellType;
+}  // namespace control
+namespace formula {
+class Value;
 }
 
 class VORMANT_API VarValue {
@@ -31,9 +35,10 @@ class VORMANT_API VarValue {
     /// The number behind the text when the value was set as one, else null.
     const double* number() const { return m_kind == Kind::text ? nullptr : &m_number; }
 
-    /// What the cell shows. A number is kept as one when `numberCell` says that the cell is a
-    /// number cell of at most shownDecimals places.
-    void readFrom(const control::Grid& grid, int column, int row, bool numberCell);
+    /// What a cell of `type` shows for `value`.
+    void take(const control::CellType& type, const formula::Value& value);
+    /// What the cell shows; it lies inside the sheet.
+    void readFrom(const control::Grid& grid, int column, int row);
 
     /// The text of an error ("#DIV/0!").
     bool isError() const;

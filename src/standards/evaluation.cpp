@@ -1,18 +1,11 @@
 // The turn of one equation cell.
 #include "core_api/text/text_helpers.h"
+#include "mapping/cell_types.h"
 #include "mapping/run_timers.h"
 #include "standards/prepared_equation.h"
 #include "standards/run_observer.h"
 #include "standards/standards_messages.h"
 #include "standards/tw_standards_ss.h"
-
-namespace {
-
-constexpr int equationTextLength = 200;            // characters a text equation's cell takes
-constexpr unsigned equationTextStyle = 0x110000U;  // how it shows them
-constexpr int equationDecimals = VarValue::shownDecimals;
-
-}  // namespace
 
 /// What came of it. The texts are made only when somebody is told.
 struct TwStandardsSS::Turn {
@@ -51,37 +44,43 @@ ErrorStatus TwStandardsSS::evaluate(const PreparedEquation& equation, std::strin
     if (RunObserver* observer = runObserver()) {
         const auto [column, row] = equation.cell;
         const bool isChildCall = equation.kind == Kind::childCall;
-        const bool wasCalculated = equation.kind == Kind::ordinary;
-        std::string value;
+        const auto wasCalculated = equation.kind == Kind::ordinary;
         observer->equationDone(
             {row, column, text, equation.name,
              isChildCall ? equation.expression.view() : equation.formula.view(),
-             wasCalculated ? grid().text(column, row, Reading::value, value) : std::string_view(),
+             wasCalculated ? m_varCells[equation.target].value().view() : std::string_view(),
              isChildCall, status == Acad::eOk, turn.reason});
     }
     return status;
 }
 
-/// The formula into the equation cell, its result into the variable.
+/// The result of the equation into its variable, and on sheets that are shown the formula into the
+/// equation cell.
 ErrorStatus TwStandardsSS::assign(Turn& turn) {
     const PreparedEquation& equation = turn.equation;
-    const auto [column, row] = equation.cell;
-    {
-        const Vor_FunctionTimer timer(gCalcCellCalcFunctionsPrepare);
-        if (equation.givesText)
-            setTextCell(column, row, equationTextLength, equationTextStyle);
-        else
-            setNumberCell(column, row, equationDecimals);
+    if (equation.kind == PreparedEquation::Kind::refused) {
+        setEquationType(equation);
+        return turn.fail(equation.refusal);
     }
-    if (equation.kind == PreparedEquation::Kind::refused) return turn.fail(equation.refusal);
-    grid().setFormula(column, row, equation.program, equation.formula.block());
-
-    const Vor_FunctionTimer timer(gCalcCellCalcFunctions);
     TwVarCell& target = m_varCells[equation.target];
-    target.typedValue().readFrom(grid(), column, row, !equation.givesText);
+    const auto [column, row] = equation.cell;
+    const auto result = m_fillsNow ? std::nullopt : grid().evaluate(*equation.program, column, row);
+    if (result) {
+        target.typedValue().take(equationCellType(equation.givesText), *result);
+    } else {
+        setEquationType(equation);
+        grid().setFormula(column, row, equation.program, equation.formula.block());
+        target.typedValue().readFrom(grid(), column, row);
+    }
     m_assignedIn[static_cast<size_t>(equation.target)] = equation.cell;
+    const Vor_FunctionTimer timer(gCalcCellCalcFunctions);
     if (target.setValueToSS(*this) == Acad::eOk) return Acad::eOk;
-    turn.reason = "\"" + target.name() + "\" takes no value \"" + target.value() + "\": an " +
-                  "Int or Double takes numbers up to 99999999999999, and nothing";
+    turn.reason = "\"" + target.name() + "\" takes no value \"" + target.value() +
+                  "\": an Int or Double takes numbers up to 99999999999999, and nothing";
     return Acad::eInvalidInput;
+}
+
+void TwStandardsSS::setEquationType(const PreparedEquation& equation) {
+    const Vor_FunctionTimer timer(gCalcCellCalcFunctionsPrepare);
+    grid().setType(equation.cell.col, equation.cell.row, equationCellType(equation.givesText));
 }

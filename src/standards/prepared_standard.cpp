@@ -1,12 +1,36 @@
 #include "standards/prepared_standard.h"
 
+#include <algorithm>
+
 #include "core_api/text/text_helpers.h"
 #include "platform/encodings.h"
+#include "spread/control/formula/places.h"
 
 namespace {
 
 bool comesBefore(control::CellAddress a, control::CellAddress b) {
     return a.row != b.row ? a.row < b.row : a.col < b.col;
+}
+
+/// True when it is plain to see that `program` reads nothing in or below `firstRow`.
+bool readsOnlyAbove(const formula::Program& program, control::CellAddress host, int firstRow) {
+    using formula::Op;
+    if (program.isVolatile()) return false;  // may look anywhere (OFFSET, INDIRECT)
+    for (const formula::Instruction& i : program.code()) {
+        switch (i.op) {
+            case Op::cell:
+            case Op::reference:
+                if (formula::rowOf(i, host.row) >= firstRow) return false;
+                break;
+            case Op::area:  // some functions read beyond one area what they read in another
+            case Op::place:
+            case Op::range:
+                return false;
+            default:
+                break;
+        }
+    }
+    return true;
 }
 
 bool readsCalc(const control::Grid& grid, control::CellAddress cell) {
@@ -91,6 +115,28 @@ const PreparedEquation& PreparedStandard::equationIn(Place& place, const TwVarCe
     changed = prepare(grid.text(place.cell.col, place.cell.row, control::Reading::value, buffer),
                       place.cell, variables, grid);
     return changed;
+}
+
+bool PreparedStandard::needsNoEquationCells(const TwVarCells& variables,
+                                            const control::Grid& grid) {
+    for (Place& place : m_places) {
+        control::TextBlock* text = textOf(grid, place.cell);
+        if (text && text == place.text.block()) continue;
+        if (!text || place.text.block()) return false;
+        PreparedEquation unused;
+        (void)equationIn(place, variables, grid, unused);
+    }
+    if (!m_readsEquationCells) {
+        const int firstRow = m_layout.equationRows().first;
+        const auto reads = [&](const Place& place) {
+            return place.equation.program &&
+                   !readsOnlyAbove(*place.equation.program, place.cell, firstRow);
+        };
+        const auto isThere = [&](const TwVarCell& cell) { return cell.row() >= firstRow; };
+        m_readsEquationCells = std::any_of(m_places.begin(), m_places.end(), reads) ||
+                               std::any_of(variables.begin(), variables.end(), isThere);
+    }
+    return !*m_readsEquationCells;
 }
 
 PreparedEquation PreparedStandard::prepare(std::string_view text, control::CellAddress cell,

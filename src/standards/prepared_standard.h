@@ -43,7 +43,11 @@ class PreparedStandard {
     /// namesakes.
     const PreparedEquation& equationIn(Place& place, const TwVarCells& variables,
                                        const control::Grid& grid, PreparedEquation& changed);
-    /// As above for a text that the caller read.
+    /// All cells hold the texts that their equations were prepared from (now, where they were not
+    /// yet), and no equation reads a cell of the equation area: the results that those cells show
+    /// serve people alone.
+    bool needsNoEquationCells(const TwVarCells& variables, const control::Grid& grid);
+    /// As equationIn for a text that the caller read.
     PreparedEquation prepare(std::string_view text, control::CellAddress cell,
                              const TwVarCells& variables, const control::Grid& grid);
 
@@ -59,4 +63,5 @@ class PreparedStandard {
     /// Cells of Strings that come before the "Calc" marker, where a value could read "Calc".
     std::vector<control::CellAddress> m_textsBeforeCalc;
     std::unique_ptr<VariableReferences> m_references;
+    std::optional<bool> m_readsEquationCells;  // known once all equations were prepared
 };

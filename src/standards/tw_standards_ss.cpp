@@ -14,13 +14,17 @@ TwStandardsSS::TwStandardsSS() = default;
 TwStandardsSS::~TwStandardsSS() = default;
 
 ErrorStatus TwStandardsSS::loadFile(const Vor_String& name) {
-    const bool isPath = ObjectExportFileExists(name);
-    const Vor_String path = isPath ? name : standardsFolder() + name + ".tws";
     setBool(13, true);
     setBool(static_cast<int>(control::Option::userFormulas), true);
     setBool(static_cast<int>(control::Option::repaint), false);
     setBool(static_cast<int>(control::Option::automaticRecalculation), false);
-    if (!loadFromFile(path)) {
+    Vor_String path = name;
+    bool isLoaded = loadFromFile(path);
+    if (!isLoaded && !ObjectExportFileExists(name)) {
+        path = standardsFolder() + name + ".tws";
+        isLoaded = loadFromFile(path);
+    }
+    if (!isLoaded) {
         setRunFailure(lastError());
         return Acad::eInvalidInput;
     }
@@ -97,18 +101,25 @@ ErrorStatus TwStandardsSS::calcCells() {
         setRunFailure(m_filePath + ": no cell reads \"Calc\": add the marker above the equations");
         return Acad::eInvalidInput;
     }
+    evaluateAll(*prepared);
+    return Acad::eOk;
+}
+
+void TwStandardsSS::evaluateAll(PreparedStandard& prepared) {
+    m_fillsNow = m_fillsEquationCells || !prepared.needsNoEquationCells(m_varCells, grid());
     PreparedEquation changed;
     Vor_String changedText;
-    for (PreparedStandard::Place& place : prepared->places()) {
-        const PreparedEquation& equation = prepared->equationIn(place, m_varCells, grid(), changed);
+    for (PreparedStandard::Place& place : prepared.places()) {
+        const PreparedEquation* equation = &place.equation;
+        if (m_fillsNow) equation = &prepared.equationIn(place, m_varCells, grid(), changed);
         std::string_view text = place.text.view();
-        if (&equation == &changed) {
+        if (equation == &changed) {
             getCellText(place.cell.col, place.cell.row, changedText, Reading::value);
             text = changedText;
         }
-        if (!text.empty()) (void)evaluate(equation, text);
+        if (!text.empty()) (void)evaluate(*equation, text);
     }
-    return Acad::eOk;
+    m_fillsNow = true;
 }
 
 ErrorStatus TwStandardsSS::calcCell(int column, int row) {

@@ -34,6 +34,9 @@ class TwStandardsSS : public Vor_Spread {
     /// Replaces the gen names in every cell by their values, texts in quotes.
     void replaceGenVars();
 
+    /// Whether equation cells hold their formulas and results after calcCells, as a sheet that is
+    /// shown must. A hidden one is calculated faster without; variables are the same.
+    void setFillsEquationCells(bool fills) { m_fillsEquationCells = fills; }
     /// Evaluates every equation, by rows and from the left. One that fails is reported and passed
     /// over. Fails without the "Calc" marker.
     ErrorStatus calcCells();
@@ -63,8 +66,10 @@ class TwStandardsSS : public Vor_Spread {
   private:
     struct Turn;  // one equation cell's turn
 
+    void evaluateAll(PreparedStandard& prepared);
     ErrorStatus evaluate(const PreparedEquation& equation, std::string_view text);
     ErrorStatus assign(Turn& turn);
+    void setEquationType(const PreparedEquation& equation);
     ErrorStatus runChild(const Vor_String& text, const Vor_String& functionName,
                          control::CellAddress caller, Vor_String& reason);
     ErrorStatus takeResults(const TwVarCells& results, Vor_String& reason);
@@ -76,4 +81,6 @@ class TwStandardsSS : public Vor_Spread {
     std::shared_ptr<PreparedStandard> m_prepared;
     std::vector<control::CellAddress> m_assignedIn;  // by variable
     bool m_knowsFunctions = false;
+    bool m_fillsEquationCells = true;
+    bool m_fillsNow = true;  // in the calculation under way
 };
