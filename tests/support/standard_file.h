@@ -1,0 +1,63 @@
+// Standards for tests: documents written from the texts of their cells, in a library of their own.
+#pragma once
+
+#include <filesystem>
+#include <initializer_list>
+#include <string>
+#include <vector>
+
+#include "core_api/settings.h"
+#include "support/temporary_folder.h"
+
+/// A document with one list of texts a row; empty texts leave their cells empty.
+inline std::string documentOf(const std::vector<std::vector<std::string>>& rows) {
+    std::string cells;
+    size_t columns = 1;
+    int count = 0;
+    for (size_t row = 0; row < rows.size(); ++row) {
+        columns = std::max(columns, rows[row].size());
+        for (size_t column = 0; column < rows[row].size(); ++column) {
+            if (rows[row][column].empty()) continue;
+            cells += static_cast<char>('A' + column) + std::to_string(row + 1) + " \"" +
+                     rows[row][column] + "\n";
+            ++count;
+        }
+    }
+    return "vormant-sheet 1\nsize " + std::to_string(columns) + " " + std::to_string(rows.size()) +
+           "\ncells\n" + cells + "end " + std::to_string(count) + "\n";
+}
+
+/// Sections in the usual order, each list of texts below its marker, one a row.
+inline std::string standardOf(const std::vector<std::string>& inputs,
+                              const std::vector<std::string>& outputs,
+                              const std::vector<std::string>& locals,
+                              const std::vector<std::string>& equations) {
+    std::vector<std::vector<std::string>> rows;
+    const auto add = [&](const char* marker, const std::vector<std::string>& texts) {
+        rows.push_back({marker});
+        for (const std::string& text : texts) rows.push_back({text});
+    };
+    add("Input", inputs);
+    add("Output", outputs);
+    add("Local", locals);
+    add("Calc", equations);
+    return documentOf(rows);
+}
+
+/// A library folder that the settings point to as long as it lives.
+class TemporaryLibrary : public TemporaryFolder {
+  public:
+    TemporaryLibrary() : m_before(gSettings) { gSettings.setLibDir(inside()); }
+    ~TemporaryLibrary() { gSettings = m_before; }
+
+    /// Writes a standard; `name` with slashes, without extension. Its inside path.
+    std::string writeStandard(const std::string& name, const std::string& document) const {
+        return write("Connection Standards/" + name + ".tws", document);
+    }
+    std::string writeData(const std::string& name, std::string_view content) const {
+        return write("Connection Standards/Data/" + name, content);
+    }
+
+  private:
+    Vor_Settings m_before;
+};
