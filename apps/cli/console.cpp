@@ -3,6 +3,7 @@
 #include <cstdio>
 #include <string>
 
+#include "io/texts.h"
 #include "io/typed_paths.h"
 
 namespace cli {
@@ -16,13 +17,13 @@ void writeError(const std::string& line) {
 }  // namespace
 
 void complain(std::string_view message) {
-    writeError("vormant: " + std::string(message) + "\n");
+    writeError("vormant: " + shortened(std::string(message)) + "\n");
 }
 
 void complainAt(std::string_view file, long long line, std::string_view message) {
     std::string text = "vormant: " + std::string(file) + ":";
     if (line > 0) text += std::to_string(line) + ":";
-    writeError(text + " " + std::string(message) + "\n");
+    writeError(text + " " + shortened(std::string(message)) + "\n");
 }
 
 void complainText(std::string_view windows1252) {

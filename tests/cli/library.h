@@ -23,13 +23,13 @@ class Library : public program::Folder {
   public:
     Library() {
         add("Plate",
-            {"Input", "String Column", "Double Thickness", "Output", "Double Width", "Int Count",
+            {"Input", "String Section", "Double Thickness", "Output", "Double Width", "Int Bolts",
              "String Name", "Local", "Double Gap", "Calc", "Gap=2*Thickness",
-             "Width=ROUND(100/3+Gap,1)", "Count=ROUND(Width/10,0)", "Name=Column&\" / \"&Width"});
-        add("Childs/Base", {"Input", "Double T", "Output", "Double W", "Calc", "W=T*2"});
-        add("Parents/Frame", {"Input", "Double T", "Output", "Double W", "Calc",
-                              "CallChild(\"Base.tws\",T,W)", "W=W+1"});
-        add("Failing", {"Input", "Double T", "Output", "Double W", "Calc", "W=T+", "W=1/T"});
+             "Width=ROUND(100/3+Gap,1)", "Bolts=ROUND(Width/10,0)", "Name=Section&\" / \"&Width"});
+        add("Childs/Base", {"Input", "Double P", "Output", "Double W", "Calc", "W=P*2"});
+        add("Parents/Frame", {"Input", "Double P", "Output", "Double W", "Calc",
+                              "CallChild(\"Base.tws\",P,W)", "W=W+1"});
+        add("Failing", {"Input", "Double P", "Output", "Double W", "Calc", "W=P+", "W=1/P"});
     }
 
     void add(const std::string& name, const std::vector<std::string>& texts) const {

@@ -15,15 +15,15 @@ using Json = nlohmann::json;
 TEST(Run, PrintsInputsAndOutputs) {
     const Library library;
     const auto result =
-        library.call({"run", "plate", "--set", "Thickness=2.5", "--set", "column=HEA \xC3\x9C"});
+        library.call({"run", "plate", "--set", "Thickness=2.5", "--set", "section=HEA \xC3\x9C"});
     EXPECT_EQ(result.exitCode, 0) << result.err;
     EXPECT_EQ(result.err, "");
     EXPECT_THAT(result.out, HasSubstr("Inputs\n"
-                                      "  Column     HEA \xC3\x9C\n"
+                                      "  Section    HEA \xC3\x9C\n"
                                       "  Thickness  2.5\n"
                                       "Outputs\n"
                                       "  Width  38.3\n"
-                                      "  Count  4\n"
+                                      "  Bolts  4\n"
                                       "  Name   HEA \xC3\x9C / 38.3\n"));
     EXPECT_THAT(result.out, Not(HasSubstr("Equations")));
 }
@@ -34,17 +34,17 @@ TEST(Run, InputsAreCheckedByNameBeforeAnythingRuns) {
         std::vector<std::string> sets;
         std::string message;
     } calls[] = {
-        {{"Column=x"},
-         "input Thickness is not given; the standard takes Column (String), "
+        {{"Section=x"},
+         "input Thickness is not given; the standard takes Section (String), "
          "Thickness (Double)"},
-        {{"Column=x", "Thickness=1", "Thick=2"}, "--set Thick=2: the standard has no such input"},
-        {{"Column=x", "Thickness=1", "Width=2"}, "--set Width=2: the standard has no such input"},
-        {{"Column=x", "Thickness=1", "Gap=2"}, "--set Gap=2: the standard has no such input"},
-        {{"Column=x", "Thickness=1", "COLUMN=y"}, "given twice"},
-        {{"Column=x", "Thickness=ten"}, "Thickness is a number (Double)"},
-        {{"Column"}, "Name=Value"},
+        {{"Section=x", "Thickness=1", "Thick=2"}, "--set Thick=2: the standard has no such input"},
+        {{"Section=x", "Thickness=1", "Width=2"}, "--set Width=2: the standard has no such input"},
+        {{"Section=x", "Thickness=1", "Gap=2"}, "--set Gap=2: the standard has no such input"},
+        {{"Section=x", "Thickness=1", "SECTION=y"}, "given twice"},
+        {{"Section=x", "Thickness=ten"}, "Thickness is a number (Double)"},
+        {{"Section"}, "Name=Value"},
         {{"=5"}, "Name=Value"},
-        {{"Column=\xE4\xB8\xAD", "Thickness=1"}, "U+4E2D"},
+        {{"Section=\xE4\xB8\xAD", "Thickness=1"}, "U+4E2D"},
     };
     for (const auto& call : calls) {
         SCOPED_TRACE(call.message);
@@ -62,7 +62,7 @@ TEST(Run, StandardsAreFoundByNamePartOfItOrFile) {
     library.add("Parents/Twin", {"Input", "Output", "Calc"});
     library.add("Childs/Twin", {"Input", "Output", "Calc"});
     const auto run = [&](const std::string& name) {
-        return library.call({"run", name, "--set", "T=1"});
+        return library.call({"run", name, "--set", "P=1"});
     };
     for (const std::string& name :
          {std::string("Childs/Base"), std::string("base"), std::string("childs\\BASE"),
@@ -80,15 +80,15 @@ TEST(Run, StandardsAreFoundByNamePartOfItOrFile) {
 
 TEST(Run, TheTraceNestsChildren) {
     const Library library;
-    const auto result = library.call({"run", "Frame", "--set", "T=5", "--trace"});
+    const auto result = library.call({"run", "Frame", "--set", "P=5", "--trace"});
     EXPECT_EQ(result.exitCode, 0) << result.err;
-    EXPECT_THAT(result.out, HasSubstr("  A6    CallChild(\"Base.tws\",T,W)\n"
+    EXPECT_THAT(result.out, HasSubstr("  A6    CallChild(\"Base.tws\",P,W)\n"
                                       "        calls " +
                                       (library / "Connection Standards/Childs/Base.tws") +
                                       "\n"
-                                      "          Inputs\n            T  5\n"
+                                      "          Inputs\n            P  5\n"
                                       "          Equations\n"
-                                      "            A6    W=T*2\n"
+                                      "            A6    W=P*2\n"
                                       "                  =A2*2  ->  10\n"
                                       "          Outputs\n            W  10\n"
                                       "  A7    W=W+1\n"
@@ -98,14 +98,14 @@ TEST(Run, TheTraceNestsChildren) {
 TEST(Run, JsonHoldsTheWholeRun) {
     const Library library;
     const auto result = library.call(
-        {"run", "Plate", "--set", "Thickness=2", "--set", "Column=\"x\\y\"", "--json"});
+        {"run", "Plate", "--set", "Thickness=2", "--set", "Section=\"x\\y\"", "--json"});
     EXPECT_EQ(result.exitCode, 0) << result.err;
     const Json report = Json::parse(result.out);
     EXPECT_EQ(report["standard"], library / "Connection Standards/Plate.tws");
     EXPECT_EQ(report["ok"], true);
-    EXPECT_EQ(report["inputs"], Json({{"Column", "\"x\\y\""}, {"Thickness", "2"}}));
+    EXPECT_EQ(report["inputs"], Json({{"Section", "\"x\\y\""}, {"Thickness", "2"}}));
     EXPECT_EQ(report["outputs"],
-              Json({{"Width", "37.3"}, {"Count", "4"}, {"Name", "\"x\\y\" / 37.3"}}));
+              Json({{"Width", "37.3"}, {"Bolts", "4"}, {"Name", "\"x\\y\" / 37.3"}}));
     EXPECT_EQ(report["locals"], Json({{"Gap", "4"}}));
     EXPECT_EQ(report["messages"], Json::array());
     ASSERT_EQ(report["equations"].size(), 4u);
@@ -117,7 +117,7 @@ TEST(Run, JsonHoldsTheWholeRun) {
                                             {"value", "37.3"},
                                             {"ok", true}}));
 
-    const Json parent = Json::parse(library.call({"run", "Frame", "--set", "T=5", "--json"}).out);
+    const Json parent = Json::parse(library.call({"run", "Frame", "--set", "P=5", "--json"}).out);
     const Json& child = parent["equations"][0]["child"];
     EXPECT_EQ(child["standard"], library / "Connection Standards/Childs/Base.tws");
     EXPECT_EQ(child["outputs"], Json({{"W", "10"}}));
@@ -127,13 +127,13 @@ TEST(Run, JsonHoldsTheWholeRun) {
 TEST(Run, AFailedEquationIsToldWithFileAndRowAndFailsTheCall) {
     const Library library;
     const std::string file = library / "Connection Standards/Failing.tws";
-    const auto text = library.call({"run", "Failing", "--set", "T=2", "--trace"});
+    const auto text = library.call({"run", "Failing", "--set", "P=2", "--trace"});
     EXPECT_EQ(text.exitCode, 1);
-    EXPECT_THAT(text.err, testing::StartsWith("vormant: " + file + ":6: W=T+: "));
+    EXPECT_THAT(text.err, testing::StartsWith("vormant: " + file + ":6: W=P+: "));
     EXPECT_EQ(std::count(text.err.begin(), text.err.end(), '\n'), 1) << text.err;
     EXPECT_THAT(text.out, testing::AllOf(HasSubstr("failed: "), HasSubstr("W  0.5")));
 
-    const auto json = library.call({"run", "Failing", "--set", "T=2", "--json"});
+    const auto json = library.call({"run", "Failing", "--set", "P=2", "--json"});
     EXPECT_EQ(json.exitCode, 1);
     const Json report = Json::parse(json.out);
     EXPECT_EQ(report["ok"], false);
@@ -145,8 +145,8 @@ TEST(Run, AFailedEquationIsToldWithFileAndRowAndFailsTheCall) {
 
 TEST(Run, AnOutputThatIsAnErrorFailsTheCall) {
     const Library library;
-    library.add("Divide", {"Input", "Double T", "Output", "Double W", "Calc", "W=1/T"});
-    const auto result = library.call({"run", "Divide", "--set", "T=0"});
+    library.add("Divide", {"Input", "Double P", "Output", "Double W", "Calc", "W=1/P"});
+    const auto result = library.call({"run", "Divide", "--set", "P=0"});
     EXPECT_EQ(result.exitCode, 1);
     EXPECT_THAT(result.out, HasSubstr("W  #DIV/0!"));
     EXPECT_THAT(result.err, HasSubstr("W\" is #DIV/0!"));
@@ -154,24 +154,24 @@ TEST(Run, AnOutputThatIsAnErrorFailsTheCall) {
 
 TEST(Run, WhatCannotBeRunFailsWithOneMessage) {
     const Library library;
-    library.add("NoOutput", {"Input", "Double T", "Calc"});
-    library.add("NoCalc", {"Input", "Double T", "Output", "Double W"});
+    library.add("NoOutput", {"Input", "Double P", "Calc"});
+    library.add("NoCalc", {"Input", "Double P", "Output", "Double W"});
     library.add("Self",
-                {"Input", "Double T", "Output", "Double W", "Calc", "CallChild(\"Self.tws\",T,W)"});
-    library.add("Ring", {"Input", "Double T", "Output", "Double W", "Calc",
-                         "CallChild(\"Ring2.tws\",T,W)"});
+                {"Input", "Double P", "Output", "Double W", "Calc", "CallChild(\"Self.tws\",P,W)"});
+    library.add("Ring", {"Input", "Double P", "Output", "Double W", "Calc",
+                         "CallChild(\"Ring2.tws\",P,W)"});
     library.add("Ring2",
-                {"Input", "Double T", "Output", "Double W", "Calc", "CallChild(\"Ring.tws\",T,W)"});
+                {"Input", "Double P", "Output", "Double W", "Calc", "CallChild(\"Ring.tws\",P,W)"});
     library.write("Connection Standards/Empty.tws", "");
     library.write("Connection Standards/Binary.tws", std::string("\x7F\x45\x4C\x46\0\1\2", 7));
     library.write("Connection Standards/Cut.tws", column({"Input", "Output"}).substr(0, 40));
     for (const std::string name :
          {"NoOutput", "NoCalc", "Self", "Ring", "Empty", "Binary", "Cut"}) {
         SCOPED_TRACE(name);
-        const auto result = library.call({"run", name, "--set", "T=1"});
+        const auto result = library.call({"run", name, "--set", "P=1"});
         EXPECT_EQ(result.exitCode, 1);
         EXPECT_THAT(result.err, HasSubstr(name));
-        const auto json = library.call({"run", name, "--set", "T=1", "--json"});
+        const auto json = library.call({"run", name, "--set", "P=1", "--json"});
         EXPECT_EQ(json.exitCode, 1);
         EXPECT_EQ(Json::parse(json.out)["ok"], false);
         EXPECT_FALSE(Json::parse(json.out)["messages"].empty());
@@ -180,13 +180,13 @@ TEST(Run, WhatCannotBeRunFailsWithOneMessage) {
 
 TEST(Run, GenValuesReplaceNamesInTheSheet) {
     const Library library;
-    library.add("Gen", {"Input", "Double T", "Output", "Double W", "String S", "Calc",
-                        "W=gen_Length/T", "S=gen_Name"});
+    library.add("Gen", {"Input", "Double P", "Output", "Double W", "String S", "Calc",
+                        "W=gen_Length/P", "S=gen_Name"});
     const auto result = library.call(
-        {"run", "Gen", "--set", "T=4", "--gen", "gen_Length=600", "--gen", "gen_Name=IPE-200"});
+        {"run", "Gen", "--set", "P=4", "--gen", "gen_Length=600", "--gen", "gen_Name=IPE-200"});
     EXPECT_EQ(result.exitCode, 0) << result.err;
     EXPECT_THAT(result.out, HasSubstr("W  150\n  S  IPE-200\n"));
-    EXPECT_EQ(library.call({"run", "Gen", "--set", "T=4", "--gen", "x"}).exitCode, 2);
+    EXPECT_EQ(library.call({"run", "Gen", "--set", "P=4", "--gen", "x"}).exitCode, 2);
 }
 
 class RunOnMacro : public testing::Test {

@@ -61,6 +61,21 @@ void appendNumber(std::string& line, double number) {
     line.append(number == 0 ? "0" : std::string_view(text, end.ptr));
 }
 
+void appendRounded(std::string& line, double number) {
+    char text[32];
+    const auto end = std::to_chars(text, text + sizeof text, number, std::chars_format::general, 6);
+    line.append(text, end.ptr);
+}
+
+std::string shortened(std::string message) {
+    constexpr size_t longest = 1000;
+    if (message.size() <= longest) return message;
+    size_t end = longest;
+    while (end > 0 && (message[end] & 0xC0) == 0x80) --end;  // whole characters
+    message.resize(end);
+    return message + " ...";
+}
+
 bool fromUtf8(std::string_view utf8, std::string& text, std::string& error) {
     if (utf8.find('\0') != utf8.npos) {
         error = "a zero byte is not allowed in a text";

@@ -18,6 +18,12 @@ void appendJsonUtf8(std::string& line, std::string_view utf8);
 /// Appends a finite number so that it reads back as the same number; no exponent below 1e15.
 void appendNumber(std::string& line, double number);
 
+/// Appends a number for people to read: six figures.
+void appendRounded(std::string& line, double number);
+
+/// `message` (UTF-8) cut to a length that a person would read, when it repeats a huge text.
+std::string shortened(std::string message);
+
 /// `utf8` in Windows-1252 in `text`; false with the reason in `error` when it holds a character
 /// that Windows-1252 lacks, a zero byte, or is no UTF-8.
 bool fromUtf8(std::string_view utf8, std::string& text, std::string& error);

@@ -59,8 +59,8 @@ ExitCode evalOne(const EvalRequest& request) {
 void appendError(std::string& line, const std::string& id, const LineSource& source,
                  std::string_view message) {
     line += "{\"id\":" + id + ",\"error\":";
-    appendJsonUtf8(line,
-                   "line " + std::to_string(source.lineNumber()) + ": " + std::string(message));
+    appendJsonUtf8(line, shortened("line " + std::to_string(source.lineNumber()) + ": " +
+                                   std::string(message)));
     line += "}\n";
 }
 

@@ -1,5 +1,6 @@
 #include "console.h"
 #include "io/output.h"
+#include "io/texts.h"
 #include "standards/batch_input.h"
 #include "standards/batch_output.h"
 #include "standards/library.h"
@@ -33,8 +34,8 @@ bool runLines(ValueRun& run, LineSource& source, BatchInput& input, BatchOutput&
             writer.writeOutputs(run.cells());
         } else {
             ++count.failed;
-            writer.writeError(run.cells(),
-                              "line " + std::to_string(source.lineNumber()) + ": " + error);
+            writer.writeError(run.cells(), shortened("line " + std::to_string(source.lineNumber()) +
+                                                     ": " + error));
         }
         output.written();
         progress.step();

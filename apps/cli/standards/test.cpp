@@ -38,7 +38,7 @@ std::string difference(const TwVarCell& output, const std::string& expected, dou
     appendUtf8(text, expected.empty() ? "nothing" : expected);
     if (off == 0) return text;
     text += ", off by ";
-    appendNumber(text, off);
+    appendRounded(text, off);
     text += " (tolerance ";
     appendNumber(text, tolerance);
     return text + ")";
