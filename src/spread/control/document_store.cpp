@@ -75,11 +75,10 @@ std::shared_ptr<Document> readFile(std::string_view path, std::string& error) {
     return text ? readDocument(*text, path, error) : nullptr;
 }
 
-}  // namespace
-
-std::shared_ptr<const Document> loadDocument(std::string_view path, std::string& error) {
+std::shared_ptr<const Document> loadStamped(std::string_view path,
+                                            const std::optional<files::Stamp>& stamp,
+                                            std::string& error) {
     error.clear();
-    const std::optional<files::Stamp> stamp = files::stampOf(path);
     if (stamp)
         if (auto known = store().find(path, *stamp)) return known;
     const int64_t started = now();
@@ -90,6 +89,12 @@ std::shared_ptr<const Document> loadDocument(std::string_view path, std::string&
     return document;
 }
 
+}  // namespace
+
+std::shared_ptr<const Document> loadDocument(std::string_view path, std::string& error) {
+    return loadStamped(path, files::stampOf(path), error);
+}
+
 bool loadInto(Grid& grid, std::string_view path, std::string& error) {
     const std::optional<files::Stamp> stamp = files::stampOf(path);
     if (stamp && stamp->size > mostBytesOfOne) {
@@ -98,7 +103,7 @@ bool loadInto(Grid& grid, std::string_view path, std::string& error) {
         grid.adopt(std::move(document));
         return true;
     }
-    std::shared_ptr<const Document> document = loadDocument(path, error);
+    std::shared_ptr<const Document> document = loadStamped(path, stamp, error);
     if (!document) return false;
     grid.restore(std::move(document));
     return true;
