@@ -153,6 +153,7 @@ double roundAsWritten(double number, int decimals) {
     const double magnitude = std::fabs(number);
     constexpr double allWhole = 0x1p52;  // doubles from here on have no decimals, NaN is not below
     if (!(magnitude < allWhole)) return number;
+    if (std::trunc(magnitude) == magnitude) return number == 0 ? 0.0 : number;
     decimals = std::clamp(decimals, 0, maxDecimals);
     if (const auto scaled = scaledFast(magnitude, decimals)) {
         // Both are exact doubles, so that the division gives the nearest one.

@@ -328,6 +328,8 @@ bool Grid::saveTexts(std::string_view path) {
 }
 
 void Grid::putBackTouched() {
+    // The document has none (see restore).
+    if (m_sheet->formulaCount() > 0) m_sheet->removeFormulas();
     const Sheet& original = m_document->sheet();
     for (const CellAddress& touched : m_touched) {
         const Cell* cell = original.find(touched.col, touched.row);

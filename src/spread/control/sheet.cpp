@@ -58,6 +58,20 @@ Sheet::~Sheet() {
 
 void Sheet::clear() {
     m_cells.clear();
+    forgetFormulas();
+}
+
+void Sheet::removeFormulas() {
+    for (const FormulaSlot& slot : m_slots) {
+        if (!slot.live) continue;
+        Cell& cell = *m_cells.find(slot.col, slot.row);
+        m_cells.setDirty(slot.col, slot.row, cell, false);
+        cell.formula = 0;
+    }
+    forgetFormulas();
+}
+
+void Sheet::forgetFormulas() {
     for (FormulaSlot& slot : m_slots)
         if (slot.text) TextBlock::release(slot.text);
     m_slots.resize(1);
@@ -94,6 +108,14 @@ void Sheet::clearCell(int col, int row) {
     if (!cell) return;
     if (cell->formula) removeFormula(col, row, *cell);
     m_cells.clearCell(col, row);
+    touched(col, row);
+}
+
+void Sheet::putBack(int col, int row, const Cell& from) {
+    Cell& cell = m_cells.obtain(col, row);
+    if (cell.formula) removeFormula(col, row, cell);
+    CellStore::shareValue(cell, from);
+    cell.look = from.look;
     touched(col, row);
 }
 

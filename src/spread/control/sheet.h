@@ -67,6 +67,8 @@ class Sheet {
     bool isArrayFormula(int col, int row) const;
     bool setArrayFormula(int col, int row, std::string_view text, formula::ParseError& error);
     int formulaCount() const { return m_liveFormulas; }
+    /// Every formula; the cells keep what they show.
+    void removeFormulas();
 
     formula::ReferenceStyle referenceStyle() const { return m_style; }
     void setReferenceStyle(formula::ReferenceStyle style);
@@ -118,6 +120,7 @@ class Sheet {
 
     uint32_t newSlot(int col, int row, const formula::ProgramRef& program, TextBlock* text);
     void removeFormula(int col, int row, Cell& cell);
+    void forgetFormulas();
     void dropSlot(uint32_t id);
     void forgetDead();
     void compileUnknown();
