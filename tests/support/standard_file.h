@@ -18,8 +18,9 @@ inline std::string documentOf(const std::vector<std::vector<std::string>>& rows)
         columns = std::max(columns, rows[row].size());
         for (size_t column = 0; column < rows[row].size(); ++column) {
             if (rows[row][column].empty()) continue;
-            cells += static_cast<char>('A' + column) + std::to_string(row + 1) + " \"" +
-                     rows[row][column] + "\n";
+            cells += static_cast<char>('A' + column) + std::to_string(row + 1) + " \"";
+            for (const char c : rows[row][column]) cells += c == '\\' ? "\\\\" : std::string(1, c);
+            cells += "\n";
             ++count;
         }
     }

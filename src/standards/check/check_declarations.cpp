@@ -9,7 +9,9 @@
 
 namespace {
 
+/// One letter is left to variables: nobody misses the function T.
 bool isFunctionName(const Vor_String& name) {
+    if (name.length() == 1) return false;
     for (const StandardsFunctionRow& row : standardsFunctions())
         if (name.equal(row.name)) return true;
     return formula::findFunction(encodings::uppered(name)) != nullptr;
