@@ -43,13 +43,16 @@ std::string escaped(std::string_view text) {
 
 std::string lists() {
     std::string text;
+    size_t count = 0;
     for (const Family& family : families) {
         text +=
             std::string("\n## ") + family.heading + "\n\n| Function | What it gives |\n|---|---|\n";
+        count += family.functions().size();
         for (const FunctionSpec& spec : family.functions())
             text += "| `" + std::string(spec.name) + "(" + std::string(spec.arguments) + ")` | " +
                     escaped(spec.summary) + " |\n";
     }
+    EXPECT_EQ(count, formula::allFunctions().size()) << "a family has no heading here";
     return text;
 }
 
