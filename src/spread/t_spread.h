@@ -2,6 +2,8 @@
 // itself. Vor_Spread puts the meaning on top. Results are those of the calls (ss_api.h).
 #pragma once
 
+#include <memory>
+
 #include "core_api/text/vor_string.h"
 #include "platform/export.h"
 #include "platform/window/wnd.h"
@@ -14,81 +16,58 @@ class VORMANT_API TSpread : public CWnd {
     static constexpr const char* gridClassName = "fpSpread70";
     static constexpr const char* gridClassPrefixes[] = {"SPR32", "fpSpr"};
 
+    TSpread();
+    ~TSpread() override;
+
     /// The grid itself, for engines and views that read many cells.
-    control::Grid& grid() { return m_grid; }
-    const control::Grid& grid() const { return m_grid; }
+    control::Grid& grid() { return *m_grid; }
+    const control::Grid& grid() const { return *m_grid; }
 
-    bool setMaxRows(int count) { return SSSetMaxRows(handle(), count); }
-    bool setMaxCols(int count) { return SSSetMaxCols(handle(), count); }
+    bool setMaxRows(int count);
+    bool setMaxCols(int count);
 
-    bool setData(int col, int row, const Vor_String& text) {
-        return m_grid.setData(col, row, text);
-    }
-    bool setValue(int col, int row, const Vor_String& text) {
-        return m_grid.setValueText(col, row, text);
-    }
+    bool setData(int col, int row, const Vor_String& text);
+    bool setValue(int col, int row, const Vor_String& text);
     /// False, with `text` empty, outside the sheet.
     bool getData(int col, int row, Vor_String& text) const;
     bool getValue(int col, int row, Vor_String& text) const;
     bool getFormula(int col, int row, Vor_String& text) const;
-    bool setCellTag(int col, int row, const Vor_String& text) {
-        return m_grid.setTag(col, row, text);
-    }
+    bool setCellTag(int col, int row, const Vor_String& text);
     bool getCellTag(int col, int row, Vor_String& text) const;
-    bool setFloat(int col, int row, double number) {
-        return SSSetFloat(handle(), col, row, number);
-    }
-    bool getFloat(int col, int row, double& number) const {
-        return SSGetFloat(handle(), col, row, number);
-    }
-    int getCellType(int col, int row) const { return SSGetCellType(handle(), col, row); }
-    bool setCellType(const control::Block& b, const SSCellType& type) {
-        return SSSetCellTypeRange(handle(), b.col1, b.row1, b.col2, b.row2, type);
-    }
-    bool clearRange(const control::Block& b) {
-        return SSClearRange(handle(), b.col1, b.row1, b.col2, b.row2);
-    }
+    bool setFloat(int col, int row, double number);
+    bool getFloat(int col, int row, double& number) const;
+    int getCellType(int col, int row) const;
+    bool setCellType(const control::Block& block, const SSCellType& type);
+    bool clearRange(const control::Block& block);
 
-    bool setBool(int option, bool on) { return SSSetBool(handle(), option, on); }
-    bool getBool(int option) const { return SSGetBool(handle(), option); }
-    bool setRefStyle(int style) { return SSSetRefStyle(handle(), style); }
+    bool setBool(int option, bool on);
+    bool getBool(int option) const;
+    bool setRefStyle(int style);
 
-    bool setBorder(const control::Block& b, int sides, int style,
-                   control::Colour colour = control::automatic) {
-        return SSSetBorder(handle(), b.col1, b.row1, b.col2, b.row2, sides, style, colour);
-    }
-    bool setColour(const control::Block& b, control::Colour background,
-                   control::Colour text = control::automatic) {
-        return SSSetColor(handle(), b.col1, b.row1, b.col2, b.row2, background, text);
-    }
-    bool setFont(const control::Block& b, const Vor_String& name, int height, int weight) {
-        return SSSetFont(handle(), b.col1, b.row1, b.col2, b.row2, name.c_str(), height, weight);
-    }
-    bool setGridType(int type) { return SSSetGridType(handle(), type); }
-    bool setGridColour(control::Colour colour) { return SSSetGridColor(handle(), colour); }
+    bool setBorder(const control::Block& block, int sides, int style,
+                   control::Colour colour = control::automatic);
+    bool setColour(const control::Block& block, control::Colour background,
+                   control::Colour text = control::automatic);
+    bool setFont(const control::Block& block, const Vor_String& name, int height, int weight);
+    bool setGridType(int type);
+    bool setGridColour(control::Colour colour);
 
-    bool addCellSpan(const control::Span& span) {
-        return SSAddCellSpan(handle(), span.col, span.row, span.cols, span.rows);
-    }
-    bool removeCellSpan(int col, int row) { return SSRemoveCellSpan(handle(), col, row); }
+    bool addCellSpan(const control::Span& span);
+    bool removeCellSpan(int col, int row);
 
-    bool setColWidthInPixels(int col, int pixels) {
-        return SSSetColWidthInPixels(handle(), col, pixels);
-    }
+    bool setColWidthInPixels(int col, int pixels);
     /// -1 outside the sheet.
     int colWidthInPixels(int col) const;
-    bool setRowHeightInPixels(int row, int pixels) {
-        return SSSetRowHeightInPixels(handle(), row, pixels);
-    }
+    bool setRowHeightInPixels(int row, int pixels);
     int rowHeightInPixels(int row) const;
 
-    bool clipboardCopy() { return SSClipboardCopy(handle()); }
-    bool clipboardPaste() { return SSClipboardPaste(handle()); }
+    bool clipboardCopy();
+    bool clipboardPaste();
 
   protected:
     // The calls take one kind of handle; those that only read change nothing behind it.
-    SSHandle handle() const { return const_cast<control::Grid*>(&m_grid); }
+    SSHandle handle() const { return m_grid.get(); }
 
   private:
-    control::Grid m_grid;
+    std::unique_ptr<control::Grid> m_grid;
 };
