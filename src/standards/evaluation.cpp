@@ -41,7 +41,8 @@ ErrorStatus TwStandardsSS::evaluate(const PreparedEquation& equation, std::strin
     }
     if (turn.isReported)
         reportEquationFailure(m_filePath, equation.cell.row, equation.name, equation.expression);
-    if (RunObserver* observer = runObserver()) {
+    RunObserver* observer = runObserver();
+    if (observer && (status != Acad::eOk || observer->wantsEveryEquation())) {
         const auto [column, row] = equation.cell;
         const bool isChildCall = equation.kind == Kind::childCall;
         const auto wasCalculated = equation.kind == Kind::ordinary;

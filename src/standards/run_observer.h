@@ -27,6 +27,8 @@ class VORMANT_API RunObserver {
 
     /// The document is loaded; `depth` is 0 for the run that was asked for, 1 for its children.
     virtual void runStarted(std::string_view /*path*/, int /*depth*/) {}
+    /// False: equations that succeed are not reported, and no texts are made for them.
+    virtual bool wantsEveryEquation() const { return true; }
     virtual void equationDone(const EquationReport& /*equation*/) {}
     /// Around the runs of a child call. The equation of the call is reported after childEnded.
     virtual void childStarted(std::string_view /*path*/, int /*row*/, int /*column*/) {}

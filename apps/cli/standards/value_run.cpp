@@ -11,7 +11,8 @@
 
 namespace cli {
 
-void FailureWatch::note(const EquationReport& equation) {
+void FailureWatch::equationDone(const EquationReport& equation) {
+    if (equation.ok || !m_failure.empty()) return;
     m_failure = "row " + std::to_string(equation.row) + ": ";
     appendUtf8(m_failure, equation.text);
     m_failure += ": ";

@@ -27,10 +27,8 @@ class FailureWatch : public RunObserver {
     const std::string& failure() const { return m_failure; }
 
   private:
-    void equationDone(const EquationReport& equation) override {
-        if (!equation.ok && m_failure.empty()) note(equation);
-    }
-    void note(const EquationReport& equation);
+    bool wantsEveryEquation() const override { return false; }
+    void equationDone(const EquationReport& equation) override;
 
     RunObserver* m_before;
     std::string m_failure;  // UTF-8
