@@ -94,30 +94,6 @@ CellStore::Block& CellStore::obtainBlock(int col, int row) {
     return *column[b];
 }
 
-bool CellStore::hasDirty(const Area& area) const {
-    const int lastCol = std::min<int>(area.col2, static_cast<int>(m_columns.size()) - 1);
-    for (int col = area.col1; col <= lastCol; ++col) {
-        const Column& column = m_columns[static_cast<size_t>(col)];
-        const size_t first = static_cast<size_t>(area.row1 - 1) >> blockShift;
-        const size_t last = static_cast<size_t>(area.row2 - 1) >> blockShift;
-        for (size_t b = first; b <= last && b < column.size(); ++b) {
-            if (!column[b] || column[b]->dirtyCount == 0) continue;
-            const int base = static_cast<int>(b << blockShift) + 1;
-            const int from = std::max(area.row1, base) - base;
-            const int to = std::min(area.row2, base + blockRows - 1) - base;
-            for (int i = from; i <= to; ++i)
-                if (column[b]->cells[static_cast<size_t>(i)].dirty) return true;
-        }
-    }
-    return false;
-}
-
-bool CellStore::hasFormula(const Area& area) const {
-    bool isFound = false;
-    each(area, [&](int, int, const Cell& cell) { isFound |= cell.formula != 0; });
-    return isFound;
-}
-
 int CellStore::lastCol() const {
     for (size_t c = m_columns.size(); c-- > 1;)
         for (const auto& block : m_columns[c])

@@ -140,13 +140,17 @@ class CellStore {
             .get();
     }
     static size_t rowInBlock(int row) { return static_cast<size_t>(row - 1) & (blockRows - 1); }
-    bool hasDirty(const Area& area) const;
-    bool hasFormula(const Area& area) const;
-
-    /// Calls visit(row, col, cell) for every cell of `area` that is stored, blank ones among them,
-    /// column by column and downwards. Costs what is stored, not what the area spans.
+    /// Cells of one column in a row: `row` is that of the first.
+    struct Run {
+        const Block* block;
+        const Cell* first;
+        const Cell* end;
+        int row, col;
+    };
+    /// Calls visit(Run) for everything of `area` that is stored, blank cells among it, column by
+    /// column and downwards. Costs what is stored, not what the area spans.
     template <class Visit>
-    void eachStored(const Area& area, Visit&& visit) const {
+    void eachRun(const Area& area, Visit&& visit) const {
         const int lastCol = std::min<int>(area.col2, static_cast<int>(m_columns.size()) - 1);
         for (int col = area.col1; col <= lastCol; ++col) {
             const auto& blocks = m_columns[static_cast<size_t>(col)];
@@ -155,18 +159,20 @@ class CellStore {
             for (int row = area.row1; row <= lastRow;) {
                 const int end = std::min(lastRow, ((row - 1) | (blockRows - 1)) + 1);
                 if (const Block* block = blocks[static_cast<size_t>(row - 1) >> blockShift].get()) {
-                    const Cell* cell = &block->cells[rowInBlock(row)];
-                    for (; row <= end; ++row, ++cell) visit(row, col, *cell);
+                    const Cell* first = &block->cells[rowInBlock(row)];
+                    visit(Run{block, first, first + (end - row + 1), row, col});
                 }
                 row = end + 1;
             }
         }
     }
-    /// The same without blank cells.
+    /// Calls visit(row, col, cell) for every cell of `area` that is not blank, in that order.
     template <class Visit>
     void each(const Area& area, Visit&& visit) const {
-        eachStored(area, [&](int row, int col, const Cell& cell) {
-            if (!cell.isBlank()) visit(row, col, cell);
+        eachRun(area, [&](const Run& run) {
+            int row = run.row;
+            for (const Cell* cell = run.first; cell != run.end; ++cell, ++row)
+                if (!cell->isBlank()) visit(row, run.col, *cell);
         });
     }
 

@@ -104,6 +104,12 @@ void Calculation::noteDirty(int col, int row) const {
     m_dirtyAreas.push_back({row, row, static_cast<uint16_t>(col), static_cast<uint16_t>(col)});
 }
 
+void Calculation::noteDirtyIn(const control::CellStore::Run& run) const {
+    int row = run.row;
+    for (const control::Cell* cell = run.first; cell != run.end; ++cell, ++row)
+        if (cell->formula && (cell->dirty || m_unsettled)) noteDirty(run.col, row);
+}
+
 std::optional<std::string_view> Calculation::formulaText(int col, int row) const {
     return m_sheet ? m_sheet->formula(col, row) : std::nullopt;
 }

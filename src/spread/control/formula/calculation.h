@@ -41,12 +41,13 @@ class Calculation {
     template <class Visit>
     void each(const Value& argument, Visit&& visit) const {
         if (argument.isArea()) {
-            checkDirty(argument.area());
-            m_cells->eachStored(argument.area(), [&](int, int, const control::Cell& cell) {
-                if (cell.type == ValueType::number) [[likely]]
-                    visit(Value(cell.number));
-                else if (cell.type != ValueType::empty)
-                    visit(cell.value());
+            m_cells->eachRun(argument.area(), [&](const control::CellStore::Run& run) {
+                checkDirty(run);
+                for (const control::Cell* cell = run.first; cell != run.end; ++cell)
+                    if (cell->type == ValueType::number) [[likely]]
+                        visit(Value(cell->number));
+                    else if (cell->type != ValueType::empty)
+                        visit(cell->value());
             });
         } else if (argument.isArray()) {
             const Array& a = argument.array();
@@ -60,10 +61,12 @@ class Calculation {
     void eachAt(const Value& argument, Visit&& visit) const {
         if (argument.isArea()) {
             const Area area = argument.area();
-            checkDirty(area);
-            m_cells->each(area, [&](int row, int col, const control::Cell& cell) {
-                if (cell.type != ValueType::empty)
-                    visit(row - area.row1, col - area.col1, cell.value());
+            m_cells->eachRun(area, [&](const control::CellStore::Run& run) {
+                checkDirty(run);
+                int row = run.row - area.row1;
+                for (const control::Cell* cell = run.first; cell != run.end; ++cell, ++row)
+                    if (cell->type != ValueType::empty)
+                        visit(row, run.col - area.col1, cell->value());
             });
         } else if (argument.isArray()) {
             const Array& a = argument.array();
@@ -114,10 +117,11 @@ class Calculation {
     // Cells met that are not calculated yet. Their values are old: the running calculation is
     // given up and started again after them.
     void noteDirty(int col, int row) const;
-    void checkDirty(const Area& area) const {
-        if (m_unsettled ? m_cells->hasFormula(area) : m_cells->hasDirty(area))
-            m_dirtyAreas.push_back(area);
+    void checkDirty(const control::CellStore::Run& run) const {
+        if (m_unsettled || run.block->dirtyCount != 0) [[unlikely]]
+            noteDirtyIn(run);
     }
+    void noteDirtyIn(const control::CellStore::Run& run) const;
     mutable std::vector<Area> m_dirtyAreas;
     /// Cells have changed and nobody has followed yet whom that concerns: any formula may be old.
     bool m_unsettled = false;

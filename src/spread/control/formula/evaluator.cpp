@@ -56,7 +56,9 @@ Value Evaluator::run(const Program& program, int col, int row, bool& blocked) {
 
 inline Value Evaluator::area(const Instruction& first, const Instruction& second) const {
     const auto area = areaOf(first, second, m_calculation.m_hostCol, m_calculation.m_hostRow);
-    return area ? Value::area(*area) : Value(ErrorCode::ref);
+    if (!area) [[unlikely]]
+        return ErrorCode::ref;
+    return Value::area(*area);
 }
 
 inline Value Evaluator::cell(const Instruction& i) const {

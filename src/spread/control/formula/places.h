@@ -10,13 +10,13 @@
 namespace formula {
 
 inline int rowOf(const Instruction& i, int hostRow) {
-    return i.flags & Instruction::relativeRow ? hostRow + i.place.row : i.place.row;
+    return i.place.row + (i.flags & Instruction::relativeRow ? hostRow : 0);
 }
 inline int colOf(const Instruction& i, int hostCol) {
-    return i.flags & Instruction::relativeCol ? hostCol + i.place.col : i.place.col;
+    return i.place.col + (i.flags & Instruction::relativeCol ? hostCol : 0);
 }
 inline bool isInside(int col, int row) {
-    return col >= 1 && col <= maxCols && row >= 1 && row <= maxRows;
+    return static_cast<unsigned>(col - 1) < maxCols && static_cast<unsigned>(row - 1) < maxRows;
 }
 
 /// The cell of a one-cell reference; nothing when it lies outside the sheet.
