@@ -33,9 +33,14 @@ CLI::Option* addAssignments(CLI::App& command, const std::string& names,
         ->allow_extra_args(false);
 }
 
-/// `work` runs when `command` is called, with the library open.
 template <class Work>
 void onCall(CLI::App& command, Calls& calls, Work work) {
+    command.callback([&calls, work] { calls.work = work; });
+}
+
+/// `work` runs with the library open.
+template <class Work>
+void onStandardsCall(CLI::App& command, Calls& calls, Work work) {
     command.callback([&calls, work] {
         calls.work = [&calls, work] {
             return openLibrary(calls.library) ? work() : ExitCode::failed;
@@ -46,13 +51,13 @@ void onCall(CLI::App& command, Calls& calls, Work work) {
 void addStandardsReaders(CLI::App& standards, Calls& calls) {
     auto& list = *standards.add_subcommand(
         "list", "Name the standards of the library with their inputs and outputs");
-    onCall(list, calls, [] { return listStandards(); });
+    onStandardsCall(list, calls, [] { return listStandards(); });
 
     auto& check = *standards.add_subcommand(
         "check", "Look for mistakes in standards: file:row:column: message");
     check.add_option("FILE", calls.check.files, "A standards file, or a name in the library")
         ->required();
-    onCall(check, calls, [&calls] { return checkStandards(calls.check); });
+    onStandardsCall(check, calls, [&calls] { return checkStandards(calls.check); });
 
     auto& test = *standards.add_subcommand(
         "test", "Run the check problems that stand beside a standard (NAME.cases.csv)");
@@ -60,7 +65,7 @@ void addStandardsReaders(CLI::App& standards, Calls& calls) {
     auto* all =
         test.add_flag("--all", calls.test.all, "Every standard of the library that has cases");
     names->excludes(all);
-    onCall(test, calls, [&calls] { return testStandards(calls.test); });
+    onStandardsCall(test, calls, [&calls] { return testStandards(calls.test); });
 }
 
 void addStandardsRunners(CLI::App& standards, Calls& calls) {
@@ -82,7 +87,7 @@ void addStandardsRunners(CLI::App& standards, Calls& calls) {
     macro->needs(key);
     key->needs(macro);
     write->needs(macro);
-    onCall(run, calls, [&calls] { return runStandard(calls.run); });
+    onStandardsCall(run, calls, [&calls] { return runStandard(calls.run); });
 
     auto& batch = *standards.add_subcommand(
         "batch", "Run a standard once for every line of inputs; a filter");
@@ -91,7 +96,7 @@ void addStandardsRunners(CLI::App& standards, Calls& calls) {
     batch.add_flag("--jsonl", calls.batch.jsonLines, "Lines are JSON objects instead of CSV");
     batch.add_flag("!--no-header", calls.batch.header, "Leave out the line of output names");
     addAssignments(batch, "--gen", calls.batch.genValues, "Replace a gen_ name by a value");
-    onCall(batch, calls, [&calls] { return batchStandard(calls.batch); });
+    onStandardsCall(batch, calls, [&calls] { return batchStandard(calls.batch); });
 }
 
 void addSheetCommands(CLI::App& sheet, Calls& calls) {

@@ -45,7 +45,7 @@ void tellWhatThereIs(const std::string& typed, const std::vector<StandardName>& 
         return;
     }
     if (matches.size() > 1) message = "several standards are called \"" + typed + "\"";
-    message += matches.size() > 1 ? ":" : "; " + shownPath(gSettings.libDir()) + " has:";
+    message += matches.size() > 1 ? ":" : "; the library has:";
     for (const auto& standard : matches.size() > 1 ? matches : standards)
         message += "\n  " + standard.name;
     complain(message);
