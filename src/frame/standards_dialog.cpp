@@ -11,9 +11,9 @@ namespace {
 
 constexpr int gridId = 1000;
 constexpr ControlTemplate controls[] = {
-    {Control::placeholder, gridId, "", CRect(7, 7, 300, 200)},
+    {Control::placeholder, gridId, "", CRect{7, 7, 300, 200}},
 };
-const DialogResource resource{253, "Connection Standards", CRect(0, 0, 314, 214), controls};
+const DialogResource resource{253, "Connection Standards", CRect{0, 0, 314, 214}, controls};
 
 ErrorStatus fail(const TwStandardsSS& spread, const Vor_String& why) {
     setRunFailure(spread.filePath() + ": " + why);
