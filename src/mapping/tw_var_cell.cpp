@@ -3,6 +3,7 @@
 #include <array>
 #include <optional>
 
+#include "core_api/text/number_text.h"
 #include "core_api/text/text_helpers.h"
 #include "mapping/cell_types.h"
 #include "mapping/tw_dlg_standards_data.h"
@@ -61,13 +62,16 @@ ErrorStatus TwVarCell::setNewValue(Vor_Spread& spread, const VarValue& value) {
 }
 
 ErrorStatus TwVarCell::setValueToSS(Vor_Spread& spread) const {
-    using formula::Value;
     if (!spread.isAttached() || m_column < 1 || m_row < 1) return Acad::eInvalidInput;
     control::Grid& grid = spread.grid();
-    const double* number = isNumeric(m_valueType) ? m_value.number() : nullptr;
-    const Value value = number ? Value(*number) : Value::borrowedText(m_value.text());
-    return statusOf(grid.setType(m_column, m_row, variableCellType(m_valueType)) &&
-                    grid.writeValue(m_column, m_row, value));
+    const control::CellType& type = variableCellType(m_valueType);
+    if (const double* number = isNumeric(m_valueType) ? m_value.number() : nullptr) {
+        const bool isWhole = m_valueType == TwValueType::Int;
+        return statusOf(grid.writeNumber(m_column, m_row, type,
+                                         isWhole ? roundAsWritten(*number, 0) : *number));
+    }
+    return statusOf(grid.setType(m_column, m_row, type) &&
+                    grid.writeValue(m_column, m_row, formula::Value::borrowedText(m_value.text())));
 }
 
 ErrorStatus TwVarCell::getCurrentValue(Vor_Spread& spread, Vor_String& value) const {

@@ -1,5 +1,5 @@
 // The turn of one equation cell.
-#include "core_api/text/text_helpers.h"
+#include "core_api/text/number_text.h"
 #include "mapping/cell_types.h"
 #include "mapping/run_timers.h"
 #include "standards/prepared_equation.h"
@@ -75,10 +75,24 @@ ErrorStatus TwStandardsSS::assign(Turn& turn) {
     }
     m_assignedIn[static_cast<size_t>(equation.target)] = equation.cell;
     const Vor_FunctionTimer timer(gCalcCellCalcFunctions);
-    if (target.setValueToSS(*this) == Acad::eOk) return Acad::eOk;
+    if (writeTarget(equation.target) == Acad::eOk) return Acad::eOk;
     turn.reason = "\"" + target.name() + "\" takes no value \"" + target.value() +
                   "\": an Int or Double takes numbers up to 99999999999999, and nothing";
     return Acad::eInvalidInput;
+}
+
+ErrorStatus TwStandardsSS::writeTarget(int index) {
+    const TwVarCell& target = m_varCells[index];
+    const double* number = target.typedValue().number();
+    const auto at = static_cast<size_t>(index);
+    control::Cell* cell = at < m_valueCells.size() ? m_valueCells[at] : nullptr;
+    if (number && cell) {
+        const bool isWhole = target.valueType() == TwValueType::Int;
+        if (control::Grid::setPlain(*cell, variableCellType(target.valueType()),
+                                    isWhole ? roundAsWritten(*number, 0) : *number))
+            return Acad::eOk;
+    }
+    return target.setValueToSS(*this);
 }
 
 void TwStandardsSS::setEquationType(const PreparedEquation& equation) {

@@ -2,6 +2,7 @@
 
 #include "core_api/files.h"
 #include "core_api/text/text_helpers.h"
+#include "mapping/cell_types.h"
 #include "mapping/mapping_file.h"
 #include "mapping/run_timers.h"
 #include "standards/functions/standards_functions.h"
@@ -107,6 +108,7 @@ ErrorStatus TwStandardsSS::calcCells() {
 
 void TwStandardsSS::evaluateAll(PreparedStandard& prepared) {
     m_fillsNow = m_fillsEquationCells || !prepared.needsNoEquationCells(m_varCells, grid());
+    takeValueCells();
     PreparedEquation changed;
     Vor_String changedText;
     for (PreparedStandard::Place& place : prepared.places()) {
@@ -120,6 +122,20 @@ void TwStandardsSS::evaluateAll(PreparedStandard& prepared) {
         if (!text.empty()) (void)evaluate(*equation, text);
     }
     m_fillsNow = true;
+    m_valueCells.clear();
+}
+
+/// Without formulas in the sheet nobody has to hear of new numbers: they can go straight into the
+/// cells of the variables.
+void TwStandardsSS::takeValueCells() {
+    m_valueCells.assign(static_cast<size_t>(m_varCells.length()), nullptr);
+    if (m_fillsNow) return;
+    for (int i = 0; i < m_varCells.length(); ++i) {
+        const TwVarCell& cell = m_varCells[i];
+        if (isNumeric(cell.valueType()))
+            m_valueCells[static_cast<size_t>(i)] =
+                grid().plainCell(cell.column(), cell.row(), variableCellType(cell.valueType()));
+    }
 }
 
 ErrorStatus TwStandardsSS::calcCell(int column, int row) {

@@ -66,9 +66,11 @@ class TwStandardsSS : public Vor_Spread {
   private:
     struct Turn;  // one equation cell's turn
 
+    void takeValueCells();
     void evaluateAll(PreparedStandard& prepared);
     ErrorStatus evaluate(const PreparedEquation& equation, std::string_view text);
     ErrorStatus assign(Turn& turn);
+    ErrorStatus writeTarget(int index);
     void setEquationType(const PreparedEquation& equation);
     ErrorStatus runChild(const Vor_String& text, const Vor_String& functionName,
                          control::CellAddress caller, Vor_String& reason);
@@ -80,6 +82,7 @@ class TwStandardsSS : public Vor_Spread {
     Vor_StringArray m_genValues;
     std::shared_ptr<PreparedStandard> m_prepared;
     std::vector<control::CellAddress> m_assignedIn;  // by variable
+    std::vector<control::Cell*> m_valueCells;        // of numeric variables, while not filling
     bool m_knowsFunctions = false;
     bool m_fillsEquationCells = true;
     bool m_fillsNow = true;  // in the calculation under way

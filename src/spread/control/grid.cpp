@@ -296,6 +296,7 @@ void Grid::restore(std::shared_ptr<const Document> document) {
         *m_sheet = document->sheet();
         m_looks = document->looks();
         m_document = std::move(document);
+        addKnownFunctions();
     }
     startFrom(*m_document);
     // Formulas depend on cells beyond those that were touched.
@@ -307,6 +308,7 @@ void Grid::adopt(std::shared_ptr<Document> document) {
     m_sheet.swap(document->m_sheet);
     m_looks = std::move(document->m_looks);
     m_document = nullptr;
+    addKnownFunctions();
     startFrom(*document);
     m_canUndo = false;
     m_isAsLoaded = false;
@@ -340,6 +342,11 @@ void Grid::putBackTouched() {
     }
 }
 
+/// Tells a sheet that was taken over about the functions registered before.
+void Grid::addKnownFunctions() {
+    for (const formula::CustomFunction* function : m_custom) m_sheet->addCustomFunction(function);
+}
+
 void Grid::startFrom(const Document& document) {
     m_touched.clear();
     m_cols = document.cols();
@@ -349,7 +356,6 @@ void Grid::startFrom(const Document& document) {
     m_selection.reset();
     m_edit.reset();
     m_changed = false;
-    for (const formula::CustomFunction* function : m_custom) m_sheet->addCustomFunction(function);
     const bool isR1C1 = m_sides->referenceStyle == 2;
     if (isR1C1 != (m_sheet->referenceStyle() == formula::ReferenceStyle::r1c1))
         m_sheet->setReferenceStyle(isR1C1 ? formula::ReferenceStyle::r1c1

@@ -101,6 +101,16 @@ class Grid {
     /// and numbers outside their range. Text cells keep the text of a number. False, with the
     /// cell as it was, when refused or outside the sheet.
     bool writeValue(int col, int row, const formula::Value& value);
+    /// setType and writeValue in one, for a number cell and a number that is rounded to its
+    /// decimals already.
+    bool writeNumber(int col, int row, const CellType& type, double number);
+    /// The cell, for an engine that writes many numbers into it between two restores (setPlain);
+    /// null when it is not of `type` or the sheet has formulas. Valid until cells are moved or
+    /// another document is loaded.
+    Cell* plainCell(int col, int row, const CellType& type);
+    /// Writes a number that is rounded to the decimals of `type` into a cell that plainCell gave.
+    /// False when it is out of range, or the cell holds a text, which takes writeNumber.
+    static bool setPlain(Cell& cell, const CellType& type, double number);
     /// The value reading, typed. A text is borrowed until the cell changes. Empty outside.
     formula::Value shownValue(int col, int row) const;
     /// As shownValue for a value that stands in a cell of this type.
@@ -274,6 +284,7 @@ class Grid {
     void dropBeyond(int lastCol, int lastRow);
     void dropCells(int lastCol, int lastRow);
     void putBackTouched();
+    void addKnownFunctions();
     void startFrom(const Document& document);
 
     int m_cols = 0;

@@ -37,6 +37,11 @@ std::optional<double> numberWrittenAs(std::string_view text) {
     return number;
 }
 
+bool isInRange(const CellType& type, double number) {
+    const bool isLimited = type.least != 0 || type.most != 0;
+    return !isLimited || (number >= type.least && number <= type.most);
+}
+
 /// What a cell of `type` stores for a written value; nothing when it refuses.
 class Acceptance {
   public:
@@ -66,9 +71,7 @@ class Acceptance {
         if (!std::isfinite(number)) return std::nullopt;
         if (m_type.isNumber()) {
             number = roundAsWritten(number, m_type.decimals);
-            const bool isLimited = m_type.least != 0 || m_type.most != 0;
-            if (isLimited && (number < m_type.least || number > m_type.most)) return std::nullopt;
-            return Value(number);
+            return isInRange(m_type, number) ? std::optional(Value(number)) : std::nullopt;
         }
         if (!m_type.keepsText()) return Value(number);
         return Value::borrowedText({m_buffer, formula::writeNumber(number, m_buffer)});
@@ -168,6 +171,26 @@ bool Grid::writeValue(int col, int row, const Value& value) {
     if (!accepted) return false;
     noteTouched(col, row);
     m_sheet->setValue(col, row, *accepted);
+    return true;
+}
+
+bool Grid::writeNumber(int col, int row, const CellType& type, double number) {
+    if (!setType(col, row, type) || !isInRange(type, number)) return false;
+    noteTouched(col, row);
+    m_sheet->setValue(col, row, Value(number));
+    return true;
+}
+
+Cell* Grid::plainCell(int col, int row, const CellType& type) {
+    if (!isInside(col, row) || !(look(col, row).type == type)) return nullptr;
+    noteTouched(col, row);
+    return m_sheet->plainCell(col, row);
+}
+
+bool Grid::setPlain(Cell& cell, const CellType& type, double number) {
+    if (cell.type == ValueType::text || !isInRange(type, number)) return false;
+    cell.number = number;
+    cell.type = ValueType::number;
     return true;
 }
 

@@ -41,6 +41,11 @@ class Sheet {
 
     /// Writes a plain value; a formula in the cell is removed. Texts are copied.
     void setValue(int col, int row, const Value& value);
+    /// The cell, for writing numbers into it past all bookkeeping; null when it is not there or
+    /// the sheet has formulas, which would not hear of it. Valid until cells are moved or cleared.
+    Cell* plainCell(int col, int row) {
+        return m_liveFormulas == 0 ? m_cells.find(col, row) : nullptr;
+    }
     void setLook(int col, int row, uint16_t look) { m_cells.obtain(col, row).look = look; }
     /// Makes the cell what `from` is, a cell of any sheet that has no formula: value (its text is
     /// shared, not copied) and look. A formula in the cell is removed.
