@@ -20,7 +20,7 @@ struct TwStandardsSS::Turn {
     }
 };
 
-ErrorStatus TwStandardsSS::evaluate(const PreparedEquation& equation, std::string_view text) {
+ErrorStatus TwStandardsSS::evaluate(const PreparedEquation& equation) {
     using Kind = PreparedEquation::Kind;
     Turn turn{equation, {}, false};
     ErrorStatus status = Acad::eOk;
@@ -47,8 +47,8 @@ ErrorStatus TwStandardsSS::evaluate(const PreparedEquation& equation, std::strin
         const bool isChildCall = equation.kind == Kind::childCall;
         const auto wasCalculated = equation.kind == Kind::ordinary;
         observer->equationDone(
-            {row, column, text, equation.name,
-             isChildCall ? equation.expression.view() : equation.formula.view(),
+            {row, column, equation.text.view(), equation.name,
+             isChildCall ? equation.expression : equation.formula.view(),
              wasCalculated ? m_varCells[equation.target].value().view() : std::string_view(),
              isChildCall, status == Acad::eOk, turn.reason});
     }

@@ -6,10 +6,17 @@
 
 namespace {
 
-void split(PreparedEquation& equation, std::string_view text, bool& hasSymbol) {
+bool split(PreparedEquation& equation) {
     const Vor_FunctionTimer timer(gCalcCellSplitSymbol);
-    hasSymbol = splitStringAtSymbol(text, '=', equation.name, equation.expression, true);
-    if (!hasSymbol) equation.expression = text;
+    const std::string_view text = equation.text.view();
+    const size_t symbol = text.find('=');
+    if (symbol == std::string_view::npos) {
+        equation.expression = text;
+        return false;
+    }
+    equation.name = trimmed(text.substr(0, symbol));
+    equation.expression = trimmed(text.substr(symbol + 1));
+    return true;
 }
 
 int findTarget(const PreparedEquation& equation, const VariableReferences& references) {
@@ -22,7 +29,7 @@ bool findNative(PreparedEquation& equation) {
     return hasASubstr(equation.expression, nativeFunctionNames(), equation.function);
 }
 
-Vor_String translated(const Vor_String& expression, const VariableReferences& references) {
+Vor_String translated(std::string_view expression, const VariableReferences& references) {
     const Vor_FunctionTimer timer(gCalcCellReplaceVariables);
     return references.translate(expression);
 }
@@ -67,13 +74,13 @@ VariableReferences makeReferences(const TwVarCells& variables) {
     return VariableReferences(std::move(names), std::move(references));
 }
 
-PreparedEquation prepareEquation(std::string_view text, control::CellAddress cell,
+PreparedEquation prepareEquation(SharedText text, control::CellAddress cell,
                                  const TwVarCells& variables, const VariableReferences& references,
                                  const control::Sheet& sheet) {
     PreparedEquation equation;
     equation.cell = cell;
-    bool hasSymbol = false;
-    split(equation, text, hasSymbol);
+    equation.text = std::move(text);
+    const bool hasSymbol = split(equation);
     equation.target = findTarget(equation, references);
     if (findNative(equation)) {
         equation.kind = PreparedEquation::Kind::childCall;
@@ -82,7 +89,7 @@ PreparedEquation prepareEquation(std::string_view text, control::CellAddress cel
             "there is no \"=\" in it: write Name=expression, or move labels out "
             "of the rows below \"Calc\"";
     } else if (equation.target < 0) {
-        equation.refusal = "no variable \"" + equation.name +
+        equation.refusal = Vor_String("no variable \"") + equation.name +
                            "\" is declared: declare it below \"Input\", \"Output\" or \"Local\"";
     } else {
         const Vor_FunctionTimer timer(gCalcCellCalcFunctionsPrepare);

@@ -19,10 +19,11 @@ struct PreparedEquation {
     };
 
     control::CellAddress cell;
+    SharedText text;  ///< what the cell showed
     Kind kind = Kind::irregular;
-    Vor_String name;        ///< before the "="; empty without one
-    Vor_String expression;  ///< after the "=", or the whole text
-    int target = -1;        ///< the variable of that name, or -1
+    std::string_view name;        ///< before the "="; empty without one
+    std::string_view expression;  ///< after the "=", or the whole text
+    int target = -1;              ///< the variable of that name, or -1
     /// The target is a String: the equation cell shows text.
     bool givesText = false;
     Vor_String function;  ///< childCall: the native function
@@ -38,6 +39,6 @@ Vor_String coordinateName(const TwVarCell& variable);
 VariableReferences makeReferences(const TwVarCells& variables);
 
 /// `text` is what the cell shows; `sheet` knows the functions that formulas may call.
-PreparedEquation prepareEquation(std::string_view text, control::CellAddress cell,
+PreparedEquation prepareEquation(SharedText text, control::CellAddress cell,
                                  const TwVarCells& variables, const VariableReferences& references,
                                  const control::Sheet& sheet);

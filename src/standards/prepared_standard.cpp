@@ -68,8 +68,12 @@ PreparedStandard::PreparedStandard(Vor_Spread& spread) {
     m_duplicateNames = getDuplicates(names);
 
     const RowRange rows = m_layout.equationRows();
-    for (const control::CellAddress cell : filled)
-        if (cell.row >= rows.first && cell.row <= rows.last) m_places.push_back({cell, {}, {}});
+    const auto first =
+        std::lower_bound(filled.begin(), filled.end(), rows.first,
+                         [](control::CellAddress cell, int row) { return cell.row < row; });
+    if (rows.first > rows.last) return;
+    m_places.reserve(static_cast<size_t>(filled.end() - first));
+    for (auto cell = first; cell != filled.end(); ++cell) m_places.push_back({*cell, {}});
 }
 
 TwVarCells PreparedStandard::variables() const {
@@ -88,10 +92,10 @@ void PreparedStandard::declare(Vor_Spread& spread, const std::vector<control::Ce
                                Marker marker, TwCellType type) {
     const RowRange rows = m_layout.declarationRows(marker);
     for (const control::CellAddress cell : filled) {
+        if (cell.row < rows.first || cell.row > rows.last) continue;
         TwVarCell variable;
-        if (cell.row >= rows.first && cell.row <= rows.last &&
-            variable.initialize(spread, cell.col, cell.row, type) == Acad::eOk)
-            m_declarations.append(variable);
+        if (variable.initialize(spread, cell.col, cell.row, type) == Acad::eOk)
+            m_declarations.append(std::move(variable));
     }
 }
 
@@ -105,15 +109,15 @@ const PreparedEquation& PreparedStandard::equationIn(Place& place, const TwVarCe
                                                      const control::Grid& grid,
                                                      PreparedEquation& changed) {
     control::TextBlock* text = textOf(grid, place.cell);
-    if (text && text == place.text.block()) return place.equation;
-    if (text && !place.text.block()) {
-        place.text = SharedText::of(text);
-        place.equation = prepare(text->view(), place.cell, variables, grid);
+    if (text && text == place.equation.text.block()) return place.equation;
+    if (text && !place.equation.text.block()) {
+        place.equation = prepare(SharedText::of(text), place.cell, variables, grid);
         return place.equation;
     }
     std::string buffer;
-    changed = prepare(grid.text(place.cell.col, place.cell.row, control::Reading::value, buffer),
-                      place.cell, variables, grid);
+    changed = prepare(
+        SharedText(grid.text(place.cell.col, place.cell.row, control::Reading::value, buffer)),
+        place.cell, variables, grid);
     return changed;
 }
 
@@ -121,8 +125,9 @@ bool PreparedStandard::needsNoEquationCells(const TwVarCells& variables,
                                             const control::Grid& grid) {
     for (Place& place : m_places) {
         control::TextBlock* text = textOf(grid, place.cell);
-        if (text && text == place.text.block()) continue;
-        if (!text || place.text.block()) return false;
+        control::TextBlock* known = place.equation.text.block();
+        if (text && text == known) continue;
+        if (!text || known) return false;
         PreparedEquation unused;
         (void)equationIn(place, variables, grid, unused);
     }
@@ -139,10 +144,10 @@ bool PreparedStandard::needsNoEquationCells(const TwVarCells& variables,
     return !*m_readsEquationCells;
 }
 
-PreparedEquation PreparedStandard::prepare(std::string_view text, control::CellAddress cell,
+PreparedEquation PreparedStandard::prepare(SharedText text, control::CellAddress cell,
                                            const TwVarCells& variables, const control::Grid& grid) {
     // A variable list that still has its namesakes counts differently.
     if (!m_references || m_references->count() != variables.length())
         m_references = std::make_unique<VariableReferences>(makeReferences(variables));
-    return prepareEquation(text, cell, variables, *m_references, grid.sheet());
+    return prepareEquation(std::move(text), cell, variables, *m_references, grid.sheet());
 }

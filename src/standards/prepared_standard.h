@@ -30,8 +30,7 @@ class PreparedStandard {
     /// A place in the equation area that is not empty.
     struct Place {
         control::CellAddress cell;
-        SharedText text;  ///< the cell's text when `equation` was prepared; none before
-        PreparedEquation equation;
+        PreparedEquation equation;  ///< without text before it was prepared
     };
     std::vector<Place>& places() { return m_places; }
     /// The "Calc" marker is still the first cell that reads so: neither replaced nor preceded by a
@@ -48,7 +47,7 @@ class PreparedStandard {
     /// serve people alone.
     bool needsNoEquationCells(const TwVarCells& variables, const control::Grid& grid);
     /// As equationIn for a text that the caller read.
-    PreparedEquation prepare(std::string_view text, control::CellAddress cell,
+    PreparedEquation prepare(SharedText text, control::CellAddress cell,
                              const TwVarCells& variables, const control::Grid& grid);
 
   private:

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "core_api/text/text_helpers.h"
+#include "platform/encodings.h"
 #include "standards/words.h"
 
 namespace {
@@ -48,6 +49,7 @@ VariableReferences::VariableReferences(Vor_StringArray names, Vor_StringArray re
     for (int i = 0; i < m_names.length(); ++i) {
         const bool isNew = m_index.add(m_names[i], i) < 0;
         if (!isNew || !isPlainWord(m_names[i])) m_onePass = false;
+        noteShape(m_names[i]);
     }
 }
 
@@ -58,11 +60,31 @@ Vor_String VariableReferences::translate(std::string_view text) const {
         return translated;
     }
     std::string translated;
-    translated.reserve(text.size());
+    translated.reserve(text.size() + 16);
+    const char* copied = text.data();
     eachWord(
-        text, [&](std::string_view word) { translated += translateWord(word); },
-        [&](std::string_view other) { translated += other; });
+        text,
+        [&](std::string_view word) {
+            if (!mayBeName(word)) return;
+            const std::string_view reference = translateWord(word);
+            if (reference.data() == word.data()) return;
+            translated.append(copied, word.data());
+            translated += reference;
+            copied = word.data() + word.size();
+        },
+        [](std::string_view) {});
+    translated.append(copied, text.data() + text.size());
     return Vor_String(std::move(translated));
+}
+
+void VariableReferences::noteShape(const Vor_String& name) {
+    if (name.isEmpty()) return;
+    m_firsts.set(static_cast<unsigned char>(encodings::toLower(name[0])));
+    m_firsts.set(static_cast<unsigned char>(encodings::toUpper(name[0])));
+    if (static_cast<size_t>(name.length()) < m_lengths.size())
+        m_lengths.set(static_cast<size_t>(name.length()));
+    else
+        m_onePass = false;
 }
 
 /// A reference that was put in is a word again; only later names see it.

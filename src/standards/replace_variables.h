@@ -2,9 +2,8 @@
 // letter case: by cell references in equations, by values in every cell of a sheet.
 #pragma once
 
-#include <string>
+#include <bitset>
 #include <string_view>
-#include <vector>
 
 #include "core_api/text/text_index.h"
 #include "core_api/text/vor_string_array.h"
@@ -18,7 +17,8 @@ bool replaceVariables(Vor_String& text, const Vor_StringArray& names, const Vor_
 
 /// The declared names of a sheet with their cell references, made once and asked for every
 /// equation. Gives exactly what replaceVariables gives, in one pass over the text, as long as all
-/// names are plain words and no two are equal; otherwise replaceVariables does the work.
+/// names are plain words of less than 256 letters and no two are equal; otherwise replaceVariables
+/// does the work.
 class VariableReferences {
   public:
     VariableReferences() = default;
@@ -35,10 +35,19 @@ class VariableReferences {
     Vor_String translate(std::string_view text) const;
 
   private:
+    void noteShape(const Vor_String& name);
+    bool mayBeName(std::string_view word) const {
+        return m_firsts[static_cast<unsigned char>(word[0])] && word.size() < m_lengths.size() &&
+               m_lengths[word.size()];
+    }
     std::string_view translateWord(std::string_view word) const;
 
     Vor_StringArray m_names;
     Vor_StringArray m_references;
     TextIndex m_index;
     bool m_onePass = true;
+    // Most words are functions and numbers: what their first letter or length tells apart from
+    // every name needs no look into the index.
+    std::bitset<256> m_firsts;
+    std::bitset<256> m_lengths;
 };

@@ -110,16 +110,10 @@ void TwStandardsSS::evaluateAll(PreparedStandard& prepared) {
     m_fillsNow = m_fillsEquationCells || !prepared.needsNoEquationCells(m_varCells, grid());
     takeValueCells();
     PreparedEquation changed;
-    Vor_String changedText;
     for (PreparedStandard::Place& place : prepared.places()) {
-        const PreparedEquation* equation = &place.equation;
-        if (m_fillsNow) equation = &prepared.equationIn(place, m_varCells, grid(), changed);
-        std::string_view text = place.text.view();
-        if (equation == &changed) {
-            getCellText(place.cell.col, place.cell.row, changedText, Reading::value);
-            text = changedText;
-        }
-        if (!text.empty()) (void)evaluate(*equation, text);
+        const PreparedEquation& equation =
+            m_fillsNow ? prepared.equationIn(place, m_varCells, grid(), changed) : place.equation;
+        if (!equation.text.view().empty()) (void)evaluate(equation);
     }
     m_fillsNow = true;
     m_valueCells.clear();
@@ -144,7 +138,7 @@ ErrorStatus TwStandardsSS::calcCell(int column, int row) {
         return Acad::eInvalidInput;
     registerFunctions();
     m_assignedIn.resize(static_cast<size_t>(m_varCells.length()));
-    return evaluate(m_prepared->prepare(text, {column, row}, m_varCells, grid()), text);
+    return evaluate(m_prepared->prepare(SharedText(text), {column, row}, m_varCells, grid()));
 }
 
 ErrorStatus TwStandardsSS::getVarCoordName(const Vor_String& name, Vor_String& coordinate) const {

@@ -68,7 +68,7 @@ class TwStandardsSS : public Vor_Spread {
 
     void takeValueCells();
     void evaluateAll(PreparedStandard& prepared);
-    ErrorStatus evaluate(const PreparedEquation& equation, std::string_view text);
+    ErrorStatus evaluate(const PreparedEquation& equation);
     ErrorStatus assign(Turn& turn);
     ErrorStatus writeTarget(int index);
     void setEquationType(const PreparedEquation& equation);

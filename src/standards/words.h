@@ -3,10 +3,19 @@
 #pragma once
 
 #include <algorithm>
+#include <array>
 #include <string_view>
 
+inline constexpr std::array<bool, 256> wordCharacters = [] {
+    std::array<bool, 256> table{};
+    for (const char c : std::string_view("ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz"
+                                         "0123456789_"))
+        table[static_cast<unsigned char>(c)] = true;
+    return table;
+}();
+
 inline bool isWordCharacter(char c) {
-    return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z') || (c >= '0' && c <= '9') || c == '_';
+    return wordCharacters[static_cast<unsigned char>(c)];
 }
 
 inline bool isPlainWord(std::string_view text) {

@@ -12,18 +12,18 @@ namespace {
 
 constexpr std::string_view blanks = " \t\r\n\v\f";
 
-std::string_view trimmed(std::string_view text) {
-    const size_t first = text.find_first_not_of(blanks);
-    if (first == std::string_view::npos) return {};
-    return text.substr(first, text.find_last_not_of(blanks) - first + 1);
-}
-
 std::string_view withoutLeadingBlanks(std::string_view text) {
     text.remove_prefix(std::min(text.find_first_not_of(blanks), text.size()));
     return text;
 }
 
 }  // namespace
+
+std::string_view trimmed(std::string_view text) {
+    const size_t first = text.find_first_not_of(blanks);
+    if (first == std::string_view::npos) return {};
+    return text.substr(first, text.find_last_not_of(blanks) - first + 1);
+}
 
 bool splitString(std::string_view text, std::string_view separator, Vor_String& before,
                  Vor_String& after) {

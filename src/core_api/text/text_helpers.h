@@ -11,6 +11,9 @@
 VORMANT_API bool splitString(std::string_view text, std::string_view separator, Vor_String& before,
                              Vor_String& after);
 
+/// `text` without blanks, tabs and line ends at both ends.
+VORMANT_API std::string_view trimmed(std::string_view text);
+
 /// As splitString for one character; `trimBlanks` removes blanks around both parts.
 VORMANT_API bool splitStringAtSymbol(std::string_view text, char symbol, Vor_String& before,
                                      Vor_String& after, bool trimBlanks);

@@ -89,7 +89,7 @@ void checkEquations(StandardCheck& check) {
             case PreparedEquation::Kind::irregular:
             case PreparedEquation::Kind::refused:
                 check.error(equation.cell, describeRefusal(equation));
-                if (equation.name.isEmpty()) continue;  // a label uses nothing
+                if (equation.name.empty()) continue;  // a label uses nothing
                 break;
             case PreparedEquation::Kind::ordinary:
                 break;

@@ -43,8 +43,8 @@ std::vector<PreparedEquation> OpenedStandard::equations() {
         Vor_String text;
         sheet.getCellText(place.cell.col, place.cell.row, text, Vor_Spread::Reading::value);
         if (!text.isEmpty())
-            equations.push_back(sheet.prepared()->prepare(withGenNumbers(text, variables),
-                                                          place.cell, variables, sheet.grid()));
+            equations.push_back(sheet.prepared()->prepare(
+                SharedText(withGenNumbers(text, variables)), place.cell, variables, sheet.grid()));
     }
     return equations;
 }

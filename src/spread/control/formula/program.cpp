@@ -1,13 +1,13 @@
 #include "spread/control/formula/program.h"
 
 #include <algorithm>
-#include <unordered_set>
 
 namespace formula {
 
 using control::TextBlock;
 
-/// Every living program by its code.
+/// Every living program by its code, in an open table that holds the hashes too: looking for a
+/// program that is not there yet touches no other one.
 class ProgramPool {
   public:
     static ProgramPool& instance() {
@@ -18,31 +18,56 @@ class ProgramPool {
 
     ProgramRef intern(std::span<const Instruction> code, int stackDepth, bool isVolatile) {
         const size_t hash = hashOf(code);
-        const auto place = m_programs.find(Key{code, hash});
-        if (place != m_programs.end()) {
+        size_t at = hash & mask();
+        for (; m_slots[at].program; at = (at + 1) & mask()) {
+            if (m_slots[at].hash != hash || !same(code, m_slots[at].program->code())) continue;
             releaseTexts(code);
-            return ProgramRef(*place);
+            return ProgramRef(m_slots[at].program);
         }
         auto* program = new Program;
         program->m_code.assign(code.begin(), code.end());
         program->m_stackDepth = stackDepth;
         program->m_isVolatile = isVolatile;
         program->m_hash = hash;
-        m_programs.insert(program);
+        m_slots[at] = {hash, program};
+        if (++m_count * 2 > m_slots.size()) grow();
         return ProgramRef(program);
     }
 
     void remove(Program* program) {
-        m_programs.erase(program);
+        size_t hole = program->m_hash & mask();
+        while (m_slots[hole].program != program) hole = (hole + 1) & mask();
+        // What stands behind moves up as long as it stays in reach of its own place.
+        for (size_t at = (hole + 1) & mask(); m_slots[at].program; at = (at + 1) & mask()) {
+            const size_t distance = (at - m_slots[at].hash) & mask();
+            if (distance < ((at - hole) & mask())) continue;
+            m_slots[hole] = m_slots[at];
+            hole = at;
+        }
+        m_slots[hole] = {};
+        --m_count;
         releaseTexts(program->m_code);
         delete program;
     }
 
   private:
-    struct Key {
-        std::span<const Instruction> code;
-        size_t hash;
+    struct Slot {
+        size_t hash = 0;
+        Program* program = nullptr;  // null: free
     };
+
+    size_t mask() const { return m_slots.size() - 1; }
+    void grow() {
+        std::vector<Slot> old(m_slots.size() * 2);
+        old.swap(m_slots);
+        for (const Slot& slot : old) {
+            if (!slot.program) continue;
+            size_t at = slot.hash & mask();
+            while (m_slots[at].program) at = (at + 1) & mask();
+            m_slots[at] = slot;
+        }
+    }
+
     static bool same(std::span<const Instruction> a, std::span<const Instruction> b) {
         return std::equal(a.begin(), a.end(), b.begin(), b.end(),
                           [](const Instruction& x, const Instruction& y) {
@@ -51,20 +76,6 @@ class ProgramPool {
                               return x == y;
                           });
     }
-    struct Hash {
-        using is_transparent = void;
-        size_t operator()(const Program* p) const { return p->m_hash; }
-        size_t operator()(const Key& k) const { return k.hash; }
-    };
-    struct Equal {
-        using is_transparent = void;
-        bool operator()(const Program* a, const Program* b) const { return a == b; }
-        bool operator()(const Key& k, const Program* p) const {
-            return k.hash == p->m_hash && same(k.code, p->code());
-        }
-        bool operator()(const Program* p, const Key& k) const { return (*this)(k, p); }
-    };
-
     static size_t hashOf(std::span<const Instruction> code) {
         size_t hash = code.size();
         for (const Instruction& i : code) {
@@ -83,7 +94,8 @@ class ProgramPool {
             if (i.op == Op::text) TextBlock::release(const_cast<TextBlock*>(i.text));
     }
 
-    std::unordered_set<Program*, Hash, Equal> m_programs;
+    std::vector<Slot> m_slots = std::vector<Slot>(1024);  // a power of two, half of it free
+    size_t m_count = 0;
 };
 
 void ProgramRef::destroy(Program* program) {
