@@ -14,7 +14,9 @@ namespace {
 constexpr int rows = 100'000;
 constexpr int cols = 8;
 
-double numberAt(int col, int row) { return row + col * 0.125; }
+double numberAt(int col, int row) {
+    return row + col * 0.125;
+}
 
 std::string bareText() {
     std::string text;

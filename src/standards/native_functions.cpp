@@ -1,10 +1,34 @@
 #include "standards/native_functions.h"
 
 #include "core_api/text/text_helpers.h"
+#include "platform/encodings.h"
 
+namespace {
+
+/// In the order of NativeFunction.
 const Vor_StringArray& nativeFunctionNames() {
     static const Vor_StringArray names{"CallChild"};
     return names;
+}
+
+bool containsFolded(std::string_view text, std::string_view part) {
+    const char first = encodings::toLower(part[0]);
+    for (size_t at = 0; at + part.size() <= text.size(); ++at)
+        if (encodings::toLower(text[at]) == first &&
+            encodings::equalFolded(text.substr(at, part.size()), part))
+            return true;
+    return false;
+}
+
+}  // namespace
+
+bool findNativeFunction(std::string_view text, Vor_String& name) {
+    for (const Vor_String& known : nativeFunctionNames()) {
+        if (!containsFolded(text, known)) continue;
+        name = known;
+        return true;
+    }
+    return false;
 }
 
 int nativeFunctionOf(std::string_view name) {

@@ -1,11 +1,15 @@
 // Call forms that the engine executes itself, instead of the control.
 #pragma once
 
+#include <string_view>
+
 #include "core_api/text/vor_string_array.h"
 
 enum class NativeFunction { callChild = 0 };
 
-const Vor_StringArray& nativeFunctionNames();
+/// Whether `text` contains the name of one, anywhere and regardless of letter case; `name` is that
+/// name, else untouched.
+bool findNativeFunction(std::string_view text, Vor_String& name);
 /// Nothing known by that name: -1, else a NativeFunction.
 int nativeFunctionOf(std::string_view name);
 

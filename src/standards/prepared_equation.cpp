@@ -26,17 +26,18 @@ int findTarget(const PreparedEquation& equation, const VariableReferences& refer
 
 bool findNative(PreparedEquation& equation) {
     const Vor_FunctionTimer timer(gCalcCellFindFunctions);
-    return hasASubstr(equation.expression, nativeFunctionNames(), equation.function);
+    return findNativeFunction(equation.expression, equation.function);
 }
 
-Vor_String translated(std::string_view expression, const VariableReferences& references) {
+SharedText translated(std::string_view expression, const VariableReferences& references) {
     const Vor_FunctionTimer timer(gCalcCellReplaceVariables);
-    return references.translate(expression);
+    static std::string buffer;
+    return SharedText(references.translate(expression, buffer));
 }
 
 void compile(PreparedEquation& equation, const VariableReferences& references,
              const control::Sheet& sheet) {
-    equation.formula = SharedText(translated(equation.expression, references));
+    equation.formula = translated(equation.expression, references);
     formula::ParseError error;
     const auto [col, row] = equation.cell;
     equation.program =

@@ -65,7 +65,7 @@ PreparedStandard::PreparedStandard(Vor_Spread& spread) {
             m_textsBeforeCalc.push_back(cell);
     }
     m_duplicates = getDuplicateIndexes(names);
-    m_duplicateNames = getDuplicates(names);
+    for (const int index : m_duplicates) m_duplicateNames.append(names[index]);
 
     const RowRange rows = m_layout.equationRows();
     const auto first =

@@ -53,14 +53,13 @@ VariableReferences::VariableReferences(Vor_StringArray names, Vor_StringArray re
     }
 }
 
-Vor_String VariableReferences::translate(std::string_view text) const {
+std::string_view VariableReferences::translate(std::string_view text, std::string& buffer) const {
+    buffer.clear();
     if (!m_onePass) {
         Vor_String translated(text);
         replaceVariables(translated, m_names, m_references, false);
-        return translated;
+        return buffer.assign(translated.view());
     }
-    std::string translated;
-    translated.reserve(text.size() + 16);
     const char* copied = text.data();
     eachWord(
         text,
@@ -68,13 +67,12 @@ Vor_String VariableReferences::translate(std::string_view text) const {
             if (!mayBeName(word)) return;
             const std::string_view reference = translateWord(word);
             if (reference.data() == word.data()) return;
-            translated.append(copied, word.data());
-            translated += reference;
+            buffer.append(copied, word.data());
+            buffer += reference;
             copied = word.data() + word.size();
         },
         [](std::string_view) {});
-    translated.append(copied, text.data() + text.size());
-    return Vor_String(std::move(translated));
+    return buffer.append(copied, text.data() + text.size());
 }
 
 void VariableReferences::noteShape(const Vor_String& name) {

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <bitset>
+#include <string>
 #include <string_view>
 
 #include "core_api/text/text_index.h"
@@ -32,7 +33,8 @@ class VariableReferences {
     int count() const { return m_names.length(); }
     /// Index of the first variable of that name, letter case aside, or -1.
     int find(std::string_view name) const { return m_index.find(name); }
-    Vor_String translate(std::string_view text) const;
+    /// `text` with references for names; lies in `buffer`.
+    std::string_view translate(std::string_view text, std::string& buffer) const;
 
   private:
     void noteShape(const Vor_String& name);
