@@ -30,6 +30,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     copy.setRows(3);
     grid.setData(1, 1, "1");
     grid.setType(1, 2, control::numberType(2));
+    grid.setFormula(2, 1, "A1+1");
     grid.restore(document);
     if (control::writeDocument(grid) != written) std::abort();
     return 0;
