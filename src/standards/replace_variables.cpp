@@ -51,6 +51,8 @@ VariableReferences::VariableReferences(Vor_StringArray names, Vor_StringArray re
         if (!isNew || !isPlainWord(m_names[i])) m_onePass = false;
         noteShape(m_names[i]);
     }
+    for (const Vor_String& reference : m_references)
+        m_chains = m_chains || m_index.find(reference) >= 0;
 }
 
 std::string_view VariableReferences::translate(std::string_view text, std::string& buffer) const {
@@ -87,10 +89,11 @@ void VariableReferences::noteShape(const Vor_String& name) {
 
 /// A reference that was put in is a word again; only later names see it.
 std::string_view VariableReferences::translateWord(std::string_view word) const {
-    int last = -1;
-    for (int index = m_index.find(word); index > last; index = m_index.find(word)) {
+    int index = m_index.find(word);
+    if (index < 0) return word;
+    word = m_references[index];
+    if (!m_chains) return word;
+    for (int last = index; (index = m_index.find(word)) > last; last = index)
         word = m_references[index];
-        last = index;
-    }
     return word;
 }

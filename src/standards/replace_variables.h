@@ -48,6 +48,7 @@ class VariableReferences {
     Vor_StringArray m_references;
     TextIndex m_index;
     bool m_onePass = true;
+    bool m_chains = false;  // a reference that is put in may be a name
     // Most words are functions and numbers: what their first letter or length tells apart from
     // every name needs no look into the index.
     std::bitset<256> m_firsts;

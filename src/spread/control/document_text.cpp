@@ -180,13 +180,27 @@ std::optional<int> readWhole(std::string_view text) {
     return number;
 }
 
+namespace {
+
+/// Eight bytes at a time: every text of a document passes here.
+bool hasOnlyAscii(std::string_view text) {
+    uint64_t seen = 0;
+    size_t at = 0;
+    for (; at + sizeof seen <= text.size(); at += sizeof seen) {
+        uint64_t bytes = 0;
+        std::memcpy(&bytes, text.data() + at, sizeof bytes);
+        seen |= bytes;
+    }
+    for (; at < text.size(); ++at) seen |= static_cast<unsigned char>(text[at]);
+    return (seen & 0x8080808080808080U) == 0;
+}
+
+}  // namespace
+
 std::optional<std::string_view> unescaped(std::string_view text, std::string& buffer,
                                           std::string& error) {
-    bool isPlainText = true, isAscii = true;
-    for (const char c : text) {
-        isPlainText &= c != '\\';
-        isAscii &= static_cast<unsigned char>(c) < 0x80;
-    }
+    const bool isPlainText = text.find('\\') == std::string_view::npos;
+    const bool isAscii = hasOnlyAscii(text);
     if (!isAscii) {
         encodings::Utf8Error reason;
         const auto converted = encodings::fromUtf8(text, reason);
