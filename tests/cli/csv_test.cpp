@@ -88,6 +88,17 @@ TEST(Csv, LongRecordsAreReadAndEndlessOnesSkipped) {
     EXPECT_EQ(recordsOf("a\n" + megabyte + ",\"" + megabyte + "\"\nb\n"),
               (Records{"1 a", "2 " + megabyte + "|" + megabyte, "3 b"}));
 
+    // The last line lacks its end, and looking for it moves what was read already.
+    for (const size_t before : {1u << 10, 130u << 10, 1u << 20}) {
+        const std::string first(before, 'f');
+        for (const size_t size : {130u << 10, 260u << 10, 3u << 20}) {
+            const std::string last = std::string(size, 'l') + ',' + std::string(size, 'e');
+            std::string fields = last;
+            fields[size] = '|';
+            EXPECT_EQ(recordsOf(first + "\n" + last), (Records{"1 " + first, "2 " + fields}));
+        }
+    }
+
     const std::string endless(LineSource::maxRecord + (1 << 20), 'y');
     EXPECT_EQ(recordsOf("a\n" + endless + "\nb\n"),
               (Records{"1 a", "2 !the line is longer than 16 MiB", "3 b"}));

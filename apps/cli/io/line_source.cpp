@@ -81,11 +81,11 @@ void LineSource::keepFirstLineOnly() {
 LineSource::Got LineSource::takeLine(size_t length, std::string_view& record) {
     size_t searched = length;
     while (true) {
-        const char* begin = m_buffer.data() + m_begin;
-        const size_t available = m_filled - m_begin;
-        const void* found = std::memchr(begin + searched, '\n', available - searched);
-        const size_t end =
-            found ? static_cast<size_t>(static_cast<const char*>(found) - begin) : available;
+        const std::string_view buffered(m_buffer.data() + m_begin, m_filled - m_begin);
+        const size_t available = buffered.size();
+        const size_t lineEnd = buffered.find('\n', searched);
+        const bool found = lineEnd != buffered.npos;
+        const size_t end = found ? lineEnd : available;
         if (end > maxRecord) return Got::tooLong;
         if (!found && fill()) {
             searched = available;
@@ -94,7 +94,8 @@ LineSource::Got LineSource::takeLine(size_t length, std::string_view& record) {
         if (!found && !m_error.empty()) return Got::failed;
         if (!found && available == length) return Got::end;
         m_next = m_begin + end + (found ? 1 : 0);  // the last line may lack its end
-        record = std::string_view(begin, end);
+        // Not `buffered`: looking for more may have moved it, even when there was no more.
+        record = std::string_view(m_buffer.data() + m_begin, end);
         if (record.ends_with('\r')) record.remove_suffix(1);
         return Got::line;
     }
