@@ -194,4 +194,14 @@ TEST_F(SheetTest, ACopyIsIndependent) {
     EXPECT_EQ(shown(1, 2), "text");
 }
 
+TEST_F(SheetTest, FormulasThatAskForTooMuchMemoryGiveAnError) {
+    number(1, 1, 5);
+    ASSERT_TRUE(formula(2, 1, "SUM(" + std::string(40, '-') + "A:A)"));
+    EXPECT_EQ(shown(2, 1), "#NUM!");
+    ASSERT_TRUE(formula(2, 1, "SUM(LEN(REPT(\"x\",30000)&A1:A20000))"));
+    EXPECT_EQ(shown(2, 1), "#NUM!");
+    ASSERT_TRUE(formula(2, 1, "SUM(--A:A)"));
+    EXPECT_EQ(shown(2, 1), "5");
+}
+
 }  // namespace

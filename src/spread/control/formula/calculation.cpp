@@ -7,6 +7,7 @@
 #include <new>
 #include <random>
 
+#include "spread/control/formula/coerce.h"
 #include "spread/control/formula/lexer.h"
 #include "spread/control/sheet.h"
 
@@ -16,6 +17,8 @@ namespace {
 
 constexpr size_t firstChunk = 4096;
 constexpr int maxArrayCells = 4'000'000;
+constexpr size_t largestChunk = size_t{16} << 20;  // but for an array that needs more
+constexpr size_t maxArena = size_t{256} << 20;
 
 }  // namespace
 
@@ -61,6 +64,8 @@ Value Calculation::text(std::string_view text) {
 
 Value Calculation::text(std::string_view first, std::string_view second) {
     const size_t size = first.size() + second.size();
+    // Numbers as texts always fit, so that their makers need not look.
+    if (size > numberTextSize && !hasRoom(size)) return ErrorCode::num;
     char* kept = allocate(size);
     if (!first.empty()) std::memcpy(kept, first.data(), first.size());
     if (!second.empty()) std::memcpy(kept + first.size(), second.data(), second.size());
@@ -70,10 +75,18 @@ Value Calculation::text(std::string_view first, std::string_view second) {
 Array* Calculation::newArray(int rows, int cols) {
     if (rows < 1 || cols < 1 || rows > maxArrayCells / cols) return nullptr;
     const auto count = static_cast<size_t>(rows) * static_cast<size_t>(cols);
+    if (!hasRoom(sizeof(Array) + count * sizeof(Value))) return nullptr;
     char* bytes = allocate(sizeof(Array) + count * sizeof(Value));
     auto* cells = reinterpret_cast<Value*>(bytes + sizeof(Array));
     std::uninitialized_value_construct_n(cells, count);
     return new (bytes) Array{rows, cols, cells};
+}
+
+// One formula of a few hundred characters can ask for a chain of arrays of whole columns.
+bool Calculation::hasRoom(size_t size) const {
+    if (m_chunk < m_chunks.size() && m_used + size <= m_chunks[m_chunk].size) return true;
+    for (const Chunk& chunk : m_chunks) size += chunk.size;
+    return size <= maxArena;
 }
 
 char* Calculation::allocate(size_t size) {
@@ -84,7 +97,7 @@ char* Calculation::allocate(size_t size) {
     }
     if (m_chunk == m_chunks.size()) {
         const size_t previous = m_chunks.empty() ? firstChunk / 2 : m_chunks.back().size;
-        const size_t wanted = std::max(size, previous * 2);
+        const size_t wanted = std::max(size, std::min(previous * 2, largestChunk));
         m_chunks.push_back({std::make_unique_for_overwrite<char[]>(wanted), wanted});
         m_used = 0;
     }

@@ -86,11 +86,12 @@ class Calculation {
     /// walked by index. Areas only; others come back as they are.
     Value clipped(const Value& argument) const;
 
-    /// A text value holding its own copy of `text`.
+    /// A text value holding its own copy of `text`; #NUM! when there is no room for a long one.
     Value text(std::string_view text);
     /// Two texts joined.
     Value text(std::string_view first, std::string_view second);
-    /// A fresh array of empty values, rows * cols at most 4,000,000 (else null).
+    /// A fresh array of empty values. Null beyond rows * cols of 4,000,000, or when the calculation
+    /// holds some 256 MB already.
     Array* newArray(int rows, int cols);
 
     /// The formula text of a cell without "=", nothing when it has none (ISFORMULA, FORMULATEXT).
@@ -127,6 +128,7 @@ class Calculation {
     bool m_unsettled = false;
 
     // The arena: chunks are kept from one calculation to the next.
+    bool hasRoom(size_t size) const;
     char* allocate(size_t size);
     void endCalculation() {
         if (m_used != 0 || m_chunk != 0) releaseArena();
