@@ -30,4 +30,13 @@ void complainText(std::string_view windows1252) {
     complain(shownMessage(windows1252));
 }
 
+void complainLines(const std::vector<std::string>& windows1252) {
+    std::string message;
+    for (const auto& line : windows1252) {
+        if (!message.empty()) message += "\n  ";
+        message += line;
+    }
+    complainText(message);
+}
+
 }  // namespace cli

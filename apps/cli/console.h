@@ -2,7 +2,9 @@
 // out as "vormant: file:line: message", in UTF-8, one call a line.
 #pragma once
 
+#include <string>
 #include <string_view>
+#include <vector>
 
 namespace cli {
 
@@ -19,5 +21,7 @@ void complainAt(std::string_view file, long long line, std::string_view message)
 
 /// A message that the module made, in Windows-1252: "file:line: what: what to do".
 void complainText(std::string_view windows1252);
+/// The same for the lines of a message box.
+void complainLines(const std::vector<std::string>& windows1252);
 
 }  // namespace cli

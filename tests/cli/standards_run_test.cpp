@@ -178,6 +178,20 @@ TEST(Run, WhatCannotBeRunFailsWithOneMessage) {
     }
 }
 
+TEST(Run, NamesDeclaredTwiceTakeTheirFirstPlaceAndAreTold) {
+    const Library library;
+    library.add("Twice", {"Input", "Double P", "Double P", "Double Q", "Output", "Double W",
+                          "Double W", "Double V", "Calc", "W=P*10+Q", "V=Q"});
+    const auto run = library.call({"run", "Twice", "--set", "P=1", "--set", "Q=2"});
+    EXPECT_EQ(run.exitCode, 0);
+    EXPECT_THAT(run.out, HasSubstr("  P  1\n  Q  2\nOutputs\n  W  12\n  V  2\n"));
+    EXPECT_THAT(run.err, HasSubstr("declared more than once: P, W"));
+    const auto batch = library.call({"batch", "Twice"}, "Q,P\n5,1\n6,2\n");
+    EXPECT_EQ(batch.out, "W,V,error\n15,5,\n26,6,\n");
+    EXPECT_EQ(batch.err.find("duplicate"), batch.err.rfind("There were duplicate") + 11)
+        << "told once, not for every line";
+}
+
 TEST(Run, GenValuesReplaceNamesInTheSheet) {
     const Library library;
     library.add("Gen", {"Input", "Double P", "Output", "Double W", "String S", "Calc",

@@ -9,8 +9,8 @@
 #include "mapping/mapping_file.h"
 #include "mapping/start_dlg_standards_ss.h"
 #include "platform/host/transaction.h"
-#include "standards/declarations.h"
 #include "standards/library.h"
+#include "standards/named_request.h"
 #include "standards/run_report.h"
 #include "standards/standards_commands.h"
 #include "standards/variables.h"
@@ -21,17 +21,13 @@ namespace {
 
 /// A run on values. wrongCall when the values are not those that the standard takes.
 ExitCode runOnValues(const RunRequest& request, const StandardName& standard, RunReport& report) {
-    Vor_String failure;
-    const auto declared = listDeclarations(standard.path, failure);
-    if (!declared) {
-        report.failure = failure;
-        return ExitCode::failed;
-    }
-    TwDlgStandardsData data = requestFor(standard.path, *declared);
-    if (!setInputs(data.varCells, request.values) || !setGenValues(data, request.genValues))
+    auto named = NamedRequest::open(standard.path, report.failure);
+    if (!named) return ExitCode::failed;
+    if (!setInputs(named->cells(), request.values) ||
+        !setGenValues(named->data(), request.genValues))
         return ExitCode::wrongCall;
     RunRecorder recorder(report);
-    StartDlgStandardsSS(data);
+    named->start();
     return ExitCode::done;
 }
 

@@ -90,13 +90,10 @@ std::string reportAsText(const RunReport& report, bool trace) {
 void complainAbout(const RunReport& report) {
     complainAboutEquations(report);
     for (const auto& lines : report.messages) {
-        if (lines.front().starts_with("The following equation failed")) continue;
-        std::string message;
-        for (const auto& line : lines) {
-            if (!message.empty()) message += "\n  ";
-            message += shownMessage(line);
-        }
-        complain(message);
+        // These two are told in fewer words: as equations, and as a warning.
+        const bool isToldElsewhere = lines.front().starts_with("The following equation failed") ||
+                                     lines.front().starts_with("There were duplicate variable");
+        if (!isToldElsewhere) complainLines(lines);
     }
     if (!report.failure.isEmpty()) complainText(report.failure);
 }

@@ -5,8 +5,6 @@
 #include "console.h"
 #include "io/texts.h"
 #include "io/typed_paths.h"
-#include "mapping/start_dlg_standards_ss.h"
-#include "standards/declarations.h"
 #include "standards/variables.h"
 
 namespace cli {
@@ -23,30 +21,30 @@ ToldOnce::ToldOnce()
     : m_listener([this](const MessageBox& box) {
           if (std::find(m_told.begin(), m_told.end(), box.text) == m_told.end()) {
               m_told.push_back(box.text);
-              complainText(box.text);
+              complainLines(box.lines());
           }
           return true;
       }) {}
 
 std::unique_ptr<ValueRun> ValueRun::open(const StandardName& standard) {
     Vor_String failure;
-    const auto declared = listDeclarations(standard.path, failure);
-    if (!declared) {
+    auto request = NamedRequest::open(standard.path, failure);
+    if (!request) {
         complainText(failure);
         return nullptr;
     }
-    return std::unique_ptr<ValueRun>(new ValueRun(requestFor(standard.path, *declared)));
+    return std::unique_ptr<ValueRun>(new ValueRun(std::move(*request)));
 }
 
 bool ValueRun::run(std::string& error) {
     m_watch.reset();
-    if (!StartDlgStandardsSS(m_data)) {
+    if (!m_request.start()) {
         error = shownMessage(lastRunFailure());
         return false;
     }
     error = m_watch.failure();
     if (!error.empty()) return false;
-    for (const auto& cell : m_data.varCells) {
+    for (const auto& cell : cells()) {
         if (!cell.isOutput() || cell.typedValue().number() || !isErrorText(cell.value())) continue;
         appendUtf8(error, cell.name());
         error += " is ";

@@ -7,9 +7,9 @@
 #include <string_view>
 #include <vector>
 
-#include "mapping/tw_dlg_standards_data.h"
 #include "platform/window/message_box.h"
 #include "standards/library.h"
+#include "standards/named_request.h"
 #include "standards/run_observer.h"
 
 namespace cli {
@@ -50,17 +50,17 @@ class ValueRun {
     static std::unique_ptr<ValueRun> open(const StandardName& standard);
 
     /// Inputs and outputs. Fill in the inputs, run, read the outputs.
-    TwVarCells& cells() { return m_data.varCells; }
-    TwDlgStandardsData& data() { return m_data; }
+    TwVarCells& cells() { return m_request.cells(); }
+    TwDlgStandardsData& data() { return m_request.data(); }
 
     /// False with the reason (UTF-8) when the run or an equation in it failed, or when an output
     /// came back as an error.
     bool run(std::string& error);
 
   private:
-    explicit ValueRun(TwDlgStandardsData data) : m_data(std::move(data)) {}
+    explicit ValueRun(NamedRequest request) : m_request(std::move(request)) {}
 
-    TwDlgStandardsData m_data;
+    NamedRequest m_request;
     FailureWatch m_watch;
     ToldOnce m_told;
 };

@@ -65,17 +65,6 @@ std::string describe(const TwVarCells& variables, TwCellType kind) {
     return text.empty() ? "nothing" : text;
 }
 
-TwDlgStandardsData requestFor(const Vor_String& path, const TwVarCells& declared) {
-    TwDlgStandardsData data;
-    data.mode = TwDlgStandardsData::Mode::variables;
-    data.standardsName = path;
-    for (const auto& variable : declared)
-        if (!variable.isLocal())
-            data.varCells.append(
-                TwVarCell(variable.name(), variable.cellType(), variable.valueType()));
-    return data;
-}
-
 std::string refusal(const TwVarCell& variable, std::string_view value) {
     if (!isNumeric(variable.valueType()) || value.empty() || isNumber(value)) return "";
     std::string name;

@@ -1,4 +1,4 @@
-// The variables of a standard as a caller sees them: given by name, handed to the run by position.
+// The variables of a standard as a caller names them and gives them values.
 #pragma once
 
 #include <optional>
@@ -12,9 +12,6 @@ namespace cli {
 
 /// "Column (String), Thickness (Double)", or "nothing".
 std::string describe(const TwVarCells& variables, TwCellType kind);
-
-/// The request of a run on values: the standard's inputs and outputs without values.
-TwDlgStandardsData requestFor(const Vor_String& path, const TwVarCells& declared);
 
 /// Why `value` cannot be the value of such a variable; empty when it can.
 std::string refusal(const TwVarCell& variable, std::string_view value);
