@@ -4,6 +4,9 @@
 #include <sys/stat.h>
 
 #include <algorithm>
+#include <cstdint>
+#include <ctime>
+#include <unordered_map>
 
 #include "platform/encodings.h"
 
@@ -32,18 +35,9 @@ std::string findFolded(const std::string& folder, std::string_view name) {
     return best;
 }
 
-}  // namespace
-
-std::string asWritten(std::string_view inside) {
-    std::string path = encodings::toUtf8(inside);
-    std::replace(path.begin(), path.end(), '\\', '/');
-    return path;
-}
-
-std::string toMachine(std::string_view inside) {
-    std::string path = asWritten(inside);
-    if (path.empty() || path.find('\0') != std::string::npos || existsExactly(path)) return path;
-
+/// The path with every component that does not exist as written replaced by one that does, case
+/// aside, up to the first that has no match.
+std::string resolveFolded(const std::string& path) {
     std::string resolved;
     for (size_t at = 0; at < path.size();) {
         if (path[at] == '/') {
@@ -62,6 +56,70 @@ std::string toMachine(std::string_view inside) {
         }
         at = end;
     }
+    return resolved;
+}
+
+/// What became of paths that do not exist as written. Standards that call others look in folder
+/// after folder, run after run, for files that are not there; as long as a folder has not changed,
+/// nothing in it needs to be looked for again.
+class Misses {
+  public:
+    /// The resolved path, or null when it has to be looked for.
+    const std::string* find(const std::string& path) const {
+        const auto known = m_known.find(path);
+        if (known == m_known.end()) return nullptr;
+        const auto changed = timeOf(folderOf(path));
+        return changed && *changed == known->second.folderTime ? &known->second.resolved : nullptr;
+    }
+    void add(const std::string& path, const std::string& resolved) {
+        const auto changed = timeOf(folderOf(path));
+        // A folder that has just changed may change again without its time telling.
+        if (!changed || now() - *changed < second) return;
+        if (m_known.size() >= mostKnown) m_known.clear();
+        m_known.insert_or_assign(path, Miss{*changed, resolved});
+    }
+
+  private:
+    static constexpr std::int64_t second = 1'000'000'000;
+    static constexpr size_t mostKnown = 256;
+
+    struct Miss {
+        std::int64_t folderTime;  // nanoseconds
+        std::string resolved;
+    };
+    static std::string folderOf(const std::string& path) {
+        const size_t slash = path.rfind('/');
+        return slash == path.npos ? "." : path.substr(0, slash + 1);
+    }
+    static std::optional<std::int64_t> timeOf(const std::string& folder) {
+        struct stat status {};
+        if (::stat(folder.c_str(), &status) != 0) return std::nullopt;
+        return status.st_mtim.tv_sec * second + status.st_mtim.tv_nsec;
+    }
+    static std::int64_t now() {
+        timespec time{};
+        ::clock_gettime(CLOCK_REALTIME, &time);
+        return time.tv_sec * second + time.tv_nsec;
+    }
+
+    std::unordered_map<std::string, Miss> m_known;
+};
+
+}  // namespace
+
+std::string asWritten(std::string_view inside) {
+    std::string path = encodings::toUtf8(inside);
+    std::replace(path.begin(), path.end(), '\\', '/');
+    return path;
+}
+
+std::string toMachine(std::string_view inside) {
+    std::string path = asWritten(inside);
+    if (path.empty() || path.find('\0') != std::string::npos || existsExactly(path)) return path;
+    static Misses misses;
+    if (const std::string* known = misses.find(path)) return *known;
+    std::string resolved = resolveFolded(path);
+    misses.add(path, resolved);
     return resolved;
 }
 

@@ -5,6 +5,7 @@
 #include <sys/stat.h>
 
 #include <cerrno>
+#include <chrono>
 
 #include "platform/paths.h"
 #include "support/failing_steps.h"
@@ -114,6 +115,28 @@ TEST(Paths, MatchIgnoresCaseOneComponentAtATime) {
     }
     EXPECT_EQ(paths::toInside("/lib/\xC3\x84.txt"), "\\lib\\\xC4.txt");
     EXPECT_FALSE(paths::toInside("/lib/\xE4\xB8\xAD.txt"));
+}
+
+TEST(Paths, AFileThatWasMissedIsFoundWhenItComes) {
+    const TemporaryFolder folder;
+    const auto age = [&] {
+        std::filesystem::last_write_time(
+            folder.path(), std::filesystem::file_time_type::clock::now() - std::chrono::hours(1));
+    };
+    const auto machine = [&](const char* name) {
+        return std::filesystem::path(paths::toMachine(folder.inside(name))).filename().string();
+    };
+    age();
+    EXPECT_EQ(machine("bolts.txt"), "bolts.txt");
+    EXPECT_EQ(machine("bolts.txt"), "bolts.txt");
+    folder.write("BOLTS.txt", "");
+    EXPECT_EQ(machine("bolts.txt"), "BOLTS.txt");
+    age();
+    EXPECT_EQ(machine("bolts.txt"), "BOLTS.txt");
+    std::filesystem::rename(folder.path() / "BOLTS.txt", folder.path() / "Bolts.txt");
+    EXPECT_EQ(machine("bolts.txt"), "Bolts.txt");
+    std::filesystem::remove(folder.path() / "Bolts.txt");
+    EXPECT_EQ(machine("bolts.txt"), "bolts.txt");
 }
 
 TEST(FindFiles, PatternsRecursionAndCircles) {
