@@ -3,6 +3,7 @@
 
 #include <CLI/CLI.hpp>
 #include <cstdio>
+#include <iostream>
 
 #include "sheets/sheet_commands.h"
 #include "standards/library.h"
@@ -174,7 +175,10 @@ ExitCode runCommandLine(int argc, const char* const* argv) {
     try {
         app.parse(argc, argv);
     } catch (const CLI::Success& help) {
-        return app.exit(help) == 0 ? ExitCode::done : ExitCode::failed;
+        app.exit(help);
+        if (std::cout.flush()) return ExitCode::done;
+        complain("the output cannot be written");
+        return ExitCode::failed;
     } catch (const CLI::ParseError& error) {
         return wrongCall(app, error);
     }

@@ -74,6 +74,13 @@ TEST(Calls, HelpAndVersionGoToTheStandardOutput) {
     }
 }
 
+TEST(Calls, AnOutputThatCannotBeWrittenFailsTheCall) {
+    for (const std::string call : {"--version", "sheet eval 1"}) {
+        const std::string command = VORMANT_PROGRAM " " + call + " >/dev/full 2>/dev/null";
+        EXPECT_EQ(WEXITSTATUS(std::system(command.c_str())), 1) << call;
+    }
+}
+
 TEST(Calls, ALibraryThatIsNoneFailsAndIsNamed) {
     const program::Folder folder;
     const auto file = folder.write("file", "");

@@ -24,6 +24,8 @@ class Output {
         written();
     }
     void flush();
+    /// False when something could not be written; there is no use in going on.
+    bool isOpen() const { return m_error == 0; }
 
     /// Writes what is left. False, with the reason told on the error stream, when anything could
     /// not be written.

@@ -18,12 +18,12 @@ struct Count {
     long long failed = 0;
 };
 
-// Every line gets its record, in order. False when reading came to an early end.
+// Every line gets its record, in order. False when reading or writing came to an early end.
 bool runLines(ValueRun& run, LineSource& source, BatchInput& input, BatchOutput& writer,
               Output& output, Count& count) {
     Progress progress(source);
     std::string error;
-    for (;; ++count.lines) {
+    for (; output.isOpen(); ++count.lines) {
         const BatchInput::Got got = input.next(run.cells(), error);
         if (got == BatchInput::Got::end) return true;
         if (got == BatchInput::Got::failed) {
@@ -40,6 +40,7 @@ bool runLines(ValueRun& run, LineSource& source, BatchInput& input, BatchOutput&
         output.written();
         progress.step();
     }
+    return false;
 }
 
 }  // namespace
