@@ -139,6 +139,15 @@ TEST(Batch, AFailedEquationOrErrorResultIsNoResult) {
     EXPECT_THAT(failing.out, StartsWith("{\"error\":\"line 1: row 6: W=P+: "));
 }
 
+TEST(Batch, AChildThatFailsIsNamed) {
+    const Library library;
+    library.add("Caller", {"Input", "Double P", "Output", "Double W", "Calc",
+                           "CallChild(\"Failing.tws\",P,W)"});
+    EXPECT_THAT(library.call({"batch", "Caller", "--jsonl"}, "{\"P\":2}\n").out,
+                StartsWith("{\"error\":\"line 1: " +
+                           (library / "Connection Standards/Failing.tws") + ": row 6: W=P+: "));
+}
+
 TEST(Batch, ResultsDoNotLeakFromOneLineToTheNext) {
     const Library library;
     library.add("Maybe", {"Input", "Double P", "Output", "Double W", "String S", "Local",

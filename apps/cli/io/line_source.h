@@ -45,7 +45,7 @@ class LineSource {
     /// The next line without its "\n" or "\r\n"; it lives until the next call.
     Got next(std::string_view& line);
     /// Makes `record` longer by the line after it, with the line end between them as it was read.
-    /// `end` and `tooLong` leave `record` and the place of reading as they were.
+    /// `end` and `tooLong` leave the place of reading as it was; `record` is then of no more use.
     Got extend(std::string_view& record);
     /// Goes back to the line after the first one of the record last read.
     void keepFirstLineOnly();

@@ -25,16 +25,19 @@ std::string installedLibrary() {
     return !error && std::filesystem::is_directory(folder, error) ? folder.string() : "";
 }
 
-std::string nameOf(const Vor_String& path) {
-    std::string name;
-    appendUtf8(name, path.view().substr(standardsFolder().str().size()));
-    name.resize(name.size() - extension.size());
-    std::replace(name.begin(), name.end(), '\\', '/');
-    return name;
+/// The name of a standard in the library, as it is written inside; nothing for other files.
+std::optional<Vor_String> nameInside(const Vor_String& path) {
+    const Vor_String folder = standardsFolder();
+    if (!path.beginsWith(folder) || !path.endsWith(extension)) return std::nullopt;
+    const int length = path.length() - folder.length() - static_cast<int>(extension.size());
+    return path.getSubStringAt(folder.length(), length);
 }
 
-std::string lastPart(const std::string& name) {
-    return name.substr(name.rfind('/') + 1);
+std::string shownName(const Vor_String& nameInside) {
+    std::string name;
+    appendUtf8(name, nameInside);
+    std::replace(name.begin(), name.end(), '\\', '/');
+    return name;
 }
 
 void tellWhatThereIs(const std::string& typed, const std::vector<StandardName>& standards,
@@ -54,10 +57,7 @@ void tellWhatThereIs(const std::string& typed, const std::vector<StandardName>& 
 }  // namespace
 
 Vor_String StandardName::mappingName() const {
-    const Vor_String folder = standardsFolder();
-    if (!path.beginsWith(folder)) return path;
-    const auto relative = path.view().substr(folder.str().size());
-    return relative.substr(0, relative.size() - extension.size());
+    return nameInside(path).value_or(path);
 }
 
 bool openLibrary(const std::string& folder) {
@@ -79,7 +79,7 @@ std::vector<StandardName> libraryStandards() {
     std::vector<StandardName> standards;
     if (gSettings.libDir().isEmpty()) return standards;
     for (const auto& path : ObjectExportFindFilesRecursive(standardsFolder(), "*.tws"))
-        standards.push_back({nameOf(path), path});
+        if (const auto name = nameInside(path)) standards.push_back({shownName(*name), path});
     return standards;
 }
 
@@ -87,18 +87,15 @@ std::optional<StandardName> findStandard(const std::string& typed) {
     const auto inside = insidePath(typed);
     if (!inside) return std::nullopt;
     if (files::exists(*inside)) {
-        const bool isInLibrary = inside->beginsWith(standardsFolder());
-        return StandardName{isInLibrary ? nameOf(*inside) : typed, *inside};
+        const auto name = nameInside(*inside);
+        return StandardName{name ? shownName(*name) : typed, *inside};
     }
-
     const auto standards = libraryStandards();
     std::vector<StandardName> matches;
-    std::string wanted = typed;
-    std::replace(wanted.begin(), wanted.end(), '\\', '/');
     for (const auto& standard : standards) {
-        const Vor_String name(standard.name);
-        if (name.equal(wanted)) return standard;
-        if (Vor_String(lastPart(standard.name)).equal(wanted)) matches.push_back(standard);
+        const Vor_String name = standard.mappingName();
+        if (name.equal(*inside)) return standard;
+        if (getFileName(name).equal(*inside)) matches.push_back(standard);
     }
     if (matches.size() == 1) return matches.front();
     tellWhatThereIs(typed, standards, matches);

@@ -11,7 +11,8 @@ namespace cli {
 
 void FailureWatch::equationDone(const EquationReport& equation) {
     if (equation.ok || !m_failure.empty()) return;
-    m_failure = "row " + std::to_string(equation.row) + ": ";
+    if (!m_children.empty()) m_failure = shownPath(m_children.back()) + ": ";
+    m_failure += "row " + std::to_string(equation.row) + ": ";
     appendUtf8(m_failure, equation.text);
     m_failure += ": ";
     m_failure += equation.message.empty() ? "failed" : shownMessage(equation.message);

@@ -23,15 +23,19 @@ class FailureWatch : public RunObserver {
     FailureWatch& operator=(const FailureWatch&) = delete;
 
     void reset() { m_failure.clear(); }
-    /// "row 9: Width=Gap+: why"; empty when all went well.
+    /// "row 9: Width=Gap+: why", with its file in front when it is a child's; empty when all went
+    /// well.
     const std::string& failure() const { return m_failure; }
 
   private:
     bool wantsEveryEquation() const override { return false; }
     void equationDone(const EquationReport& equation) override;
+    void childStarted(std::string_view path, int, int) override { m_children.push_back(path); }
+    void childEnded(bool) override { m_children.pop_back(); }
 
     RunObserver* m_before;
-    std::string m_failure;  // UTF-8
+    std::string m_failure;                     // UTF-8
+    std::vector<std::string_view> m_children;  // paths of those running, the innermost last
 };
 
 /// Message boxes of runs that are alike: each text is told once.
