@@ -33,12 +33,22 @@ struct Tally {
     }
 };
 
+constexpr const char* lacksCharacters = "a character that Windows-1252 lacks";
+
 struct Results {
     Tally all;
     std::map<std::string, Tally> families;
     std::map<std::string, Tally> functions;
     std::map<std::string, int> missingFunctions;
     std::map<std::string, int> leftOut;
+
+    /// With the cases whose characters we cannot hold counted as failures.
+    double strictRate() const {
+        const auto lacking = leftOut.find(lacksCharacters);
+        Tally strict = all;
+        if (lacking != leftOut.end()) strict.tried += lacking->second;
+        return strict.rate();
+    }
 };
 
 std::string familyOf(const std::string& name) {
@@ -85,7 +95,7 @@ std::string reasonToLeaveOut(const Case& test, Results& results) {
     if (missing) return "a function that is not there";
     for (const auto& tag : test.tags)
         if (unclaimedTags.contains(tag)) return "tag " + tag;
-    if (!test.unreadable.empty()) return "a character that Windows-1252 lacks";
+    if (!test.unreadable.empty()) return lacksCharacters;
     return "";
 }
 
@@ -130,6 +140,10 @@ void print(const Results& results) {
     std::printf("\nleft out:\n");
     for (const auto& [reason, count] : results.leftOut)
         std::printf("  %6d  %s\n", count, reason.c_str());
+    std::printf(
+        "of the cases whose functions are all there, %.1f per cent agree when characters "
+        "that we cannot hold count as failures\n",
+        results.strictRate());
     std::printf("functions that are not there, with the cases that call them:\n ");
     for (const auto& [name, count] : results.missingFunctions)
         std::printf(" %s:%d", name.c_str(), count);
@@ -143,7 +157,7 @@ TEST(Conformance, ResultsAgreeWithIndependentPrograms) {
     const Results results = runAll(cases);
     print(results);
     ASSERT_GT(results.all.tried, 0) << "no case was tried";
-    EXPECT_GE(results.all.rate(), leastRate);
+    EXPECT_GE(results.strictRate(), leastRate);
 }
 
 // The comparison itself must be able to fail.
