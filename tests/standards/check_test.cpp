@@ -26,7 +26,7 @@ struct Case {
     std::vector<const char*> expected;  ///< the beginning of each finding
 };
 
-void expectFindings(const TemporaryLibrary& library, const std::vector<Case>& cases) {
+void expectFindings(TemporaryLibrary& library, const std::vector<Case>& cases) {
     for (const Case& row : cases) {
         library.writeStandard("Sheet", row.document);
         const std::string found = findings(library, "Sheet");
@@ -40,7 +40,7 @@ void expectFindings(const TemporaryLibrary& library, const std::vector<Case>& ca
 }
 
 TEST(Check, ASoundStandardHasNoFindings) {
-    const TemporaryLibrary library;
+    TemporaryLibrary library;
     expectFindings(library,
                    {{standardOf({"Double A", "String S"}, {"Double B", "String T"}, {"Double L"},
                                 {"L=A*2", "B=IF(S=\"x\",L,gen_Gap)", "T=S&GETSYSNAME(S)"}),
@@ -48,7 +48,7 @@ TEST(Check, ASoundStandardHasNoFindings) {
 }
 
 TEST(Check, MarkersAndDeclarations) {
-    const TemporaryLibrary library;
+    TemporaryLibrary library;
     expectFindings(
         library,
         {
@@ -79,7 +79,7 @@ TEST(Check, MarkersAndDeclarations) {
 }
 
 TEST(Check, EquationsAndTheUseOfVariables) {
-    const TemporaryLibrary library;
+    TemporaryLibrary library;
     expectFindings(library,
                    {
                        {standardOf({"Double A"}, {"Double B"}, {},
@@ -104,7 +104,7 @@ TEST(Check, EquationsAndTheUseOfVariables) {
 }
 
 TEST(Check, ChildCalls) {
-    const TemporaryLibrary library;
+    TemporaryLibrary library;
     library.writeStandard("Base", standardOf({"Double X"}, {"Double Y"}, {}, {"Y=X"}));
     library.writeStandard(
         "Back", standardOf({"Double X"}, {"Double Y"}, {}, {"CallChild(Sheet.tws, X, Y)"}));

@@ -10,7 +10,7 @@
 namespace {
 
 /// "i Double Width A4" and so on; '!' when there are no variables to be had.
-std::string declared(const TemporaryLibrary& library,
+std::string declared(TemporaryLibrary& library,
                      const std::vector<std::vector<std::string>>& rows) {
     library.writeStandard("Sheet", documentOf(rows));
     TwStandardsSS sheet;
@@ -64,12 +64,12 @@ TEST(Layout, SectionsRunToTheNearestMarkerBelowWhateverTheirOrder) {
         {{{"Inputs"}, {"Output"}}, "!"},
         {{}, "!"},
     };
-    const TemporaryLibrary library;
+    TemporaryLibrary library;
     for (const Case& row : cases) EXPECT_EQ(declared(library, row.rows), row.expected);
 }
 
 TEST(Layout, ASheetThatClaimsAMillionRowsCostsWhatItHolds) {
-    const TemporaryLibrary library;
+    TemporaryLibrary library;
     library.writeStandard("Wide",
                           "vormant-sheet 1\nsize 16384 1048576\ncells\nA1 \"Input\nA2 \"Output\n"
                           "XFD1048000 \"Int Far\nA1048575 \"Calc\nXFD1048576 \"Far=1\nend 5\n");
@@ -81,7 +81,7 @@ TEST(Layout, ASheetThatClaimsAMillionRowsCostsWhatItHolds) {
 }
 
 TEST(Layout, FilesAreFoundByPathOrByNameAndFailuresSayWhy) {
-    const TemporaryLibrary library;
+    TemporaryLibrary library;
     const std::string path =
         library.writeStandard("Plates/End", standardOf({"Int A", "Int a"}, {"Int B"}, {}, {}));
     Vor_String failure;

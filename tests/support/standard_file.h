@@ -1,6 +1,7 @@
 // Standards for tests: documents written from the texts of their cells, in a library of their own.
 #pragma once
 
+#include <chrono>
 #include <filesystem>
 #include <initializer_list>
 #include <string>
@@ -51,9 +52,13 @@ class TemporaryLibrary : public TemporaryFolder {
     TemporaryLibrary() : m_before(gSettings) { gSettings.setLibDir(inside()); }
     ~TemporaryLibrary() { gSettings = m_before; }
 
-    /// Writes a standard; `name` with slashes, without extension. Its inside path.
-    std::string writeStandard(const std::string& name, const std::string& document) const {
-        return write("Connection Standards/" + name + ".tws", document);
+    /// Writes a standard; `name` with slashes, without extension. Its inside path. The file is
+    /// made older than it is, as files just written are not kept in memory, and each differently.
+    std::string writeStandard(const std::string& name, const std::string& document) {
+        const std::string file = "Connection Standards/" + name + ".tws";
+        const std::string inside = write(file, document);
+        std::filesystem::last_write_time(path() / file, m_longAgo += std::chrono::seconds(1));
+        return inside;
     }
     std::string writeData(const std::string& name, std::string_view content) const {
         return write("Connection Standards/Data/" + name, content);
@@ -61,4 +66,6 @@ class TemporaryLibrary : public TemporaryFolder {
 
   private:
     Vor_Settings m_before;
+    std::filesystem::file_time_type m_longAgo =
+        std::filesystem::file_time_type::clock::now() - std::chrono::hours(10);
 };
