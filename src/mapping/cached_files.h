@@ -13,20 +13,22 @@
 template <class Content>
 class CachedFiles {
   public:
-    /// What `read(path)` (a std::optional<Content>) gave for the file as it is now. Null when there
-    /// is no such file or reading gives nothing; a failure is not kept.
+    /// What `readFile(path)` (a std::optional<Content>) gave for the file as it is now. Null when
+    /// there is no such file or reading gives nothing; a failure is not kept.
     template <class Read>
-    std::shared_ptr<const Content> get(std::string_view path, Read&& read) {
+    std::shared_ptr<const Content> get(std::string_view path, Read&& readFile) {
         const auto stamp = files::stampOf(path);
         if (!stamp) return nullptr;
         const auto known = m_entries.find(path);
         if (known != m_entries.end() && known->second.stamp == *stamp) return known->second.content;
-        auto content = read(path);
-        if (!content) return nullptr;
-        auto kept = std::make_shared<const Content>(std::move(*content));
+        const bool isSettled = files::isSettled(*stamp);
+        auto read = readFile(path);
+        if (!read) return nullptr;
+        auto content = std::make_shared<const Content>(std::move(*read));
+        if (!isSettled || files::stampOf(path) != stamp) return content;
         if (known == m_entries.end() && m_entries.size() >= mostFiles) m_entries.clear();
-        m_entries.insert_or_assign(std::string(path), Entry{*stamp, kept});
-        return kept;
+        m_entries.insert_or_assign(std::string(path), Entry{*stamp, content});
+        return content;
     }
 
   private:

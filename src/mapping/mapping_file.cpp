@@ -3,6 +3,7 @@
 #include "core_api/files.h"
 #include "core_api/settings.h"
 #include "core_api/text/text_helpers.h"
+#include "mapping/cached_files.h"
 
 namespace {
 
@@ -15,6 +16,14 @@ struct Item {
     Vor_String mapping;
 };
 
+std::optional<Vor_StringArray> readLines(std::string_view path) {
+    Vor_StringArray lines;
+    if (ObjectExportReadFile(path, lines) != Acad::eOk) return std::nullopt;
+    if (!lines.isEmpty() && lines[0].hasSubString("Mapping") && lines[0].hasSubString("version"))
+        lines.removeAt(0);
+    return lines;
+}
+
 }  // namespace
 
 Vor_String standardsFolder() {
@@ -25,13 +34,9 @@ Vor_String mappingFilePath(const Vor_String& standardsName) {
     return changeExtension(standardsFolder() + standardsName + ".tws", "map");
 }
 
-std::optional<Vor_StringArray> readMappingLines(const Vor_String& standardsName) {
-    Vor_StringArray lines;
-    if (ObjectExportReadFile(mappingFilePath(standardsName), lines) != Acad::eOk)
-        return std::nullopt;
-    if (!lines.isEmpty() && lines[0].hasSubString("Mapping") && lines[0].hasSubString("version"))
-        lines.removeAt(0);
-    return lines;
+std::shared_ptr<const Vor_StringArray> readMappingLines(const Vor_String& standardsName) {
+    static CachedFiles<Vor_StringArray> files;
+    return files.get(mappingFilePath(standardsName), readLines);
 }
 
 bool writeMappingLines(const Vor_String& standardsName, Vor_StringArray lines) {

@@ -7,6 +7,7 @@
 // The separators in brackets are single Windows-1252 bytes.
 #pragma once
 
+#include <memory>
 #include <optional>
 
 #include "core_api/text/vor_string_array.h"
@@ -18,8 +19,8 @@ Vor_String standardsFolder();
 /// A standard's mapping file; `standardsName` has no extension.
 Vor_String mappingFilePath(const Vor_String& standardsName);
 
-/// Its lines without the header. Nothing when the file cannot be read.
-std::optional<Vor_StringArray> readMappingLines(const Vor_String& standardsName);
+/// Its lines without the header, kept until the file changes. Null when it cannot be read.
+std::shared_ptr<const Vor_StringArray> readMappingLines(const Vor_String& standardsName);
 bool writeMappingLines(const Vor_String& standardsName, Vor_StringArray lines);
 
 /// Index of the first line stored under exactly this key, or -1. A line without "=" has the empty

@@ -147,23 +147,22 @@ ErrorStatus TwSSMapping::getMappingFromFile(const Vor_String& standardsName,
 
 ErrorStatus TwSSMapping::setMappingToFile(const Vor_String& standardsName,
                                           const Vor_String& key) const {
-    auto lines = readMappingLines(standardsName);
-    if (!lines) {
-        if (ObjectExportFileExists(mappingFilePath(standardsName))) return Acad::eInvalidInput;
-        lines.emplace();
-    }
+    const auto stored = readMappingLines(standardsName);
+    if (!stored && ObjectExportFileExists(mappingFilePath(standardsName)))
+        return Acad::eInvalidInput;
+    Vor_StringArray lines = stored ? *stored : Vor_StringArray();
     const Vor_String line = makeMappingLine(key, m_objects);
-    const int index = findMappingLine(*lines, key);
+    const int index = findMappingLine(lines, key);
     if (index >= 0) {
-        TwSSMapping stored;
-        TwSSMapping written;
-        if (stored.initMappingFromLine((*lines)[index]) == Acad::eOk &&
-            written.initMappingFromLine(line) == Acad::eOk && areEqual(stored, written))
+        TwSSMapping before;
+        TwSSMapping after;
+        if (before.initMappingFromLine(lines[index]) == Acad::eOk &&
+            after.initMappingFromLine(line) == Acad::eOk && areEqual(before, after))
             return Acad::eOk;
-        lines->removeAt(index);
+        lines.removeAt(index);
     }
-    lines->append(line);
-    return writeMappingLines(standardsName, std::move(*lines)) ? Acad::eOk : Acad::eInvalidInput;
+    lines.append(line);
+    return writeMappingLines(standardsName, std::move(lines)) ? Acad::eOk : Acad::eInvalidInput;
 }
 
 ErrorStatus TwSSMapping::initMappingFromLine(const Vor_String& line) {

@@ -5,6 +5,7 @@
 #include <unistd.h>
 
 #include <cerrno>
+#include <ctime>
 
 #include "platform/file_error.h"
 #include "platform/paths.h"
@@ -60,6 +61,13 @@ std::string tooLarge(std::string_view path, std::size_t sizeLimit) {
 }
 
 }  // namespace
+
+bool isSettled(const Stamp& stamp) {
+    constexpr std::int64_t longestStep = 50'000'000;  // nanoseconds
+    timespec now{};
+    ::clock_gettime(CLOCK_REALTIME, &now);
+    return now.tv_sec * INT64_C(1'000'000'000) + now.tv_nsec - stamp.time > longestStep;
+}
 
 std::optional<Stamp> stampOf(std::string_view path) {
     const auto status = statusOf(path);

@@ -23,6 +23,9 @@ struct Stamp {
     bool operator==(const Stamp&) const = default;
 };
 
+/// False while the last change is so recent that another one may not show in the stamp, as clocks
+/// of file systems move in steps: what was made from such a file must not be kept.
+VORMANT_API bool isSettled(const Stamp& stamp);
 /// Nothing when there is no such file (a folder is none).
 VORMANT_API std::optional<Stamp> stampOf(std::string_view path);
 VORMANT_API bool exists(std::string_view path);

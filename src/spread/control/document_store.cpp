@@ -2,7 +2,6 @@
 // same document a thousand times a second; the store answers after one look at the file's size and
 // time.
 #include <algorithm>
-#include <chrono>
 #include <functional>
 #include <map>
 
@@ -16,13 +15,6 @@ namespace {
 // Larger documents are read anew each time; so many bytes of file are kept at most.
 constexpr int64_t mostBytesOfOne = 4 << 20;
 constexpr int64_t mostBytesOfAll = 64 << 20;
-// File times move in steps: a change this soon after the last one may not show.
-constexpr int64_t clockStep = 50'000'000;
-
-int64_t now() {
-    const auto time = std::chrono::system_clock::now().time_since_epoch();
-    return std::chrono::duration_cast<std::chrono::nanoseconds>(time).count();
-}
 
 class DocumentStore {
   public:
@@ -81,9 +73,8 @@ std::shared_ptr<const Document> loadStamped(std::string_view path,
     error.clear();
     if (stamp)
         if (auto known = store().find(path, *stamp)) return known;
-    const int64_t started = now();
+    const bool isSettled = stamp && files::isSettled(*stamp);
     std::shared_ptr<const Document> document = readFile(path, error);
-    const bool isSettled = stamp && started - stamp->time > clockStep;
     if (document && isSettled && stamp->size <= mostBytesOfOne && files::stampOf(path) == stamp)
         store().keep(path, *stamp, document);
     return document;
