@@ -213,6 +213,26 @@ TEST_F(MappedMacro, AFlexibleDistanceIsFixedWhenItIsWritten) {
     EXPECT_TRUE(fixed && !varies);
 }
 
+TEST_F(MappedMacro, ADistanceThatIsFixedInOneModuleOnlyIsFixedInAll) {
+    Vor_Macro pair;
+    for (const auto& [name, flex] :
+         {std::pair("P1", Vor_FlexState::fixed), std::pair("P2", Vor_FlexState::flexible)}) {
+        auto plate = std::make_unique<Vor_PlainModule>(name, Vor_ModuleType::plate);
+        plate->setGroupName("Pair");
+        plate->addVariable({"D", 1, true, true, flex});
+        pair.addModule(std::move(plate));
+    }
+    macro = Vor_DbMacro(std::move(pair));
+    data = makeMacroData(macro);
+    ASSERT_TRUE(write({"Pair", TwMapType::distance, "D"}, "55"));
+    ASSERT_EQ(data.setAllToMacro(&macro), Acad::eOk);
+    for (const char* name : {"P1", "P2"}) {
+        const ConstraintVariable* variable = macro.macroRead()->findModule(name)->findVariable("D");
+        EXPECT_EQ(variable->flex, Vor_FlexState::fixed) << name;
+        EXPECT_EQ(variable->value, 55) << name;
+    }
+}
+
 TEST_F(MappedMacro, NamesOfModuleGroupsSayWhatTheyMean) {
     using enum TwValueType;
     struct Case {

@@ -193,6 +193,18 @@ TEST_F(Evaluation, LaterEquationsSeeEarlierOnesRowByRowAndTheLastAssignmentWins)
     EXPECT_EQ(sheet.assignedIn(last), (control::CellAddress{3, 8}));
 }
 
+TEST_F(Evaluation, DeclarationsAreReadFromTheSheetAsItIs) {
+    const std::string document = standardOf({"Double A"}, {"Double B"}, {}, {"B=Q", "B=A"});
+    for (const char* declaration : {"Double A", "Double Q", "Double A"}) {
+        load(document);
+        ASSERT_EQ(sheet.loadFile("Sheet"), Acad::eOk);
+        EXPECT_EQ(sheet.calcCells(), Acad::eInvalidInput);  // without variables
+        sheet.setData(1, 2, declaration);
+        ASSERT_EQ(sheet.initVarCells(), Acad::eOk);
+        EXPECT_EQ(sheet.varCells()[0].name(), Vor_String(declaration + 7));
+    }
+}
+
 TEST_F(Evaluation, MissingCalcFails) {
     load(documentOf({{"Input"}, {"Output"}, {"Double B"}, {"B=1"}}));
     EXPECT_EQ(sheet.calcCells(), Acad::eInvalidInput);
@@ -251,11 +263,20 @@ TEST_F(Evaluation, AValueThatReadsCalcIsFoundAsTheMarker) {
     EXPECT_EQ(value("B"), "2");
 }
 
+/// The variables and what their cells show after a run.
+std::string dumpVariables(const TwStandardsSS& sheet) {
+    std::string text;
+    for (const TwVarCell& cell : sheet.varCells()) {
+        Vor_String shown;
+        sheet.getCellText(cell.column(), cell.row(), shown, Vor_Spread::Reading::data);
+        text += cell.name().str() + "=" + cell.value().str() + " " + shown.str() + "\n";
+    }
+    return text;
+}
+
 /// Everything a sheet shows after a run.
 std::string dump(const TwStandardsSS& sheet) {
-    std::string text;
-    for (const TwVarCell& cell : sheet.varCells())
-        text += cell.name().str() + "=" + cell.value().str() + "\n";
+    std::string text = dumpVariables(sheet);
     for (int row = 1; row <= sheet.nrRows(); ++row) {
         for (int column = 1; column <= sheet.nrCols(); ++column) {
             for (const auto kind : {Vor_Spread::Reading::value, Vor_Spread::Reading::data,
@@ -279,14 +300,34 @@ TEST_F(Evaluation, PreparedEquationsGiveTheSameAsTheTextsOfTheMoment) {
     };
     const std::string types[] = {"Int ", "Double ", "String "};
     const std::string names[] = {"A", "Gap", "x.y", "B3", "gen_X", "Len", "Calc", "T T"};
-    const std::string parts[] = {
-        "1.5",   "2",   "\"t\"",        "LEN(\"abc\")",   "A",   "Gap",           "x.y", "B3",
-        "gen_X", "T T", "ROUND(Gap,1)", "IF(A>2,Gap,B3)", "1/0", "ROUNDTO(Gap,5)"};
+    const std::string parts[] = {"1.5",
+                                 "2",
+                                 "\"t\"",
+                                 "LEN(\"abc\")",
+                                 "A",
+                                 "Gap",
+                                 "x.y",
+                                 "B3",
+                                 "gen_X",
+                                 "T T",
+                                 "ROUND(Gap,1)",
+                                 "IF(A>2,Gap,B3)",
+                                 "1/0",
+                                 "ROUNDTO(Gap,5)",
+                                 "A15",
+                                 "SUM(A1:B30)",
+                                 "OFFSET(A1,14,0)",
+                                 "1E99",
+                                 "RAND()*0"};
     const std::string operators[] = {"+", "*", "&", "-", ">", "/"};
     const Vor_String values[] = {"", "3", "2.75", "12", "Calc", "gen_X", "A=1"};
     for (int round = 0; round < 300; ++round) {
         std::vector<std::vector<std::string>> rows;
         std::vector<std::string> markers{"Input", "Output", "Local", "Calc"};
+        // Half of the sheets never look at equation cells.
+        const auto part = [&] {
+            return parts[random() % (round % 2 == 0 ? 14 : std::size(parts))];
+        };
         if (round % 3 == 0) std::shuffle(markers.begin(), markers.end(), random);
         for (const std::string& marker : markers) {
             rows.push_back({marker});
@@ -296,27 +337,38 @@ TEST_F(Evaluation, PreparedEquationsGiveTheSameAsTheTextsOfTheMoment) {
                     continue;
                 }
                 for (int j = 0; j < 2; ++j)
-                    rows.push_back({pick(names) + "=" + pick(parts) + pick(operators) + pick(parts),
+                    rows.push_back({pick(names) + "=" + part() + pick(operators) + part(),
                                     random() % 4 == 0 ? "no equation" : ""});
             }
         }
         library.writeStandard("Sheet", documentOf(rows));
         Vor_StringArray given;
         for (int i = 0; i < 12; ++i) given.append(pick(values));
-        std::string dumps[4];
-        for (int way = 0; way < 4; ++way) {
-            // Ways 0 and 1 prepare and remember; 2 starts from a touched sheet; 3 goes cell by
-            // cell.
-            if (sheet.loadFile("Sheet") != Acad::eOk) FAIL() << lastRunFailure().str();
-            if (way == 2) {
+        const auto start = [&](const char* genValue, bool isTouched) {
+            ASSERT_EQ(sheet.loadFile("Sheet"), Acad::eOk) << lastRunFailure().str();
+            if (isTouched) {
                 sheet.setData(2, 1, "touched");
                 sheet.setData(2, 1, "");
             }
             ASSERT_EQ(sheet.initVarCells(), Acad::eOk);
             for (int i = 0; i < sheet.varCells().length(); ++i)
                 (void)sheet.varCells()[i].setNewValue(sheet, given[i]);
-            sheet.setGenVars({"gen_X"}, {"7"});
-            if (round % 2 == 0) sheet.replaceGenVars();
+            sheet.setGenVars({"gen_X"}, {genValue});
+            if (round % 4 == 0 && *genValue) sheet.replaceGenVars();
+        };
+        // Runs with other values before must not matter.
+        for (const char* genValue : {"", "3"}) {
+            start(genValue, false);
+            sheet.setFillsEquationCells(*genValue);
+            ASSERT_EQ(sheet.calcCells(), Acad::eOk);
+        }
+        std::string dumps[4];
+        std::string variables;
+        for (int way = 0; way < 5; ++way) {
+            // Ways 0 and 1 prepare and remember; 2 starts from a touched sheet; 3 goes cell by
+            // cell.
+            start("7", way == 2);
+            sheet.setFillsEquationCells(way != 4);
             if (way == 3) {
                 sheet.dropDuplicates();
                 int column = 0;
@@ -328,6 +380,9 @@ TEST_F(Evaluation, PreparedEquationsGiveTheSameAsTheTextsOfTheMoment) {
             } else {
                 ASSERT_EQ(sheet.calcCells(), Acad::eOk);
             }
+            if (way == 0) variables = dumpVariables(sheet);
+            EXPECT_EQ(dumpVariables(sheet), variables) << "way " << way << "\n" << documentOf(rows);
+            if (way == 4) break;
             dumps[way] = dump(sheet);
             EXPECT_EQ(dumps[way], dumps[0]) << "way " << way << "\n" << documentOf(rows);
         }

@@ -10,8 +10,7 @@
 namespace {
 
 /// "i Double Width A4" and so on; '!' when there are no variables to be had.
-std::string declared(TemporaryLibrary& library,
-                     const std::vector<std::vector<std::string>>& rows) {
+std::string declared(TemporaryLibrary& library, const std::vector<std::vector<std::string>>& rows) {
     library.writeStandard("Sheet", documentOf(rows));
     TwStandardsSS sheet;
     sheet.attachHidden();
