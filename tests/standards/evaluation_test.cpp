@@ -316,7 +316,7 @@ TEST_F(Evaluation, PreparedEquationsGiveTheSameAsTheTextsOfTheMoment) {
                                  "ROUNDTO(Gap,5)",
                                  "A15",
                                  "SUM(A1:B30)",
-                                 "OFFSET(A1,14,0)",
+                                 "INDIRECT(\"A15\")",
                                  "1E99",
                                  "RAND()*0"};
     const std::string operators[] = {"+", "*", "&", "-", ">", "/"};
