@@ -193,6 +193,26 @@ TEST_F(Evaluation, LaterEquationsSeeEarlierOnesRowByRowAndTheLastAssignmentWins)
     EXPECT_EQ(sheet.assignedIn(last), (control::CellAddress{3, 8}));
 }
 
+TEST_F(Evaluation, EquationsMayLookAtTheCellsOfOthersEvenWhenNobodyElseDoes) {
+    const std::pair<const char*, const char*> cases[] = {
+        {"A7", "2"},
+        {"MAX(A7)", "2"},
+        {"SUM(A7:A7)", "2"},
+        {"INDIRECT(\"A\"&7)", "2"},
+        {"OFFSET(A1,6,0)", "2"},
+        {"INDEX(A7,1)", "2"},
+        {"SUM(A:A)", "#CIRC!"},
+    };
+    for (const bool fills : {true, false}) {
+        for (const auto& [look, expected] : cases) {
+            load(standardOf({}, {"Double B", "Double C"}, {}, {"B=2", "C=" + std::string(look)}));
+            sheet.setFillsEquationCells(fills);
+            ASSERT_EQ(sheet.calcCells(), Acad::eOk);
+            EXPECT_EQ(value("C"), expected) << look;
+        }
+    }
+}
+
 TEST_F(Evaluation, DeclarationsAreReadFromTheSheetAsItIs) {
     const std::string document = standardOf({"Double A"}, {"Double B"}, {}, {"B=Q", "B=A"});
     for (const char* declaration : {"Double A", "Double Q", "Double A"}) {
