@@ -83,11 +83,12 @@ ErrorStatus TwStandardsSS::runChild(const Vor_String& text, const Vor_String& fu
     const bool done = StartDlgStandardsSS(child);
     if (observer) observer->childEnded(done);
     if (!done) return fail(reason, "the child failed: " + lastRunFailure());
-    return takeResults(child.varCells, reason);
+    return takeResults(child.varCells, caller, reason);
 }
 
 /// What the parent declares as output takes the child's result.
-ErrorStatus TwStandardsSS::takeResults(const TwVarCells& results, Vor_String& reason) {
+ErrorStatus TwStandardsSS::takeResults(const TwVarCells& results, control::CellAddress caller,
+                                       Vor_String& reason) {
     for (const TwVarCell& result : results) {
         int index = 0;
         if (!result.isOutput() || m_varCells.findVarCell(result.name(), index) != Acad::eOk)
@@ -96,6 +97,8 @@ ErrorStatus TwStandardsSS::takeResults(const TwVarCells& results, Vor_String& re
         if (variable.isInput())
             return fail(reason, "the child gives a value for \"" + variable.name() +
                                     "\", which is an input: declare it as an output");
+        if (static_cast<size_t>(index) < m_assignedIn.size())
+            m_assignedIn[static_cast<size_t>(index)] = caller;
         if (variable.setValueFromOther(*this, result) != Acad::eOk)
             return fail(reason, "\"" + variable.name() + "\" takes no value \"" + result.value() +
                                     "\" from the child");

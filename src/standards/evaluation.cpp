@@ -65,6 +65,7 @@ ErrorStatus TwStandardsSS::assign(Turn& turn) {
     }
     TwVarCell& target = m_varCells[equation.target];
     const auto [column, row] = equation.cell;
+    const Vor_FunctionTimer timer(gCalcCellCalcFunctions);
     const auto result = m_fillsNow ? std::nullopt : grid().evaluate(*equation.program, column, row);
     if (result) {
         target.typedValue().take(equationCellType(equation.givesText), *result);
@@ -74,7 +75,6 @@ ErrorStatus TwStandardsSS::assign(Turn& turn) {
         target.typedValue().readFrom(grid(), column, row);
     }
     m_assignedIn[static_cast<size_t>(equation.target)] = equation.cell;
-    const Vor_FunctionTimer timer(gCalcCellCalcFunctions);
     if (writeTarget(equation.target) == Acad::eOk) return Acad::eOk;
     turn.reason = "\"" + target.name() + "\" takes no value \"" + target.value() +
                   "\": an Int or Double takes numbers up to 99999999999999, and nothing";

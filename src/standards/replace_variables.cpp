@@ -31,6 +31,19 @@ bool replaceName(Vor_String& text, const Vor_String& name, const Vor_String& val
     return replaced;
 }
 
+/// The words of a text as a small set: one bit each, which several may share. A name can only be
+/// where all of its words are: nothing of it touches another word.
+std::uint64_t wordSet(std::string_view text) {
+    std::uint64_t set = 0;
+    eachWord(
+        text,
+        [&](std::string_view word) {
+            set |= std::uint64_t{1} << (encodings::hashFolded(word) & 63U);
+        },
+        [](std::string_view) {});
+    return set;
+}
+
 }  // namespace
 
 bool replaceVariables(Vor_String& text, const Vor_StringArray& names, const Vor_StringArray& values,
@@ -56,12 +69,8 @@ VariableReferences::VariableReferences(Vor_StringArray names, Vor_StringArray re
 }
 
 std::string_view VariableReferences::translate(std::string_view text, std::string& buffer) const {
+    if (!m_onePass) return replaceOneByOne(text, buffer);
     buffer.clear();
-    if (!m_onePass) {
-        Vor_String translated(text);
-        replaceVariables(translated, m_names, m_references, false);
-        return buffer.assign(translated.view());
-    }
     const char* copied = text.data();
     eachWord(
         text,
@@ -77,7 +86,19 @@ std::string_view VariableReferences::translate(std::string_view text, std::strin
     return buffer.append(copied, text.data() + text.size());
 }
 
+std::string_view VariableReferences::replaceOneByOne(std::string_view text,
+                                                     std::string& buffer) const {
+    Vor_String translated(text);
+    std::uint64_t words = wordSet(text);
+    for (int i = 0; i < m_names.length(); ++i)
+        if ((m_words[static_cast<size_t>(i)] & ~words) == 0 &&
+            replaceName(translated, m_names[i], m_references[i]))
+            words = wordSet(translated);
+    return buffer.assign(translated.view());
+}
+
 void VariableReferences::noteShape(const Vor_String& name) {
+    m_words.push_back(wordSet(name));
     if (name.isEmpty()) return;
     m_firsts.set(static_cast<unsigned char>(encodings::toLower(name[0])));
     m_firsts.set(static_cast<unsigned char>(encodings::toUpper(name[0])));

@@ -3,8 +3,10 @@
 #pragma once
 
 #include <bitset>
+#include <cstdint>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "core_api/text/text_index.h"
 #include "core_api/text/vor_string_array.h"
@@ -17,9 +19,9 @@ bool replaceVariables(Vor_String& text, const Vor_StringArray& names, const Vor_
                       bool quoteTexts);
 
 /// The declared names of a sheet with their cell references, made once and asked for every
-/// equation. Gives exactly what replaceVariables gives, in one pass over the text, as long as all
-/// names are plain words of less than 256 letters and no two are equal; otherwise replaceVariables
-/// does the work.
+/// equation. Gives exactly what replaceVariables gives: in one pass over the text as long as all
+/// names are plain words of less than 256 letters and no two are equal; otherwise name by name,
+/// passing over those that cannot be in the text.
 class VariableReferences {
   public:
     VariableReferences() = default;
@@ -38,6 +40,7 @@ class VariableReferences {
 
   private:
     void noteShape(const Vor_String& name);
+    std::string_view replaceOneByOne(std::string_view text, std::string& buffer) const;
     bool mayBeName(std::string_view word) const {
         return m_firsts[static_cast<unsigned char>(word[0])] && word.size() < m_lengths.size() &&
                m_lengths[word.size()];
@@ -53,4 +56,5 @@ class VariableReferences {
     // every name needs no look into the index.
     std::bitset<256> m_firsts;
     std::bitset<256> m_lengths;
+    std::vector<std::uint64_t> m_words;  // of each name, as wordSet gives them
 };

@@ -59,8 +59,8 @@ class TwStandardsSS : public Vor_Spread {
     /// Takes second and later declarations of a name out of the variables, with a message.
     void dropDuplicates();
 
-    /// The cell of the equation that gave variable `index` its value in the last calculation; row
-    /// 0 when none did.
+    /// The cell of the equation or child call that gave variable `index` its value in the last
+    /// calculation; row 0 when none did.
     control::CellAddress assignedIn(int index) const;
 
   private:
@@ -74,7 +74,8 @@ class TwStandardsSS : public Vor_Spread {
     void setEquationType(const PreparedEquation& equation);
     ErrorStatus runChild(const Vor_String& text, const Vor_String& functionName,
                          control::CellAddress caller, Vor_String& reason);
-    ErrorStatus takeResults(const TwVarCells& results, Vor_String& reason);
+    ErrorStatus takeResults(const TwVarCells& results, control::CellAddress caller,
+                            Vor_String& reason);
 
     Vor_String m_filePath;
     TwVarCells m_varCells;
