@@ -25,6 +25,7 @@ CellStore& CellStore::operator=(const CellStore& other) {
         for (size_t b = 0; b < m_columns[c].size(); ++b)
             if (other.m_columns[c][b]) m_columns[c][b] = copyOf(*other.m_columns[c][b]);
     }
+    refreshViews();
     return *this;
 }
 
@@ -33,6 +34,8 @@ CellStore& CellStore::operator=(CellStore&& other) noexcept {
         clear();
         m_columns = std::move(other.m_columns);
         other.m_columns.clear();
+        refreshViews();
+        other.refreshViews();
     }
     return *this;
 }
@@ -53,6 +56,7 @@ void CellStore::clear() {
         for (auto& block : column)
             if (block) destroy(*block);
     m_columns.clear();
+    refreshViews();
 }
 
 void CellStore::setOtherValue(Cell& cell, const Value& value) {
@@ -86,12 +90,25 @@ void CellStore::setOtherValue(Cell& cell, const Value& value) {
 
 CellStore::Block& CellStore::obtainBlock(int col, int row) {
     const auto c = static_cast<size_t>(col);
+    const auto b = static_cast<size_t>(row - 1) >> blockShift;
     if (c >= m_columns.size()) m_columns.resize(c + 1);
     Column& column = m_columns[c];
-    const auto b = static_cast<size_t>(row - 1) >> blockShift;
     if (b >= column.size()) column.resize(b + 1);
+    if (m_viewCount != m_columns.size() || m_views[c].rows != column.size() << blockShift ||
+        m_views[c].blocks != column.data())
+        refreshViews();
     if (!column[b]) column[b] = std::make_unique<Block>();
     return *column[b];
+}
+
+void CellStore::refreshViews() {
+    if (m_viewCount != m_columns.size()) {
+        m_viewCount = static_cast<uint32_t>(m_columns.size());
+        m_views = std::make_unique<View[]>(m_viewCount);
+    }
+    for (size_t c = 0; c < m_columns.size(); ++c)
+        m_views[c] = {m_columns[c].data(),
+                      static_cast<uint32_t>(m_columns[c].size() << blockShift)};
 }
 
 int CellStore::lastCol() const {
@@ -184,6 +201,7 @@ void CellStore::insertCols(int at, int count) {
         }
     }
     m_columns = std::move(moved);
+    refreshViews();
 }
 
 void CellStore::deleteCols(int at, int count) {
@@ -196,6 +214,7 @@ void CellStore::deleteCols(int at, int count) {
     const auto to =
         m_columns.begin() + std::min<long>(at + count, static_cast<long>(m_columns.size()));
     m_columns.erase(from, to);
+    refreshViews();
 }
 
 }  // namespace control

@@ -84,22 +84,26 @@ class CellStore {
     CellStore() = default;
     CellStore(const CellStore& other);
     CellStore& operator=(const CellStore& other);
-    CellStore(CellStore&&) noexcept = default;
+    CellStore(CellStore&& other) noexcept { *this = std::move(other); }
     CellStore& operator=(CellStore&& other) noexcept;
     ~CellStore() { clear(); }
 
-    /// The cell, or null when nothing was ever stored near it. Any col and row from 1 up.
+    /// The cell, or null when nothing was ever stored near it. Any col and row.
     const Cell* find(int col, int row) const {
-        const auto c = static_cast<size_t>(col);
-        if (c >= m_columns.size()) return nullptr;
-        const auto& blocks = m_columns[c];
-        const auto b = static_cast<size_t>(row - 1) >> blockShift;
-        if (b >= blocks.size() || !blocks[b]) return nullptr;
-        return &blocks[b]->cells[static_cast<size_t>(row - 1) & (blockRows - 1)];
+        const auto c = static_cast<uint32_t>(col);
+        if (c >= m_viewCount) return nullptr;
+        const View& view = m_views[c];
+        const auto r = static_cast<uint32_t>(row - 1);
+        if (r >= view.rows) return nullptr;
+        const Block* block = view.blocks[r >> blockShift].get();
+        return block ? &block->cells[r & (blockRows - 1)] : nullptr;
     }
     Cell* find(int col, int row) { return const_cast<Cell*>(std::as_const(*this).find(col, row)); }
     /// The cell, made when it is not there. col and row within the limits of value.h.
-    Cell& obtain(int col, int row) { return obtainBlock(col, row).cells[rowInBlock(row)]; }
+    Cell& obtain(int col, int row) {
+        Cell* cell = find(col, row);
+        return cell ? *cell : obtainBlock(col, row).cells[rowInBlock(row)];
+    }
 
     Value value(int col, int row) const {
         const Cell* cell = find(col, row);
@@ -201,6 +205,15 @@ class CellStore {
 
     using Column = std::vector<std::unique_ptr<Block>>;
     std::vector<Column> m_columns;  // index 0 stays empty
+
+    // The columns again as find() wants them: it is called for every reference of every formula.
+    struct View {
+        const std::unique_ptr<Block>* blocks;
+        uint32_t rows;
+    };
+    void refreshViews();
+    std::unique_ptr<View[]> m_views;
+    uint32_t m_viewCount = 0;
 };
 
 }  // namespace control

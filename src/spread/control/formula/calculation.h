@@ -30,10 +30,7 @@ class Calculation {
     /// The value of a cell; empty outside what is stored.
     Value cell(int col, int row) const {
         const control::Cell* cell = m_cells->find(col, row);
-        if (!cell) return Value();
-        if (cell->formula && (cell->dirty || m_unsettled)) [[unlikely]]
-            noteDirty(col, row);
-        return cell->value();
+        return cell ? valueOf(*cell, col, row) : Value();
     }
 
     /// Calls visit(Value) for every single value of `argument`: of an area the cells that are not
@@ -114,6 +111,12 @@ class Calculation {
     const control::Sheet* m_sheet = nullptr;
     int m_hostCol = 1;
     int m_hostRow = 1;
+
+    Value valueOf(const control::Cell& cell, int col, int row) const {
+        if (cell.formula && (cell.dirty || m_unsettled)) [[unlikely]]
+            noteDirty(col, row);
+        return cell.value();
+    }
 
     // Cells met that are not calculated yet. Their values are old: the running calculation is
     // given up and started again after them.

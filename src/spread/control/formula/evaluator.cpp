@@ -31,6 +31,11 @@ inline std::optional<bool> compared(Op op, double a, double b) {
     }
 }
 
+/// Both operands of a binary operator whose second one stands at `top`.
+inline bool areNumbers(const Value* top) {
+    return top[-1].isNumber() && top[0].isNumber();
+}
+
 /// What a cell shows for the result of its formula: nothing is shown as 0.
 Value shownResult(const Value& result) {
     return result.isEmpty() || result.isMissing() ? Value(0.0) : result;
@@ -61,18 +66,19 @@ inline Value Evaluator::area(const Instruction& first, const Instruction& second
     return Value::area(*area);
 }
 
-inline Value Evaluator::cell(const Instruction& i) const {
-    const int row = rowOf(i, m_calculation.m_hostRow);
-    const int col = colOf(i, m_calculation.m_hostCol);
-    if (!isInside(col, row)) [[unlikely]]
-        return ErrorCode::ref;
-    return m_calculation.cell(col, row);
+// A cell that holds no plain number, or a formula's.
+Value Evaluator::otherCell(const control::Cell* cell, int col, int row) const {
+    if (!cell) return isInside(col, row) ? Value() : Value(ErrorCode::ref);
+    return m_calculation.valueOf(*cell, col, row);
 }
 
 // The end of the stack, with the result below it; null when a cell was met that has to be
 // calculated first. The stack grows upwards from m_stack; `top` is one past its last value.
 const Value* Evaluator::execute(std::span<const Instruction> code) {
     const auto& dirty = m_calculation.m_dirtyAreas;
+    const control::CellStore& cells = *m_calculation.m_cells;
+    const int hostCol = m_calculation.m_hostCol;
+    const int hostRow = m_calculation.m_hostRow;
     const Instruction* const begin = code.data();
     const Instruction* const end = begin + code.size();
     Value* top = m_stack.data();
@@ -93,10 +99,18 @@ const Value* Evaluator::execute(std::span<const Instruction> code) {
             case Op::missing:
                 *top++ = Value::missing();
                 break;
-            case Op::cell:
-                *top++ = cell(*i);
+            case Op::cell: {
+                const int row = rowOf(*i, hostRow);
+                const int col = colOf(*i, hostCol);
+                const control::Cell* cell = cells.find(col, row);
+                if (cell && cell->type == ValueType::number && !cell->formula) [[likely]] {
+                    *top++ = cell->number;
+                    break;
+                }
+                *top++ = otherCell(cell, col, row);
                 if (!dirty.empty()) return nullptr;
                 break;
+            }
             case Op::reference:
                 *top++ = area(*i, *i);
                 break;
@@ -121,7 +135,7 @@ const Value* Evaluator::execute(std::span<const Instruction> code) {
             case Op::divide:
             case Op::power:
                 --top;
-                if (top[-1].isNumber() && top[0].isNumber()) [[likely]] {
+                if (areNumbers(top)) [[likely]] {
                     top[-1] = arithmetic(i->op, top[-1].number(), top[0].number());
                     break;
                 }
@@ -135,7 +149,7 @@ const Value* Evaluator::execute(std::span<const Instruction> code) {
             case Op::greater:
             case Op::greaterEqual:
                 --top;
-                if (top[-1].isNumber() && top[0].isNumber()) [[likely]]
+                if (areNumbers(top)) [[likely]]
                     if (const auto is = compared(i->op, top[-1].number(), top[0].number())) {
                         top[-1] = Value::boolean(*is);
                         break;

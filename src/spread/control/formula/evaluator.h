@@ -22,7 +22,7 @@ class Evaluator {
     using Args = std::span<const Value>;
     const Value* execute(std::span<const Instruction> code);
     Value area(const Instruction& first, const Instruction& second) const;
-    Value cell(const Instruction& i) const;
+    Value otherCell(const control::Cell* cell, int col, int row) const;
     Value single(const Value& value);
     Value plainOf(const Value& value);
     Value unary(const Instruction& i, const Value& a);
