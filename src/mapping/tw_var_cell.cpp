@@ -70,6 +70,8 @@ ErrorStatus TwVarCell::setValueToSS(Vor_Spread& spread) const {
         return statusOf(grid.writeNumber(m_column, m_row, type,
                                          isWhole ? roundAsWritten(*number, 0) : *number));
     }
+    if (isNumeric(m_valueType) && m_value.text().isEmpty())
+        return statusOf(grid.writeEmpty(m_column, m_row, type));
     return statusOf(grid.setType(m_column, m_row, type) &&
                     grid.writeValue(m_column, m_row, formula::Value::borrowedText(m_value.text())));
 }

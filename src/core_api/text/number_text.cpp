@@ -17,19 +17,25 @@ constexpr std::array<std::uint64_t, maxDecimals + 1> powersOfTen = [] {
     return powers;
 }();
 
+// The same powers for arithmetic in doubles, where all of them are exact.
+constexpr std::array<double, maxDecimals + 1> powersAsDoubles = [] {
+    std::array<double, maxDecimals + 1> powers{};
+    for (size_t i = 0; i < powers.size(); ++i) powers[i] = static_cast<double>(powersOfTen[i]);
+    return powers;
+}();
+
 // The number as a whole number of the last decimal place. Nothing when it is too large for that,
 // or so near a tie that the binary value could fall on the other side than the written one.
 std::optional<std::uint64_t> scaledFast(double magnitude, int decimals) {
     constexpr double largest = 1125899906842624.0;  // 2^50: a quarter of a unit is still exact
-    const double scaled =
-        magnitude * static_cast<double>(powersOfTen[static_cast<size_t>(decimals)]);
+    const double scaled = magnitude * powersAsDoubles[static_cast<size_t>(decimals)];
     if (!(scaled < largest)) return std::nullopt;
-    const auto whole = static_cast<std::uint64_t>(scaled);
+    const auto whole = static_cast<std::int64_t>(scaled);
     const double rest = scaled - static_cast<double>(whole);
     // Half a unit in the last place of the number, scaled, and the rounding of the product.
     const double doubt = scaled * 0x1p-51;
     if (std::fabs(rest - 0.5) <= doubt) return std::nullopt;
-    return whole + (rest > 0.5 ? 1 : 0);
+    return static_cast<std::uint64_t>(whole + (rest > 0.5 ? 1 : 0));
 }
 
 char* writeScaled(char* out, std::uint64_t scaled, int decimals, bool keepZeros) {
@@ -153,12 +159,13 @@ double roundAsWritten(double number, int decimals) {
     const double magnitude = std::fabs(number);
     constexpr double allWhole = 0x1p52;  // doubles from here on have no decimals, NaN is not below
     if (!(magnitude < allWhole)) return number;
-    if (std::trunc(magnitude) == magnitude) return number == 0 ? 0.0 : number;
+    if (static_cast<double>(static_cast<std::int64_t>(magnitude)) == magnitude)
+        return number == 0 ? 0.0 : number;
     decimals = std::clamp(decimals, 0, maxDecimals);
     if (const auto scaled = scaledFast(magnitude, decimals)) {
         // Both are exact doubles, so that the division gives the nearest one.
-        const double rounded = static_cast<double>(*scaled) /
-                               static_cast<double>(powersOfTen[static_cast<size_t>(decimals)]);
+        const double rounded = static_cast<double>(static_cast<std::int64_t>(*scaled)) /
+                               powersAsDoubles[static_cast<size_t>(decimals)];
         return *scaled == 0 ? 0.0 : std::copysign(rounded, number);
     }
     NumberBuffer buffer;

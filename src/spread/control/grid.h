@@ -104,6 +104,8 @@ class Grid {
     /// setType and writeValue in one, for a number cell and a number that is rounded to its
     /// decimals already.
     bool writeNumber(int col, int row, const CellType& type, double number);
+    /// As writeNumber, leaving the cell empty.
+    bool writeEmpty(int col, int row, const CellType& type);
     /// The cell, for an engine that writes many numbers into it between two restores (setPlain);
     /// null when it is not of `type` or the sheet has formulas. Valid until cells are moved or
     /// another document is loaded.

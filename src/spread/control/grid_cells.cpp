@@ -181,6 +181,15 @@ bool Grid::writeNumber(int col, int row, const CellType& type, double number) {
     return true;
 }
 
+bool Grid::writeEmpty(int col, int row, const CellType& type) {
+    if (!setType(col, row, type)) return false;
+    const Cell* cell = m_sheet->find(col, row);
+    if (!cell || (cell->type == ValueType::empty && !cell->formula)) return true;
+    noteTouched(col, row);
+    m_sheet->setValue(col, row, Value());
+    return true;
+}
+
 Cell* Grid::plainCell(int col, int row, const CellType& type) {
     if (!isInside(col, row) || !(look(col, row).type == type)) return nullptr;
     noteTouched(col, row);
