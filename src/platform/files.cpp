@@ -38,6 +38,11 @@ std::optional<struct stat> statusOf(std::string_view path) {
     return std::nullopt;
 }
 
+Stamp stampOf(const struct stat& status) {
+    const std::int64_t seconds = status.st_mtim.tv_sec;
+    return {status.st_size, seconds * 1'000'000'000 + status.st_mtim.tv_nsec, status.st_ino};
+}
+
 // Reads to the end, which may lie elsewhere than the size said: another program may be writing.
 // 0 or an errno; EFBIG beyond the limit.
 int readAll(int descriptor, std::size_t sizeLimit, std::string& content) {
@@ -71,10 +76,12 @@ bool isSettled(const Stamp& stamp) {
 
 std::optional<Stamp> stampOf(std::string_view path) {
     const auto status = statusOf(path);
-    if (!status || S_ISDIR(status->st_mode)) return std::nullopt;
-    const std::int64_t seconds = status->st_mtim.tv_sec;
-    return Stamp{status->st_size, seconds * 1'000'000'000 + status->st_mtim.tv_nsec,
-                 status->st_ino};
+    return status && !S_ISDIR(status->st_mode) ? std::optional(stampOf(*status)) : std::nullopt;
+}
+
+std::optional<Stamp> folderStampOf(std::string_view path) {
+    const auto status = statusOf(path);
+    return status && S_ISDIR(status->st_mode) ? std::optional(stampOf(*status)) : std::nullopt;
 }
 
 bool exists(std::string_view path) {

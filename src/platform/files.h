@@ -28,6 +28,8 @@ struct Stamp {
 VORMANT_API bool isSettled(const Stamp& stamp);
 /// Nothing when there is no such file (a folder is none).
 VORMANT_API std::optional<Stamp> stampOf(std::string_view path);
+/// The same of a folder: it changes when something in it comes, goes or gets another name.
+VORMANT_API std::optional<Stamp> folderStampOf(std::string_view path);
 VORMANT_API bool exists(std::string_view path);
 VORMANT_API bool isFolder(std::string_view path);
 

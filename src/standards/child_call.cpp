@@ -1,8 +1,8 @@
 // Standards that call others.
-#include "core_api/files.h"
 #include "core_api/text/text_helpers.h"
 #include "mapping/mapping_file.h"
 #include "mapping/start_dlg_standards_ss.h"
+#include "standards/found_files.h"
 #include "standards/native_functions.h"
 #include "standards/run_chain.h"
 #include "standards/run_failure.h"
@@ -33,17 +33,22 @@ ErrorStatus bindVariables(const TwVarCells& parent, const Vor_StringArray& names
 
 }  // namespace
 
-Vor_String TwStandardsSS::findChildFile(const Vor_String& name) const {
+std::optional<Vor_String> TwStandardsSS::searchChildFile(const Vor_String& name) const {
     const Vor_String standards = standardsFolder();
-    const Vor_String candidates[] = {name,
-                                     getPath(m_filePath) + ensureNoStartBSlash(name),
-                                     standards + name,
-                                     standards + "Childs\\" + name,
-                                     standards + "Data\\" + name,
-                                     standards + "Parents\\" + name};
-    for (const Vor_String& candidate : candidates)
-        if (ObjectExportFileExists(candidate)) return candidate;
-    return name;
+    const Vor_String own = getPath(m_filePath);
+    return FoundFiles::instance().find(
+        "child\n" + standards.str() + "\n" + own.str() + "\n" + name.str(), [&] {
+            return std::vector<Vor_String>{name,
+                                           own + ensureNoStartBSlash(name),
+                                           standards + name,
+                                           standards + "Childs\\" + name,
+                                           standards + "Data\\" + name,
+                                           standards + "Parents\\" + name};
+        });
+}
+
+Vor_String TwStandardsSS::findChildFile(const Vor_String& name) const {
+    return searchChildFile(name).value_or(name);
 }
 
 ErrorStatus TwStandardsSS::callChild(const Vor_String& text, const Vor_String& functionName) {
@@ -55,12 +60,13 @@ ErrorStatus TwStandardsSS::runChild(const Vor_String& text, const Vor_String& fu
                                     control::CellAddress caller, Vor_String& reason) {
     ChildCall call;
     if (!parseChildCall(text, functionName, call, reason)) return Acad::eInvalidInput;
-    const Vor_String path = findChildFile(call.file);
-    if (!ObjectExportFileExists(path))
+    const std::optional<Vor_String> found = searchChildFile(call.file);
+    if (!found)
         return fail(reason, "there is no file \"" + call.file +
                                 "\" beside this standard or in \"Connection Standards\", its "
                                 "\"Childs\", \"Data\" or \"Parents\": name the file with its "
                                 "extension");
+    const Vor_String& path = *found;
     TwDlgStandardsData child;
     if (bindVariables(m_varCells, call.variables, child.varCells, reason) != Acad::eOk)
         return Acad::eInvalidInput;

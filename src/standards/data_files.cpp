@@ -7,35 +7,38 @@
 #include "core_api/text/text_helpers.h"
 #include "mapping/cached_files.h"
 #include "mapping/mapping_file.h"
+#include "standards/found_files.h"
 #include "standards/run_chain.h"
 
 namespace {
 
-std::optional<Vor_String> searchDataFile(std::string_view name) {
-    const Vor_String standards = standardsFolder();
-    const Vor_String candidates[] = {Vor_String(name), standards + "Data\\" + name,
-                                     standards + name, gSettings.libDir() + name};
-    for (const Vor_String& candidate : candidates)
-        if (ObjectExportFileExists(candidate)) return candidate;
-    return std::nullopt;
-}
-
-/// What findDataFile found during the run under way: a search that misses looks into folders.
-class FoundFiles {
+/// What a data file holds, for the length of one outermost run: equations ask for the same few
+/// files again and again.
+template <class Content>
+class ReadInRun {
   public:
-    const std::optional<Vor_String>& find(std::string_view name) {
+    template <class Read>
+    std::shared_ptr<const Content> get(std::string_view name, Read&& read) {
+        const auto path = [&] { return findDataFile(name); };
+        if (RunningStandard::serial() == 0) return readFrom(path(), read);
         if (m_serial != RunningStandard::serial()) {
-            m_found.clear();
+            m_read.clear();
             m_serial = RunningStandard::serial();
         }
-        auto [entry, isNew] = m_found.try_emplace(std::string(name));
-        if (isNew) entry->second = searchDataFile(name);
+        const auto [entry, isNew] = m_read.try_emplace(std::string(name));
+        if (isNew) entry->second = readFrom(path(), read);
         return entry->second;
     }
 
   private:
+    template <class Read>
+    std::shared_ptr<const Content> readFrom(const std::optional<Vor_String>& path, Read&& read) {
+        return path ? m_files.get(*path, read) : nullptr;
+    }
+
+    CachedFiles<Content> m_files;
     unsigned long long m_serial = 0;
-    std::unordered_map<std::string, std::optional<Vor_String>> m_found;
+    std::unordered_map<std::string, std::shared_ptr<const Content>> m_read;
 };
 
 std::optional<SizeList> parseSizeList(std::string_view path) {
@@ -70,14 +73,17 @@ std::optional<LookupTable> parseLookupTable(std::string_view path) {
 }  // namespace
 
 std::optional<Vor_String> findDataFile(std::string_view name) {
-    static FoundFiles found;
-    return RunningStandard::serial() == 0 ? searchDataFile(name) : found.find(name);
+    const Vor_String& library = gSettings.libDir();
+    return FoundFiles::instance().find("data\n" + library.str() + "\n" + std::string(name), [&] {
+        const Vor_String standards = standardsFolder();
+        return std::vector<Vor_String>{Vor_String(name), standards + "Data\\" + name,
+                                       standards + name, library + name};
+    });
 }
 
 std::shared_ptr<const SizeList> readSizeList(std::string_view name) {
-    static CachedFiles<SizeList> lists;
-    const auto path = findDataFile(name);
-    return path ? lists.get(*path, parseSizeList) : nullptr;
+    static ReadInRun<SizeList> lists;
+    return lists.get(name, parseSizeList);
 }
 
 LookupTable::LookupTable(Vor_Array<Vor_StringArray> rows)
@@ -86,7 +92,6 @@ LookupTable::LookupTable(Vor_Array<Vor_StringArray> rows)
 }
 
 std::shared_ptr<const LookupTable> readLookupTable(std::string_view name) {
-    static CachedFiles<LookupTable> tables;
-    const auto path = findDataFile(name);
-    return path ? tables.get(*path, parseLookupTable) : nullptr;
+    static ReadInRun<LookupTable> tables;
+    return tables.get(name, parseLookupTable);
 }

@@ -5,11 +5,29 @@
 #include "mapping/cell_types.h"
 #include "mapping/mapping_file.h"
 #include "mapping/run_timers.h"
+#include "standards/found_files.h"
 #include "standards/functions/standards_functions.h"
 #include "standards/prepared_standard.h"
 #include "standards/run_failure.h"
 #include "standards/run_observer.h"
 #include "standards/standards_messages.h"
+
+namespace {
+
+Vor_String pathInLibrary(const Vor_String& name) {
+    return standardsFolder() + name + ".tws";
+}
+
+/// The file of that name, else the standard of the library.
+Vor_String findByName(const Vor_String& name) {
+    const Vor_String inLibrary = pathInLibrary(name);
+    const auto candidates = [&] { return std::vector<Vor_String>{name, inLibrary}; };
+    return FoundFiles::instance()
+        .find("standard\n" + inLibrary.str(), candidates)
+        .value_or(inLibrary);
+}
+
+}  // namespace
 
 TwStandardsSS::TwStandardsSS() = default;
 TwStandardsSS::~TwStandardsSS() = default;
@@ -19,10 +37,12 @@ ErrorStatus TwStandardsSS::loadFile(const Vor_String& name) {
     setBool(static_cast<int>(control::Option::userFormulas), true);
     setBool(static_cast<int>(control::Option::repaint), false);
     setBool(static_cast<int>(control::Option::automaticRecalculation), false);
-    Vor_String path = name;
+    // Children and batches come with a path; only a bare name has to be looked for.
+    const bool isPath = name.view().find_first_of("\\/") != std::string_view::npos;
+    Vor_String path = isPath ? name : findByName(name);
     bool isLoaded = loadFromFile(path);
-    if (!isLoaded && !ObjectExportFileExists(name)) {
-        path = standardsFolder() + name + ".tws";
+    if (!isLoaded && isPath && !ObjectExportFileExists(name)) {
+        path = pathInLibrary(name);
         isLoaded = loadFromFile(path);
     }
     if (!isLoaded) {

@@ -4,6 +4,7 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <string_view>
 
 #include "mapping/tw_var_cells.h"
@@ -72,6 +73,7 @@ class TwStandardsSS : public Vor_Spread {
     ErrorStatus assign(Turn& turn);
     ErrorStatus writeTarget(int index);
     void setEquationType(const PreparedEquation& equation);
+    std::optional<Vor_String> searchChildFile(const Vor_String& name) const;
     ErrorStatus runChild(const Vor_String& text, const Vor_String& functionName,
                          control::CellAddress caller, Vor_String& reason);
     ErrorStatus takeResults(const TwVarCells& results, control::CellAddress caller,

@@ -177,6 +177,11 @@ TEST_F(Functions, DataFilesAreFoundNearestFirstAndReadAgainWhenTheyChange) {
             library.path() / "Connection Standards" / "Data" / "Sizes.txt", now);
         EXPECT_EQ(sizes(), (std::vector<double>{static_cast<double>(content[0] - '0')}));
     }
+    for (const char* content : {"11\n", "12\n"}) {
+        const RunningStandard run;
+        library.writeData("Sizes.txt", content);
+        EXPECT_EQ(sizes(), (std::vector<double>{std::stod(content)}));
+    }
     const std::string elsewhere = library.write("Other/Own.txt", "7\n");
     EXPECT_EQ(findDataFile(elsewhere), Vor_String(elsewhere));
 

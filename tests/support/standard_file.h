@@ -60,6 +60,13 @@ class TemporaryLibrary : public TemporaryFolder {
         std::filesystem::last_write_time(path() / file, m_longAgo += std::chrono::seconds(1));
         return inside;
     }
+    /// Makes the folders older than they are, so that what was found in them is remembered.
+    void ageFolders() {
+        for (const auto& entry : std::filesystem::recursive_directory_iterator(path()))
+            if (entry.is_directory())
+                std::filesystem::last_write_time(entry, m_longAgo += std::chrono::seconds(1));
+        std::filesystem::last_write_time(path(), m_longAgo += std::chrono::seconds(1));
+    }
     std::string writeData(const std::string& name, std::string_view content) const {
         return write("Connection Standards/Data/" + name, content);
     }
