@@ -1,6 +1,7 @@
 #include "standards/replace_variables.h"
 
 #include <algorithm>
+#include <cstring>
 
 #include "core_api/text/text_helpers.h"
 #include "platform/encodings.h"
@@ -64,13 +65,22 @@ VariableReferences::VariableReferences(Vor_StringArray names, Vor_StringArray re
         if (!isNew || !isPlainWord(m_names[i])) m_onePass = false;
         noteShape(m_names[i]);
     }
-    for (const Vor_String& reference : m_references)
+    for (const Vor_String& reference : m_references) {
         m_chains = m_chains || m_index.find(reference) >= 0;
+        m_longestReference = std::max(m_longestReference, static_cast<size_t>(reference.length()));
+    }
 }
 
 std::string_view VariableReferences::translate(std::string_view text, std::string& buffer) const {
     if (!m_onePass) return replaceOneByOne(text, buffer);
-    buffer.clear();
+    // At most every other character is a word of its own.
+    const size_t most = text.size() + (text.size() / 2 + 1) * m_longestReference;
+    if (buffer.size() < most) buffer.resize(most);
+    char* out = buffer.data();
+    const auto write = [&out](const char* from, size_t size) {
+        std::memcpy(out, from, size);
+        out += size;
+    };
     const char* copied = text.data();
     eachWord(
         text,
@@ -78,12 +88,13 @@ std::string_view VariableReferences::translate(std::string_view text, std::strin
             if (!mayBeName(word)) return;
             const std::string_view reference = translateWord(word);
             if (reference.data() == word.data()) return;
-            buffer.append(copied, word.data());
-            buffer += reference;
+            write(copied, static_cast<size_t>(word.data() - copied));
+            write(reference.data(), reference.size());
             copied = word.data() + word.size();
         },
         [](std::string_view) {});
-    return buffer.append(copied, text.data() + text.size());
+    write(copied, static_cast<size_t>(text.data() + text.size() - copied));
+    return {buffer.data(), static_cast<size_t>(out - buffer.data())};
 }
 
 std::string_view VariableReferences::replaceOneByOne(std::string_view text,

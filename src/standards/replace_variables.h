@@ -51,6 +51,7 @@ class VariableReferences {
     Vor_StringArray m_references;
     TextIndex m_index;
     bool m_onePass = true;
+    size_t m_longestReference = 0;
     bool m_chains = false;  // a reference that is put in may be a name
     // Most words are functions and numbers: what their first letter or length tells apart from
     // every name needs no look into the index.

@@ -25,15 +25,14 @@ inline bool isPlainWord(std::string_view text) {
 /// Calls word(text) for every word and other(text) for what stands between, in order.
 template <class Word, class Other>
 void eachWord(std::string_view text, Word&& word, Other&& other) {
-    for (size_t at = 0; at < text.size();) {
-        const bool isWord = isWordCharacter(text[at]);
-        size_t end = at + 1;
-        while (end < text.size() && isWordCharacter(text[end]) == isWord) ++end;
-        const std::string_view part = text.substr(at, end - at);
-        if (isWord)
-            word(part);
-        else
-            other(part);
-        at = end;
+    const char* at = text.data();
+    const char* const end = at + text.size();
+    while (at != end) {
+        const char* start = at;
+        while (at != end && !isWordCharacter(*at)) ++at;
+        if (at != start) other(std::string_view(start, static_cast<size_t>(at - start)));
+        start = at;
+        while (at != end && isWordCharacter(*at)) ++at;
+        if (at != start) word(std::string_view(start, static_cast<size_t>(at - start)));
     }
 }
