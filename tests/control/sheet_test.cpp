@@ -204,4 +204,18 @@ TEST_F(SheetTest, FormulasThatAskForTooMuchMemoryGiveAnError) {
     EXPECT_EQ(shown(2, 1), "5");
 }
 
+TEST_F(SheetTest, FormulasThatWouldTakeHoursGiveAnErrorInSeconds) {
+    number(3, 2, 5);
+    number(16383, 1048576, 5);
+    for (const char* text :
+         {"SUM(MATCH(ROW(A:A),ROW(A:A),0))", "IFERROR(SUM(MATCH(ROW(A:A),ROW(A:A),0)),7)",
+          "SUM(LARGE(ROW(A1:A60000),ROW(A1:A60000)))", "SUM(WORKDAY(ROW(A:A),900000))",
+          "TEXTJOIN(\",\",TRUE,C2:XFC1048576)"}) {
+        ASSERT_TRUE(formula(2, 1, text)) << text;
+        EXPECT_EQ(shown(2, 1), "#NUM!") << text;
+    }
+    ASSERT_TRUE(formula(2, 1, "MATCH(600000,ROW(A:A),0)"));
+    EXPECT_EQ(shown(2, 1), "600000");
+}
+
 }  // namespace

@@ -17,6 +17,7 @@ namespace {
 
 constexpr size_t firstChunk = 4096;
 constexpr int maxArrayCells = 4'000'000;
+constexpr int64_t arrayCellWork = 15;
 constexpr size_t largestChunk = size_t{16} << 20;  // but for an array that needs more
 constexpr size_t maxArena = size_t{256} << 20;
 
@@ -65,7 +66,8 @@ Value Calculation::text(std::string_view text) {
 Value Calculation::text(std::string_view first, std::string_view second) {
     const size_t size = first.size() + second.size();
     // Numbers as texts always fit, so that their makers need not look.
-    if (size > numberTextSize && !hasRoom(size)) return ErrorCode::num;
+    if (size > numberTextSize && !(spend(static_cast<int64_t>(size)) && hasRoom(size)))
+        return ErrorCode::num;
     char* kept = allocate(size);
     if (!first.empty()) std::memcpy(kept, first.data(), first.size());
     if (!second.empty()) std::memcpy(kept + first.size(), second.data(), second.size());
@@ -75,6 +77,7 @@ Value Calculation::text(std::string_view first, std::string_view second) {
 Array* Calculation::newArray(int rows, int cols) {
     if (rows < 1 || cols < 1 || rows > maxArrayCells / cols) return nullptr;
     const auto count = static_cast<size_t>(rows) * static_cast<size_t>(cols);
+    if (!spend(arrayCellWork * static_cast<int64_t>(count))) return nullptr;
     if (!hasRoom(sizeof(Array) + count * sizeof(Value))) return nullptr;
     char* bytes = allocate(sizeof(Array) + count * sizeof(Value));
     auto* cells = reinterpret_cast<Value*>(bytes + sizeof(Array));

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <memory>
 #include <optional>
 #include <string_view>
@@ -39,6 +40,8 @@ class Calculation {
     void each(const Value& argument, Visit&& visit) const {
         if (argument.isArea()) {
             m_cells->eachRun(argument.area(), [&](const control::CellStore::Run& run) {
+                if (!spend(run.end - run.first)) [[unlikely]]
+                    return;
                 checkDirty(run);
                 for (const control::Cell* cell = run.first; cell != run.end; ++cell)
                     if (cell->type == ValueType::number) [[likely]]
@@ -48,7 +51,9 @@ class Calculation {
             });
         } else if (argument.isArray()) {
             const Array& a = argument.array();
-            for (int i = 0; i < a.rows * a.cols; ++i) visit(a.cells[i]);
+            const int count = a.rows * a.cols;
+            if (!spend(count)) return;
+            for (int i = 0; i < count; ++i) visit(a.cells[i]);
         } else {
             visit(argument);
         }
@@ -59,6 +64,8 @@ class Calculation {
         if (argument.isArea()) {
             const Area area = argument.area();
             m_cells->eachRun(area, [&](const control::CellStore::Run& run) {
+                if (!spend(2 * (run.end - run.first))) [[unlikely]]
+                    return;
                 checkDirty(run);
                 int row = run.row - area.row1;
                 for (const control::Cell* cell = run.first; cell != run.end; ++cell, ++row)
@@ -67,6 +74,7 @@ class Calculation {
             });
         } else if (argument.isArray()) {
             const Array& a = argument.array();
+            if (!spend(2LL * a.rows * a.cols)) return;
             for (int r = 0; r < a.rows; ++r)
                 for (int c = 0; c < a.cols; ++c) visit(r, c, a.at(r, c));
         } else {
@@ -82,6 +90,15 @@ class Calculation {
     /// `argument` cut to the rows and columns that hold anything, so that a whole column can be
     /// walked by index. Areas only; others come back as they are.
     Value clipped(const Value& argument) const;
+
+    /// Notes work of the running formula, in units of about a nanosecond. False when it has taken
+    /// more than any formula may: then its result will be #NUM!, so loops may end where they are.
+    /// Walks over cells and the texts and arrays made here are noted already; a function notes
+    /// what it does beside, where that can be more than a glance at each of its arguments.
+    bool spend(int64_t work) const {
+        m_workLeft -= work;
+        return m_workLeft >= 0;
+    }
 
     /// A text value holding its own copy of `text`; #NUM! when there is no room for a long one.
     Value text(std::string_view text);
@@ -107,8 +124,12 @@ class Calculation {
     friend class Evaluator;
     friend class control::Sheet;
 
+    // A second or two.
+    static constexpr int64_t mostWork = 1'000'000'000;
+
     const control::CellStore* m_cells;
     const control::Sheet* m_sheet = nullptr;
+    mutable int64_t m_workLeft = mostWork;
     int m_hostCol = 1;
     int m_hostRow = 1;
 

@@ -49,7 +49,12 @@ Value Evaluator::run(const Program& program, int col, int row, bool& blocked) {
     m_calculation.m_hostCol = col;
     m_calculation.m_hostRow = row;
     m_calculation.m_dirtyAreas.clear();
+    m_calculation.m_workLeft = Calculation::mostWork;
     const Value* top = execute(program.code());
+    if (top && m_calculation.m_workLeft < 0) [[unlikely]] {
+        blocked = false;
+        return ErrorCode::num;
+    }
     if (top && !top[-1].isSingle()) {
         const Value result = single(top[-1]);
         blocked = !m_calculation.m_dirtyAreas.empty();
@@ -309,10 +314,14 @@ Value Evaluator::callLifted(const Instruction& i, Value* args) {
     if (!isLifted) return i.function->call(m_calculation, Args(args, i.argc));
     m_lifted.resize(i.argc);
     return eachElement(rows, cols, [&](int r, int c) {
-        for (size_t n = 0; n < i.argc; ++n)
+        size_t work = 50;
+        for (size_t n = 0; n < i.argc; ++n) {
             m_lifted[n] = args[n].isSingle() || !takesPlain(n)
                               ? args[n]
                               : m_calculation.element(args[n], r, c);
+            if (m_lifted[n].isText()) work += m_lifted[n].text().size();
+        }
+        if (!m_calculation.spend(static_cast<int64_t>(work))) return Value();
         return plainOf(i.function->call(m_calculation, Args(m_lifted.data(), i.argc)));
     });
 }

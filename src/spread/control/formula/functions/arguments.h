@@ -105,7 +105,9 @@ std::optional<ErrorCode> eachNumber(const Calculation& c, std::span<const Value>
 inline std::optional<ErrorCode> collectNumbers(const Calculation& c, std::span<const Value> args,
                                                std::vector<double>& numbers,
                                                NonNumbers nonNumbers = NonNumbers::ignored) {
-    return eachNumber(c, args, nonNumbers, [&](double x) { numbers.push_back(x); });
+    const auto error = eachNumber(c, args, nonNumbers, [&](double x) { numbers.push_back(x); });
+    c.spend(20 * static_cast<int64_t>(numbers.size()));  // whoever collects them puts them in order
+    return error;
 }
 
 /// The first error in `argument`, if any.

@@ -21,13 +21,15 @@ struct Element {
 };
 
 Element elementAt(std::string_view pattern, size_t at) {
-    const char c = pattern[at];
-    if (c == '~' && at + 1 < pattern.size() && isSpecial(pattern[at + 1]))
-        return {pattern[at + 1], false, 2};
-    return {c, c == '?', 1};
+    if (isEscape(pattern, at)) return {pattern[at + 1], false, 2};
+    return {pattern[at], pattern[at] == '?', 1};
 }
 
 }  // namespace
+
+bool isEscape(std::string_view pattern, size_t at) {
+    return pattern[at] == '~' && at + 1 < pattern.size() && isSpecial(pattern[at + 1]);
+}
 
 bool hasWildcards(std::string_view pattern) {
     return pattern.find_first_of("*?~") != std::string_view::npos;
@@ -58,6 +60,11 @@ bool matchesWildcards(std::string_view pattern, std::string_view text) {
     }
     while (p < pattern.size() && pattern[p] == '*') ++p;
     return p == pattern.size();
+}
+
+bool matchesWildcards(const Calculation& c, std::string_view pattern, std::string_view text) {
+    c.spend(static_cast<int64_t>(pattern.size() * text.size()));
+    return matchesWildcards(pattern, text);
 }
 
 Criterion::Relation Criterion::takeRelation(std::string_view& text) {
@@ -137,6 +144,14 @@ bool Criterion::isInOrder(const Value& value) const {
         default:
             return order >= 0;
     }
+}
+
+bool Criterion::matches(const Calculation& c, const Value& value) const {
+    if (value.isText()) {
+        const size_t size = value.text().size();
+        c.spend(static_cast<int64_t>(m_hasWildcards ? size * m_operand.text().size() : 20 + size));
+    }
+    return matches(value);
 }
 
 bool Criterion::matches(const Value& value) const {

@@ -2,19 +2,25 @@
 // criteria such as ">=5", "<>x" or "M1?*", and the wildcards of the look-up functions.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <string_view>
 
-#include "spread/control/formula/value.h"
+#include "spread/control/formula/calculation.h"
 
 namespace formula {
 
 /// Whether `pattern` holds one of * ? ~, so that it must be matched as below.
 bool hasWildcards(std::string_view pattern);
 
+/// Whether the "~" at `at` stands for the character behind it.
+bool isEscape(std::string_view pattern, size_t at);
+
 /// Whether the whole of `text` fits `pattern`, letter case aside: * stands for any run of
 /// characters, ? for any one, ~ before one of * ? ~ for that character itself.
 bool matchesWildcards(std::string_view pattern, std::string_view text);
+/// The same as part of a calculation's work.
+bool matchesWildcards(const Calculation& c, std::string_view pattern, std::string_view text);
 
 /// One criterion, read once and then asked for every cell. Borrows the text that it was made from.
 class Criterion {
@@ -26,6 +32,8 @@ class Criterion {
     /// `value` is a single value. A number also matches a text that reads as that number; the order
     /// relations compare only with what is of the operand's own type.
     bool matches(const Value& value) const;
+    /// The same as part of a calculation's work.
+    bool matches(const Calculation& c, const Value& value) const;
     bool matchesEmpty() const { return m_matchesEmpty; }
 
   private:

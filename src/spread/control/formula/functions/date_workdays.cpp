@@ -62,6 +62,7 @@ std::optional<ErrorCode> readHolidays(const Calculation& c, const Value& argumen
         else
             work.holidays.push_back(wholeDay(*number));
     });
+    c.spend(50 * static_cast<int64_t>(work.holidays.size()));
     std::sort(work.holidays.begin(), work.holidays.end());
     work.holidays.erase(std::unique(work.holidays.begin(), work.holidays.end()),
                         work.holidays.end());
@@ -123,6 +124,7 @@ Value workdayAfter(Calculation& c, Arguments args, bool hasWeekend) {
     const int step = count < 0 ? -1 : 1;
     int day = call->start;
     for (int left = std::abs(count); left > 0;) {
+        if (!c.spend(20)) return ErrorCode::num;
         day += step;
         if (day < 0 || day > calendar::lastDay) return ErrorCode::num;
         if (call->work.isWorkday(day)) --left;

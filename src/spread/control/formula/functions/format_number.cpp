@@ -142,19 +142,23 @@ struct Fraction {
     double top, bottom;
 };
 
-/// The fraction nearest to `number` whose bottom is at most `largest`.
+/// The fraction nearest to `number` whose bottom is at most `largest`; of two as near the one with
+/// the smaller bottom.
 Fraction nearestFraction(double number, double largest) {
-    Fraction best{0, 1};
-    double error = std::numeric_limits<double>::infinity();
-    for (double bottom = 1; bottom <= largest && error > 0; ++bottom) {
-        const double top = std::round(number * bottom);
-        const double difference = std::fabs(number - top / bottom);
-        if (difference < error - 1e-12) {
-            best = {top, bottom};
-            error = difference;
-        }
+    const double rest = number - std::floor(number);
+    // The sums of tops and bottoms of two neighbours give the simplest fraction between them.
+    Fraction below{0, 1};
+    Fraction above{1, 1};
+    while (below.bottom + above.bottom <= largest) {
+        const Fraction between{below.top + above.top, below.bottom + above.bottom};
+        (rest < between.top / between.bottom ? above : below) = between;
     }
-    return best;
+    const Fraction simpler = above.bottom < below.bottom ? above : below;
+    const Fraction other = above.bottom < below.bottom ? below : above;
+    const auto difference = [&](Fraction f) { return std::fabs(rest - f.top / f.bottom); };
+    const bool isNearer = difference(other) < difference(simpler) - 1e-12;
+    const double bottom = isNearer ? other.bottom : simpler.bottom;
+    return {std::round(number * bottom), bottom};
 }
 
 /// Where the parts of a fraction lie among the pieces: [wholes) other [tops) slash [bottoms).

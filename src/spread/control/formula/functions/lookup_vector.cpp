@@ -31,8 +31,8 @@ std::optional<int> findText(const LookupVector& vector, std::string_view wanted)
 }
 
 std::optional<int> findPattern(const LookupVector& vector, std::string_view pattern) {
-    return vector.find([pattern](int, const Value& value) {
-        return value.isText() && matchesWildcards(pattern, value.text());
+    return vector.find([&](int, const Value& value) {
+        return value.isText() && matchesWildcards(vector.calculation(), pattern, value.text());
     });
 }
 
@@ -74,8 +74,8 @@ int lastEqual(const LookupVector& vector, const Value& key, int first, int last)
 /// XMATCH without an order to rely on: every element is looked at until one fits exactly.
 class BestMatch {
   public:
-    BestMatch(const Value& key, MatchMode match, SearchMode search)
-        : m_key(key), m_match(match), m_wantsLast(search == SearchMode::last) {}
+    BestMatch(const Calculation& c, const Value& key, MatchMode match, SearchMode search)
+        : m_calculation(c), m_key(key), m_match(match), m_wantsLast(search == SearchMode::last) {}
 
     /// Whether the search is over.
     bool operator()(int i, const Value& value) {
@@ -101,10 +101,11 @@ class BestMatch {
     bool fits(const Value& value) const {
         if (value.type() != m_key.type()) return false;
         if (m_match == MatchMode::wildcard && m_key.isText())
-            return matchesWildcards(m_key.text(), value.text());
+            return matchesWildcards(m_calculation, m_key.text(), value.text());
         return compareKeys(value, m_key) == 0;
     }
 
+    const Calculation& m_calculation;
     Value m_key;
     MatchMode m_match;
     bool m_wantsLast;
@@ -161,6 +162,7 @@ LookupVector::LookupVector(const Calculation& c, const Value& source, bool isRow
       m_isRow(isRow) {}
 
 Value LookupVector::at(int i) const {
+    m_calculation.spend(8);
     return m_isRow ? m_calculation.element(m_source, m_index, i)
                    : m_calculation.element(m_source, i, m_index);
 }
@@ -252,7 +254,7 @@ std::optional<int> findExtended(const LookupVector& vector, const Value& wanted,
         if (wanted.isNumber()) return findNumber(vector, wanted.number());
         if (wanted.isText()) return findText(vector, wanted.text());
     }
-    BestMatch best(wanted, match, search);
+    BestMatch best(vector.calculation(), wanted, match, search);
     vector.find([&best](int i, const Value& value) { return best(i, value); });
     return best.result();
 }

@@ -21,6 +21,7 @@ class LookupVector {
     int size() const { return m_size; }
     /// Element `i` from 0.
     Value at(int i) const;
+    const Calculation& calculation() const { return m_calculation; }
     /// How many elements there are up to the last one that holds anything.
     int storedSize() const;
 

@@ -59,6 +59,10 @@ std::optional<ErrorCode> read(const Calculation& c, const Value& argument, Matri
     return error;
 }
 
+int64_t cubed(int size) {
+    return int64_t{size} * size * size;
+}
+
 /// A matrix as a result; #NUM! when one of its numbers overflowed.
 Value asResult(Calculation& c, const Matrix& matrix) {
     const bool isFinite = std::all_of(matrix.cells.begin(), matrix.cells.end(),
@@ -127,6 +131,7 @@ Value determinant(Calculation& c, std::span<const Value> args) {
     Matrix matrix(0, 0);
     if (const auto error = read(c, args[0], matrix)) return *error;
     if (!matrix.isSquare()) return ErrorCode::value;
+    if (!c.spend(cubed(matrix.rows))) return ErrorCode::num;
     return numberOrError(eliminate(matrix, nullptr));
 }
 
@@ -134,6 +139,7 @@ Value inverse(Calculation& c, std::span<const Value> args) {
     Matrix matrix(0, 0);
     if (const auto error = read(c, args[0], matrix)) return *error;
     if (!matrix.isSquare()) return ErrorCode::value;
+    if (!c.spend(2 * cubed(matrix.rows))) return ErrorCode::num;
     Matrix result = unitMatrix(matrix.rows);
     if (eliminate(matrix, &result) == 0) return ErrorCode::num;
     substituteBack(matrix, result);
@@ -147,6 +153,7 @@ Value multiply(Calculation& c, std::span<const Value> args) {
     if (const auto error = read(c, args[1], right)) return *error;
     const int64_t size = static_cast<int64_t>(left.rows) * right.cols;
     if (left.cols != right.rows || size > mostCells) return ErrorCode::value;
+    if (!c.spend(size * left.cols)) return ErrorCode::num;
     Matrix result(left.rows, right.cols);
     for (int row = 0; row < left.rows; ++row)
         for (int k = 0; k < left.cols; ++k)
@@ -172,6 +179,7 @@ Value unit(Calculation& c, std::span<const Value> args) {
 /// The product of the numbers at one place of all arguments; what is no number counts as 0.
 double productAt(const Calculation& c, std::span<const Value> others, int row, int col,
                  double first) {
+    c.spend(5 * static_cast<int64_t>(others.size()));
     double result = first;
     for (const Value& other : others) {
         const Value value = c.element(other, row, col);

@@ -20,6 +20,7 @@ std::optional<ErrorCode> eachPair(const Calculation& c, const Value& xs, const V
         if (const auto error = firstError(c, *argument)) return error;
     c.eachAt(xs, [&](int row, int col, const Value& x) {
         if (!x.isNumber()) return;
+        c.spend(30);
         const int64_t place = row * cols + col;
         const Value y =
             c.element(ys, static_cast<int>(place / otherCols), static_cast<int>(place % otherCols));

@@ -56,7 +56,7 @@ class Conditions {
         found = static_cast<double>(Calculation::rows(first)) * Calculation::cols(first);
         for (const Condition& condition : m_conditions)
             c.eachAt(*condition.where, [&](int row, int col, const Value& value) {
-                if (!condition.criterion.matches(value) && matchAt(c, row, col, &condition))
+                if (!condition.criterion.matches(c, value) && matchAt(c, row, col, &condition))
                     --found;
             });
         return found;
@@ -85,11 +85,9 @@ class Conditions {
     template <class Visit>
     void eachMatch(const Calculation& c, const Condition& driver, Visit&& visit) const {
         c.eachAt(*driver.where, [&](int row, int col, const Value& value) {
-            if (!driver.criterion.matches(value)) return;
+            if (!driver.criterion.matches(c, value)) return;
             for (const Condition& condition : m_conditions)
-                if (&condition != &driver &&
-                    !condition.criterion.matches(c.element(*condition.where, row, col)))
-                    return;
+                if (&condition != &driver && !holdsAt(c, condition, row, col)) return;
             visit(row, col);
         });
     }
@@ -98,9 +96,14 @@ class Conditions {
     bool matchAt(const Calculation& c, int row, int col, const Condition* end) const {
         for (const Condition& condition : m_conditions) {
             if (&condition == end) break;
-            if (!condition.criterion.matches(c.element(*condition.where, row, col))) return false;
+            if (!holdsAt(c, condition, row, col)) return false;
         }
         return true;
+    }
+
+    static bool holdsAt(const Calculation& c, const Condition& condition, int row, int col) {
+        c.spend(5);
+        return condition.criterion.matches(c, c.element(*condition.where, row, col));
     }
 
     std::vector<Condition> m_conditions;

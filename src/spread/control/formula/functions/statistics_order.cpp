@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
-#include <unordered_map>
 #include <vector>
 
 #include "spread/control/formula/functions/arguments.h"
@@ -64,13 +63,24 @@ Value mode(Calculation& c, std::span<const Value> args) {
         if (argument.isText() || argument.isBoolean()) return ErrorCode::value;
     Numbers numbers;
     if (const auto error = collectNumbers(c, args, numbers)) return *error;
-    std::unordered_map<double, size_t> counts;
-    size_t highest = 1;
-    for (const double x : numbers) highest = std::max(highest, ++counts[x]);
-    if (highest < 2) return ErrorCode::na;
+    c.spend(50 * static_cast<int64_t>(numbers.size()));
+    Numbers sorted = numbers;
+    std::sort(sorted.begin(), sorted.end());
+    Numbers mostFrequent;
+    size_t highest = 2;
+    for (auto run = sorted.begin(); run != sorted.end();) {
+        const auto end = std::upper_bound(run, sorted.end(), *run);
+        const auto count = static_cast<size_t>(end - run);
+        if (count > highest) mostFrequent.clear();
+        if (count >= highest) mostFrequent.push_back(*run);
+        highest = std::max(highest, count);
+        run = end;
+    }
+    if (mostFrequent.empty()) return ErrorCode::na;
     // Of several that are as frequent, the one that stands first.
-    return *std::find_if(numbers.begin(), numbers.end(),
-                         [&](double x) { return counts[x] == highest; });
+    return *std::find_if(numbers.begin(), numbers.end(), [&](double x) {
+        return std::binary_search(mostFrequent.begin(), mostFrequent.end(), x);
+    });
 }
 
 /// The numbers of the first argument and the number given as the second.

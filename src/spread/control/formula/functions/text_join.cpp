@@ -32,8 +32,10 @@ class Joiner {
         const int rows = Calculation::rows(source);
         const int cols = Calculation::cols(source);
         for (int row = 0; row < rows && !m_failed; ++row)
-            for (int col = 0; col < cols && !m_failed; ++col)
+            for (int col = 0; col < cols && !m_failed; ++col) {
+                if (!m_calculation.spend(5)) return fail(ErrorCode::num);
                 addOne(m_calculation.element(source, row, col));
+            }
     }
 
   private:
@@ -89,6 +91,7 @@ Value textJoin(Calculation& c, Arguments args) {
     const Value source = c.clipped(args[0]);
     for (int row = 0; row < c.rows(source); ++row)
         for (int col = 0; col < c.cols(source); ++col) {
+            if (!c.spend(20)) return ErrorCode::num;
             const Result<std::string_view> text = textOf(c, c.element(source, row, col));
             if (!text) return text.error();
             delimiters.push_back(*text);

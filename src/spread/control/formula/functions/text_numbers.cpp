@@ -47,6 +47,9 @@ Value text(Calculation& c, Arguments args) {
     const std::string_view format = read.text(1);
     if (args[0].isError()) return args[0];
     if (read.failed()) return read.error();
+    // Where a fraction may be wanted, the best one has to be found.
+    const int64_t workOfPlace = format.find('?') == format.npos ? 60 : 600;
+    c.spend(workOfPlace * static_cast<int64_t>(format.size()));
     const Result<std::string> formatted = formatValue(args[0], format);
     if (!formatted) return formatted.error();
     const std::string shown = *formatted;

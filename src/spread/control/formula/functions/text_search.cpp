@@ -13,6 +13,14 @@ namespace {
 
 using Arguments = std::span<const Value>;
 
+/// Where the first "*" of `pattern` stands, which has one, and how many characters fit what lies
+/// before it.
+std::pair<size_t, size_t> beforeStar(std::string_view pattern) {
+    size_t at = 0, length = 0;
+    for (; pattern[at] != '*'; ++length) at += isEscape(pattern, at) ? 2 : 1;
+    return {at, length};
+}
+
 /// Where a text that fits `pattern` begins in `text` from `from` on.
 size_t findPattern(std::string_view text, std::string_view pattern, size_t from) {
     // A "~" that escapes nothing is passed over.
@@ -22,8 +30,14 @@ size_t findPattern(std::string_view text, std::string_view pattern, size_t from)
     // What begins with "*" fits from the start or nowhere.
     const size_t last = !open.empty() && open[0] == '*' ? from : text.size();
     open += '*';
-    for (size_t at = from; at <= last; ++at)
-        if (matchesWildcards(open, text.substr(at))) return at;
+    const auto [begin, length] = beforeStar(open);
+    const std::string_view start = std::string_view(open).substr(0, begin);
+    const std::string_view rest = std::string_view(open).substr(begin);
+    // What follows the first place where the start fits holds all that later places have behind
+    // them: when the rest does not fit there, it fits nowhere.
+    for (size_t at = from; at <= last && at + length <= text.size(); ++at)
+        if (matchesWildcards(start, text.substr(at, length)))
+            return matchesWildcards(rest, text.substr(at + length)) ? at : std::string_view::npos;
     return std::string_view::npos;
 }
 
@@ -53,6 +67,7 @@ Value position(Calculation& c, Arguments args) {
     const double start = args.size() > 2 ? read.number(2) : 1;
     if (read.failed()) return read.error();
     if (start < 1 || start >= static_cast<double>(text.size()) + 2) return ErrorCode::value;
+    if (!c.spend(static_cast<int64_t>(text.size() * wanted.size()))) return ErrorCode::num;
     const size_t found = finder(text, wanted, static_cast<size_t>(start) - 1);
     if (found == std::string_view::npos) return ErrorCode::value;
     return static_cast<double>(found) + 1;
@@ -89,13 +104,16 @@ std::optional<Hit> nextHit(const Cut& cut, size_t from) {
     return best;
 }
 
-std::optional<Hit> chosenHit(const Cut& cut) {
+std::optional<Hit> chosenHit(const Calculation& c, const Cut& cut) {
     std::vector<Hit> hits;
     // An empty delimiter stands at the very start, or the very end when counted from behind.
     const bool isEmpty = std::any_of(cut.delimiters.begin(), cut.delimiters.end(),
                                      [](std::string_view delimiter) { return delimiter.empty(); });
     if (isEmpty) return cut.instance > 0 ? Hit{0, 0} : Hit{cut.text.size(), cut.text.size()};
-    for (auto hit = nextHit(cut, 0); hit; hit = nextHit(cut, hit->end)) hits.push_back(*hit);
+    // A delimiter that is not there is looked for again behind every one that is.
+    const auto work = static_cast<int64_t>(cut.text.size() * cut.delimiters.size());
+    for (auto hit = nextHit(cut, 0); hit && c.spend(work); hit = nextHit(cut, hit->end))
+        hits.push_back(*hit);
     if (cut.matchesEnd && cut.instance > 0) hits.push_back({cut.text.size(), cut.text.size()});
     if (cut.matchesEnd && cut.instance < 0) hits.insert(hits.begin(), {0, 0});
     const auto count = static_cast<int>(hits.size());
@@ -141,7 +159,7 @@ template <bool before>
 Value partAtDelimiter(Calculation& c, Arguments args) {
     const Result<Cut> cut = readCut(c, args);
     if (!cut) return cut.error();
-    const auto hit = chosenHit(*cut);
+    const auto hit = chosenHit(c, *cut);
     if (!hit) {
         if (args.size() <= 5 || args[5].isMissing()) return ErrorCode::na;
         return args[5].isEmpty() ? Value::borrowedText("") : args[5];
