@@ -2,13 +2,14 @@
 #include "core_api/text/number_text.h"
 #include "mapping/cell_types.h"
 #include "mapping/run_timers.h"
-#include "standards/prepared_equation.h"
+#include "standards/prepared_standard.h"
 #include "standards/run_observer.h"
 #include "standards/standards_messages.h"
 #include "standards/tw_standards_ss.h"
 
 /// What came of it. The texts are made only when somebody is told.
 struct TwStandardsSS::Turn {
+    const PreparedStandard& prepared;
     const PreparedEquation& equation;
     Vor_String reason;
     bool isReported = false;  ///< the failure is one that users are told
@@ -20,17 +21,34 @@ struct TwStandardsSS::Turn {
     }
 };
 
-ErrorStatus TwStandardsSS::evaluate(const PreparedEquation& equation) {
+namespace {
+
+/// With references; a child call as it is written; nothing where there is no formula.
+std::string_view formulaShown(const PreparedStandard& prepared, const PreparedEquation& equation) {
+    switch (equation.kind) {
+        case PreparedEquation::Kind::childCall:
+            return equation.expression;
+        case PreparedEquation::Kind::irregular:
+            return {};
+        default:
+            return prepared.formulaOf(equation).view();
+    }
+}
+
+}  // namespace
+
+ErrorStatus TwStandardsSS::evaluate(const PreparedStandard& prepared,
+                                    const PreparedEquation& equation) {
     using Kind = PreparedEquation::Kind;
-    Turn turn{equation, {}, false};
+    Turn turn{prepared, equation, {}, false};
     ErrorStatus status = Acad::eOk;
     switch (equation.kind) {
         case Kind::irregular:
-            status = turn.fail(equation.refusal);
+            status = turn.fail(*equation.detail);
             break;
         case Kind::childCall: {
             const Vor_FunctionTimer timer(gCalcCellCalcNativeFunctions);
-            status = runChild(equation.expression, equation.function, equation.cell, turn.reason);
+            status = runChild(equation.expression, *equation.detail, equation.cell, turn.reason);
             turn.isReported = status != Acad::eOk;
             break;
         }
@@ -47,8 +65,7 @@ ErrorStatus TwStandardsSS::evaluate(const PreparedEquation& equation) {
         const bool isChildCall = equation.kind == Kind::childCall;
         const auto wasCalculated = equation.kind == Kind::ordinary;
         observer->equationDone(
-            {row, column, equation.text.view(), equation.name,
-             isChildCall ? equation.expression : equation.formula.view(),
+            {row, column, equation.text.view(), equation.name, formulaShown(prepared, equation),
              wasCalculated ? m_varCells[equation.target].value().view() : std::string_view(),
              isChildCall, status == Acad::eOk, turn.reason});
     }
@@ -61,7 +78,7 @@ ErrorStatus TwStandardsSS::assign(Turn& turn) {
     const PreparedEquation& equation = turn.equation;
     if (equation.kind == PreparedEquation::Kind::refused) {
         setEquationType(equation);
-        return turn.fail(equation.refusal);
+        return turn.fail(*equation.detail);
     }
     TwVarCell& target = m_varCells[equation.target];
     const auto [column, row] = equation.cell;
@@ -71,7 +88,7 @@ ErrorStatus TwStandardsSS::assign(Turn& turn) {
         target.typedValue().take(equationCellType(equation.givesText), *result);
     } else {
         setEquationType(equation);
-        grid().setFormula(column, row, equation.program, equation.formula.block());
+        grid().setFormula(column, row, equation.program, turn.prepared.formulaOf(equation).block());
         target.typedValue().readFrom(grid(), column, row);
     }
     m_assignedIn[static_cast<size_t>(equation.target)] = equation.cell;

@@ -26,31 +26,35 @@ int findTarget(const PreparedEquation& equation, const VariableReferences& refer
 
 bool findNative(PreparedEquation& equation) {
     const Vor_FunctionTimer timer(gCalcCellFindFunctions);
-    return findNativeFunction(equation.expression, equation.function);
+    Vor_String function;
+    if (!findNativeFunction(equation.expression, function)) return false;
+    equation.detail = std::make_unique<Vor_String>(std::move(function));
+    return true;
 }
 
-SharedText translated(std::string_view expression, const VariableReferences& references) {
+std::string_view translated(std::string_view expression, const VariableReferences& references) {
     const Vor_FunctionTimer timer(gCalcCellReplaceVariables);
     static std::string buffer;
-    return SharedText(references.translate(expression, buffer));
+    return references.translate(expression, buffer);
 }
 
 void compile(PreparedEquation& equation, const VariableReferences& references,
              const control::Sheet& sheet) {
-    equation.formula = translated(equation.expression, references);
     formula::ParseError error;
     const auto [col, row] = equation.cell;
-    equation.program =
-        formula::parse(equation.formula.view(), sheet.parseSettings(col, row), error);
-    if (equation.program) {
-        equation.kind = PreparedEquation::Kind::ordinary;
-    } else {
-        equation.kind = PreparedEquation::Kind::refused;
-        equation.refusal = error.message;
-    }
+    equation.program = formula::parse(translated(equation.expression, references),
+                                      sheet.parseSettings(col, row), error);
+    equation.kind =
+        equation.program ? PreparedEquation::Kind::ordinary : PreparedEquation::Kind::refused;
+    if (!equation.program) equation.detail = std::make_unique<Vor_String>(error.message);
 }
 
 }  // namespace
+
+const SharedText& PreparedEquation::formula(const VariableReferences& references) const {
+    if (!m_formula.block()) m_formula = SharedText(translated(expression, references));
+    return m_formula;
+}
 
 Vor_String coordinateName(const TwVarCell& variable) {
     return getAlfabet(variable.column()) + Vor_String(variable.row(), 0);
@@ -86,12 +90,13 @@ PreparedEquation prepareEquation(SharedText text, control::CellAddress cell,
     if (findNative(equation)) {
         equation.kind = PreparedEquation::Kind::childCall;
     } else if (!hasSymbol) {
-        equation.refusal =
+        equation.detail = std::make_unique<Vor_String>(
             "there is no \"=\" in it: write Name=expression, or move labels out "
-            "of the rows below \"Calc\"";
+            "of the rows below \"Calc\"");
     } else if (equation.target < 0) {
-        equation.refusal = Vor_String("no variable \"") + equation.name +
-                           "\" is declared: declare it below \"Input\", \"Output\" or \"Local\"";
+        equation.detail = std::make_unique<Vor_String>(
+            Vor_String("no variable \"") + equation.name +
+            "\" is declared: declare it below \"Input\", \"Output\" or \"Local\"");
     } else {
         const Vor_FunctionTimer timer(gCalcCellCalcFunctionsPrepare);
         equation.givesText = variables[equation.target].valueType() == TwValueType::String;

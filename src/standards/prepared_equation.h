@@ -3,7 +3,7 @@
 // times is prepared once.
 #pragma once
 
-#include <optional>
+#include <memory>
 
 #include "mapping/tw_var_cells.h"
 #include "spread/control/sheet.h"
@@ -26,10 +26,16 @@ struct PreparedEquation {
     int target = -1;              ///< the variable of that name, or -1
     /// The target is a String: the equation cell shows text.
     bool givesText = false;
-    Vor_String function;  ///< childCall: the native function
-    SharedText formula;   ///< ordinary and refused: with cell references
-    formula::ProgramRef program;
-    Vor_String refusal;  ///< irregular and refused: why, and what to do
+    formula::ProgramRef program;  ///< ordinary
+    /// childCall: the native function; irregular and refused: why, and what to do. Else null.
+    std::unique_ptr<Vor_String> detail;
+
+    /// Ordinary and refused: with cell references. Made when it is first asked for, as hidden runs
+    /// do without; `references` are those that the equation was prepared with.
+    const SharedText& formula(const VariableReferences& references) const;
+
+  private:
+    mutable SharedText m_formula;
 };
 
 /// The cell reference of a variable: "B5".

@@ -72,8 +72,8 @@ PreparedStandard::PreparedStandard(Vor_Spread& spread) {
         std::lower_bound(filled.begin(), filled.end(), rows.first,
                          [](control::CellAddress cell, int row) { return cell.row < row; });
     if (rows.first > rows.last) return;
-    m_places.reserve(static_cast<size_t>(filled.end() - first));
-    for (auto cell = first; cell != filled.end(); ++cell) m_places.push_back({*cell, {}});
+    m_equations.reserve(static_cast<size_t>(filled.end() - first));
+    for (auto cell = first; cell != filled.end(); ++cell) m_equations.emplace_back().cell = *cell;
 }
 
 TwVarCells PreparedStandard::variables() const {
@@ -105,40 +105,40 @@ bool PreparedStandard::calcMarkerHolds(const control::Grid& grid) const {
     return !m_layout.has(Marker::calc) || readsCalc(grid, m_layout.cell(Marker::calc));
 }
 
-const PreparedEquation& PreparedStandard::equationIn(Place& place, const TwVarCells& variables,
+const PreparedEquation& PreparedStandard::equationIn(PreparedEquation& known,
+                                                     const TwVarCells& variables,
                                                      const control::Grid& grid,
                                                      PreparedEquation& changed) {
-    control::TextBlock* text = textOf(grid, place.cell);
-    if (text && text == place.equation.text.block()) return place.equation;
-    if (text && !place.equation.text.block()) {
-        place.equation = prepare(SharedText::of(text), place.cell, variables, grid);
-        return place.equation;
+    control::TextBlock* text = textOf(grid, known.cell);
+    if (text && text == known.text.block()) return known;
+    if (text && !known.text.block()) {
+        known = prepare(SharedText::of(text), known.cell, variables, grid);
+        return known;
     }
     std::string buffer;
     changed = prepare(
-        SharedText(grid.text(place.cell.col, place.cell.row, control::Reading::value, buffer)),
-        place.cell, variables, grid);
+        SharedText(grid.text(known.cell.col, known.cell.row, control::Reading::value, buffer)),
+        known.cell, variables, grid);
     return changed;
 }
 
 bool PreparedStandard::needsNoEquationCells(const TwVarCells& variables,
                                             const control::Grid& grid) {
-    for (Place& place : m_places) {
-        control::TextBlock* text = textOf(grid, place.cell);
-        control::TextBlock* known = place.equation.text.block();
+    for (PreparedEquation& equation : m_equations) {
+        control::TextBlock* text = textOf(grid, equation.cell);
+        control::TextBlock* known = equation.text.block();
         if (text && text == known) continue;
         if (!text || known) return false;
         PreparedEquation unused;
-        (void)equationIn(place, variables, grid, unused);
+        (void)equationIn(equation, variables, grid, unused);
     }
     if (!m_readsEquationCells) {
         const int firstRow = m_layout.equationRows().first;
-        const auto reads = [&](const Place& place) {
-            return place.equation.program &&
-                   !readsOnlyAbove(*place.equation.program, place.cell, firstRow);
+        const auto reads = [&](const PreparedEquation& equation) {
+            return equation.program && !readsOnlyAbove(*equation.program, equation.cell, firstRow);
         };
         const auto isThere = [&](const TwVarCell& cell) { return cell.row() >= firstRow; };
-        m_readsEquationCells = std::any_of(m_places.begin(), m_places.end(), reads) ||
+        m_readsEquationCells = std::any_of(m_equations.begin(), m_equations.end(), reads) ||
                                std::any_of(variables.begin(), variables.end(), isThere);
     }
     return !*m_readsEquationCells;

@@ -27,25 +27,26 @@ class PreparedStandard {
     const Vor_Array<int>& duplicates() const { return m_duplicates; }
     const Vor_StringArray& duplicateNames() const { return m_duplicateNames; }
 
-    /// A place in the equation area that is not empty.
-    struct Place {
-        control::CellAddress cell;
-        PreparedEquation equation;  ///< without text before it was prepared
-    };
-    std::vector<Place>& places() { return m_places; }
+    /// One for every cell of the equation area that is not empty; without text before it was
+    /// prepared.
+    std::vector<PreparedEquation>& equations() { return m_equations; }
     /// The "Calc" marker is still the first cell that reads so: neither replaced nor preceded by a
     /// value.
     bool calcMarkerHolds(const control::Grid& grid) const;
 
-    /// The equation in `place` for what the cell shows now: prepared before, when the cell still
-    /// holds the text of that time, else into `changed`. `variables` are the declarations without
+    /// The equation for what the cell of `known` shows now: `known`, when the cell still holds the
+    /// text that it was prepared from, else `changed`. `variables` are the declarations without
     /// namesakes.
-    const PreparedEquation& equationIn(Place& place, const TwVarCells& variables,
+    const PreparedEquation& equationIn(PreparedEquation& known, const TwVarCells& variables,
                                        const control::Grid& grid, PreparedEquation& changed);
     /// All cells hold the texts that their equations were prepared from (now, where they were not
     /// yet), and no equation reads a cell of the equation area: the results that those cells show
     /// serve people alone.
     bool needsNoEquationCells(const TwVarCells& variables, const control::Grid& grid);
+    /// The formula of an equation that was prepared here.
+    const SharedText& formulaOf(const PreparedEquation& equation) const {
+        return equation.formula(*m_references);
+    }
     /// As equationIn for a text that the caller read.
     PreparedEquation prepare(SharedText text, control::CellAddress cell,
                              const TwVarCells& variables, const control::Grid& grid);
@@ -58,7 +59,7 @@ class PreparedStandard {
     TwVarCells m_declarations;
     Vor_Array<int> m_duplicates;
     Vor_StringArray m_duplicateNames;
-    std::vector<Place> m_places;
+    std::vector<PreparedEquation> m_equations;
     /// Cells of Strings that come before the "Calc" marker, where a value could read "Calc".
     std::vector<control::CellAddress> m_textsBeforeCalc;
     std::unique_ptr<VariableReferences> m_references;

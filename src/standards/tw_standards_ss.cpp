@@ -130,10 +130,10 @@ void TwStandardsSS::evaluateAll(PreparedStandard& prepared) {
     m_fillsNow = m_fillsEquationCells || !prepared.needsNoEquationCells(m_varCells, grid());
     takeValueCells();
     PreparedEquation changed;
-    for (PreparedStandard::Place& place : prepared.places()) {
+    for (PreparedEquation& known : prepared.equations()) {
         const PreparedEquation& equation =
-            m_fillsNow ? prepared.equationIn(place, m_varCells, grid(), changed) : place.equation;
-        if (!equation.text.view().empty()) (void)evaluate(equation);
+            m_fillsNow ? prepared.equationIn(known, m_varCells, grid(), changed) : known;
+        if (!equation.text.view().empty()) (void)evaluate(prepared, equation);
     }
     m_fillsNow = true;
     m_valueCells.clear();
@@ -158,7 +158,8 @@ ErrorStatus TwStandardsSS::calcCell(int column, int row) {
         return Acad::eInvalidInput;
     registerFunctions();
     m_assignedIn.resize(static_cast<size_t>(m_varCells.length()));
-    return evaluate(m_prepared->prepare(SharedText(text), {column, row}, m_varCells, grid()));
+    return evaluate(*m_prepared,
+                    m_prepared->prepare(SharedText(text), {column, row}, m_varCells, grid()));
 }
 
 ErrorStatus TwStandardsSS::getVarCoordName(const Vor_String& name, Vor_String& coordinate) const {

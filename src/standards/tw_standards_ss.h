@@ -69,7 +69,7 @@ class TwStandardsSS : public Vor_Spread {
 
     void takeValueCells();
     void evaluateAll(PreparedStandard& prepared);
-    ErrorStatus evaluate(const PreparedEquation& equation);
+    ErrorStatus evaluate(const PreparedStandard& prepared, const PreparedEquation& equation);
     ErrorStatus assign(Turn& turn);
     ErrorStatus writeTarget(int index);
     void setEquationType(const PreparedEquation& equation);

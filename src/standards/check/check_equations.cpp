@@ -44,10 +44,10 @@ class NamesInText {
     std::vector<int> m_others;
 };
 
-Vor_String describeRefusal(const PreparedEquation& equation) {
-    if (equation.kind == PreparedEquation::Kind::irregular) return equation.refusal;
-    return "the equation would be refused: " + equation.refusal + " (in " +
-           Vor_String(equation.formula.view()) + ")";
+Vor_String describeRefusal(StandardCheck& check, const PreparedEquation& equation) {
+    if (equation.kind == PreparedEquation::Kind::irregular) return *equation.detail;
+    return "the equation would be refused: " + *equation.detail + " (in " +
+           Vor_String(check.sheet.prepared()->formulaOf(equation).view()) + ")";
 }
 
 void checkLocal(StandardCheck& check, const TwVarCell& variable, const StandardCheck::Use& use) {
@@ -88,7 +88,7 @@ void checkEquations(StandardCheck& check) {
                 continue;
             case PreparedEquation::Kind::irregular:
             case PreparedEquation::Kind::refused:
-                check.error(equation.cell, describeRefusal(equation));
+                check.error(equation.cell, describeRefusal(check, equation));
                 if (equation.name.empty()) continue;  // a label uses nothing
                 break;
             case PreparedEquation::Kind::ordinary:

@@ -39,7 +39,7 @@ bool OpenedStandard::open(const Vor_String& name) {
 
 std::vector<PreparedEquation> OpenedStandard::equations() {
     std::vector<PreparedEquation> equations;
-    for (const PreparedStandard::Place& place : sheet.prepared()->places()) {
+    for (const PreparedEquation& place : sheet.prepared()->equations()) {
         Vor_String text;
         sheet.getCellText(place.cell.col, place.cell.row, text, Vor_Spread::Reading::value);
         if (!text.isEmpty())

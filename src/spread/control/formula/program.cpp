@@ -1,10 +1,25 @@
 #include "spread/control/formula/program.h"
 
 #include <algorithm>
+#include <memory>
+#include <new>
 
 namespace formula {
 
 using control::TextBlock;
+
+Program* Program::make(std::span<const Instruction> code) {
+    void* memory = ::operator new(sizeof(Program) + code.size_bytes());
+    auto* program = new (memory) Program;
+    program->m_size = code.size();
+    std::uninitialized_copy(code.begin(), code.end(), reinterpret_cast<Instruction*>(program + 1));
+    return program;
+}
+
+void Program::release(Program* program) {
+    program->~Program();
+    ::operator delete(program);
+}
 
 /// Every living program by its code, in an open table that holds the hashes too: looking for a
 /// program that is not there yet touches no other one.
@@ -24,8 +39,7 @@ class ProgramPool {
             releaseTexts(code);
             return ProgramRef(m_slots[at].program);
         }
-        auto* program = new Program;
-        program->m_code.assign(code.begin(), code.end());
+        Program* program = Program::make(code);
         program->m_stackDepth = stackDepth;
         program->m_isVolatile = isVolatile;
         program->m_hash = hash;
@@ -46,8 +60,8 @@ class ProgramPool {
         }
         m_slots[hole] = {};
         --m_count;
-        releaseTexts(program->m_code);
-        delete program;
+        releaseTexts(program->code());
+        Program::release(program);
     }
 
   private:

@@ -93,21 +93,32 @@ struct Instruction {
 };
 static_assert(sizeof(Instruction) == 16);
 
+/// The instructions lie right behind the object: a program is one piece of memory.
 class Program {
   public:
-    std::span<const Instruction> code() const { return m_code; }
+    Program(const Program&) = delete;
+    Program& operator=(const Program&) = delete;
+
+    std::span<const Instruction> code() const {
+        return {reinterpret_cast<const Instruction*>(this + 1), m_size};
+    }
     int stackDepth() const { return m_stackDepth; }
     bool isVolatile() const { return m_isVolatile; }
 
   private:
     friend class ProgramPool;
     friend class ProgramRef;
-    std::vector<Instruction> m_code;
-    int m_stackDepth = 0;
-    bool m_isVolatile = false;
+    static Program* make(std::span<const Instruction> code);
+    static void release(Program* program);
+    Program() = default;
+
+    size_t m_size = 0;
     size_t m_hash = 0;
+    int m_stackDepth = 0;
     uint32_t m_references = 0;
+    bool m_isVolatile = false;
 };
+static_assert(sizeof(Program) % alignof(Instruction) == 0);
 
 /// Shares a program. Counted without locks: everything runs on one thread.
 class ProgramRef {
