@@ -12,11 +12,10 @@ const Vor_StringArray& nativeFunctionNames() {
 }
 
 bool containsFolded(std::string_view text, std::string_view part) {
-    const char first = encodings::toLower(part[0]);
-    for (size_t at = 0; at + part.size() <= text.size(); ++at)
-        if (encodings::toLower(text[at]) == first &&
-            encodings::equalFolded(text.substr(at, part.size()), part))
-            return true;
+    for (const char first : {encodings::toUpper(part[0]), encodings::toLower(part[0])})
+        for (size_t at = text.find(first); at != std::string_view::npos;
+             at = text.find(first, at + 1))
+            if (encodings::equalFolded(text.substr(at, part.size()), part)) return true;
     return false;
 }
 

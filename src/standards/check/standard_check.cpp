@@ -39,12 +39,12 @@ bool OpenedStandard::open(const Vor_String& name) {
 
 std::vector<PreparedEquation> OpenedStandard::equations() {
     std::vector<PreparedEquation> equations;
-    for (const PreparedEquation& place : sheet.prepared()->equations()) {
+    for (const PreparedEquation& known : sheet.prepared()->equations()) {
         Vor_String text;
-        sheet.getCellText(place.cell.col, place.cell.row, text, Vor_Spread::Reading::value);
+        sheet.getCellText(known.cell.col, known.cell.row, text, Vor_Spread::Reading::value);
         if (!text.isEmpty())
             equations.push_back(sheet.prepared()->prepare(
-                SharedText(withGenNumbers(text, variables)), place.cell, variables, sheet.grid()));
+                SharedText(withGenNumbers(text, variables)), known.cell, variables, sheet.grid()));
     }
     return equations;
 }
