@@ -42,8 +42,9 @@ void compile(PreparedEquation& equation, const VariableReferences& references,
              const control::Sheet& sheet) {
     formula::ParseError error;
     const auto [col, row] = equation.cell;
-    equation.program = formula::parse(translated(equation.expression, references),
-                                      sheet.parseSettings(col, row), error);
+    formula::ParseSettings settings = sheet.parseSettings(col, row);
+    settings.isShared = false;
+    equation.program = formula::parse(translated(equation.expression, references), settings, error);
     equation.kind =
         equation.program ? PreparedEquation::Kind::ordinary : PreparedEquation::Kind::refused;
     if (!equation.program) equation.detail = std::make_unique<Vor_String>(error.message);

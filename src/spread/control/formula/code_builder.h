@@ -65,8 +65,8 @@ class CodeBuilder {
     }
 
     /// The program; it owns the texts from now on.
-    ProgramRef finish() {
-        ProgramRef program = intern(m_code, m_maxDepth, isVolatile);
+    ProgramRef finish(bool isShared) {
+        ProgramRef program = (isShared ? intern : makeOwn)(m_code, m_maxDepth, isVolatile);
         m_code.clear();
         return program;
     }

@@ -100,7 +100,7 @@ ProgramRef Parser::parse() {
     }
     m_code.makeSingle(kind);
     if (kind != Kind::single) m_code.emitSingle();
-    return m_code.finish();
+    return m_code.finish(m_settings.isShared);
 }
 
 bool Parser::binary(int least, Want want, Kind& kind) {

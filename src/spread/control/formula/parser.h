@@ -34,6 +34,8 @@ struct ParseSettings {
     ReferenceStyle style = ReferenceStyle::a1;
     /// The whole formula is an array formula ("{=…}" in one cell).
     bool arrayFormula = false;
+    /// Other cells may well hold the same formula, as when it is filled down: they share it.
+    bool isShared = true;
     /// Registered functions by name in upper case; null for none.
     const CustomFunction* (*findCustom)(const void* registry, std::string_view name) = nullptr;
     const void* registry = nullptr;

@@ -43,6 +43,7 @@ class ProgramPool {
         program->m_stackDepth = stackDepth;
         program->m_isVolatile = isVolatile;
         program->m_hash = hash;
+        program->m_isPooled = true;
         m_slots[at] = {hash, program};
         if (++m_count * 2 > m_slots.size()) grow();
         return ProgramRef(program);
@@ -60,8 +61,6 @@ class ProgramPool {
         }
         m_slots[hole] = {};
         --m_count;
-        releaseTexts(program->code());
-        Program::release(program);
     }
 
   private:
@@ -113,7 +112,17 @@ class ProgramPool {
 };
 
 void ProgramRef::destroy(Program* program) {
-    ProgramPool::instance().remove(program);
+    if (program->m_isPooled) ProgramPool::instance().remove(program);
+    for (const Instruction& i : program->code())
+        if (i.op == Op::text) TextBlock::release(const_cast<TextBlock*>(i.text));
+    Program::release(program);
+}
+
+ProgramRef makeOwn(std::span<const Instruction> code, int stackDepth, bool isVolatile) {
+    Program* program = Program::make(code);
+    program->m_stackDepth = stackDepth;
+    program->m_isVolatile = isVolatile;
+    return ProgramRef(program);
 }
 
 ProgramRef intern(std::span<const Instruction> code, int stackDepth, bool isVolatile) {

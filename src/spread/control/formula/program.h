@@ -93,6 +93,8 @@ struct Instruction {
 };
 static_assert(sizeof(Instruction) == 16);
 
+class ProgramRef;
+
 /// The instructions lie right behind the object: a program is one piece of memory.
 class Program {
   public:
@@ -108,6 +110,7 @@ class Program {
   private:
     friend class ProgramPool;
     friend class ProgramRef;
+    friend ProgramRef makeOwn(std::span<const Instruction> code, int stackDepth, bool isVolatile);
     static Program* make(std::span<const Instruction> code);
     static void release(Program* program);
     Program() = default;
@@ -117,6 +120,7 @@ class Program {
     int m_stackDepth = 0;
     uint32_t m_references = 0;
     bool m_isVolatile = false;
+    bool m_isPooled = false;
 };
 static_assert(sizeof(Program) % alignof(Instruction) == 0);
 
@@ -150,5 +154,7 @@ class ProgramRef {
 
 /// Gives the one shared program with this code; owns the texts of `code` afterwards.
 ProgramRef intern(std::span<const Instruction> code, int stackDepth, bool isVolatile);
+/// A program of its own, for a formula that has no likes: quicker to make and to forget.
+ProgramRef makeOwn(std::span<const Instruction> code, int stackDepth, bool isVolatile);
 
 }  // namespace formula
