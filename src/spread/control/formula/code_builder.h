@@ -20,13 +20,15 @@ enum class Kind {
 
 class CodeBuilder {
   public:
-    CodeBuilder() { m_code.reserve(32); }
+    CodeBuilder() { m_code.swap(spareMemory()); }
     CodeBuilder(const CodeBuilder&) = delete;
     CodeBuilder& operator=(const CodeBuilder&) = delete;
     ~CodeBuilder() {
         for (const Instruction& i : m_code)
             if (i.op == Op::text)
                 control::TextBlock::release(const_cast<control::TextBlock*>(i.text));
+        m_code.clear();
+        m_code.swap(spareMemory());
     }
 
     /// Whether areas stay areas: inside an argument that takes arrays, or an array formula.
@@ -72,6 +74,12 @@ class CodeBuilder {
     }
 
   private:
+    /// What the formula before used; thousands are parsed one after another.
+    static std::vector<Instruction>& spareMemory() {
+        static std::vector<Instruction> spare;
+        return spare;
+    }
+
     std::vector<Instruction> m_code;
     int m_depth = 0;
     int m_maxDepth = 0;
