@@ -78,7 +78,7 @@ std::string_view VariableReferences::translate(std::string_view text, std::strin
     if (buffer.size() < most) buffer.resize(most);
     char* out = buffer.data();
     const auto write = [&out](const char* from, size_t size) {
-        std::memcpy(out, from, size);
+        if (size > 0) std::memcpy(out, from, size);  // nothing may come from nowhere
         out += size;
     };
     const char* copied = text.data();
