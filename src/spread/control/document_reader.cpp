@@ -19,7 +19,7 @@ constexpr int widest = 10000;
 std::string quoted(std::string_view text) {
     std::string shown = "\"";
     for (const char c : text.substr(0, 40)) shown += c >= ' ' && c < 0x7F ? c : '?';
-    return shown + (text.size() > 40 ? "…\"" : "\"");
+    return shown + (text.size() > 40 ? "\x85\"" : "\"");  // Windows-1252, an ellipsis
 }
 
 // Splits at the first blank.
@@ -60,7 +60,8 @@ const DocumentReader::LineKind DocumentReader::lineKinds[] = {
 std::shared_ptr<Document> DocumentReader::read() {
     m_document = std::make_shared<Document>();
     m_sides = &m_document->m_sides.change();
-    if (!readFirstLine() || !readProperties() || !readCells() || !setFormulas()) return nullptr;
+    if (!readFirstLine() || !hasNoZeroByte() || !readProperties() || !readCells() || !setFormulas())
+        return nullptr;
     return std::move(m_document);
 }
 
@@ -85,7 +86,10 @@ bool DocumentReader::takeLine(std::string_view& line) {
 bool DocumentReader::readFirstLine() {
     if (m_text.starts_with("\xEF\xBB\xBF")) m_text.remove_prefix(3);
     std::string_view line;
-    if (!takeLine(line)) return fail("the file is empty", "choose a sheet document");
+    if (!takeLine(line)) {
+        m_line = 1;
+        return fail("the file is empty", "choose a sheet document");
+    }
     if (!line.starts_with(firstWord))
         return fail("this is no sheet document", "choose a file that was saved as one");
     const std::optional<int> version = readWhole(line.substr(firstWord.size()));
@@ -94,6 +98,15 @@ bool DocumentReader::readFirstLine() {
                     "open it with that version");
     if (version != newestVersion) return failHere("unknown version of the document");
     return true;
+}
+
+bool DocumentReader::hasNoZeroByte() {
+    const size_t at = m_text.find('\0');
+    if (at == std::string_view::npos) return true;
+    m_line += static_cast<int>(std::count(m_text.begin(),
+                                          m_text.begin() + static_cast<std::ptrdiff_t>(at), '\n')) +
+              1;
+    return fail("a zero byte", "the document is damaged; take a backup");
 }
 
 // --- properties ---------------------------------------------------------------------------------

@@ -32,6 +32,7 @@ class DocumentReader {
     bool takeLine(std::string_view& line);
 
     bool readFirstLine();
+    bool hasNoZeroByte();
     bool readProperties();
     bool readProperty(std::string_view line);
     bool readSize(std::string_view rest);
