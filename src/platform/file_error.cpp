@@ -42,4 +42,10 @@ std::string errorText(std::string_view action, std::string_view path, int error)
     return text;
 }
 
+std::string notOrdinaryText(std::string_view action, std::string_view path) {
+    std::string text = "cannot ";
+    text.append(action).append(" ").append(path);
+    return text.append(": it is not an ordinary file; name a file");
+}
+
 }  // namespace files

@@ -8,5 +8,7 @@ namespace files {
 
 /// "cannot <action> <path>: <what the system says>; <what to do>".
 std::string errorText(std::string_view action, std::string_view path, int error);
+/// The same for a device, a pipe and the like.
+std::string notOrdinaryText(std::string_view action, std::string_view path);
 
 }  // namespace files

@@ -108,7 +108,7 @@ std::optional<std::string> readWhole(std::string_view path, std::string& error,
     if (::fstat(file.get(), &status) != 0) return fail(errno);
     if (S_ISDIR(status.st_mode)) return fail(EISDIR);
     if (!S_ISREG(status.st_mode)) {
-        error = "cannot read " + std::string(path) + ": it is not an ordinary file; name a file";
+        error = notOrdinaryText("read", path);
         return std::nullopt;
     }
     const auto size = static_cast<std::size_t>(status.st_size);

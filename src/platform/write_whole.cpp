@@ -140,7 +140,15 @@ bool writeWhole(std::string_view path, std::string_view content, std::string& er
     const std::string target = isName ? finalPath(path) : std::string();
     struct stat status {};
     int code = isName ? 0 : ENOENT;
-    if (code == 0 && ::stat(target.c_str(), &status) == 0 && S_ISDIR(status.st_mode)) code = EISDIR;
+    if (code == 0 && ::lstat(target.c_str(), &status) == 0) {
+        // Renaming would put a file in the place of these, a link that leads nowhere included.
+        if (S_ISDIR(status.st_mode)) code = EISDIR;
+        if (S_ISLNK(status.st_mode)) code = errnoIf(::stat(target.c_str(), &status) != 0);
+        if (code == 0 && !S_ISREG(status.st_mode)) {
+            error = notOrdinaryText("write", path);
+            return false;
+        }
+    }
     // Renaming needs only the folder's permission; a file its owner protected stays protected.
     if (code == 0 && ::access(target.c_str(), F_OK) == 0)
         code = errnoIf(::access(target.c_str(), W_OK) != 0);

@@ -6,6 +6,7 @@
 
 #include <cerrno>
 #include <chrono>
+#include <filesystem>
 
 #include "platform/paths.h"
 #include "support/failing_steps.h"
@@ -66,6 +67,14 @@ TEST(WriteWhole, RefusesWhatIsNoFile) {
     EXPECT_FALSE(files::writeWhole(folder.inside("missing\\file.txt"), "x", error));
     EXPECT_THAT(error, HasSubstr("check the name and its folder"));
     EXPECT_FALSE(files::writeWhole("", "x", error));
+    // A file would take the place of these.
+    ASSERT_EQ(::mkfifo((folder.path() / "pipe").c_str(), 0600), 0);
+    EXPECT_FALSE(files::writeWhole(folder.inside("pipe"), "x", error));
+    EXPECT_THAT(error, HasSubstr("not an ordinary file"));
+    EXPECT_TRUE(std::filesystem::is_fifo(folder.path() / "pipe"));
+    std::filesystem::create_symlink("nowhere", folder.path() / "link");
+    EXPECT_FALSE(files::writeWhole(folder.inside("link"), "x", error));
+    EXPECT_TRUE(std::filesystem::is_symlink(folder.path() / "link"));
 }
 
 TEST(ReadWhole, RefusesWithAReason) {
