@@ -9,8 +9,21 @@
 #include "mapping/mapping_file.h"
 #include "standards/found_files.h"
 #include "standards/run_chain.h"
+#include "standards/run_observer.h"
 
 namespace {
+
+void tellObserver(const Vor_String& text) {
+    if (RunObserver* observer = runObserver()) observer->dataFileFailed(text);
+}
+
+std::optional<Vor_StringArray> readLines(std::string_view path) {
+    Vor_StringArray lines;
+    Vor_String message;
+    if (ObjectExportReadFile(path, lines, &message) == Acad::eOk) return lines;
+    tellObserver(message);
+    return std::nullopt;
+}
 
 /// What a data file holds, for the length of one outermost run: equations ask for the same few
 /// files again and again.
@@ -19,21 +32,23 @@ class ReadInRun {
   public:
     template <class Read>
     std::shared_ptr<const Content> get(std::string_view name, Read&& read) {
-        const auto path = [&] { return findDataFile(name); };
-        if (RunningStandard::serial() == 0) return readFrom(path(), read);
+        if (RunningStandard::serial() == 0) return readFrom(name, read);
         if (m_serial != RunningStandard::serial()) {
             m_read.clear();
             m_serial = RunningStandard::serial();
         }
         const auto [entry, isNew] = m_read.try_emplace(std::string(name));
-        if (isNew) entry->second = readFrom(path(), read);
+        if (isNew) entry->second = readFrom(name, read);
         return entry->second;
     }
 
   private:
     template <class Read>
-    std::shared_ptr<const Content> readFrom(const std::optional<Vor_String>& path, Read&& read) {
-        return path ? m_files.get(*path, read) : nullptr;
+    std::shared_ptr<const Content> readFrom(std::string_view name, Read&& read) {
+        if (const auto path = findDataFile(name)) return m_files.get(*path, read);
+        tellObserver("there is no data file \"" + Vor_String(name) + "\" in " + standardsFolder() +
+                     "Data\\: put it there, or correct its name");
+        return nullptr;
     }
 
     CachedFiles<Content> m_files;
@@ -42,10 +57,10 @@ class ReadInRun {
 };
 
 std::optional<SizeList> parseSizeList(std::string_view path) {
-    Vor_StringArray lines;
-    if (ObjectExportReadFile(path, lines) != Acad::eOk) return std::nullopt;
+    const auto lines = readLines(path);
+    if (!lines) return std::nullopt;
     SizeList sizes;
-    for (const Vor_String& line : lines) {
+    for (const Vor_String& line : *lines) {
         const Vor_String text = stripSymbols(
             removeLineComment(removeComments(line, "/*", "*/"), "//"), ' ', true, false);
         if (text.isEmpty()) continue;
@@ -59,14 +74,17 @@ std::optional<SizeList> parseSizeList(std::string_view path) {
 }
 
 std::optional<LookupTable> parseLookupTable(std::string_view path) {
-    Vor_StringArray lines;
-    if (ObjectExportReadFile(path, lines) != Acad::eOk) return std::nullopt;
+    const auto lines = readLines(path);
+    if (!lines) return std::nullopt;
     Vor_StringArray kept;
-    for (const Vor_String& line : lines) {
+    for (const Vor_String& line : *lines) {
         Vor_String text = removeLineComment(line, "//");
         if (!text.isEmpty()) kept.append(std::move(text));
     }
-    if (kept.isEmpty()) return std::nullopt;
+    if (kept.isEmpty()) {
+        tellObserver(Vor_String(path) + ": there is no row in it: write key, tab, value");
+        return std::nullopt;
+    }
     return LookupTable(arrToArrArr(kept, '\t'));
 }
 

@@ -36,6 +36,9 @@ class VORMANT_API RunObserver {
     /// What does not fail a run but should be known: an output that holds an error, names that
     /// are declared twice.
     virtual void warning(std::string_view /*text*/) {}
+    /// A data file that an equation asks for is missing or cannot be read: the function fails, and
+    /// its result cannot say why. Told once in an outermost run.
+    virtual void dataFileFailed(std::string_view text) { warning(text); }
     /// The sheet's variables with their final values, locals too; before runEnded, also of a run
     /// whose equations failed.
     virtual void variablesKnown(const TwVarCells& /*variables*/) {}

@@ -139,6 +139,20 @@ TEST(Batch, AFailedEquationOrErrorResultIsNoResult) {
     EXPECT_THAT(failing.out, StartsWith("{\"error\":\"line 1: row 6: W=P+: "));
 }
 
+TEST(Batch, ADataFileThatIsMissingIsNamed) {
+    const Library library;
+    library.add("Table", {"Input", "Double P", "Output", "Double W", "Calc",
+                          "W=TONUMBER(GETCELL(\"bolts.txt\",P))"});
+    const std::string line = "{\"P\":2}\n";
+    const auto missing = library.call({"batch", "Table", "--jsonl"}, line + line);
+    EXPECT_THAT(missing.out, HasSubstr("line 2: W is #VALUE!: there is no data file"));
+    library.write("Connection Standards/Data/bolts.txt", "// nothing\n");
+    EXPECT_THAT(library.call({"run", "Table", "--set", "P=2"}).err,
+                HasSubstr("bolts.txt: there is no row in it"));
+    library.write("Connection Standards/Data/bolts.txt", "2\t5\n");
+    EXPECT_EQ(library.call({"batch", "Table", "--jsonl"}, line).out, "{\"W\":5}\n");
+}
+
 TEST(Batch, AChildThatFailsIsNamed) {
     const Library library;
     library.add("Caller", {"Input", "Double P", "Output", "Double W", "Calc",

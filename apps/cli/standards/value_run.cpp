@@ -18,6 +18,10 @@ void FailureWatch::equationDone(const EquationReport& equation) {
     m_failure += equation.message.empty() ? "failed" : shownMessage(equation.message);
 }
 
+void FailureWatch::dataFileFailed(std::string_view text) {
+    if (m_missing.empty()) m_missing = shownMessage(text);
+}
+
 ToldOnce::ToldOnce()
     : m_listener([this](const MessageBox& box) {
           if (std::find(m_told.begin(), m_told.end(), box.text) == m_told.end()) {
@@ -50,6 +54,7 @@ bool ValueRun::run(std::string& error) {
         appendUtf8(error, cell.name());
         error += " is ";
         appendUtf8(error, cell.value());
+        if (!m_watch.missing().empty()) error += ": " + m_watch.missing();
         return false;
     }
     return true;

@@ -22,19 +22,26 @@ class FailureWatch : public RunObserver {
     FailureWatch(const FailureWatch&) = delete;
     FailureWatch& operator=(const FailureWatch&) = delete;
 
-    void reset() { m_failure.clear(); }
+    void reset() {
+        m_failure.clear();
+        m_missing.clear();
+    }
     /// "row 9: Width=Gap+: why", with its file in front when it is a child's; empty when all went
     /// well.
     const std::string& failure() const { return m_failure; }
+    /// The first data file that could not be read, and why; empty when there was none.
+    const std::string& missing() const { return m_missing; }
 
   private:
     bool wantsEveryEquation() const override { return false; }
     void equationDone(const EquationReport& equation) override;
+    void dataFileFailed(std::string_view text) override;
     void childStarted(std::string_view path, int, int) override { m_children.push_back(path); }
     void childEnded(bool) override { m_children.pop_back(); }
 
     RunObserver* m_before;
     std::string m_failure;                     // UTF-8
+    std::string m_missing;                     // UTF-8
     std::vector<std::string_view> m_children;  // paths of those running, the innermost last
 };
 
