@@ -11,23 +11,33 @@ namespace cli {
 namespace {
 
 void writeError(const std::string& line) {
-    std::fwrite(line.data(), 1, line.size(), stderr);
+    std::string text = shortened(line);
+    // Names can hold anything; a terminal would take some of it for orders.
+    for (char& c : text)
+        if ((c >= 0 && c < ' ' && c != '\n' && c != '\t') || c == '\x7F') c = '?';
+    std::fwrite(text.data(), 1, text.size(), stderr);
 }
 
 }  // namespace
 
 void complain(std::string_view message) {
-    writeError("vormant: " + shortened(std::string(message)) + "\n");
+    writeError("vormant: " + std::string(message) + "\n");
 }
 
 void complainAt(std::string_view file, long long line, std::string_view message) {
     std::string text = "vormant: " + std::string(file) + ":";
     if (line > 0) text += std::to_string(line) + ":";
-    writeError(text + " " + shortened(std::string(message)) + "\n");
+    writeError(text + " " + std::string(message) + "\n");
 }
 
 void complainText(std::string_view windows1252) {
     complain(shownMessage(windows1252));
+}
+
+void complainAboutLines(long long failed, long long lines) {
+    if (failed > 0)
+        complain(std::to_string(failed) + " of " + std::to_string(lines) +
+                 " lines failed; see their error records");
 }
 
 void complainLines(const std::vector<std::string>& windows1252) {

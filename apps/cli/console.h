@@ -24,4 +24,7 @@ void complainText(std::string_view windows1252);
 /// The same for the lines of a message box.
 void complainLines(const std::vector<std::string>& windows1252);
 
+/// How many lines of a filter's input got an error record; nothing is said when none did.
+void complainAboutLines(long long failed, long long lines);
+
 }  // namespace cli

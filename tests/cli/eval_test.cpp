@@ -97,7 +97,8 @@ TEST(EvalFilter, ABadLineGetsAnErrorRecordAndTheNextIsAnswered) {
         {"{\"id\":1,\"formula\":\"\\\"\xE4\xB8\xAD\\\"\"}", "1", "U+4E2D"},
         {"{\"id\":1,\"formula\":\"\xFF\"}", "null", "no JSON"},
         {std::string("{\"id\":1\0}", 9), "null", "no JSON"},
-        {std::string(100000, '['), "null", "no JSON"},
+        {std::string(100000, '['), "null", "nested deeper"},
+        {"{\"id\":\"" + std::string(65, '['), "null", "no JSON"},
         {"{\"cells\":" + std::string(1 << 20, '1') + "}", "null", "line"},
     };
     for (const auto& [line, id, message] : lines) {
@@ -105,6 +106,7 @@ TEST(EvalFilter, ABadLineGetsAnErrorRecordAndTheNextIsAnswered) {
         const auto result =
             program::run({"sheet", "eval", "--jsonl"}, line + "\n{\"id\":9,\"formula\":\"1\"}");
         EXPECT_EQ(result.exitCode, 1);
+        EXPECT_EQ(result.err, "vormant: 1 of 2 lines failed; see their error records\n");
         EXPECT_THAT(result.out, testing::StartsWith("{\"id\":" + id + ",\"error\":\"line 1: "));
         EXPECT_THAT(result.out, HasSubstr(message));
         EXPECT_THAT(result.out,

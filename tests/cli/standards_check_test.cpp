@@ -7,6 +7,7 @@
 namespace {
 
 using testing::HasSubstr;
+using testing::StartsWith;
 
 TEST(List, NamesEveryStandardWithItsInputsAndOutputs) {
     const Library library;
@@ -42,6 +43,10 @@ TEST(Check, PrintsFindingsWithTheirPlacesAndFailsOnErrorsAlone) {
     EXPECT_THAT(warned.out, HasSubstr(folder + "Unused.tws:3:1: warning: "));
 
     EXPECT_EQ(library.call({"check", "Nope", "Plate"}).exitCode, 1);
+    EXPECT_THAT(library.call({"check", folder}).err, HasSubstr("is a folder"));
+
+    const auto broken = library.write("Connection Standards/Broken.tws", "vormant-sheet 1\nsize\n");
+    EXPECT_THAT(library.call({"check", "Broken"}).out, StartsWith(broken + ":2: error: the size"));
 }
 
 TEST(Test, SaysWhichCaseWhichOutputAndByHowMuch) {
@@ -89,7 +94,14 @@ TEST(Test, CaseFilesThatDoNotFitAreRefused) {
         EXPECT_EQ(result.exitCode, 1);
         EXPECT_THAT(result.err, HasSubstr(row.message));
         EXPECT_THAT(result.err, testing::StartsWith("vormant: " + file));
+        EXPECT_EQ(result.out.find("as expected\n") == std::string::npos,
+                  result.err.find(": case ") == std::string::npos)
+            << "a file without cases has no result: " << result.out;
     }
+    const std::string file = library / "Connection Standards/Plate.cases.csv";
+    std::filesystem::remove(file);
+    std::filesystem::create_symlink("/dev/zero", file);
+    EXPECT_THAT(library.call({"test", "Plate"}).err, HasSubstr("not an ordinary file"));
 }
 
 TEST(Test, AllRunsEveryStandardThatHasCases) {

@@ -267,10 +267,19 @@ TEST_F(RunOnMacro, BrokenMacrosAndMappingsAreNamed) {
         EXPECT_EQ(result.exitCode, 1);
         EXPECT_THAT(result.err, HasSubstr("EndPlate.macro"));
     }
-    std::filesystem::remove(m_folder / "Connection Standards/EndPlate.map");
     std::filesystem::copy(VORMANT_SOURCE_DIR "/library/Macros/EndPlate.macro", m_folder / m_macro,
                           std::filesystem::copy_options::overwrite_existing);
-    EXPECT_THAT(run({}, "BeamToColumn").err, HasSubstr("EndPlate.map: the mapping file cannot"));
+    const std::string mapping = "Connection Standards/EndPlate.map";
+    for (const std::string_view content : {"", "Mapping version 1.0\n", "\x7F\x45\x4C\x46\n"}) {
+        m_folder.write(mapping, content);
+        EXPECT_THAT(run({}, "Nothing").err, HasSubstr("EndPlate.map: there is no key \"Nothing\""));
+    }
+    m_folder.write(mapping, std::string(100000, '\x1B') + "=x\n");
+    const auto unprintable = run({}, "Nothing");
+    EXPECT_EQ(unprintable.err.find('\x1B'), std::string::npos);
+    EXPECT_LT(unprintable.err.size(), 2000u);
+    std::filesystem::remove(m_folder / mapping);
+    EXPECT_THAT(run({}, "BeamToColumn").err, HasSubstr("EndPlate.map: No such file"));
 }
 
 }  // namespace

@@ -43,6 +43,14 @@ std::optional<LineSource> LineSource::open(const std::string& path, std::string&
     return LineSource(std::move(descriptor), isInput ? "(standard input)" : path, size);
 }
 
+std::optional<LineSource> LineSource::openFile(const std::string& path, std::string& error) {
+    struct stat status {};
+    const bool isThere = ::stat(path.c_str(), &status) == 0;
+    if (!isThere || S_ISREG(status.st_mode) || S_ISDIR(status.st_mode)) return open(path, error);
+    error = "is not an ordinary file";
+    return std::nullopt;
+}
+
 LineSource::LineSource(Descriptor descriptor, std::string name, long long size)
     : m_descriptor(std::move(descriptor)),
       m_name(std::move(name)),

@@ -34,6 +34,8 @@ class LineSource {
     /// `path` is a file, or "-" for the standard input. Nothing, with the reason in `error`, when
     /// it cannot be opened.
     static std::optional<LineSource> open(const std::string& path, std::string& error);
+    /// The same of nothing but an ordinary file, which has an end.
+    static std::optional<LineSource> openFile(const std::string& path, std::string& error);
 
     enum class Got {
         line,

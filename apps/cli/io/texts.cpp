@@ -67,13 +67,25 @@ void appendRounded(std::string& line, double number) {
     line.append(text, end.ptr);
 }
 
-std::string shortened(std::string message) {
+std::string shortened(std::string_view message) {
     constexpr size_t longest = 1000;
-    if (message.size() <= longest) return message;
-    size_t end = longest;
-    while (end > 0 && (message[end] & 0xC0) == 0x80) --end;  // whole characters
-    message.resize(end);
-    return message + " ...";
+    constexpr size_t keptOfEnd = 300;  // it says what to do
+    const auto isInsideCharacter = [&](size_t at) { return (message[at] & 0xC0) == 0x80; };
+    std::string result;
+    for (size_t begin = 0; begin < message.size();) {
+        const size_t end = std::min(message.find('\n', begin), message.size() - 1) + 1;
+        if (end - begin > longest) {
+            size_t first = begin + longest - keptOfEnd;
+            size_t last = end - keptOfEnd;
+            while (first > begin && isInsideCharacter(first)) --first;
+            while (last < end && isInsideCharacter(last)) ++last;
+            result.append(message.substr(begin, first - begin)).append(" ... ");
+            begin = last;
+        }
+        result += message.substr(begin, end - begin);
+        begin = end;
+    }
+    return result;
 }
 
 bool fromUtf8(std::string_view utf8, std::string& text, std::string& error) {

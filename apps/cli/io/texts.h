@@ -21,8 +21,9 @@ void appendNumber(std::string& line, double number);
 /// Appends a number for people to read: six figures.
 void appendRounded(std::string& line, double number);
 
-/// `message` (UTF-8) cut to a length that a person would read, when it repeats a huge text.
-std::string shortened(std::string message);
+/// `message` (UTF-8) with every line cut to a length that a person would read, in its middle, where
+/// it repeats a huge text.
+std::string shortened(std::string_view message);
 
 /// `utf8` in Windows-1252 in `text`; false with the reason in `error` when it holds a character
 /// that Windows-1252 lacks, a zero byte, or is no UTF-8.

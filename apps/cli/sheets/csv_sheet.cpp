@@ -83,7 +83,7 @@ std::optional<std::string> sheetAsCsv(const control::Grid& grid, std::string& er
 
 bool sheetFromCsv(const std::string& path, control::Grid& grid) {
     std::string error;
-    auto source = LineSource::open(path, error);
+    auto source = LineSource::openFile(path, error);
     if (!source) {
         complainAt(path, 0, error);
         return false;

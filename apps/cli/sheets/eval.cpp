@@ -91,23 +91,27 @@ ExitCode evalLines(const EvalRequest& request) {
     Output output;
     source->whenWaiting([&] { output.flush(); });
     control::Sheet sheet;
-    bool allDone = true;
+    long long lines = 0, failed = 0;
     std::string_view line;
     LineSource::Got got;
     while ((got = source->next(line)) == LineSource::Got::line || got == LineSource::Got::tooLong) {
+        if (!output.isOpen()) break;
+        if (got == LineSource::Got::line && line.find_first_not_of(" \t") == line.npos) continue;
+        ++lines;
         if (got == LineSource::Got::tooLong) {
             appendError(output.text(), "null", *source, "longer than 16 MiB");
-            allDone = false;
-        } else if (line.find_first_not_of(" \t") != line.npos) {
-            allDone &= evalLine(line, *source, sheet, output.text());
+            ++failed;
+        } else if (!evalLine(line, *source, sheet, output.text())) {
+            ++failed;
         }
         output.written();
     }
-    if (got == LineSource::Got::failed) {
+    const bool written = output.close();
+    if (got == LineSource::Got::failed)
         complainAt(source->name(), source->lineNumber(), source->error());
-        allDone = false;
-    }
-    return output.close() && allDone ? ExitCode::done : ExitCode::failed;
+    complainAboutLines(failed, lines);
+    return written && got == LineSource::Got::end && failed == 0 ? ExitCode::done
+                                                                 : ExitCode::failed;
 }
 
 }  // namespace

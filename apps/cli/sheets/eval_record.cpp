@@ -95,6 +95,22 @@ bool readFields(const Json& json, EvalRecord& record, std::string& error) {
     return true;
 }
 
+/// Millions of brackets would take gigabytes once parsed.
+bool isTooDeep(std::string_view json) {
+    constexpr int deepest = 64;
+    int depth = 0;
+    bool inText = false;
+    for (size_t i = 0; i < json.size() && depth <= deepest; ++i) {
+        const char c = json[i];
+        if (inText && c == '\\') ++i;
+        if (c == '"') inText = !inText;
+        if (inText) continue;
+        if (c == '[' || c == '{') ++depth;
+        if (c == ']' || c == '}') --depth;
+    }
+    return depth > deepest;
+}
+
 void place(control::Sheet& sheet, const EvalRecord::Cell& cell) {
     const auto [col, row] = cell.address;
     if (const auto* number = std::get_if<double>(&cell.content))
@@ -135,6 +151,10 @@ std::string cellName(control::CellAddress address) {
 
 bool readEvalRecord(std::string_view json, EvalRecord& record, std::string& error) {
     record = EvalRecord();
+    if (isTooDeep(json)) {
+        error = "nested deeper than any record";
+        return false;
+    }
     const Json parsed = Json::parse(json, nullptr, false);
     if (!parsed.is_object()) {
         error = parsed.is_discarded() ? "the line is no JSON" : "the line is no JSON object";

@@ -71,9 +71,7 @@ ExitCode batchStandard(const BatchRequest& request) {
     Count count;
     const bool allRead = runLines(*run, *source, *input, writer, output, count);
     const bool written = output.close();
-    if (count.failed > 0)
-        complain(std::to_string(count.failed) + " of " + std::to_string(count.lines) +
-                 " lines failed; see their error records");
+    complainAboutLines(count.failed, count.lines);
     return allRead && written && count.failed == 0 ? ExitCode::done : ExitCode::failed;
 }
 

@@ -90,6 +90,10 @@ std::optional<StandardName> findStandard(const std::string& typed) {
         const auto name = nameInside(*inside);
         return StandardName{name ? shownName(*name) : typed, *inside};
     }
+    if (files::isFolder(*inside)) {
+        complainAt(typed, 0, "is a folder; name a standard or a file");
+        return std::nullopt;
+    }
     const auto standards = libraryStandards();
     std::vector<StandardName> matches;
     for (const auto& standard : standards) {

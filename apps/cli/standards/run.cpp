@@ -8,6 +8,7 @@
 #include "io/typed_paths.h"
 #include "mapping/mapping_file.h"
 #include "mapping/start_dlg_standards_ss.h"
+#include "platform/files.h"
 #include "platform/host/transaction.h"
 #include "standards/library.h"
 #include "standards/named_request.h"
@@ -43,6 +44,20 @@ bool writeMacro(const Vor_String& path, const RunReport& report, Vor_DbMacro& ma
     return false;
 }
 
+/// What there is instead of a key that is missing.
+std::string keysOf(const Vor_StringArray& lines) {
+    constexpr int mostShown = 20;
+    std::string keys;
+    int count = 0;
+    for (const auto& line : lines) {
+        const Vor_String key = mappingLineKey(line);
+        if (!key.isEmpty() && ++count <= mostShown) keys += "\n  " + key.str();
+    }
+    if (count == 0) return "there is none; check that it is a mapping file";
+    if (count > mostShown) keys += "\nand " + std::to_string(count - mostShown) + " more";
+    return "there are:" + keys;
+}
+
 /// False, with the reason, when nothing of the macro would reach the standard under this key.
 bool hasMapping(const StandardName& standard, const TwDlgStandardsData& data, Vor_String& failure) {
     if (!data.moduleName.isEmpty()) {
@@ -56,12 +71,13 @@ bool hasMapping(const StandardName& standard, const TwDlgStandardsData& data, Vo
     const Vor_String file = mappingFilePath(standard.mappingName());
     const auto lines = readMappingLines(standard.mappingName());
     if (!lines) {
-        failure = file + ": the mapping file cannot be read";
+        std::string error = "the mapping file has changed just now; try again";
+        files::readWhole(file, error);
+        failure = error;
         return false;
     }
     if (findMappingLine(*lines, data.mappingKey) >= 0) return true;
-    failure = file + ": there is no key \"" + data.mappingKey + "\"; there are:";
-    for (const auto& line : *lines) failure += "\n  " + mappingLineKey(line).str();
+    failure = file + ": there is no key \"" + data.mappingKey + "\"; " + keysOf(*lines);
     return false;
 }
 

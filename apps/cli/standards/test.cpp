@@ -56,7 +56,7 @@ std::vector<std::string> differences(const TwVarCells& cells, const CaseTable::C
 
 bool testCases(ValueRun& run, const std::string& file, Count& count) {
     std::string error;
-    auto source = LineSource::open(file, error);
+    auto source = LineSource::openFile(file, error);
     if (!source) {
         complainAt(file, 0, error);
         return false;
@@ -96,6 +96,7 @@ bool testStandard(const StandardName& standard, Output& output) {
     if (!run) return false;
     Count count;
     const bool good = testCases(*run, shownPath(casesPath(standard)), count);
+    if (count.cases == 0) return false;
     std::string& text = output.text();
     text += standard.name + ": " + std::to_string(count.cases) + " cases, ";
     text += count.failed == 0 ? "all as expected\n"
