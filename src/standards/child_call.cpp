@@ -79,6 +79,10 @@ ErrorStatus TwStandardsSS::runChild(const Vor_String& text, const Vor_String& fu
     if (RunningStandard::depth() > mostNestedRuns)
         return fail(reason, "standards call each other more than " + Vor_String(mostNestedRuns, 0) +
                                 " deep: call fewer in a row");
+    if (RunningStandard::count() >= mostRunsTogether)
+        return fail(reason, "standards call each other more than " +
+                                Vor_String(mostRunsTogether, 0) +
+                                " times in this run: call fewer, or less often");
 
     child.mode = TwDlgStandardsData::Mode::variables;
     child.standardsName = path;

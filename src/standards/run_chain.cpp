@@ -1,11 +1,31 @@
 #include "standards/run_chain.h"
 
+#include <algorithm>
+#include <filesystem>
+
+namespace {
+
+/// `path` without the folders that it enters only to leave them, so that one file has one path.
+Vor_String withoutDetours(const Vor_String& path) {
+    std::string text(path.str());
+    std::replace(text.begin(), text.end(), '\\', '/');
+    if (text.find("./") == text.npos && text.find("//") == text.npos) return Vor_String(text);
+    return Vor_String(std::filesystem::path(text).lexically_normal().string());
+}
+
+}  // namespace
+
 RunningStandard* RunningStandard::s_innermost = nullptr;
 int RunningStandard::s_depth = 0;
+int RunningStandard::s_count = 0;
 unsigned long long RunningStandard::s_serial = 0;
 
 RunningStandard::RunningStandard() : m_caller(s_innermost) {
-    if (s_depth++ == 0) ++s_serial;
+    if (s_depth++ == 0) {
+        ++s_serial;
+        s_count = 0;
+    }
+    ++s_count;
     s_innermost = this;
 }
 
@@ -15,7 +35,8 @@ RunningStandard::~RunningStandard() {
 }
 
 bool RunningStandard::isRunning(const Vor_String& path) {
+    const Vor_String wanted = withoutDetours(path);
     for (const RunningStandard* run = s_innermost; run; run = run->m_caller)
-        if (run->m_path && run->m_path->equal(path)) return true;
+        if (run->m_path && withoutDetours(*run->m_path).equal(wanted)) return true;
     return false;
 }

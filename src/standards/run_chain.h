@@ -1,10 +1,12 @@
 // The standards that are running right now, each started by the one before: keeps a standard from
-// calling itself through others, and calls from nesting without end.
+// calling itself through others, and calls from nesting or branching without end.
 #pragma once
 
 #include "core_api/text/vor_string.h"
 
 inline constexpr int mostNestedRuns = 32;
+/// Two calls in each of thirty standards would be a billion runs.
+inline constexpr int mostRunsTogether = 10'000;
 
 /// One run, for the length of a scope.
 class RunningStandard {
@@ -19,7 +21,9 @@ class RunningStandard {
 
     /// How many runs are under way.
     static int depth() { return s_depth; }
-    /// A run of this file (letter case aside) is under way.
+    /// How many runs the outermost one has begun so far, itself included.
+    static int count() { return s_count; }
+    /// A run of this file is under way; letter case and detours ("Childs\..\") aside.
     static bool isRunning(const Vor_String& path);
     /// Differs from one outermost run to the next; 0 outside of any run. What is looked up on
     /// disk may be remembered as long as it stays.
@@ -30,5 +34,6 @@ class RunningStandard {
     RunningStandard* m_caller;
     static RunningStandard* s_innermost;
     static int s_depth;
+    static int s_count;
     static unsigned long long s_serial;
 };

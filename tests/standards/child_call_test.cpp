@@ -174,6 +174,21 @@ TEST_F(ChildCalls, CirclesAndEndlessChainsEnd) {
     EXPECT_NE(log.text.find("run 32 Deep32.tws"), std::string::npos);
     EXPECT_EQ(log.text.find("run 33 "), std::string::npos);
     EXPECT_NE(log.message.find("32"), std::string::npos);
+
+    calls("Childs/Detour", ".\\..\\Childs\\Detour");
+    EXPECT_EQ(run({}, {"CallChild(Detour.tws, T, W)"}), "5");
+    EXPECT_NE(log.message.find("is running already"), std::string::npos);
+}
+
+TEST_F(ChildCalls, CallsThatBranchAndBranchAgainEnd) {
+    for (int i = 1; i <= 25; ++i) {
+        const std::string call = "CallChild(Twice" + std::to_string(i + 1) + ".tws, X, Y)";
+        library.writeStandard("Twice" + std::to_string(i),
+                              standardOf({"Double X"}, {"Double Y"}, {}, {"Y=X", call, call}));
+    }
+    library.writeStandard("Twice26", standardOf({"Double X"}, {"Double Y"}, {}, {"Y=X"}));
+    EXPECT_EQ(run({}, {"CallChild(Twice1.tws, T, W)"}), "5");
+    EXPECT_NE(log.message.find("10000 times"), std::string::npos) << log.message;
 }
 
 TEST_F(ChildCalls, GenVariablesReachTheChildren) {
