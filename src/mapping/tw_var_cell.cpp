@@ -72,8 +72,12 @@ ErrorStatus TwVarCell::setValueToSS(Vor_Spread& spread) const {
     }
     if (isNumeric(m_valueType) && m_value.text().isEmpty())
         return statusOf(grid.writeEmpty(m_column, m_row, type));
+    // The text of an error is the error again, so that it goes through all that reads the variable.
+    const auto error = m_value.isError() ? formula::errorFromText(m_value.text()) : std::nullopt;
     return statusOf(grid.setType(m_column, m_row, type) &&
-                    grid.writeValue(m_column, m_row, formula::Value::borrowedText(m_value.text())));
+                    grid.writeValue(m_column, m_row,
+                                    error ? formula::Value(*error)
+                                          : formula::Value::borrowedText(m_value.text())));
 }
 
 ErrorStatus TwVarCell::getCurrentValue(Vor_Spread& spread, Vor_String& value) const {

@@ -152,6 +152,16 @@ TEST(Run, AnOutputThatIsAnErrorFailsTheCall) {
     EXPECT_THAT(result.err, HasSubstr("W\" is #DIV/0!"));
 }
 
+TEST(Run, AnErrorGoesThroughTextsToo) {
+    const Library library;
+    library.add("Text",
+                {"Input", "Double P", "Output", "Double W", "String Kept", "Local", "String T",
+                 "Calc", "T=1/P", "Kept=IFERROR(T,\"none\")", "T=\"about \"&T", "W=LEN(T)"});
+    const auto result = library.call({"run", "Text", "--set", "P=0"});
+    EXPECT_EQ(result.exitCode, 1);
+    EXPECT_THAT(result.out, HasSubstr("W     #DIV/0!\n  Kept  none\n"));
+}
+
 TEST(Run, WhatCannotBeRunFailsWithOneMessage) {
     const Library library;
     library.add("NoOutput", {"Input", "Double P", "Calc"});
@@ -201,6 +211,8 @@ TEST(Run, GenValuesReplaceNamesInTheSheet) {
     EXPECT_EQ(result.exitCode, 0) << result.err;
     EXPECT_THAT(result.out, HasSubstr("W  150\n  S  IPE-200\n"));
     EXPECT_EQ(library.call({"run", "Gen", "--set", "P=4", "--gen", "x"}).exitCode, 2);
+    EXPECT_THAT(library.call({"run", "Gen", "--set", "P=4", "--gen", "a=1", "--gen", "A=2"}).err,
+                HasSubstr("--gen A=2: this name is given twice"));
 }
 
 class RunOnMacro : public testing::Test {

@@ -57,8 +57,7 @@ class Acceptance {
             case ValueType::boolean:
                 return ofBoolean(value);
             case ValueType::error:
-                return m_type.keepsText() ? Value::borrowedText(formula::errorText(value.error()))
-                                          : value;
+                return value;
             case ValueType::text:
                 return ofText(value);
             default:
