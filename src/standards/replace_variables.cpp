@@ -9,27 +9,35 @@
 
 namespace {
 
-constexpr int mostReplacements = 99999999;  // of one name in one text
+// Values may hold names that are replaced later, so texts can double with every name.
+constexpr size_t longestResult = size_t{1} << 20;
 
-bool touchesWord(const Vor_String& text, int start, int end) {
-    return (start > 0 && isWordCharacter(text[start - 1])) ||
-           (end < text.length() && isWordCharacter(text[end]));
-}
-
+/// Every whole word `name` becomes `value`; what was put in is not looked at again.
 bool replaceName(Vor_String& text, const Vor_String& name, const Vor_String& value) {
+    if (name.isEmpty() || text.view().size() > longestResult) return false;
+    std::string result;
+    int copied = 0;
     bool replaced = false;
-    int position = 0;
-    for (int i = 0; i < mostReplacements; ++i) {
-        const int start = text.findFirstFrom(name, position);
-        if (start < 0) break;
-        position = start + name.length();
-        if (touchesWord(text, start, position)) continue;
-        text.removeAt(start, name.length());
-        text.insertAt(start, value);
-        position = start + value.length();
+    const auto copyUpTo = [&](int end) {
+        result.append(
+            text.view().substr(static_cast<size_t>(copied), static_cast<size_t>(end - copied)));
+        copied = end;
+    };
+    for (int at = text.findFirstFrom(name, 0); at >= 0 && result.size() < longestResult;
+         at = text.findFirstFrom(name, at + name.length())) {
+        const int end = at + name.length();
+        copyUpTo(at);
+        const bool touchesWord = (!result.empty() && isWordCharacter(result.back())) ||
+                                 (end < text.length() && isWordCharacter(text[end]));
+        if (touchesWord) continue;
+        result.append(value.view());
+        copied = end;
         replaced = true;
     }
-    return replaced;
+    if (!replaced) return false;
+    copyUpTo(text.length());
+    text = Vor_String(std::move(result));
+    return true;
 }
 
 /// The words of a text as a small set: one bit each, which several may share. A name can only be

@@ -21,6 +21,19 @@ struct Case {
     const char* expected;
 };
 
+TEST(ReplaceVariables, TextsThatDoubleWithEveryNameStopGrowing) {
+    Vor_StringArray names;
+    Vor_StringArray values;
+    for (int i = 0; i < 60; ++i) {
+        names.append("gen" + std::to_string(i));
+        const std::string next = "gen" + std::to_string(i + 1);
+        values.append(next + " " + next);
+    }
+    Vor_String text = "gen0";
+    EXPECT_TRUE(replaceVariables(text, names, values, false));
+    EXPECT_LT(text.length(), 3'000'000);
+}
+
 TEST(ReplaceVariables, WholeWordsAreReplacedInTheOrderOfTheNames) {
     const Case cases[] = {
         {"A + AB", {"A", "AB"}, {"B3", "C3"}, false, "B3 + C3"},

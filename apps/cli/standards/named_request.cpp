@@ -1,5 +1,6 @@
 #include "standards/named_request.h"
 
+#include "core_api/text/text_index.h"
 #include "mapping/start_dlg_standards_ss.h"
 #include "standards/run_observer.h"
 #include "standards/tw_standards_ss.h"
@@ -16,11 +17,9 @@ std::optional<NamedRequest> NamedRequest::open(const Vor_String& path, Vor_Strin
     NamedRequest request;
     request.m_data.mode = TwDlgStandardsData::Mode::variables;
     request.m_data.standardsName = path;
-    TwVarCells known;
+    TextIndex known;
     for (const auto& declared : sheet.varCells()) {
-        int first = 0;
-        const bool isNew = known.findVarCell(declared.name(), first) != Acad::eOk;
-        if (isNew) known.append(declared);
+        const bool isNew = known.add(declared.name(), 0) < 0;
         if (!declared.isLocal()) request.append(declared, isNew);
     }
     return request;

@@ -97,6 +97,10 @@ bool setGenValues(TwDlgStandardsData& data, const std::vector<std::string>& assi
     for (const auto& typed : assignments) {
         const auto assignment = readAssignment("--gen", typed);
         if (!assignment) return false;
+        if (data.genNames.contains(assignment->name)) {
+            complain("--gen " + typed + ": this name is given twice");
+            return false;
+        }
         data.genNames.append(assignment->name);
         data.genValues.append(assignment->value);
     }
