@@ -40,7 +40,11 @@ std::optional<LineSource> LineSource::open(const std::string& path, std::string&
         return std::nullopt;
     }
     const long long size = S_ISREG(status.st_mode) ? static_cast<long long>(status.st_size) : 0;
-    return LineSource(std::move(descriptor), isInput ? "(standard input)" : path, size);
+    return LineSource(std::move(descriptor), shownName(path), size);
+}
+
+std::string LineSource::shownName(const std::string& path) {
+    return path == "-" ? "(standard input)" : path;
 }
 
 std::optional<LineSource> LineSource::openFile(const std::string& path, std::string& error) {

@@ -37,6 +37,8 @@ class LineSource {
     /// The same of nothing but an ordinary file, which has an end.
     static std::optional<LineSource> openFile(const std::string& path, std::string& error);
 
+    static std::string shownName(const std::string& path);
+
     enum class Got {
         line,
         end,

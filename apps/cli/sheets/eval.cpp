@@ -85,7 +85,7 @@ ExitCode evalLines(const EvalRequest& request) {
     std::string error;
     auto source = LineSource::open(request.input, error);
     if (!source) {
-        complainAt(request.input, 0, error);
+        complainAt(LineSource::shownName(request.input), 0, error);
         return ExitCode::failed;
     }
     Output output;

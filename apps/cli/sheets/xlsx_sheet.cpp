@@ -1,13 +1,12 @@
-// The only file that knows the workbook library. It writes to a file of its own choosing, so the
-// bytes are taken from a temporary one and written where they belong like every other file.
+// The only file that knows the workbook library. It writes to a file by name, so the bytes are
+// taken from one in memory and written where they belong like every other file.
+#include <sys/mman.h>
 #include <unistd.h>
 #include <xlsxwriter.h>
 
 #include <algorithm>
 #include <array>
 #include <cctype>
-#include <cstdlib>
-#include <filesystem>
 #include <fstream>
 #include <iterator>
 #include <unordered_map>
@@ -267,35 +266,28 @@ class Workbook {
     std::string m_error;
 };
 
-/// A temporary file that goes when it is no longer needed.
-class TemporaryFile {
+/// A file in memory, which nothing can leave behind.
+class MemoryFile {
   public:
-    TemporaryFile() {
-        std::error_code error;
-        m_path = (std::filesystem::temp_directory_path(error) / "vormant-XXXXXX").string();
-        const int descriptor = ::mkstemp(m_path.data());
-        m_exists = descriptor >= 0;
-        if (m_exists) ::close(descriptor);
+    MemoryFile() : m_descriptor(::memfd_create("workbook", MFD_CLOEXEC)) {}
+    MemoryFile(const MemoryFile&) = delete;
+    MemoryFile& operator=(const MemoryFile&) = delete;
+    ~MemoryFile() {
+        if (m_descriptor >= 0) ::close(m_descriptor);
     }
-    TemporaryFile(const TemporaryFile&) = delete;
-    TemporaryFile& operator=(const TemporaryFile&) = delete;
-    ~TemporaryFile() {
-        if (m_exists) ::unlink(m_path.c_str());
-    }
-    bool exists() const { return m_exists; }
-    const std::string& path() const { return m_path; }
+    bool exists() const { return m_descriptor >= 0; }
+    std::string path() const { return "/proc/self/fd/" + std::to_string(m_descriptor); }
 
   private:
-    std::string m_path;
-    bool m_exists = false;
+    int m_descriptor;
 };
 
 }  // namespace
 
 std::optional<std::string> sheetAsXlsx(const control::Grid& grid, std::string& error) {
-    const TemporaryFile file;
+    const MemoryFile file;
     if (!file.exists()) {
-        error = "no temporary file can be made";
+        error = "there is not enough memory for a workbook";
         return std::nullopt;
     }
     if (!Workbook(grid, file.path()).write(error)) return std::nullopt;

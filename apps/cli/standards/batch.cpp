@@ -55,7 +55,7 @@ ExitCode batchStandard(const BatchRequest& request) {
     std::string error;
     auto source = LineSource::open(request.input, error);
     if (!source) {
-        complainAt(request.input, 0, error);
+        complainAt(LineSource::shownName(request.input), 0, error);
         return ExitCode::failed;
     }
     Output output;

@@ -48,7 +48,11 @@ void tellWhatThereIs(const std::string& typed, const std::vector<StandardName>& 
         return;
     }
     if (matches.size() > 1) message = "several standards are called \"" + typed + "\"";
-    message += matches.size() > 1 ? ":" : "; the library has:";
+    if (standards.empty())
+        message += "; there is none in " + shownPath(gSettings.libDir()) +
+                   ": check that it is the library, and its permissions";
+    else
+        message += matches.size() > 1 ? ":" : "; the library has:";
     for (const auto& standard : matches.size() > 1 ? matches : standards)
         message += "\n  " + standard.name;
     complain(message);

@@ -41,7 +41,8 @@ ExitCode listStandards() {
     if (standards.empty()) {
         complain(gSettings.libDir().isEmpty()
                      ? "name the library with --library or VORMANT_LIBRARY"
-                     : "there are no standards in " + shownPath(gSettings.libDir()));
+                     : "there are no standards in " + shownPath(gSettings.libDir()) +
+                           ": check that it is the library, and its permissions");
         return ExitCode::failed;
     }
     Output output;
