@@ -5,6 +5,7 @@
 #include <cstdio>
 #include <iostream>
 
+#include "io/suggestion.h"
 #include "sheets/sheet_commands.h"
 #include "standards/library.h"
 #include "standards/standards_commands.h"
@@ -49,6 +50,11 @@ void onStandardsCall(CLI::App& command, Calls& calls, Work work) {
     });
 }
 
+/// For names of files: an empty one is a variable of a script that was not set.
+std::string refusedWhenEmpty(const std::string& text) {
+    return text.empty() ? "this is empty" : "";
+}
+
 void addStandardsReaders(CLI::App& standards, Calls& calls) {
     auto& list = *standards.add_subcommand(
         "list", "Name the standards of the library with their inputs and outputs");
@@ -75,7 +81,8 @@ void addStandardsRunners(CLI::App& standards, Calls& calls) {
     auto* set = addAssignments(run, "--set", calls.run.values, "Give an input its value");
     auto* macro =
         run.add_option("--macro", calls.run.macroFile, "Take the inputs from this macro file")
-            ->type_name("FILE");
+            ->type_name("FILE")
+            ->check(refusedWhenEmpty);
     auto* key = run.add_option("--key", calls.run.mappingKey,
                                "The line of the mapping file, or Module.GROUP")
                     ->type_name("KEY");
@@ -121,8 +128,12 @@ void addSheetCommands(CLI::App& sheet, Calls& calls) {
 
     auto& convert =
         *sheet.add_subcommand("convert", "Convert documents: .tws to .csv and .xlsx, .csv to .tws");
-    convert.add_option("FROM", calls.convert.from, "A document or CSV file")->required();
-    convert.add_option("TO", calls.convert.to, "The file to write")->required();
+    convert.add_option("FROM", calls.convert.from, "A document or CSV file")
+        ->required()
+        ->check(refusedWhenEmpty);
+    convert.add_option("TO", calls.convert.to, "The file to write")
+        ->required()
+        ->check(refusedWhenEmpty);
     onCall(convert, calls, [&calls] { return convertSheet(calls.convert); });
 }
 
@@ -137,12 +148,23 @@ std::string fullName(const CLI::App& command) {
     return (parent ? fullName(*parent) + " " : "") + command.get_name();
 }
 
+/// The words that could stand behind `command`.
+std::vector<std::string> wordsOf(const CLI::App& command) {
+    std::vector<std::string> words;
+    for (const CLI::App* sub : command.get_subcommands({})) words.push_back(sub->get_name());
+    for (const CLI::App* app = &command; app; app = app->get_parent())
+        for (const CLI::Option* option : app->get_options())
+            for (const auto& name : option->get_lnames()) words.push_back("--" + name);
+    return words;
+}
+
 ExitCode wrongCall(const CLI::App& app, const CLI::ParseError& error) {
     const CLI::App& command = commandMeant(app);
     const auto unknown = app.remaining(true);
     std::string message = error.what();
     if (!unknown.empty())
-        message = "\"" + unknown.front() + "\" makes no sense here";
+        message = "\"" + unknown.front() + "\" makes no sense here" +
+                  didYouMean(nearest(unknown.front(), wordsOf(command)));
     else if (dynamic_cast<const CLI::RequiredError*>(&error) &&
              command.get_require_subcommand_min() > 0)
         message = "say which command you mean";

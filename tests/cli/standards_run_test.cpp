@@ -73,6 +73,7 @@ TEST(Run, StandardsAreFoundByNamePartOfItOrFile) {
     EXPECT_EQ(unknown.exitCode, 1);
     EXPECT_THAT(unknown.err, HasSubstr("there is no standard \"Nope\""));
     EXPECT_THAT(unknown.err, HasSubstr("\n  Parents/Frame\n"));
+    EXPECT_THAT(run("fraem").err, HasSubstr("did you mean Frame? The library has:"));
     const auto twin = run("Twin");
     EXPECT_EQ(twin.exitCode, 1);
     EXPECT_THAT(twin.err, HasSubstr("several standards"));

@@ -1,3 +1,5 @@
+#include <algorithm>
+
 #include "io/line_source.h"
 #include "io/output.h"
 #include "io/texts.h"
@@ -17,6 +19,13 @@ bool recordFromCall(const EvalRequest& request, EvalRecord& record, std::string&
         const auto address = assignment ? cellAddress(assignment->name) : std::nullopt;
         if (!address) {
             error = "--cell " + option + ": write it as ADDRESS=VALUE, for example A1=10";
+            return false;
+        }
+        const bool isGiven =
+            std::any_of(record.cells.begin(), record.cells.end(),
+                        [&](const auto& cell) { return cell.address == *address; });
+        if (isGiven) {
+            error = "--cell " + option + ": this cell is given twice";
             return false;
         }
         if (!fromUtf8(assignment->value, text, error)) return false;

@@ -7,6 +7,7 @@
 #include "core_api/files.h"
 #include "core_api/settings.h"
 #include "core_api/text/text_helpers.h"
+#include "io/suggestion.h"
 #include "io/texts.h"
 #include "io/typed_paths.h"
 #include "mapping/mapping_file.h"
@@ -40,22 +41,31 @@ std::string shownName(const Vor_String& nameInside) {
     return name;
 }
 
+std::string lines(const std::vector<StandardName>& standards) {
+    std::string text;
+    for (const auto& standard : standards) text += "\n  " + standard.name;
+    return text;
+}
+
 void tellWhatThereIs(const std::string& typed, const std::vector<StandardName>& standards,
                      const std::vector<StandardName>& matches) {
-    std::string message = "there is no standard \"" + typed + "\"";
-    if (gSettings.libDir().isEmpty()) {
-        complain(message + "; name a file, or the library with --library or VORMANT_LIBRARY");
-        return;
-    }
-    if (matches.size() > 1) message = "several standards are called \"" + typed + "\"";
+    const std::string missing = "there is no standard \"" + typed + "\"";
+    if (gSettings.libDir().isEmpty())
+        return complain(missing +
+                        "; name a file, or the library with --library or VORMANT_LIBRARY");
+    if (matches.size() > 1)
+        return complain("several standards are called \"" + typed + "\":" + lines(matches));
     if (standards.empty())
-        message += "; there is none in " + shownPath(gSettings.libDir()) +
-                   ": check that it is the library, and its permissions";
-    else
-        message += matches.size() > 1 ? ":" : "; the library has:";
-    for (const auto& standard : matches.size() > 1 ? matches : standards)
-        message += "\n  " + standard.name;
-    complain(message);
+        return complain(missing + "; there is none in " + shownPath(gSettings.libDir()) +
+                        ": check that it is the library, and its permissions");
+    std::vector<std::string> words;
+    for (const auto& standard : standards) {
+        words.push_back(standard.name);
+        words.push_back(standard.name.substr(standard.name.rfind('/') + 1));
+    }
+    const std::string hint = didYouMean(nearest(typed, words));
+    complain(missing + (hint.empty() ? "; the" : hint + " The") +
+             " library has:" + lines(standards));
 }
 
 }  // namespace
