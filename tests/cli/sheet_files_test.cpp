@@ -109,6 +109,14 @@ TEST(SheetConvert, WhatCannotBeReadLeavesTheTargetAlone) {
     }
 }
 
+TEST(SheetShow, ResultsAreThoseOfTheValuesAsTheyAre) {
+    const program::Folder folder;
+    const auto file = folder.write("a.tws",
+                                   "vormant-sheet 1\nsize 2 2\ncells\n"
+                                   "A1 3\nB1 =A1*2\nA2 =B1+1\t99\nend 3\n");
+    EXPECT_EQ(program::run({"sheet", "show", file}).out, "   A  B\n1  3  6\n2  7\n");
+}
+
 TEST(SheetConvert, SparseSheetsAreNotBlownUp) {
     const program::Folder folder;
     const auto file = folder.write("a.tws",
@@ -120,6 +128,13 @@ TEST(SheetConvert, SparseSheetsAreNotBlownUp) {
     EXPECT_EQ(program::run({"sheet", "convert", file, folder / "a.xlsx"}).exitCode, 0);
     EXPECT_EQ(program::run({"sheet", "show", file}).out,
               "         A  XFD\n      1  1\n1048576       2\n");
+
+    const auto spanned = folder.write("b.tws",
+                                      "vormant-sheet 1\nsize 16384 1048576\nspan A1 16000 100000\n"
+                                      "cells\nA1 1\nend 1\n");
+    const auto workbook = program::run({"sheet", "convert", spanned, folder / "b.xlsx"});
+    EXPECT_EQ(workbook.exitCode, 1);
+    EXPECT_THAT(workbook.err, HasSubstr("b.xlsx: the spans hold too many cells"));
 }
 
 TEST(SheetConvert, AFolderThatCannotBeWrittenIsNamed) {

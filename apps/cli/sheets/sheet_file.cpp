@@ -30,6 +30,7 @@ bool loadSheet(const std::string& path, SheetFormat format, control::Grid& grid)
         return false;
     }
     grid.restore(std::move(document));
+    grid.recalculate();  // a document written or changed by hand has no results, or old ones
     return true;
 }
 

@@ -121,6 +121,10 @@ class Workbook {
         }
         writeSizes();
         writeSpans();
+        if (!m_error.empty()) {
+            error = m_error;
+            return false;
+        }
         const auto [cols, rows] = usedArea(m_grid);
         const formula::Area all{1, std::max(rows, 1), 1, static_cast<uint16_t>(std::max(cols, 1))};
         m_grid.sheet().cells().each(
@@ -184,8 +188,14 @@ class Workbook {
     }
 
     void writeSpans() {
+        // The library writes every cell of a span.
+        constexpr long long mostCells = 2'000'000;
+        long long cells = 0;
         for (const auto& span : m_grid.sides().spans.all()) {
             if (span.col < 1 || span.row < 1 || (span.cols < 2 && span.rows < 2)) continue;
+            cells += static_cast<long long>(span.cols) * span.rows;
+            if (cells > mostCells) m_error = "the spans hold too many cells for a workbook";
+            if (!m_error.empty()) return;
             note(worksheet_merge_range(m_page, rowOf(span.row), colOf(span.col),
                                        rowOf(span.row + span.rows - 1),
                                        colOf(span.col + span.cols - 1), "",
