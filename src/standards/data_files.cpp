@@ -1,5 +1,6 @@
 #include "standards/data_files.h"
 
+#include <algorithm>
 #include <unordered_map>
 
 #include "core_api/files.h"
@@ -56,20 +57,34 @@ class ReadInRun {
     std::unordered_map<std::string, std::shared_ptr<const Content>> m_read;
 };
 
+bool beginsWithNumber(std::string_view text) {
+    const size_t sign = text.starts_with('-') || text.starts_with('+') ? 1 : 0;
+    const size_t point = text.substr(sign).starts_with('.') ? 1 : 0;
+    const std::string_view digits = text.substr(sign + point);
+    return !digits.empty() && digits[0] >= '0' && digits[0] <= '9';
+}
+
 std::optional<SizeList> parseSizeList(std::string_view path) {
     const auto lines = readLines(path);
     if (!lines) return std::nullopt;
     SizeList sizes;
+    int lineNumber = 0;
+    int damaged = 0;
     for (const Vor_String& line : *lines) {
+        ++lineNumber;
         const Vor_String text = stripSymbols(
             removeLineComment(removeComments(line, "/*", "*/"), "//"), ' ', true, false);
         if (text.isEmpty()) continue;
+        if (damaged == 0 && !beginsWithNumber(text)) damaged = lineNumber;
         Vor_String before;
         Vor_String after;
         if (!splitStringAtSymbol(text, 'x', before, after, true)) before = text;
         sizes.first.push_back(textToDouble(before));
         sizes.second.push_back(textToDouble(after));
     }
+    if (damaged > 0)
+        tellObserver(Vor_String(path) + ":" + Vor_String(damaged, 0) +
+                     ": this is no size and counts as 0: write a number, or width x thickness");
     return sizes;
 }
 
@@ -81,11 +96,13 @@ std::optional<LookupTable> parseLookupTable(std::string_view path) {
         Vor_String text = removeLineComment(line, "//");
         if (!text.isEmpty()) kept.append(std::move(text));
     }
-    if (kept.isEmpty()) {
+    auto rows = arrToArrArr(kept, '\t');
+    const auto hasValue = [](const Vor_StringArray& row) { return row.length() > 1; };
+    if (std::none_of(rows.begin(), rows.end(), hasValue)) {
         tellObserver(Vor_String(path) + ": there is no row in it: write key, tab, value");
         return std::nullopt;
     }
-    return LookupTable(arrToArrArr(kept, '\t'));
+    return LookupTable(std::move(rows));
 }
 
 }  // namespace

@@ -151,6 +151,13 @@ TEST(Batch, ADataFileThatIsMissingIsNamed) {
                 HasSubstr("bolts.txt: there is no row in it"));
     library.write("Connection Standards/Data/bolts.txt", "2\t5\n");
     EXPECT_EQ(library.call({"batch", "Table", "--jsonl"}, line).out, "{\"W\":5}\n");
+
+    library.add("Sizes", {"Input", "Double P", "Output", "Double W", "Calc",
+                          "W=STDSIZEWITHTOLERANCE(\"sizes.txt\",5,P,5,5)"});
+    library.write("Connection Standards/Data/sizes.txt", "// mm\n12\nabout 15\n");
+    const auto damaged = library.call({"run", "Sizes", "--set", "P=11"});
+    EXPECT_THAT(damaged.out, HasSubstr("W  12\n"));
+    EXPECT_THAT(damaged.err, HasSubstr("sizes.txt:3: this is no size"));
 }
 
 TEST(Batch, AChildThatFailsIsNamed) {
