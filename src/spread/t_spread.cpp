@@ -1,5 +1,7 @@
 #include "spread/t_spread.h"
 
+#include "platform/window/window_system.h"
+
 using control::Block;
 using control::Colour;
 
@@ -118,4 +120,43 @@ bool TSpread::clipboardCopy() {
 }
 bool TSpread::clipboardPaste() {
     return SSClipboardPaste(handle());
+}
+
+// --- what a user does ---------------------------------------------------------------------------
+
+bool TSpread::tellListener(GridNotice::What what, int col, int row) {
+    tell(WindowChange::content);
+    // A copy: the listener may set another one, or none.
+    if (const Listener listener = m_listener) listener({what, col, row});
+    return true;
+}
+
+bool TSpread::userEnters(int col, int row, std::string_view text) {
+    return m_grid->enter(col, row, text) && tellListener(GridNotice::What::changed, col, row);
+}
+
+bool TSpread::userMoves(int col, int row) {
+    return m_grid->setActive(col, row) && tellListener(GridNotice::What::moved, col, row);
+}
+
+bool TSpread::userSelects(const control::Block& block) {
+    return m_grid->select(block) && tellListener(GridNotice::What::moved, block.col1, block.row1);
+}
+
+bool TSpread::userClicks(int col, int row) {
+    if (!m_grid->isInside(col, row)) return false;
+    const control::Look& look = m_grid->look(col, row);
+    if (look.locked) return false;
+    if (look.type.kind == control::CellKind::button)
+        return tellListener(GridNotice::What::pressed, col, row);
+    if (look.type.kind != control::CellKind::checkBox) return false;
+    constexpr int boxClicked = 0x3B;
+    const bool isChecked = m_grid->text(col, row, control::Reading::value) == "1";
+    if (!m_grid->enter(col, row, isChecked ? "0" : "1")) return false;
+    onCellCommand(boxClicked, col, row);
+    return tellListener(GridNotice::What::checked, col, row);
+}
+
+bool TSpread::userDoubleClicks(int col, int row) {
+    return m_grid->isAddress(col, row) && tellListener(GridNotice::What::doubleClicked, col, row);
 }

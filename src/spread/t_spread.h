@@ -2,6 +2,7 @@
 // itself. Vor_Spread puts the meaning on top. Results are those of the calls (ss_api.h).
 #pragma once
 
+#include <functional>
 #include <memory>
 
 #include "core_api/text/vor_string.h"
@@ -9,6 +10,20 @@
 #include "platform/window/wnd.h"
 #include "spread/control/grid.h"
 #include "spread/control/ss_api.h"
+
+/// What a user did in a grid.
+struct GridNotice {
+    enum class What {
+        changed,  ///< another text, from a list too
+        moved,    ///< another cell is active or other cells are selected
+        pressed,  ///< a button cell
+        checked,  ///< a check box, which has its new state already
+        doubleClicked,
+    };
+    What what = What::changed;
+    int col = 0;
+    int row = 0;
+};
 
 class VORMANT_API TSpread : public CWnd {
   public:
@@ -64,10 +79,30 @@ class VORMANT_API TSpread : public CWnd {
     bool clipboardCopy();
     bool clipboardPaste();
 
+    // --- what a user does -------------------------------------------------------------------
+    // By hand or by a script; false when the cell does not allow it. Afterwards the listener hears
+    // of it; what the program does it does not hear.
+    using Listener = std::function<void(const GridNotice&)>;
+    void setListener(Listener listener) { m_listener = std::move(listener); }
+    /// Types a text into a cell, or picks it from the cell's list.
+    bool userEnters(int col, int row, std::string_view text);
+    bool userMoves(int col, int row);
+    bool userSelects(const control::Block& block);
+    /// Presses a button cell, or toggles a check box.
+    bool userClicks(int col, int row);
+    bool userDoubleClicks(int col, int row);
+    /// The right mouse button. True when there was a menu.
+    virtual bool showContextMenu() { return false; }
+    /// What the control tells of a cell: `code` 0x3B or 0x3C when its check box was clicked.
+    virtual void onCellCommand(int /*code*/, int /*col*/, int /*row*/) {}
+
   protected:
     // The calls take one kind of handle; those that only read change nothing behind it.
     SSHandle handle() const { return m_grid.get(); }
 
   private:
+    bool tellListener(GridNotice::What what, int col, int row);
+
     std::unique_ptr<control::Grid> m_grid;
+    Listener m_listener;
 };

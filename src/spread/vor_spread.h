@@ -160,7 +160,7 @@ class VORMANT_API Vor_Spread : public TSpread {
         menuUncheckAll,
     };
     bool setMenuCommands(const Vor_Array<int>& codes);
-    bool showContextMenu();
+    bool showContextMenu() override;
     /// `index` counts the entries that are no separators, from 0.
     bool runMenuCommand(int index);
     enum TabAction { tabMoves = 0, tabNotHandled = 1, tabLeavesForwards = 2, tabLeavesBackwards };
@@ -172,8 +172,7 @@ class VORMANT_API Vor_Spread : public TSpread {
     // --- linked cells -----------------------------------------------------------------------
     /// Cells of `dependentCol` are locked where the check box in `checkCol` is off.
     bool linkCheckColumn(int checkCol, int dependentCol);
-    /// What the control tells of a cell: `code` 0x3B or 0x3C when its check box was clicked.
-    void onCellCommand(int code, int col, int row);
+    void onCellCommand(int code, int col, int row) override;
 
     // --- files and formulas -----------------------------------------------------------------
     bool loadFromFile(const Vor_String& path);

@@ -9,6 +9,13 @@ struct CPoint {
     bool operator==(const CPoint&) const = default;
 };
 
+struct CSize {
+    int width = 0;
+    int height = 0;
+
+    bool operator==(const CSize&) const = default;
+};
+
 struct CRect {
     int left = 0;
     int top = 0;
@@ -17,6 +24,7 @@ struct CRect {
 
     int width() const { return right - left; }
     int height() const { return bottom - top; }
+    CSize size() const { return {width(), height()}; }
     CPoint topLeft() const { return {left, top}; }
     CRect movedBy(int dx, int dy) const { return {left + dx, top + dy, right + dx, bottom + dy}; }
     bool contains(CPoint point) const {

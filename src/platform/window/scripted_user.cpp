@@ -7,24 +7,58 @@
 
 using Answer = ScriptedUser::Answer;
 
-Answer& Answer::types(int id, std::string_view text) {
-    steps.push_back({Step::Kind::type, id, std::string(text), {}});
+Answer& Answer::add(Step step) {
+    steps.push_back(std::move(step));
     return *this;
+}
+
+Answer& Answer::types(int id, std::string_view text) {
+    return add({[id, text = std::string(text)](CDialog& dialog) { return dialog.type(id, text); },
+                "item " + std::to_string(id)});
 }
 
 Answer& Answer::presses(int id) {
-    steps.push_back({Step::Kind::press, id, {}, {}});
-    return *this;
+    return add(
+        {[id](CDialog& dialog) { return dialog.press(id); }, "item " + std::to_string(id), id});
+}
+
+Answer& Answer::selects(int id, int index) {
+    return add({[id, index](CDialog& dialog) { return dialog.pick(id, index); },
+                "row " + std::to_string(index) + " of item " + std::to_string(id)});
+}
+
+Answer& Answer::selects(int id, std::string_view item) {
+    const auto pick = [id, text = std::string(item)](CDialog& dialog) {
+        const auto* list = dynamic_cast<ItemControl*>(dialog.descendant(id));
+        return list && dialog.pick(id, list->find(text));
+    };
+    return add({pick, "\"" + std::string(item) + "\" in item " + std::to_string(id)});
+}
+
+Answer& Answer::checks(int id, int index, bool checked) {
+    const auto check = [=](CDialog& dialog) {
+        auto* list = dynamic_cast<CListBox*>(dialog.descendant(id));
+        return list && list->userChecks(index, checked);
+    };
+    return add({check, "row " + std::to_string(index) + " of item " + std::to_string(id)});
 }
 
 Answer& Answer::picks(std::string_view entry) {
-    steps.push_back({Step::Kind::pick, 0, std::string(entry), {}});
+    menuEntry = entry;
+    return *this;
+}
+
+Answer& Answer::chooses(std::vector<std::string> paths) {
+    files = std::move(paths);
     return *this;
 }
 
 Answer& Answer::does(std::function<void(CDialog&)> action) {
-    steps.push_back({Step::Kind::action, 0, {}, std::move(action)});
-    return *this;
+    const auto take = [action = std::move(action)](CDialog& dialog) {
+        action(dialog);
+        return true;
+    };
+    return add({take, "an action"});
 }
 
 std::string Answer::describe() const {
@@ -37,12 +71,14 @@ std::string Answer::describe() const {
             return "message box with \"" + words + "\" in its text";
         case Question::menu:
             return "menu";
+        case Question::file:
+            return "file chooser \"" + words + "\"";
     }
     return {};
 }
 
 int Answer::pressed() const {
-    return !steps.empty() && steps.back().kind == Step::Kind::press ? steps.back().id : 0;
+    return steps.empty() ? 0 : steps.back().pressed;
 }
 
 ScriptedUser::ScriptedUser() : m_before(WindowSystem::install(this)) {}
@@ -73,6 +109,10 @@ Answer& ScriptedUser::whenTold(std::string_view part) {
 
 Answer& ScriptedUser::whenMenuOpens() {
     return add(Answer::Question::menu, 0, {});
+}
+
+Answer& ScriptedUser::whenAskedForFile(std::string_view title) {
+    return add(Answer::Question::file, 0, title);
 }
 
 std::vector<std::vector<std::string>> ScriptedUser::toldLines() const {
@@ -115,22 +155,6 @@ int ScriptedUser::messageBox(const MessageBox& box) {
     return box.safeAnswer();
 }
 
-bool ScriptedUser::takeStep(CDialog& dialog, const Answer::Step& step) {
-    using Kind = Answer::Step::Kind;
-    switch (step.kind) {
-        case Kind::type:
-            return dialog.type(step.id, step.text);
-        case Kind::press:
-            return dialog.press(step.id);
-        case Kind::pick:
-            return false;
-        case Kind::action:
-            step.action(dialog);
-            return true;
-    }
-    return false;
-}
-
 void ScriptedUser::runModal(CDialog& dialog) {
     const Answer* answer = take([&](const Answer& each) {
         return each.question == Answer::Question::dialog && each.number == dialog.number();
@@ -139,9 +163,8 @@ void ScriptedUser::runModal(CDialog& dialog) {
     if (!answer) m_problems.push_back("nobody answers " + name + " \"" + dialog.text() + "\"");
     if (answer) {
         for (const Answer::Step& step : answer->steps) {
-            if (dialog.isEnded() || !takeStep(dialog, step))
-                m_problems.push_back(name + ": item " + std::to_string(step.id) +
-                                     " cannot be used");
+            if (dialog.isEnded() || !step.take(dialog))
+                m_problems.push_back(name + ": " + step.words + " cannot be used");
         }
         if (!dialog.isEnded()) m_problems.push_back(name + " is left open");
     }
@@ -151,14 +174,22 @@ void ScriptedUser::runModal(CDialog& dialog) {
 int ScriptedUser::popupMenu(CWnd&, std::span<const MenuEntry> entries) {
     const Answer* answer =
         take([](const Answer& each) { return each.question == Answer::Question::menu; });
-    if (!answer || answer->steps.empty()) {
+    if (!answer) {
         m_problems.push_back("nobody picks from the menu");
         return 0;
     }
-    const std::string& wanted = answer->steps.front().text;
+    const std::string& wanted = answer->menuEntry;
     for (const MenuEntry& entry : entries) {
         if (entry.command != 0 && entry.text == wanted) return entry.command;
     }
     m_problems.push_back("the menu has no entry \"" + wanted + "\"");
     return 0;
+}
+
+std::vector<std::string> ScriptedUser::chooseFiles(const FileQuestion& question, CWnd*) {
+    const Answer* answer = take([&](const Answer& each) {
+        return each.question == Answer::Question::file && each.words == question.title;
+    });
+    if (!answer) m_problems.push_back("nobody chooses a file: " + question.title);
+    return answer ? answer->files : std::vector<std::string>{};
 }

@@ -3,6 +3,7 @@
 //     ScriptedUser user;
 //     user.whenOpens(218).types(1207, "M16").presses(1205).presses(IDCANCEL);
 //     user.whenToldWithCaption("Replace all").presses(IDOK);
+//     user.whenAskedForFile("Open").chooses("c:\\lib\\a.txt");
 //     ...
 //     user.told()[0].lines()
 //
@@ -26,20 +27,29 @@ class VORMANT_API ScriptedUser : public WindowSystem {
       public:
         Answer& types(int id, std::string_view text);
         Answer& presses(int id);
+        /// Picks the item `index` of a list, a combo or tabs.
+        Answer& selects(int id, int index);
+        /// Picks the item with this text.
+        Answer& selects(int id, std::string_view item);
+        /// Ticks the item `index` of a check list, or unticks it.
+        Answer& checks(int id, int index, bool checked);
         /// Picks the menu entry with this text.
         Answer& picks(std::string_view entry);
+        /// Gives these files to a file chooser; none cancels it.
+        Answer& chooses(std::vector<std::string> paths);
         /// Anything else: looks at the dialog, calls into it.
         Answer& does(std::function<void(CDialog&)> action);
 
       private:
         friend class ScriptedUser;
-        enum class Question { dialog, caption, text, menu };
+        enum class Question { dialog, caption, text, menu, file };
         struct Step {
-            enum class Kind { type, press, pick, action } kind;
-            int id;
-            std::string text;
-            std::function<void(CDialog&)> action;
+            /// What is done, and its words where a problem with it is told. False: it cannot be.
+            std::function<bool(CDialog&)> take;
+            std::string words;
+            int pressed = 0;  ///< the button, of a press
         };
+        Answer& add(Step step);
 
         std::string describe() const;
         int pressed() const;
@@ -48,6 +58,8 @@ class VORMANT_API ScriptedUser : public WindowSystem {
         int number = 0;
         std::string words;
         std::vector<Step> steps;
+        std::string menuEntry;
+        std::vector<std::string> files;
         bool isUsed = false;
     };
 
@@ -60,6 +72,8 @@ class VORMANT_API ScriptedUser : public WindowSystem {
     /// A message box whose text contains `part`.
     Answer& whenTold(std::string_view part);
     Answer& whenMenuOpens();
+    /// A file chooser with this title.
+    Answer& whenAskedForFile(std::string_view title);
 
     /// The message boxes so far, and their texts as lines.
     const std::vector<MessageBox>& told() const { return m_told; }
@@ -73,14 +87,17 @@ class VORMANT_API ScriptedUser : public WindowSystem {
     int messageBox(const MessageBox& box) override;
     void runModal(CDialog& dialog) override;
     int popupMenu(CWnd& owner, std::span<const MenuEntry> entries) override;
+    std::vector<std::string> chooseFiles(const FileQuestion& question, CWnd* parent) override;
+    bool isShiftHeld() override { return m_isShiftHeld; }
+    void holdShift(bool held) { m_isShiftHeld = held; }
 
   private:
     Answer& add(Answer::Question question, int number, std::string_view words);
     Answer* take(const std::function<bool(const Answer&)>& fits);
-    bool takeStep(CDialog& dialog, const Answer::Step& step);
 
     std::deque<Answer> m_answers;  // a deque: callers hold on to references
     std::vector<MessageBox> m_told;
     std::vector<std::string> m_problems;
     WindowSystem* m_before;
+    bool m_isShiftHeld = false;
 };

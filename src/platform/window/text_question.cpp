@@ -8,7 +8,7 @@ constexpr ControlTemplate controls[] = {
     {Control::label, textQuestionPrompt, {}, {7, 7, 186, 18}},
     {Control::label, textQuestionLabel, {}, {7, 32, 50, 10}},
     {Control::edit, textQuestionField, {}, {60, 30, 133, 14}},
-    {Control::button, IDOK, {}, {79, 52, 54, 14}},
+    {Control::button, IDOK, {}, {79, 52, 54, 14}, styleDefault},
     {Control::button, IDCANCEL, {}, {139, 52, 54, 14}},
 };
 constexpr DialogResource resource{textQuestionNumber, {}, {0, 0, 200, 73}, controls};

@@ -1,12 +1,15 @@
 #include "platform/window/wnd.h"
 
 #include <algorithm>
+#include <utility>
 
+#include "platform/window/controls.h"
 #include "platform/window/window_system.h"
 
 namespace {
 
 CWnd* focusedWindow = nullptr;
+CWnd* capturedWindow = nullptr;
 
 }  // namespace
 
@@ -31,6 +34,7 @@ bool CWnd::destroy() {
     while (!m_children.empty()) m_children.back()->destroy();
     m_owned.clear();
     if (focusedWindow == this) focusedWindow = nullptr;
+    if (capturedWindow == this) capturedWindow = nullptr;
     WindowSystem::current().destroyed(*this);
     if (m_parent) m_parent->forgetChild(this);
     m_parent = nullptr;
@@ -42,10 +46,23 @@ void CWnd::forgetChild(CWnd* child) {
     std::erase(m_children, child);
 }
 
+CWnd* CWnd::top() {
+    CWnd* window = this;
+    while (window->m_parent) window = window->m_parent;
+    return window;
+}
+
 CWnd* CWnd::item(int id) const {
     const auto found = std::find_if(m_children.begin(), m_children.end(),
                                     [&](const CWnd* child) { return child->id() == id; });
     return found == m_children.end() ? nullptr : *found;
+}
+
+CWnd* CWnd::descendant(int id) const {
+    if (CWnd* direct = item(id)) return direct;
+    for (const CWnd* child : m_children)
+        if (CWnd* found = child->descendant(id)) return found;
+    return nullptr;
 }
 
 CWnd* CWnd::adopt(std::unique_ptr<CWnd> child) {
@@ -59,19 +76,29 @@ CRect CWnd::windowRect() const {
     return m_made.rect.movedBy(origin.x, origin.y);
 }
 
+void CWnd::tell(WindowChange change) {
+    if (m_isCreated) WindowSystem::current().changed(*this, change);
+}
+
+void CWnd::notify(int code) {
+    if (m_parent) m_parent->onCommand(id(), code);
+}
+
 void CWnd::setStyle(unsigned style) {
     m_made.style = style;
-    WindowSystem::current().changed(*this, WindowChange::style);
+    tell(WindowChange::style);
 }
 
 void CWnd::move(const CRect& rect) {
+    const CSize before = m_made.rect.size();
     m_made.rect = rect;
-    WindowSystem::current().changed(*this, WindowChange::rect);
+    tell(WindowChange::rect);
+    if (rect.size() != before) onSize(before);
 }
 
 void CWnd::setText(std::string_view text) {
     m_made.text = text;
-    WindowSystem::current().changed(*this, WindowChange::text);
+    tell(WindowChange::text);
 }
 
 bool CWnd::isVisible() const {
@@ -80,21 +107,59 @@ bool CWnd::isVisible() const {
 
 void CWnd::show(bool visible) {
     m_made.isVisible = visible;
-    WindowSystem::current().changed(*this, WindowChange::visible);
+    tell(WindowChange::visible);
 }
 
 void CWnd::enable(bool enabled) {
     m_isEnabled = enabled;
-    WindowSystem::current().changed(*this, WindowChange::enabled);
+    tell(WindowChange::enabled);
+}
+
+void CWnd::setTip(std::string_view tip) {
+    m_tip = tip;
+    tell(WindowChange::tip);
 }
 
 bool CWnd::focus() {
     if (!isVisible() || !m_isEnabled) return false;
-    focusedWindow = this;
-    WindowSystem::current().changed(*this, WindowChange::focus);
+    if (focusedWindow == this) return true;
+    CWnd* const before = std::exchange(focusedWindow, this);
+    tell(WindowChange::focus);
+    if (before) before->notify(focusLost);
     return true;
 }
 
 CWnd* CWnd::focused() {
     return focusedWindow;
+}
+
+void CWnd::setCapture() {
+    capturedWindow = this;
+}
+
+void CWnd::releaseCapture() {
+    capturedWindow = nullptr;
+}
+
+CWnd* CWnd::captured() {
+    return capturedWindow;
+}
+
+void CWnd::invalidate() {
+    tell(WindowChange::content);
+}
+
+bool dispatchKey(CWnd& focused, const KeyMessage& key) {
+    for (CWnd* window = &focused; window; window = window->parent())
+        if (window->preTranslateKey(key)) return true;
+    return false;
+}
+
+void dispatchMouse(CWnd& window, MouseMessage message) {
+    CWnd* const target = CWnd::captured() ? CWnd::captured() : &window;
+    const CPoint from = window.windowRect().topLeft();
+    const CPoint to = target->windowRect().topLeft();
+    message.point.x += from.x - to.x;
+    message.point.y += from.y - to.y;
+    target->onMouse(message);
 }

@@ -11,6 +11,10 @@
 
 #include "platform/export.h"
 #include "platform/window/geometry.h"
+#include "platform/window/input.h"
+
+class CDC;
+enum class WindowChange;
 
 /// What a new window is.
 struct WindowTemplate {
@@ -39,11 +43,21 @@ class VORMANT_API CWnd {
     int id() const { return m_made.id; }
     const std::string& className() const { return m_made.className; }
     unsigned style() const { return m_made.style; }
+    bool hasStyle(unsigned bit) const { return (m_made.style & bit) != 0; }
     void setStyle(unsigned style);
 
     CWnd* parent() const { return m_parent; }
+    /// The outermost window above it, or itself.
+    CWnd* top();
     /// The direct child with this id, or null.
     CWnd* item(int id) const;
+    /// The first window below it, at any depth, with this id, or null.
+    CWnd* descendant(int id) const;
+    /// item() as a control of that kind; null when it is none.
+    template <class ControlClass>
+    ControlClass* itemAs(int id) const {
+        return dynamic_cast<ControlClass*>(item(id));
+    }
     const std::vector<CWnd*>& children() const { return m_children; }
     /// Keeps a child for as long as this window is created.
     CWnd* adopt(std::unique_ptr<CWnd> child);
@@ -52,37 +66,76 @@ class VORMANT_API CWnd {
     CRect windowRect() const;
     /// In pixels of the parent's client area.
     const CRect& rect() const { return m_made.rect; }
+    /// onSize() is called when the size changes.
     void move(const CRect& rect);
+    /// No user can make it smaller.
+    virtual CSize minimumSize() const { return {}; }
 
     const std::string& text() const { return m_made.text; }
-    void setText(std::string_view text);
+    virtual void setText(std::string_view text);
     /// Shown, and every window above it too.
     bool isVisible() const;
+    /// Its own switch, whatever those above it say.
+    bool isShown() const { return m_made.isVisible; }
     void show(bool visible);
     bool isEnabled() const { return m_isEnabled; }
     void enable(bool enabled);
+    /// What a screen shows when the mouse rests on it.
+    const std::string& tip() const { return m_tip; }
+    void setTip(std::string_view tip);
 
-    /// Gives it the keyboard; false when it is hidden or disabled.
+    /// Gives it the keyboard; false when it is hidden or disabled. The one that loses it tells its
+    /// parent focusLost.
     bool focus();
     bool hasFocus() const { return focused() == this; }
     /// The window with the keyboard, or null.
     static CWnd* focused();
 
+    /// Hears every mouse message until releaseCapture(), wherever the mouse is.
+    void setCapture();
+    static void releaseCapture();
+    static CWnd* captured();
+
+    /// To be drawn again: onEraseBkgnd, then onPaint.
+    void invalidate();
+
+    // --- what happens to it -----------------------------------------------------------------
     /// A child tells of something: a button pressed, a text changed. Codes are those of
-    /// `Notification` (dialog.h).
+    /// `Notification` (controls.h).
     virtual void onCommand(int /*id*/, int /*code*/) {}
+    /// Before the focused window gets a key: asked from there upwards. True when it is used up.
+    virtual bool preTranslateKey(const KeyMessage& /*key*/) { return false; }
+    virtual void onMouse(const MouseMessage& /*message*/) {}
+    /// The cursor over a point of its client area.
+    virtual Cursor cursorAt(CPoint /*point*/) { return Cursor::arrow; }
+    /// Draws the background. False: nothing is drawn and the usual one shows.
+    virtual bool onEraseBkgnd(CDC& /*dc*/) { return false; }
+    /// Draws over the background, below the children.
+    virtual void onPaint(CDC& /*dc*/) {}
 
   protected:
     /// Before the window and its children go.
     virtual void onDestroy() {}
+    /// It has another size than `before`.
+    virtual void onSize(CSize /*before*/) {}
+    /// Tells the screen, when it is created.
+    void tell(WindowChange change);
+    /// Tells the parent.
+    void notify(int code);
 
   private:
     void forgetChild(CWnd* child);
 
     WindowTemplate m_made;
+    std::string m_tip;
     CWnd* m_parent = nullptr;
     std::vector<CWnd*> m_children;
     std::vector<std::unique_ptr<CWnd>> m_owned;
     bool m_isCreated = false;
     bool m_isEnabled = true;
 };
+
+/// What a screen hands in: a key for the focused window, true when somebody used it up; a mouse
+/// message for `window` (the captured window hears it instead, in its own coordinates).
+VORMANT_API bool dispatchKey(CWnd& focused, const KeyMessage& key);
+VORMANT_API void dispatchMouse(CWnd& window, MouseMessage message);

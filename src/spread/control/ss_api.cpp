@@ -6,6 +6,7 @@
 #include <tuple>
 
 #include "core_api/text/number_text.h"
+#include "platform/window/window_system.h"
 #include "spread/control/grid.h"
 
 namespace {
@@ -48,11 +49,6 @@ control::CellType& startType(SSCellType& type, CellKind kind, uint32_t style) {
 
 constexpr double pixelsPerUnit = 8;
 constexpr double pixelsPerPoint = 4.0 / 3;
-
-std::string& clipboard() {
-    static std::string text;
-    return text;
-}
 
 }  // namespace
 
@@ -413,7 +409,7 @@ bool SSClipboardCopy(SSHandle grid) {
     const Block cell{active.col, active.row, active.col, active.row};
     const Block block = grid->selection().value_or(cell);
     if (!grid->resolved(block)) return false;
-    clipboard() = grid->copyText(block);
+    WindowSystem::current().setClipboardText(grid->copyText(block));
     return true;
 }
 
@@ -422,7 +418,7 @@ bool SSClipboardPaste(SSHandle grid) {
     control::CellAddress at = grid->active();
     if (grid->selection())
         if (const auto block = grid->resolved(*grid->selection())) at = {block->col1, block->row1};
-    return grid->pasteText(at.col, at.row, clipboard());
+    return grid->pasteText(at.col, at.row, WindowSystem::current().clipboardText());
 }
 
 bool SSSetActionKey(SSHandle grid, int action, bool shift, bool ctrl, int key) {
