@@ -163,6 +163,44 @@ TEST(Run, AnErrorGoesThroughTextsToo) {
     EXPECT_THAT(result.out, HasSubstr("W     #DIV/0!\n  Kept  none\n"));
 }
 
+TEST(Run, AnErrorInATextIsToldOfEveryOutputThatItReaches) {
+    const Library library;
+    library.add("Childs/Divide", {"Input", "Double P", "Output", "String W", "Calc", "W=1/P"});
+    library.add("Childs/Join", {"Input", "String T", "Output", "String W", "Calc", "W=T&\"!\""});
+    library.add("Own", {"Input", "Double P", "Output", "String W", "Int N", "Calc", "W=\"M\"&1/P",
+                        "N=IF(W=\"\",1,2)"});
+    library.add("Cell",
+                {"Input", "Double P", "Output", "String W", "Int N", "Calc", "W=1/P", "N=LEN(A7)"});
+    library.add("Calls", {"Input", "Double P", "Output", "String W", "Int N", "Calc",
+                          "CallChild(\"Divide.tws\",P,W)", "N=LEN(W)"});
+    library.add("Hands", {"Input", "Double P", "Output", "String W", "Local", "String T", "Calc",
+                          "T=1/P", "CallChild(\"Join.tws\",T,W)"});
+    const struct {
+        std::string standard;
+        std::vector<std::string> places;
+    } cases[] = {
+        {"Own", {"Own.tws:7: output \"W\"", "Own.tws:8: output \"N\""}},
+        {"Cell", {"Cell.tws:7: output \"W\"", "Cell.tws:8: output \"N\""}},
+        {"Calls", {"Divide.tws:6: output \"W\"", "Calls.tws:7: output \"W\"", ":8: output \"N\""}},
+        {"Hands", {"Join.tws:6: output \"W\"", "Hands.tws:9: output \"W\""}},
+    };
+    for (const auto& row : cases) {
+        SCOPED_TRACE(row.standard);
+        const auto result = library.call({"run", row.standard, "--set", "P=0", "--json"});
+        EXPECT_EQ(result.exitCode, 1);
+        const Json report = Json::parse(result.out);
+        EXPECT_EQ(report["ok"], false);
+        for (const auto& [name, value] : report["outputs"].items())
+            EXPECT_EQ(value, "#DIV/0!") << name;
+        for (const auto& place : row.places)
+            EXPECT_THAT(result.err, HasSubstr(place + " is #DIV/0! by the equation in this row"));
+        EXPECT_EQ(report["messages"].size(), row.places.size());
+        EXPECT_THAT(library.call({"batch", row.standard, "--jsonl"}, "{\"P\":0}").out,
+                    HasSubstr("line 1: W is #DIV/0!"));
+        EXPECT_EQ(library.call({"run", row.standard, "--set", "P=1"}).exitCode, 0);
+    }
+}
+
 TEST(Run, WhatCannotBeRunFailsWithOneMessage) {
     const Library library;
     library.add("NoOutput", {"Input", "Double P", "Calc"});
@@ -270,6 +308,17 @@ TEST_F(RunOnMacro, SaysWhatIsMissingAndLeavesTheMacroAlone) {
     const auto failed = run({"--write"}, "BeamToColumn");
     EXPECT_EQ(failed.exitCode, 1);
     EXPECT_THAT(failed.err, HasSubstr("EndPlate.macro: left as it was"));
+    EXPECT_EQ(m_folder.read(m_macro), before);
+
+    // So does an error in an output, be it a text.
+    const size_t rows = text.find("BoltRows=");
+    text.replace(rows, text.find('\n', rows) - rows, "BoltRows=TEXT(1/0,\"0\")");
+    text.replace(text.find("=NONUMBER("), 10, "=TONUMBER(");
+    m_folder.write(standard, text);
+    const auto error = run({"--write"}, "BeamToColumn");
+    EXPECT_EQ(error.exitCode, 1);
+    EXPECT_THAT(error.err, HasSubstr("\"BoltRows\" is #DIV/0! by the equation in this row; the "
+                                     "macro keeps its value"));
     EXPECT_EQ(m_folder.read(m_macro), before);
 }
 
