@@ -50,7 +50,7 @@ void onStandardsCall(CLI::App& command, Calls& calls, Work work) {
     });
 }
 
-/// For names of files: an empty one is a variable of a script that was not set.
+/// For names: an empty one is a variable of a script that was not set.
 std::string refusedWhenEmpty(const std::string& text) {
     return text.empty() ? "this is empty" : "";
 }
@@ -63,12 +63,13 @@ void addStandardsReaders(CLI::App& standards, Calls& calls) {
     auto& check = *standards.add_subcommand(
         "check", "Look for mistakes in standards: file:row:column: message");
     check.add_option("FILE", calls.check.files, "A standards file, or a name in the library")
-        ->required();
+        ->required()
+        ->check(refusedWhenEmpty);
     onStandardsCall(check, calls, [&calls] { return checkStandards(calls.check); });
 
     auto& test = *standards.add_subcommand(
         "test", "Run the check problems that stand beside a standard (NAME.cases.csv)");
-    auto* names = test.add_option("NAME", calls.test.names, "A standard");
+    auto* names = test.add_option("NAME", calls.test.names, "A standard")->check(refusedWhenEmpty);
     auto* all =
         test.add_flag("--all", calls.test.all, "Every standard of the library that has cases");
     names->excludes(all);
@@ -77,7 +78,9 @@ void addStandardsReaders(CLI::App& standards, Calls& calls) {
 
 void addStandardsRunners(CLI::App& standards, Calls& calls) {
     auto& run = *standards.add_subcommand("run", "Run a standard and print its outputs");
-    run.add_option("NAME", calls.run.name, "A standard of the library, or a file")->required();
+    run.add_option("NAME", calls.run.name, "A standard of the library, or a file")
+        ->required()
+        ->check(refusedWhenEmpty);
     auto* set = addAssignments(run, "--set", calls.run.values, "Give an input its value");
     auto* macro =
         run.add_option("--macro", calls.run.macroFile, "Take the inputs from this macro file")
@@ -99,8 +102,11 @@ void addStandardsRunners(CLI::App& standards, Calls& calls) {
 
     auto& batch = *standards.add_subcommand(
         "batch", "Run a standard once for every line of inputs; a filter");
-    batch.add_option("NAME", calls.batch.name, "A standard of the library, or a file")->required();
-    batch.add_option("INPUT", calls.batch.input, "A file of lines; - is the standard input");
+    batch.add_option("NAME", calls.batch.name, "A standard of the library, or a file")
+        ->required()
+        ->check(refusedWhenEmpty);
+    batch.add_option("INPUT", calls.batch.input, "A file of lines; - is the standard input")
+        ->check(refusedWhenEmpty);
     batch.add_flag("--jsonl", calls.batch.jsonLines, "Lines are JSON objects instead of CSV");
     batch.add_flag("!--no-header", calls.batch.header, "Leave out the line of output names");
     addAssignments(batch, "--gen", calls.batch.genValues, "Replace a gen_ name by a value");
@@ -109,7 +115,7 @@ void addStandardsRunners(CLI::App& standards, Calls& calls) {
 
 void addSheetCommands(CLI::App& sheet, Calls& calls) {
     auto& show = *sheet.add_subcommand("show", "Print a document as a table");
-    show.add_option("FILE", calls.show.file, "A document")->required();
+    show.add_option("FILE", calls.show.file, "A document")->required()->check(refusedWhenEmpty);
     show.add_flag("--formulas", calls.show.formulas, "Print formulas instead of their results");
     onCall(show, calls, [&calls] { return showSheet(calls.show); });
 
@@ -120,8 +126,9 @@ void addSheetCommands(CLI::App& sheet, Calls& calls) {
                       ->allow_extra_args(false);
     auto* lines = eval.add_flag("--jsonl", calls.eval.jsonLines,
                                 "Read formulas as JSON lines, write results as JSON lines");
-    auto* input =
-        eval.add_option("--input", calls.eval.input, "The file of JSON lines")->type_name("FILE");
+    auto* input = eval.add_option("--input", calls.eval.input, "The file of JSON lines")
+                      ->type_name("FILE")
+                      ->check(refusedWhenEmpty);
     lines->excludes(text)->excludes(cells);
     input->needs(lines);
     onCall(eval, calls, [&calls] { return evalFormula(calls.eval); });
