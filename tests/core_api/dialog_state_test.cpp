@@ -4,20 +4,14 @@
 #include <gtest/gtest.h>
 #include <stdlib.h>
 
-#include "platform/host/host.h"
 #include "platform/registry/registry.h"
+#include "support/printed.h"
 #include "support/temporary_folder.h"
 
 namespace {
 
 using registry::Root;
 using testing::HasSubstr;
-
-class Printed : public Host {
-  public:
-    void print(std::string_view printed) override { text += printed; }
-    std::string text;
-};
 
 class Registry : public testing::Test {
   protected:

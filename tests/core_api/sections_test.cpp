@@ -5,18 +5,12 @@
 
 #include "core_api/settings.h"
 #include "core_api/text/text_helpers.h"
-#include "platform/host/host.h"
+#include "support/printed.h"
 #include "support/temporary_folder.h"
 
 namespace {
 
 using testing::EndsWith;
-
-class Printed : public Host {
-  public:
-    void print(std::string_view printed) override { text += printed; }
-    std::string text;
-};
 
 class SectionTables : public testing::Test {
   protected:

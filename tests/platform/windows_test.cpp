@@ -2,21 +2,15 @@
 #include <gtest/gtest.h>
 
 #include "core_api/texts/dial_text.h"
-#include "platform/host/host.h"
 #include "platform/window/dialog.h"
 #include "platform/window/text_question.h"
+#include "support/printed.h"
 #include "support/test_user.h"
 
 namespace {
 
 using testing::ElementsAre;
 using testing::HasSubstr;
-
-class Printed : public Host {
-  public:
-    void print(std::string_view printed) override { text += printed; }
-    std::string text;
-};
 
 constexpr ControlTemplate controls[] = {
     {Control::edit, 1207, {}, {10, 20, 40, 8}},

@@ -37,6 +37,15 @@ constexpr TextRow rows[] = {
     {1157, {"Delete column", "Kolom verwijderen", "Spalte löschen", "Supprimer la colonne"}},
     {1400, {"Check all", "Alles aanvinken", "Alle ankreuzen", "Cocher tout"}},
     {1401, {"Uncheck all", "Alles uitvinken", "Alle abwählen", "Décocher tout"}},
+    {21500, {"Formulas", "Formules", "Formeln", "Formules"}},
+    {21501, {"Load from File", "Laden uit bestand", "Aus Datei laden", "Charger"}},
+    {21502, {"Save to File", "Opslaan in bestand", "In Datei speichern", "Enregistrer"}},
+    {21503, {"&Default", "&Standaard", "&Standard", "&Standard"}},
+    {21504, {"&A1", "&A1", "&A1", "&A1"}},
+    {21505, {"&R1C1", "&R1C1", "&R1C1", "&R1C1"}},
+    {21506,
+     {"Auto calculate", "Automatisch berekenen", "Automatisch berechnen", "Calcul automatique"}},
+    {21507, {"Recalculate", "Herberekenen", "Neu berechnen", "Recalculer"}},
 };
 
 }  // namespace

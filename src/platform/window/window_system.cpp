@@ -27,6 +27,10 @@ WindowSystem* WindowSystem::install(WindowSystem* system) {
     return before;
 }
 
+bool WindowSystem::isAttended() {
+    return installedSystem != nullptr;
+}
+
 int WindowSystem::messageBox(const MessageBox& box) {
     std::string printed = box.caption.empty() ? std::string() : box.caption + "\n";
     printed += box.text;

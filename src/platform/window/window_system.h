@@ -49,6 +49,8 @@ class VORMANT_API WindowSystem {
     /// Makes `system` (borrowed; null for headless) the current one and returns the one before,
     /// null when that was headless. Windows that are created live through it unchanged.
     static WindowSystem* install(WindowSystem* system);
+    /// Somebody, or a script, can answer. A dialog that only shows results ends itself otherwise.
+    static bool isAttended();
 
     // --- windows ----------------------------------------------------------------------------
     /// After a window was made and before it goes.
