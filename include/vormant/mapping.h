@@ -1,6 +1,7 @@
 // Variables of standards spreadsheets and where they live in a macro.
 #pragma once
 
+#include "mapping/start_mapping_dialog.h"
 #include "mapping/tw_dlg_standards_data.h"
 #include "mapping/tw_object_map.h"
 #include "mapping/tw_ss_mapping.h"

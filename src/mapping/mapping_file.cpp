@@ -16,9 +16,9 @@ struct Item {
     Vor_String mapping;
 };
 
-std::optional<Vor_StringArray> readLines(std::string_view path) {
+std::optional<Vor_StringArray> readLines(std::string_view path, Vor_String* message) {
     Vor_StringArray lines;
-    if (ObjectExportReadFile(path, lines) != Acad::eOk) return std::nullopt;
+    if (ObjectExportReadFile(path, lines, message) != Acad::eOk) return std::nullopt;
     if (!lines.isEmpty() && lines[0].hasSubString("Mapping") && lines[0].hasSubString("version"))
         lines.removeAt(0);
     return lines;
@@ -34,14 +34,20 @@ Vor_String mappingFilePath(const Vor_String& standardsName) {
     return changeExtension(standardsFolder() + standardsName + ".tws", "map");
 }
 
-std::shared_ptr<const Vor_StringArray> readMappingLines(const Vor_String& standardsName) {
+std::shared_ptr<const Vor_StringArray> readMappingLines(const Vor_String& standardsName,
+                                                        Vor_String* message) {
     static CachedFiles<Vor_StringArray> files;
-    return files.get(mappingFilePath(standardsName), readLines);
+    const Vor_String file = mappingFilePath(standardsName);
+    Vor_String why = file + ": there is no such file";
+    auto lines = files.get(file, [&](std::string_view path) { return readLines(path, &why); });
+    if (!lines && message) *message = why;
+    return lines;
 }
 
-bool writeMappingLines(const Vor_String& standardsName, Vor_StringArray lines) {
+bool writeMappingLines(const Vor_String& standardsName, Vor_StringArray lines,
+                       Vor_String* message) {
     lines.insertAt(0, header);
-    return ObjectExportWriteFile(mappingFilePath(standardsName), lines) == Acad::eOk;
+    return ObjectExportWriteFile(mappingFilePath(standardsName), lines, message) == Acad::eOk;
 }
 
 Vor_String mappingLineKey(const Vor_String& line) {

@@ -19,9 +19,12 @@ Vor_String standardsFolder();
 /// A standard's mapping file; `standardsName` has no extension.
 Vor_String mappingFilePath(const Vor_String& standardsName);
 
-/// Its lines without the header, kept until the file changes. Null when it cannot be read.
-std::shared_ptr<const Vor_StringArray> readMappingLines(const Vor_String& standardsName);
-bool writeMappingLines(const Vor_String& standardsName, Vor_StringArray lines);
+/// Its lines without the header, kept until the file changes. Null, with `message` (when asked for)
+/// saying why, when it cannot be read.
+std::shared_ptr<const Vor_StringArray> readMappingLines(const Vor_String& standardsName,
+                                                        Vor_String* message = nullptr);
+bool writeMappingLines(const Vor_String& standardsName, Vor_StringArray lines,
+                       Vor_String* message = nullptr);
 
 /// Index of the first line stored under exactly this key, or -1. A line without "=" has the empty
 /// key.

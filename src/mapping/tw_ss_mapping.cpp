@@ -145,9 +145,9 @@ ErrorStatus TwSSMapping::getMappingFromFile(const Vor_String& standardsName,
     return index < 0 ? Acad::eInvalidInput : initMappingFromLine((*lines)[index]);
 }
 
-ErrorStatus TwSSMapping::setMappingToFile(const Vor_String& standardsName,
-                                          const Vor_String& key) const {
-    const auto stored = readMappingLines(standardsName);
+ErrorStatus TwSSMapping::setMappingToFile(const Vor_String& standardsName, const Vor_String& key,
+                                          Vor_String* message) const {
+    const auto stored = readMappingLines(standardsName, message);
     if (!stored && ObjectExportFileExists(mappingFilePath(standardsName)))
         return Acad::eInvalidInput;
     Vor_StringArray lines = stored ? *stored : Vor_StringArray();
@@ -162,7 +162,8 @@ ErrorStatus TwSSMapping::setMappingToFile(const Vor_String& standardsName,
         lines.removeAt(index);
     }
     lines.append(line);
-    return writeMappingLines(standardsName, std::move(lines)) ? Acad::eOk : Acad::eInvalidInput;
+    return writeMappingLines(standardsName, std::move(lines), message) ? Acad::eOk
+                                                                       : Acad::eInvalidInput;
 }
 
 ErrorStatus TwSSMapping::initMappingFromLine(const Vor_String& line) {

@@ -61,8 +61,10 @@ class VORMANT_API TwSSMapping {
     /// without lines succeeds and leaves the entries as they are.
     ErrorStatus getMappingFromFile(const Vor_String& standardsName, const Vor_String& key);
     /// Stores the mapping under `key` unless an equal one is there. Entries whose variable is
-    /// named twice or could not be a file name are dropped.
-    ErrorStatus setMappingToFile(const Vor_String& standardsName, const Vor_String& key) const;
+    /// named twice or could not be a file name are dropped. On failure `message`, when asked for,
+    /// says why.
+    ErrorStatus setMappingToFile(const Vor_String& standardsName, const Vor_String& key,
+                                 Vor_String* message = nullptr) const;
     /// From one line of a mapping file. Fails, with no entries, for a line without "=".
     ErrorStatus initMappingFromLine(const Vor_String& line);
     /// The first key of the file under which an equal mapping is stored.

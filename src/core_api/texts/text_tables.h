@@ -16,13 +16,14 @@ struct TextRow {
 
 extern const std::span<const TextRow> generalTexts;
 extern const std::span<const TextRow> sheetTexts;
+extern const std::span<const TextRow> mappingTexts;
 extern const std::span<const TextRow> designerTexts;
 extern const std::span<const TextRow> macrodlgTexts;
 extern const std::span<const TextRow> sectionsTexts;
 extern const std::span<const TextRow> cutstockTexts;
 
-inline std::array<std::span<const TextRow>, 6> allTables() {
-    return {generalTexts, sheetTexts, designerTexts, macrodlgTexts, sectionsTexts, cutstockTexts};
+inline std::array<std::span<const TextRow>, 7> allTables() {
+    return {generalTexts, sheetTexts, mappingTexts, designerTexts, macrodlgTexts, sectionsTexts, cutstockTexts};
 }
 
 }  // namespace texts
