@@ -24,6 +24,22 @@ constexpr TextRow rows[] = {
     {841, {"Choose file", "Bestand kiezen", "Datei wählen", "Choisir un fichier"}},
     {842, {"Choose file", "Bestand kiezen", "Datei wählen", "Choisir un fichier"}},
     {2220, {"number", "aantal", "Anzahl", "nombre"}},
+    {9101, {"&Yes", "&Ja", "&Ja", "&Oui"}},
+    {9102, {"&No", "&Nee", "&Nein", "&Non"}},
+    {9103, {"&Retry", "&Opnieuw", "&Wiederholen", "&Réessayer"}},
+    {9104,
+     {"%1 exists already. Replace it?", "%1 bestaat al. Vervangen?",
+      "%1 ist schon vorhanden. Ersetzen?", "%1 existe déjà. Le remplacer ?"}},
+    {9105,
+     {"The name %1 cannot be used: choose or type another.",
+      "De naam %1 kan niet worden gebruikt: kies of typ een andere.",
+      "Der Name %1 ist nicht verwendbar: einen anderen wählen oder eingeben.",
+      "Le nom %1 ne peut pas être utilisé : choisissez-en un autre."}},
+    {9106,
+     {"This character cannot be kept: %1. Use Western European letters.",
+      "Dit teken kan niet worden bewaard: %1. Gebruik West-Europese letters.",
+      "Dieses Zeichen kann nicht gespeichert werden: %1. Westeuropäische Buchstaben verwenden.",
+      "Ce caractère ne peut pas être conservé : %1. Utilisez des lettres d'Europe occidentale."}},
 };
 
 }  // namespace

@@ -30,7 +30,8 @@ void CButton::setImage(int number) {
 bool CButton::userPresses() {
     if (!isCreated() || !isEnabled() || m_kind == Control::group) return false;
     if (m_kind == Control::radioButton) {
-        uncheckNeighbours();
+        for (CButton* button : group())
+            if (button != this && button->check() != 0) button->setCheck(0);
         setCheck(1);
     } else if (isCheckable()) {
         const int states = hasStyle(styleThreeState) ? 3 : 2;
@@ -41,8 +42,8 @@ bool CButton::userPresses() {
 }
 
 // A group of radio buttons begins at the one with styleNewGroup and ends before the next.
-void CButton::uncheckNeighbours() {
-    if (!parent()) return;
+std::vector<CButton*> CButton::group() {
+    if (!parent()) return {this};
     std::vector<CButton*> group;
     bool isOurs = false;
     for (CWnd* child : parent()->children()) {
@@ -55,8 +56,7 @@ void CButton::uncheckNeighbours() {
         group.push_back(button);
         isOurs = isOurs || button == this;
     }
-    for (CButton* button : group)
-        if (button != this && button->check() != 0) button->setCheck(0);
+    return group;
 }
 
 // --- edits --------------------------------------------------------------------------------------

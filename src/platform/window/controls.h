@@ -47,12 +47,13 @@ class VORMANT_API CButton : public CWnd {
     int image() const { return m_image; }
     void setImage(int number);
 
+    /// Of a radio button: those that one press unchecks but for one, in order, with itself.
+    std::vector<CButton*> group();
+
     /// Changes the check as its kind does, then tells clicked. False when disabled or a frame.
     bool userPresses();
 
   private:
-    void uncheckNeighbours();
-
     Control m_kind;
     int m_check = 0;
     int m_image = 0;

@@ -31,10 +31,9 @@ class VORMANT_API CDialog : public CWnd {
     CSize minimumSize() const override { return m_minimum; }
     void setMinimumSize(CSize size) { m_minimum = size; }
 
-    /// What a user does: presses a button (also the title bar's cross and Escape, as IDCANCEL),
-    /// types into a field, picks the item `index` of a list, a combo or tabs. Items of pages inside
-    /// are found too. False when there is no such item or it is disabled; IDOK and IDCANCEL need no
-    /// item.
+    /// What a user does: presses a button (also Escape, as IDCANCEL), types into a field, picks the
+    /// item `index` of a list, a combo or tabs. Items of pages inside are found too. False when
+    /// there is no such item or it is disabled; IDOK and IDCANCEL need no item.
     bool press(int id);
     bool type(int id, std::string_view text);
     bool pick(int id, int index);
@@ -44,6 +43,8 @@ class VORMANT_API CDialog : public CWnd {
     CWnd* nextTabItem(const CWnd* from, bool backwards) const;
 
     void onCommand(int id, int code) override;
+    /// The cross of the title bar: as Escape, unless the dialog asks first.
+    virtual void onClose() { press(IDCANCEL); }
 
   protected:
     /// The controls are there and may be filled.

@@ -1,0 +1,33 @@
+// The pictures that image buttons show, by the number of their bitmap resource.
+#pragma once
+
+enum Image {
+    imageDesigner = 148,
+    imageDelete = 206,
+    imageRemoveAll = 207,
+    imageAdd = 212,
+    imageCopy = 223,
+    imagePaste = 224,
+    imageUp = 225,
+    imageDown = 226,
+    imageInsertRow = 227,
+    imageDeleteRow = 228,
+    imagePicture = 231,
+    imageOpen = 232,
+    imageSave = 233,
+    imageWidth = 235,
+    imageHeight = 236,
+    imageAlignBottoms = 237,
+    imagePlaceRight = 238,
+    imageFlex = 239,
+    imageShowFilter = 240,
+    imageHideFilter = 241,
+    imageSelectOthers = 242,
+    imageViewWhole = 243,
+    imageViewLeft = 244,
+    imageViewRight = 245,
+    imageViewTop = 246,
+    imageClash = 247,
+    imageReapply = 248,
+    imageFromStandards = 249,
+};

@@ -1,0 +1,379 @@
+// Dialogs on the desktop, worked with as a user does: by clicks, keys and the frame.
+#include <gmock/gmock.h>
+
+#include <QAbstractItemView>
+#include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QMessageBox>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTabBar>
+#include <QTabWidget>
+#include <QTest>
+#include <QTimer>
+
+#include "dialog_problems.h"
+#include "sample_dialog.h"
+#include "window/qt_window_system.h"
+
+namespace {
+
+using sample::Dialog;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+class Desktop : public testing::Test {
+  protected:
+    /// What a test does while a modal question waits.
+    static void meanwhile(std::function<void()> steps) {
+        QTimer::singleShot(50, qApp, std::move(steps));
+    }
+    static void settle() { QTest::qWait(20); }
+
+    template <class Widget>
+    Widget& widget(const CWnd& window) const {
+        auto* found = qobject_cast<Widget*>(system.widgetOf(window));
+        if (!found) throw std::runtime_error("no such widget");
+        return *found;
+    }
+    template <class Widget>
+    Widget& widget(const CDialog& dialog, int id) const {
+        return widget<Widget>(*dialog.descendant(id));
+    }
+    void click(QWidget& widget, QPoint at = {}) const {
+        QTest::mouseClick(&widget, Qt::LeftButton, {}, at);
+    }
+    static void key(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
+        QWidget* focused = QApplication::focusWidget();
+        ASSERT_TRUE(focused);
+        QTest::keyClick(focused, key, modifiers);
+    }
+    static void showItem(QAbstractItemView& view, int row, Qt::KeyboardModifiers modifiers = {}) {
+        const QRect place = view.visualRect(view.model()->index(row, 0));
+        QTest::mouseClick(view.viewport(), Qt::LeftButton, modifiers, place.center());
+    }
+
+    QtWindowSystem system;
+};
+
+class ModelessSample : public Desktop {
+  protected:
+    void SetUp() override {
+        dialog.create();
+        dialog.show(true);
+        QApplication::setActiveWindow(&widget<QWidget>(dialog));
+        settle();
+        dialog.told.clear();
+    }
+    template <class Widget>
+    Widget& at(int id) const {
+        return widget<Widget>(dialog, id);
+    }
+    Dialog dialog;
+};
+
+TEST_F(ModelessSample, LooksWell) {
+    EXPECT_THAT(dialogProblems(widget<QWidget>(dialog)), IsEmpty());
+    EXPECT_EQ(widget<QWidget>(dialog).windowTitle(), "Sample");
+    saveGrab(widget<QWidget>(dialog), "sample");
+}
+
+TEST_F(ModelessSample, FieldsTakeWhatIsTyped) {
+    auto& line = at<QLineEdit>(sample::name);
+    EXPECT_TRUE(line.hasFocus()) << "the first field has the keyboard";
+    QTest::keyClicks(&line, "HEB 200");
+    EXPECT_EQ(dialog.at<CEdit>(sample::name).text(), "HEB 200");
+    EXPECT_TRUE(dialog.wasTold(sample::name, textChanged));
+    line.setSelection(0, 3);
+    EXPECT_EQ(dialog.at<CEdit>(sample::name).selectionEnd(), 3);
+
+    line.insert(QString::fromUtf8("\xE6\x9D\xB1"));  // no key of ours types it
+    EXPECT_EQ(dialog.at<CEdit>(sample::name).text(), "HEB 200");
+
+    auto& text = at<QPlainTextEdit>(sample::remarks);
+    QTest::keyClicks(&text, "one");
+    QTest::keyClick(&text, Qt::Key_Return);
+    QTest::keyClicks(&text, "two");
+    EXPECT_EQ(dialog.at<CEdit>(sample::remarks).text(), "one\ntwo");
+    EXPECT_FALSE(dialog.isEnded()) << "Enter starts a line in a field of several";
+}
+
+TEST_F(ModelessSample, ButtonsAndBoxesFollowTheirWindow) {
+    click(at<QWidget>(sample::check), {6, 8});
+    EXPECT_TRUE(dialog.at<CButton>(sample::check).isChecked());
+    EXPECT_TRUE(dialog.wasTold(sample::check, clicked));
+    EXPECT_EQ(at<QCheckBox>(sample::check).text(), "Bolts && nuts");
+
+    for (const int state : {1, 2, 0}) {
+        click(at<QWidget>(sample::threeStates), {6, 8});
+        EXPECT_EQ(dialog.at<CButton>(sample::threeStates).check(), state);
+        constexpr Qt::CheckState shown[] = {Qt::Unchecked, Qt::Checked, Qt::PartiallyChecked};
+        EXPECT_EQ(at<QCheckBox>(sample::threeStates).checkState(), shown[state]);
+    }
+
+    click(at<QWidget>(sample::right), {6, 8});
+    click(at<QWidget>(sample::middle), {6, 8});
+    click(at<QWidget>(sample::middle), {6, 8});
+    EXPECT_FALSE(at<QRadioButton>(sample::right).isChecked());
+    EXPECT_TRUE(at<QRadioButton>(sample::middle).isChecked());
+    key(Qt::Key_Down);
+    EXPECT_TRUE(dialog.at<CButton>(sample::left).isChecked()) << "round to the first";
+    EXPECT_TRUE(at<QWidget>(sample::left).hasFocus());
+
+    click(at<QWidget>(sample::flexButton));
+    EXPECT_TRUE(at<QPushButton>(sample::flexButton).isChecked());
+    EXPECT_EQ(at<QWidget>(sample::openButton).toolTip(), "Open");
+    EXPECT_FALSE(at<QPushButton>(sample::openButton).icon().isNull());
+
+    dialog.told.clear();
+    click(at<QWidget>(sample::disabled));
+    EXPECT_THAT(dialog.told, IsEmpty());
+}
+
+TEST_F(ModelessSample, ListsAndCombosTakeWhatIsPicked) {
+    showItem(at<QAbstractItemView>(sample::list), 1);
+    EXPECT_EQ(dialog.at<CListBox>(sample::list).selectedText(), "M20");
+    showItem(at<QAbstractItemView>(sample::list), 1, Qt::ControlModifier);
+    EXPECT_EQ(dialog.at<CListBox>(sample::list).selected(), 1) << "cannot be unselected";
+
+    showItem(at<QAbstractItemView>(sample::manyList), 0);
+    showItem(at<QAbstractItemView>(sample::manyList), 2, Qt::ControlModifier);
+    EXPECT_THAT(dialog.at<CListBox>(sample::manyList).selection(), ElementsAre(0, 2));
+
+    auto& checks = at<QAbstractItemView>(sample::checkList);
+    const QRect row = checks.visualRect(checks.model()->index(1, 0));
+    QTest::mouseClick(checks.viewport(), Qt::LeftButton, {},
+                      row.topLeft() + QPoint(8, row.height() / 2));
+    EXPECT_TRUE(dialog.at<CListBox>(sample::checkList).isChecked(1));
+    EXPECT_TRUE(dialog.wasTold(sample::checkList, checkChanged));
+
+    at<QComboBox>(sample::combo).setFocus();
+    key(Qt::Key_Down);
+    key(Qt::Key_Down);
+    EXPECT_EQ(dialog.at<CComboBox>(sample::combo).text(), "M20");
+    auto& typed = *at<QComboBox>(sample::typedCombo).lineEdit();
+    QTest::keyClicks(&typed, "m2");
+    EXPECT_EQ(dialog.at<CComboBox>(sample::typedCombo).text(), "m2");
+    EXPECT_EQ(dialog.at<CComboBox>(sample::typedCombo).selected(), -1);
+
+    // What the program does is shown and told to nobody.
+    dialog.told.clear();
+    dialog.at<CListBox>(sample::list).remove(0);
+    dialog.at<CListBox>(sample::list).select(0);
+    dialog.at<CComboBox>(sample::combo).select(2);
+    dialog.at<CComboBox>(sample::typedCombo).setText("M30");
+    EXPECT_EQ(at<QAbstractItemView>(sample::list).model()->rowCount(), 2);
+    EXPECT_EQ(at<QAbstractItemView>(sample::list).currentIndex().row(), 0);
+    EXPECT_EQ(at<QComboBox>(sample::combo).currentText(), "M24");
+    EXPECT_EQ(at<QComboBox>(sample::typedCombo).currentText(), "M30");
+    EXPECT_THAT(dialog.told, IsEmpty());
+}
+
+TEST_F(ModelessSample, TabsTurnPages) {
+    auto& bar = *at<QTabWidget>(sample::tabs).tabBar();
+    QTest::mouseClick(&bar, Qt::LeftButton, {}, bar.tabRect(1).center());
+    EXPECT_EQ(dialog.at<CTabCtrl>(sample::tabs).selected(), 1);
+    EXPECT_EQ(dialog.told, (std::vector<Dialog::Told>{{sample::tabs, selectionChanged}}));
+    key(Qt::Key_PageDown, Qt::ControlModifier);
+    EXPECT_EQ(bar.currentIndex(), 2);
+}
+
+TEST_F(ModelessSample, TabGoesInTheOrderOfMakingThroughThePage) {
+    std::vector<int> order;
+    for (int i = 0; i < 30 && (order.empty() || CWnd::focused()->id() != sample::name); ++i) {
+        order.push_back(CWnd::focused()->id());
+        key(Qt::Key_Tab);
+    }
+    EXPECT_THAT(
+        order, ElementsAre(sample::name, sample::remarks, sample::check, sample::threeStates,
+                           sample::left, sample::right, sample::middle, sample::list,
+                           sample::manyList, sample::checkList, sample::thumbnails, sample::combo,
+                           sample::typedCombo, sample::tabs, sample::openButton, sample::flexButton,
+                           sample::moreButton, IDOK, IDCANCEL, sample::pageField, sample::pageBox));
+    EXPECT_TRUE(dialog.wasTold(sample::name, focusLost));
+    key(Qt::Key_Backtab, Qt::ShiftModifier);
+    EXPECT_EQ(CWnd::focused()->id(), sample::pageBox);
+}
+
+TEST_F(ModelessSample, KeysAreHeardByTheWindowBeforeItsWidget) {
+    dialog.keys.clear();
+    dialog.usesEscape = true;
+    key(Qt::Key_Escape);
+    EXPECT_FALSE(dialog.isEnded());
+    ASSERT_EQ(dialog.keys.size(), 2u) << "pressed and released, each once";
+    EXPECT_EQ(dialog.keys[0].key, keyEscape);
+    EXPECT_FALSE(dialog.keys[1].isDown);
+    dialog.usesEscape = false;
+    key(Qt::Key_Escape);
+    EXPECT_EQ(dialog.result(), IDCANCEL);
+}
+
+TEST_F(ModelessSample, TheMouseReachesTheDialogThroughLabelsAndDisabledControls) {
+    auto& frame = widget<QWidget>(dialog);
+    dialog.mouse.clear();
+    auto& disabled = at<QWidget>(sample::disabled);
+    const QPoint inside = disabled.geometry().center();
+    QTest::mouseClick(frame.windowHandle(), Qt::LeftButton, Qt::ShiftModifier, inside);
+    ASSERT_GE(dialog.mouse.size(), 2u);
+    const MouseMessage& down = dialog.mouse[dialog.mouse.size() - 2];
+    EXPECT_EQ(down.kind, MouseMessage::Kind::leftDown);
+    EXPECT_EQ(down.point, (CPoint{inside.x(), inside.y()}));
+    EXPECT_TRUE(down.shift);
+    EXPECT_EQ(frame.cursor().shape(), Qt::CrossCursor);
+}
+
+TEST_F(ModelessSample, ResizingByHandMovesTheControlsAndStopsAtTheLeastSize) {
+    auto& frame = widget<QWidget>(dialog);
+    const QSize before = frame.size();
+    const QPoint ok = at<QWidget>(IDOK).pos();
+    frame.resize(before + QSize(100, 50));
+    settle();
+    EXPECT_EQ(dialog.rect().width(), before.width() + 100);
+    EXPECT_EQ(at<QWidget>(IDOK).pos(), ok + QPoint(100, 50));
+    frame.resize(10, 10);
+    settle();
+    EXPECT_EQ(frame.size(), before);
+}
+
+TEST_F(ModelessSample, ItsCrossCancels) {
+    widget<QWidget>(dialog).close();
+    EXPECT_EQ(dialog.result(), IDCANCEL);
+    EXPECT_FALSE(widget<QWidget>(dialog).isVisible());
+    dialog.destroy();
+    EXPECT_FALSE(system.widgetOf(dialog));
+}
+
+TEST_F(Desktop, ModalDialogsEndByEnterEscapeAndTimers) {
+    Dialog dialog;
+    meanwhile([&] {
+        EXPECT_EQ(QApplication::activeModalWidget(), system.widgetOf(dialog));
+        key(Qt::Key_Return);
+    });
+    EXPECT_EQ(dialog.doModal(), IDOK);
+    EXPECT_FALSE(system.widgetOf(dialog));
+
+    meanwhile([&] { key(Qt::Key_Escape); });
+    EXPECT_EQ(dialog.doModal(), IDCANCEL);
+
+    int ticks = 0;
+    const int timer = system.startTimer(10, [&](int number) {
+        if (++ticks == 3) {
+            dialog.press(IDOK);
+            system.killTimer(number);
+        }
+    });
+    EXPECT_EQ(dialog.doModal(), IDOK);
+    EXPECT_EQ(ticks, 3);
+    EXPECT_FALSE(system.killTimer(timer));
+}
+
+TEST_F(Desktop, ModalDialogsLieInEachOther) {
+    Dialog outer;
+    Dialog inner(&outer);
+    outer.whenMore = [&] {
+        meanwhile([&] {
+            EXPECT_EQ(QApplication::activeModalWidget(), system.widgetOf(inner));
+            const QRect over = widget<QWidget>(outer).geometry();
+            EXPECT_LE(
+                (widget<QWidget>(inner).geometry().center() - over.center()).manhattanLength(), 2);
+            key(Qt::Key_Escape);
+        });
+        EXPECT_EQ(inner.doModal(), IDCANCEL);
+        EXPECT_FALSE(outer.isEnded());
+        outer.press(IDOK);
+    };
+    meanwhile([&] { click(widget<QWidget>(outer, sample::moreButton)); });
+    EXPECT_EQ(outer.doModal(), IDOK);
+}
+
+// The outer dialog goes while its own button still waits for the inner one.
+TEST_F(Desktop, ADialogMayEndAndGoWhileItsButtonIsPressed) {
+    auto outer = std::make_unique<Dialog>();
+    Dialog inner;
+    outer->whenMore = [&] {
+        meanwhile([&] {
+            outer.reset();
+            inner.press(IDOK);
+        });
+        inner.doModal();
+    };
+    outer->create();
+    outer->show(true);
+    settle();
+    click(widget<QWidget>(*outer, sample::moreButton));
+    settle();
+    EXPECT_FALSE(outer);
+}
+
+TEST_F(Desktop, EndingTheProgramEndsModalDialogs) {
+    Dialog dialog;
+    meanwhile([&] { QCoreApplication::exit(); });
+    QTimer::singleShot(0, qApp, [&] { EXPECT_EQ(dialog.doModal(), IDCANCEL); });
+    QApplication::exec();
+    EXPECT_FALSE(dialog.isCreated());
+}
+
+TEST_F(Desktop, MessageBoxesAnswerWithTheirButtons) {
+    struct Case {
+        MessageButtons buttons;
+        Qt::Key key;
+        int answer;
+    };
+    for (const Case& each : {Case{MessageButtons::ok, Qt::Key_Escape, IDOK},
+                             {MessageButtons::okCancel, Qt::Key_Return, IDOK},
+                             {MessageButtons::okCancel, Qt::Key_Escape, IDCANCEL},
+                             {MessageButtons::yesNoCancel, Qt::Key_Return, IDYES},
+                             {MessageButtons::yesNoCancel, Qt::Key_Escape, IDCANCEL},
+                             {MessageButtons::yesNo, Qt::Key_Escape, IDNO},
+                             {MessageButtons::retryCancel, Qt::Key_Return, IDRETRY}}) {
+        meanwhile([&] {
+            auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+            ASSERT_TRUE(box);
+            EXPECT_EQ(box->text(), "Save <table>?");
+            EXPECT_EQ(box->icon(), QMessageBox::Question);
+            saveGrab(*box, "message");
+            QTest::keyClick(box, each.key);
+        });
+        EXPECT_EQ(
+            system.messageBox({"Sample", "Save <table>?", MessageIcon::question, each.buttons}),
+            each.answer)
+            << static_cast<int>(each.buttons) << ' ' << each.key;
+    }
+}
+
+TEST_F(ModelessSample, MenusGiveTheCommandPicked) {
+    const MenuEntry entries[] = {
+        {7, "Copy"}, {}, {8, "Paste", false}, {9, "Bolts & nuts", true, true}};
+    meanwhile([&] {
+        auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+        ASSERT_TRUE(menu);
+        ASSERT_EQ(menu->actions().size(), 4);
+        EXPECT_TRUE(menu->actions()[1]->isSeparator());
+        EXPECT_FALSE(menu->actions()[2]->isEnabled());
+        EXPECT_TRUE(menu->actions()[3]->isChecked());
+        menu->setActiveAction(menu->actions()[3]);
+        QTest::keyClick(menu, Qt::Key_Return);
+    });
+    EXPECT_EQ(system.popupMenu(dialog, entries), 9);
+    meanwhile([&] { QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Escape); });
+    EXPECT_EQ(system.popupMenu(dialog, entries), 0);
+    EXPECT_FALSE(dialog.isEnded());
+}
+
+TEST_F(Desktop, AForgottenScreenBringsItsDialogsBack) {
+    Dialog dialog;
+    dialog.create();
+    dialog.move({-5000, 9000, -4000, 9600});
+    dialog.show(true);
+    settle();
+    EXPECT_TRUE(QGuiApplication::primaryScreen()->availableGeometry().intersects(
+        widget<QWidget>(dialog).geometry()));
+    EXPECT_EQ(dialog.rect().left, widget<QWidget>(dialog).geometry().x());
+}
+
+}  // namespace
