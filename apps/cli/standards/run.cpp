@@ -10,9 +10,9 @@
 #include "mapping/start_dlg_standards_ss.h"
 #include "platform/files.h"
 #include "platform/host/transaction.h"
+#include "runs/named_request.h"
 #include "standards/library.h"
-#include "standards/named_request.h"
-#include "standards/run_report.h"
+#include "standards/run_report_output.h"
 #include "standards/standards_commands.h"
 #include "standards/variables.h"
 
@@ -21,19 +21,20 @@ namespace cli {
 namespace {
 
 /// A run on values. wrongCall when the values are not those that the standard takes.
-ExitCode runOnValues(const RunRequest& request, const StandardName& standard, RunReport& report) {
-    auto named = NamedRequest::open(standard.path, report.failure);
+ExitCode runOnValues(const RunRequest& request, const StandardName& standard,
+                     runs::RunReport& report) {
+    auto named = runs::NamedRequest::open(standard.path, report.failure);
     if (!named) return ExitCode::failed;
     if (!setInputs(named->cells(), request.values) ||
         !setGenValues(named->data(), request.genValues))
         return ExitCode::wrongCall;
-    RunRecorder recorder(report);
+    runs::RunRecorder recorder(report);
     named->start();
     return ExitCode::done;
 }
 
 /// The macro's file changes only when all went well.
-bool writeMacro(const Vor_String& path, const RunReport& report, Vor_DbMacro& macro,
+bool writeMacro(const Vor_String& path, const runs::RunReport& report, Vor_DbMacro& macro,
                 const MacroData& macroData, Vor_String& failure) {
     if (!report.allWell())
         failure = path + ": left as it was, since the run did not go well";
@@ -81,7 +82,8 @@ bool hasMapping(const StandardName& standard, const TwDlgStandardsData& data, Vo
     return false;
 }
 
-ExitCode runOnMacro(const RunRequest& request, const StandardName& standard, RunReport& report) {
+ExitCode runOnMacro(const RunRequest& request, const StandardName& standard,
+                    runs::RunReport& report) {
     const auto path = insidePath(request.macroFile);
     std::string key, error;
     TwDlgStandardsData data;
@@ -100,7 +102,7 @@ ExitCode runOnMacro(const RunRequest& request, const StandardName& standard, Run
     data.transaction = &transaction;
     if (!hasMapping(standard, data, report.failure)) return ExitCode::failed;
     {
-        RunRecorder recorder(report);
+        runs::RunRecorder recorder(report);
         StartDlgStandardsSS(data);
     }
     if (request.write && !writeMacro(*path, report, macro, macroData, report.failure))
@@ -115,7 +117,7 @@ ExitCode runStandard(const RunRequest& request) {
     const auto standard = findStandard(request.name);
     if (!standard) return ExitCode::failed;
     gSettings.current().diagnostics = true;
-    RunReport report;
+    runs::RunReport report;
     report.path = standard->path.str();
     const ExitCode result = request.macroFile.empty() ? runOnValues(request, *standard, report)
                                                       : runOnMacro(request, *standard, report);

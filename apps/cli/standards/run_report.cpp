@@ -1,6 +1,4 @@
-#include "standards/run_report.h"
-
-#include <algorithm>
+#include "standards/run_report_output.h"
 
 #include "io/json_writer.h"
 #include "io/typed_paths.h"
@@ -11,7 +9,7 @@ namespace cli {
 namespace {
 
 void writeVariables(JsonWriter& json, std::string_view key,
-                    const std::vector<RunReport::Variable>& variables) {
+                    const std::vector<runs::RunReport::Variable>& variables) {
     json.key(key);
     json.beginObject();
     for (const auto& variable : variables) {
@@ -21,9 +19,9 @@ void writeVariables(JsonWriter& json, std::string_view key,
     json.endObject();
 }
 
-void writeReport(JsonWriter& json, const RunReport& report);
+void writeReport(JsonWriter& json, const runs::RunReport& report);
 
-void writeEquation(JsonWriter& json, const ReportedEquation& equation) {
+void writeEquation(JsonWriter& json, const runs::ReportedEquation& equation) {
     json.beginObject();
     json.key("row");
     json.number(equation.row);
@@ -47,7 +45,7 @@ void writeEquation(JsonWriter& json, const ReportedEquation& equation) {
     json.endObject();
 }
 
-void writeReport(JsonWriter& json, const RunReport& report) {
+void writeReport(JsonWriter& json, const runs::RunReport& report) {
     json.beginObject();
     json.key("standard");
     json.utf8(shownPath(report.path));
@@ -78,19 +76,7 @@ void writeReport(JsonWriter& json, const RunReport& report) {
 
 }  // namespace
 
-bool RunReport::equationsDone() const {
-    return ok && std::all_of(equations.begin(), equations.end(), [](const auto& equation) {
-               return equation.ok && (!equation.child || equation.child->equationsDone());
-           });
-}
-
-bool RunReport::allWell() const {
-    return equationsDone() && std::none_of(outputs.begin(), outputs.end(), [](const auto& output) {
-               return isErrorText(output.value);
-           });
-}
-
-std::string reportAsJson(const RunReport& report) {
+std::string reportAsJson(const runs::RunReport& report) {
     std::string text;
     JsonWriter json(text);
     writeReport(json, report);

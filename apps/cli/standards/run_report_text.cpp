@@ -4,13 +4,13 @@
 #include "core_api/text/text_helpers.h"
 #include "io/texts.h"
 #include "io/typed_paths.h"
-#include "standards/run_report.h"
+#include "standards/run_report_output.h"
 
 namespace cli {
 
 namespace {
 
-using Variables = std::vector<RunReport::Variable>;
+using Variables = std::vector<runs::RunReport::Variable>;
 
 void appendPadded(std::string& text, std::string_view windows1252, size_t width) {
     appendUtf8(text, windows1252);
@@ -33,9 +33,9 @@ void appendVariables(std::string& text, const std::string& indent, const char* h
     }
 }
 
-void appendReport(std::string& text, const RunReport& report, std::string indent, bool trace);
+void appendReport(std::string& text, const runs::RunReport& report, std::string indent, bool trace);
 
-void appendEquation(std::string& text, const ReportedEquation& equation,
+void appendEquation(std::string& text, const runs::ReportedEquation& equation,
                     const std::string& indent) {
     const std::string cell = getAlfabet(equation.column).str() + std::to_string(equation.row);
     text += indent + "  ";
@@ -58,7 +58,8 @@ void appendEquation(std::string& text, const ReportedEquation& equation,
     if (equation.child) appendReport(text, *equation.child, indent + "          ", true);
 }
 
-void appendReport(std::string& text, const RunReport& report, std::string indent, bool trace) {
+void appendReport(std::string& text, const runs::RunReport& report, std::string indent,
+                  bool trace) {
     appendVariables(text, indent, "Inputs", report.inputs);
     if (trace && !report.equations.empty()) {
         text += indent + "Equations\n";
@@ -67,7 +68,7 @@ void appendReport(std::string& text, const RunReport& report, std::string indent
     appendVariables(text, indent, "Outputs", report.outputs);
 }
 
-void complainAboutEquations(const RunReport& report) {
+void complainAboutEquations(const runs::RunReport& report) {
     for (const auto& equation : report.equations) {
         if (equation.child) complainAboutEquations(*equation.child);
         if (equation.ok) continue;
@@ -81,13 +82,13 @@ void complainAboutEquations(const RunReport& report) {
 
 }  // namespace
 
-std::string reportAsText(const RunReport& report, bool trace) {
+std::string reportAsText(const runs::RunReport& report, bool trace) {
     std::string text = shownPath(report.path) + "\n\n";
     appendReport(text, report, "", trace);
     return text;
 }
 
-void complainAbout(const RunReport& report) {
+void complainAbout(const runs::RunReport& report) {
     complainAboutEquations(report);
     for (const auto& lines : report.messages) {
         // These two are told in fewer words: as equations, and as a warning.

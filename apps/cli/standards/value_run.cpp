@@ -5,6 +5,7 @@
 #include "console.h"
 #include "io/texts.h"
 #include "io/typed_paths.h"
+#include "runs/run_report.h"
 #include "standards/variables.h"
 
 namespace cli {
@@ -33,7 +34,7 @@ ToldOnce::ToldOnce()
 
 std::unique_ptr<ValueRun> ValueRun::open(const StandardName& standard) {
     Vor_String failure;
-    auto request = NamedRequest::open(standard.path, failure);
+    auto request = runs::NamedRequest::open(standard.path, failure);
     if (!request) {
         complainText(failure);
         return nullptr;
@@ -50,7 +51,8 @@ bool ValueRun::run(std::string& error) {
     error = m_watch.failure();
     if (!error.empty()) return false;
     for (const auto& cell : cells()) {
-        if (!cell.isOutput() || cell.typedValue().number() || !isErrorText(cell.value())) continue;
+        if (!cell.isOutput() || cell.typedValue().number() || !runs::isErrorText(cell.value()))
+            continue;
         appendUtf8(error, cell.name());
         error += " is ";
         appendUtf8(error, cell.value());

@@ -9,7 +9,7 @@
 
 #include "platform/window/message_box.h"
 #include "standards/library.h"
-#include "standards/named_request.h"
+#include "runs/named_request.h"
 #include "standards/run_observer.h"
 
 namespace cli {
@@ -69,9 +69,9 @@ class ValueRun {
     bool run(std::string& error);
 
   private:
-    explicit ValueRun(NamedRequest request) : m_request(std::move(request)) {}
+    explicit ValueRun(runs::NamedRequest request) : m_request(std::move(request)) {}
 
-    NamedRequest m_request;
+    runs::NamedRequest m_request;
     FailureWatch m_watch;
     ToldOnce m_told;
 };

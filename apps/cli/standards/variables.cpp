@@ -3,7 +3,6 @@
 #include "console.h"
 #include "core_api/text/text_helpers.h"
 #include "io/texts.h"
-#include "spread/control/formula/value.h"
 
 namespace cli {
 
@@ -70,10 +69,6 @@ std::string refusal(const TwVarCell& variable, std::string_view value) {
     std::string name;
     appendUtf8(name, variable.name());
     return name + " is a number (" + typeName(variable.valueType()) + ")";
-}
-
-bool isErrorText(std::string_view value) {
-    return value.starts_with('#') && formula::errorFromText(value).has_value();
 }
 
 bool setInputs(TwVarCells& cells, const std::vector<std::string>& assignments) {

@@ -16,9 +16,6 @@ std::string describe(const TwVarCells& variables, TwCellType kind);
 /// Why `value` cannot be the value of such a variable; empty when it can.
 std::string refusal(const TwVarCell& variable, std::string_view value);
 
-/// True for an error such as "#DIV/0!", which must not be taken for a result.
-bool isErrorText(std::string_view value);
-
 /// Fills the inputs of `cells` from "Name=Value" texts. False, after telling which name is not
 /// declared, given twice or not given, and what there is.
 bool setInputs(TwVarCells& cells, const std::vector<std::string>& assignments);

@@ -21,9 +21,20 @@ extern const std::span<const TextRow> designerTexts;
 extern const std::span<const TextRow> macrodlgTexts;
 extern const std::span<const TextRow> sectionsTexts;
 extern const std::span<const TextRow> cutstockTexts;
+extern const std::span<const TextRow> workbenchTexts;
 
-inline std::array<std::span<const TextRow>, 7> allTables() {
-    return {generalTexts, sheetTexts, mappingTexts, designerTexts, macrodlgTexts, sectionsTexts, cutstockTexts};
+/// One a line, so that tables can be added side by side.
+inline auto allTables() {
+    return std::array{
+        generalTexts,   //
+        sheetTexts,     //
+        mappingTexts,   //
+        designerTexts,  //
+        macrodlgTexts,  //
+        sectionsTexts,  //
+        cutstockTexts,  //
+        workbenchTexts,
+    };
 }
 
 }  // namespace texts

@@ -1,6 +1,6 @@
-#include "standards/run_report.h"
+#include "runs/run_report.h"
 
-namespace cli {
+namespace runs {
 
 RunRecorder::RunRecorder(RunReport& report)
     : m_report(report),
@@ -50,11 +50,13 @@ void RunRecorder::warning(std::string_view text) {
 
 void RunRecorder::variablesKnown(const TwVarCells& variables) {
     RunReport& report = current();
+    int position = 0;
     for (const auto& variable : variables) {
         auto& list = variable.isInput()    ? report.inputs
                      : variable.isOutput() ? report.outputs
                                            : report.locals;
-        list.push_back({variable.name().str(), variable.value().str()});
+        list.push_back(
+            {variable.name().str(), variable.value().str(), variable.isLocal() ? -1 : position++});
     }
 }
 
@@ -75,4 +77,4 @@ void RunRecorder::addMessage(const std::vector<std::string>& lines) {
     for (const auto& child : m_children) child->messages.push_back(lines);
 }
 
-}  // namespace cli
+}  // namespace runs

@@ -1,11 +1,11 @@
-#include "standards/named_request.h"
+#include "runs/named_request.h"
 
 #include "core_api/text/text_index.h"
 #include "mapping/start_dlg_standards_ss.h"
 #include "standards/run_observer.h"
 #include "standards/tw_standards_ss.h"
 
-namespace cli {
+namespace runs {
 
 std::optional<NamedRequest> NamedRequest::open(const Vor_String& path, Vor_String& failure) {
     TwStandardsSS sheet;
@@ -51,4 +51,4 @@ bool NamedRequest::start() {
     return true;
 }
 
-}  // namespace cli
+}  // namespace runs

@@ -7,7 +7,7 @@
 
 #include "mapping/tw_dlg_standards_data.h"
 
-namespace cli {
+namespace runs {
 
 class NamedRequest {
   public:
@@ -31,4 +31,4 @@ class NamedRequest {
     std::vector<int> m_sources;  // which of m_cells gives each of the data's cells its value
 };
 
-}  // namespace cli
+}  // namespace runs

@@ -12,9 +12,12 @@
 #include "platform/window/message_box.h"
 #include "standards/run_observer.h"
 
-namespace cli {
+namespace runs {
 
 struct RunReport;
+
+/// True for an error such as "#DIV/0!", which must not be taken for a result.
+bool isErrorText(std::string_view value);
 
 struct ReportedEquation {
     int row = 0;
@@ -32,6 +35,9 @@ struct RunReport {
     struct Variable {
         std::string name;
         std::string value;
+        /// Place among the inputs and outputs as declared, from 0: the one by which calls pass
+        /// values. -1 for locals.
+        int position = -1;
     };
     std::string path;
     bool ok = false;
@@ -76,12 +82,4 @@ class RunRecorder : private RunObserver, private Host {
     MessageListenerScope m_listener;
 };
 
-std::string reportAsJson(const RunReport& report);
-
-/// Inputs, with `trace` every equation, and outputs.
-std::string reportAsText(const RunReport& report, bool trace);
-
-/// Tells on the error stream what went wrong in the run and its children.
-void complainAbout(const RunReport& report);
-
-}  // namespace cli
+}  // namespace runs

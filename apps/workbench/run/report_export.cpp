@@ -1,0 +1,49 @@
+#include "run/report_export.h"
+
+#include <QDate>
+#include <QLocale>
+#include <QPageLayout>
+#include <QPdfWriter>
+#include <QSaveFile>
+#include <QTextDocument>
+
+#include "runs/html_report.h"
+
+namespace {
+
+QByteArray htmlOf(const runs::Calculation& calculation, const QString& author) {
+    runs::ReportHeading heading;
+    heading.author = author.toStdString();
+    heading.date = QDate::currentDate().toString(Qt::ISODate).toStdString();
+    return QByteArray::fromStdString(htmlReport(calculation, heading));
+}
+
+// QSaveFile replaces the old file only when all was written.
+bool writeFile(const QString& path, QString& error, const std::function<bool(QIODevice&)>& write) {
+    QSaveFile file(path);
+    if (file.open(QIODevice::WriteOnly) && write(file) && file.commit()) return true;
+    error = path + ": " + file.errorString();
+    return false;
+}
+
+bool writePdf(const QByteArray& html, QIODevice& device) {
+    QPdfWriter writer(&device);
+    writer.setPageSize(QPageSize(QPageSize::A4));
+    constexpr double margin = 15;  // mm
+    writer.setPageMargins(QMarginsF(margin, margin, margin, margin), QPageLayout::Millimeter);
+    QTextDocument document;
+    document.setHtml(QString::fromUtf8(html));
+    document.print(&writer);
+    return true;
+}
+
+}  // namespace
+
+bool writeReport(const runs::Calculation& calculation, const QString& author, const QString& path,
+                 QString& error) {
+    const QByteArray html = htmlOf(calculation, author);
+    return writeFile(path, error, [&](QIODevice& device) {
+        return path.endsWith(".pdf", Qt::CaseInsensitive) ? writePdf(html, device)
+                                                          : device.write(html) == html.size();
+    });
+}

@@ -1,0 +1,30 @@
+#include "shell/command_pane.h"
+
+#include "window/dialog_font.h"
+
+namespace {
+
+constexpr int mostLines = 10'000;
+
+}  // namespace
+
+CommandPane::CommandPane(QWidget* parent) : QPlainTextEdit(parent) {
+    setReadOnly(true);
+    setMaximumBlockCount(mostLines);
+    setLineWrapMode(QPlainTextEdit::NoWrap);
+    setObjectName("commandPane");
+}
+
+void CommandPane::print(std::string_view text) {
+    moveCursor(QTextCursor::End);
+    insertPlainText(toQt(text));
+    moveCursor(QTextCursor::End);
+}
+
+void WorkbenchHost::postCommand(std::string_view command) {
+    m_pane.print(std::string(command) + "\n");
+}
+
+void WorkbenchHost::focusMainWindow() {
+    m_window.setFocus();
+}

@@ -1,0 +1,28 @@
+// The pane that shows what the module prints, and the host that stands in for a CAD program.
+#pragma once
+
+#include <QPlainTextEdit>
+
+#include "platform/host/host.h"
+#include "platform/window/wnd.h"
+
+class CommandPane : public QPlainTextEdit {
+  public:
+    explicit CommandPane(QWidget* parent = nullptr);
+    /// Windows-1252; lines end in "\n".
+    void print(std::string_view text);
+};
+
+/// Prints on the pane; the window is what the module's dialogs take as their parent.
+class WorkbenchHost : public Host {
+  public:
+    explicit WorkbenchHost(CommandPane& pane, QWidget& window) : m_pane(pane), m_window(window) {}
+
+    void print(std::string_view text) override { m_pane.print(text); }
+    void postCommand(std::string_view command) override;
+    void focusMainWindow() override;
+
+  private:
+    CommandPane& m_pane;
+    QWidget& m_window;
+};

@@ -1,0 +1,31 @@
+#include "shell/help_window.h"
+
+#include <QFile>
+#include <QPointer>
+#include <QUrl>
+
+#include "core_api/texts/texts.h"
+#include "shell/words.h"
+#include "window/dialog_font.h"
+
+HelpWindow::HelpWindow(QWidget* parent) : QTextBrowser(parent) {
+    setWindowFlag(Qt::Window);
+    setAttribute(Qt::WA_DeleteOnClose);
+    setWindowTitle(toQt(dialString(wordManual)));
+    resize(760, 640);
+    setOpenExternalLinks(true);
+}
+
+void HelpWindow::open(QWidget* parent, const QString& page) {
+    static QPointer<HelpWindow> window;
+    if (!window) window = new HelpWindow(parent);
+    window->setSource(QUrl("qrc:/docs/" + page), QTextDocument::MarkdownResource);
+    window->show();
+    window->raise();
+}
+
+QVariant HelpWindow::loadResource(int type, const QUrl& url) {
+    const QVariant found = QTextBrowser::loadResource(type, url);
+    if (found.isValid() || type != QTextDocument::MarkdownResource) return found;
+    return QString("There is no page " + url.path()).toUtf8();
+}

@@ -1,0 +1,112 @@
+#include "shell/library_tree.h"
+
+#include <QSet>
+
+#include "core_api/files.h"
+#include "core_api/settings.h"
+#include "core_api/texts/texts.h"
+#include "shell/words.h"
+#include "window/dialog_font.h"
+
+namespace {
+
+enum ItemRole { pathRole = Qt::UserRole, kindRole };
+
+QString keyOf(const QTreeWidgetItem* item) {
+    QString key;
+    for (; item; item = item->parent()) key = item->text(0) + "\n" + key;
+    return key;
+}
+
+template <class Call>
+void eachItem(QTreeWidget& tree, Call&& call) {
+    for (QTreeWidgetItemIterator at(&tree); *at; ++at) call(*at);
+}
+
+/// True when the item or something below it is shown.
+bool showMatching(QTreeWidgetItem* item, const QString& text) {
+    const bool isEntry = item->data(0, pathRole).isValid();
+    bool isShown = isEntry && item->text(0).contains(text, Qt::CaseInsensitive);
+    for (int i = 0; i < item->childCount(); ++i)
+        isShown = showMatching(item->child(i), text) || isShown;
+    item->setHidden(!isShown && !text.isEmpty());
+    if (isShown && !text.isEmpty()) item->setExpanded(true);
+    return isShown;
+}
+
+}  // namespace
+
+LibraryTree::LibraryTree(QWidget* parent) : QTreeWidget(parent) {
+    setHeaderHidden(true);
+    setObjectName("libraryTree");
+    setUniformRowHeights(true);
+    connect(this, &QTreeWidget::itemActivated, this, [this](QTreeWidgetItem* item) {
+        const QVariant path = item->data(0, pathRole);
+        if (path.isValid() && m_opener)
+            m_opener(static_cast<LibraryKind>(item->data(0, kindRole).toInt()),
+                     Vor_String(fromQt(path.toString())));
+    });
+}
+
+void LibraryTree::refresh() {
+    QSet<QString> open;
+    QString current = currentItem() ? keyOf(currentItem()) : QString();
+    const bool isFirst = topLevelItemCount() == 0;
+    eachItem(*this, [&](QTreeWidgetItem* item) {
+        if (item->isExpanded()) open.insert(keyOf(item));
+    });
+    clear();
+    if (gSettings.libDir().isEmpty()) return;
+    add(LibraryKind::standard, wordStandards, "Connection Standards\\", "*.tws");
+    add(LibraryKind::macro, wordMacros, "Macros\\", "*.macro");
+    add(LibraryKind::sectionTable, wordSectionTables, "prof\\", "*.pr");
+    add(LibraryKind::dialogTemplate, wordTemplates, "Dialog Templates\\Dialog Design\\", "*.txt");
+    add(LibraryKind::cuttingStock, wordCuttingStock, "Cutting Stock\\", "*");
+    eachItem(*this, [&](QTreeWidgetItem* item) {
+        const bool isTop = !item->parent();
+        item->setExpanded(open.contains(keyOf(item)) || (isFirst && isTop));
+        if (!current.isEmpty() && keyOf(item) == current) setCurrentItem(item);
+    });
+}
+
+void LibraryTree::add(LibraryKind kind, int title, const char* folder, const char* pattern) {
+    const Vor_String whole = gSettings.libDir() + folder;
+    auto* root = new QTreeWidgetItem(this, {toQt(dialString(title))});
+    root->setData(0, kindRole, static_cast<int>(kind));
+    for (const Vor_String& path : ObjectExportFindFilesRecursive(whole, pattern)) {
+        const QString relative = toQt(path.view().substr(whole.view().size()));
+        const qsizetype slash = relative.lastIndexOf('\\');
+        QString name = relative.mid(slash + 1);
+        if (kind != LibraryKind::cuttingStock) name = name.left(name.lastIndexOf('.'));
+        auto* item = new QTreeWidgetItem(
+            folderItem(root, relative.left(std::max<qsizetype>(slash, 0))), {name});
+        item->setData(0, pathRole, toQt(path));
+        item->setData(0, kindRole, static_cast<int>(kind));
+        item->setToolTip(0, relative);
+    }
+}
+
+QTreeWidgetItem* LibraryTree::folderItem(QTreeWidgetItem* root, const QString& folder) {
+    QTreeWidgetItem* item = root;
+    for (const QString& part : folder.split('\\', Qt::SkipEmptyParts)) {
+        QTreeWidgetItem* found = nullptr;
+        for (int i = 0; i < item->childCount() && !found; ++i)
+            if (item->child(i)->text(0) == part && !item->child(i)->data(0, pathRole).isValid())
+                found = item->child(i);
+        item = found ? found : new QTreeWidgetItem(item, {part});
+    }
+    return item;
+}
+
+int LibraryTree::count(LibraryKind kind) const {
+    int entries = 0;
+    for (QTreeWidgetItemIterator at(const_cast<LibraryTree*>(this)); *at; ++at)
+        if ((*at)->data(0, pathRole).isValid() &&
+            (*at)->data(0, kindRole).toInt() == static_cast<int>(kind))
+            ++entries;
+    return entries;
+}
+
+void LibraryTree::filter(const QString& text) {
+    for (int i = 0; i < topLevelItemCount(); ++i) showMatching(topLevelItem(i), text);
+}

@@ -1,0 +1,33 @@
+// The library folder as a tree of what people work with: standards, macros, section tables,
+// templates and cutting-stock files.
+#pragma once
+
+#include <QTreeWidget>
+#include <functional>
+
+#include "core_api/text/vor_string.h"
+
+enum class LibraryKind { standard, macro, sectionTable, dialogTemplate, cuttingStock };
+
+class LibraryTree : public QTreeWidget {
+  public:
+    explicit LibraryTree(QWidget* parent = nullptr);
+
+    /// Lists the library that gSettings names, keeping what is open and selected. An empty or
+    /// vanished folder gives an empty tree.
+    void refresh();
+    /// Called with a host-style path when an entry is double-clicked or Enter is pressed on it.
+    void setOpener(std::function<void(LibraryKind, const Vor_String&)> opener) {
+        m_opener = std::move(opener);
+    }
+    /// Number of entries of a kind.
+    int count(LibraryKind kind) const;
+    /// Hides what does not contain the text, letter case aside.
+    void filter(const QString& text);
+
+  private:
+    void add(LibraryKind kind, int title, const char* folder, const char* pattern);
+    QTreeWidgetItem* folderItem(QTreeWidgetItem* root, const QString& folder);
+
+    std::function<void(LibraryKind, const Vor_String&)> m_opener;
+};

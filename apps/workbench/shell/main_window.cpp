@@ -1,0 +1,263 @@
+#include "shell/main_window.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QDir>
+#include <QDockWidget>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QLineEdit>
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QVBoxLayout>
+
+#include "core_api/text/text_helpers.h"
+#include "core_api/texts/texts.h"
+#include "platform/paths.h"
+#include "run/run_page.h"
+#include "shell/help_window.h"
+#include "shell/settings_dialog.h"
+#include "shell/start_page.h"
+#include "shell/words.h"
+#include "window/dialog_font.h"
+
+namespace {
+
+QString word(int number) {
+    return toQt(dialString(number));
+}
+
+constexpr const char* keyProperty = "pageKey";
+
+}  // namespace
+
+MainWindow::MainWindow(WorkbenchSettings settings)
+    : m_settings(std::move(settings)),
+      m_pages(new QTabWidget),
+      m_tree(new LibraryTree),
+      m_pane(new CommandPane),
+      m_host(*m_pane, *this) {
+    Host::install(&m_host);
+    m_settings.apply();
+    setWindowTitle("Vormant");
+    resize(1200, 800);
+    m_pages->setTabsClosable(true);
+    m_pages->setDocumentMode(true);
+    m_pages->setMovable(true);
+    connect(m_pages, &QTabWidget::tabCloseRequested, this, [this](int index) { closePage(index); });
+    setCentralWidget(m_pages);
+    m_tree->setOpener([this](LibraryKind kind, const Vor_String& path) { open(kind, path); });
+    makeDocks();
+    makeMenus();
+    showStartPage();
+    m_refreshSoon.setSingleShot(true);
+    m_refreshSoon.setInterval(200);
+    connect(&m_refreshSoon, &QTimer::timeout, this, [this] { libraryChanged(); });
+    connect(&m_watcher, &QFileSystemWatcher::directoryChanged, this,
+            [this] { m_refreshSoon.start(); });
+}
+
+MainWindow::~MainWindow() {
+    Host::install(nullptr);
+}
+
+void MainWindow::makeDocks() {
+    auto* library = new QWidget;
+    auto* layout = new QVBoxLayout(library);
+    layout->setContentsMargins(0, 0, 0, 0);
+    auto* search = new QLineEdit;
+    search->setPlaceholderText(word(wordSearch));
+    search->setClearButtonEnabled(true);
+    connect(search, &QLineEdit::textChanged, this,
+            [this](const QString& text) { m_tree->filter(text); });
+    layout->addWidget(search);
+    layout->addWidget(m_tree);
+    const auto dock = [this](int title, QWidget* widget, Qt::DockWidgetArea area) {
+        auto* made = new QDockWidget(word(title), this);
+        made->setObjectName(QString::number(title));
+        made->setWidget(widget);
+        addDockWidget(area, made);
+        return made;
+    };
+    QDockWidget* left = dock(wordLibrary, library, Qt::LeftDockWidgetArea);
+    QDockWidget* below = dock(wordCommandLine, m_pane, Qt::BottomDockWidgetArea);
+    resizeDocks({left}, {240}, Qt::Horizontal);
+    resizeDocks({below}, {110}, Qt::Vertical);
+}
+
+void MainWindow::makeMenus() {
+    makeFileMenu();
+    QMenu* view = menuBar()->addMenu(word(wordView));
+    for (QDockWidget* dock : findChildren<QDockWidget*>())
+        view->addAction(dock->toggleViewAction());
+    view->addSeparator();
+    view->addAction(word(wordReload), QKeySequence(Qt::Key_F5), this, [this] { libraryChanged(); });
+    view->addAction(word(wordStart), this, [this] { showStartPage(); });
+    makeHelpMenu();
+}
+
+void MainWindow::makeFileMenu() {
+    QMenu* file = menuBar()->addMenu(word(wordFile));
+    file->addAction(word(wordOpenLibrary), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_O), this,
+                    [this] { askForLibrary(); });
+    m_recentMenu = file->addMenu(word(wordRecentLibraries));
+    connect(m_recentMenu, &QMenu::aboutToShow, this, [this] { fillRecentMenu(); });
+    file->addSeparator();
+    file->addAction(word(wordClosePage), QKeySequence::Close, this,
+                    [this] { closePage(m_pages->currentIndex()); });
+    file->addAction(word(wordSettings), this, [this] { changeSettings(); });
+    file->addSeparator();
+    file->addAction(word(wordQuit), QKeySequence::Quit, this, [this] { close(); });
+}
+
+void MainWindow::makeHelpMenu() {
+    QMenu* help = menuBar()->addMenu(word(wordHelp));
+    help->addAction(word(wordManual), QKeySequence(Qt::Key_F1), this,
+                    [this] { HelpWindow::open(this); });
+    help->addAction(word(wordAbout), this, [this] {
+        QMessageBox::about(this, word(wordAbout),
+                           word(wordAbout) + " " + VORMANT_VERSION + "\n\n" + word(wordAboutText));
+    });
+}
+
+void MainWindow::fillRecentMenu() {
+    m_recentMenu->clear();
+    for (const std::string& folder : m_settings.recent)
+        m_recentMenu->addAction(QString::fromStdString(folder), this,
+                                [this, folder] { openLibrary(folder); });
+    m_recentMenu->setEnabled(true);
+}
+
+// --- the library --------------------------------------------------------------------------------
+
+bool MainWindow::openLibrary(const std::string& folder) {
+    const QString shown = QString::fromStdString(folder);
+    const auto inside = paths::toInside(folder);
+    if (!QFileInfo(shown).isDir() || !inside) {
+        complain(shown + ": " + word(wordLibraryGone));
+        return false;
+    }
+    gSettings.setLibDir(*inside);
+    m_settings.noteLibrary(folder);
+    m_isGone = false;
+    save();
+    m_tree->clear();
+    m_tree->refresh();
+    watchLibrary();
+    setWindowTitle(QDir(shown).dirName() + " – Vormant");
+    return true;
+}
+
+// The folders that the tree lists, and the library's own, to hear when it vanishes.
+void MainWindow::watchLibrary() {
+    if (!m_watcher.directories().isEmpty()) m_watcher.removePaths(m_watcher.directories());
+    const QString root = QString::fromStdString(m_settings.library);
+    QStringList folders{root};
+    for (const char* name :
+         {"Connection Standards", "Macros", "prof", "Dialog Templates", "Cutting Stock",
+          "Connection Standards/Childs", "Connection Standards/Parents"})
+        if (QFileInfo(root + "/" + name).isDir()) folders += root + "/" + name;
+    m_watcher.addPaths(folders);
+}
+
+void MainWindow::libraryChanged() {
+    if (m_settings.library.empty()) return;
+    const QString shown = QString::fromStdString(m_settings.library);
+    if (!QFileInfo(shown).isDir()) {
+        if (!m_isGone) complain(shown + ": " + word(wordLibraryGone));
+        m_isGone = true;
+    } else {
+        m_isGone = false;
+        watchLibrary();
+    }
+    m_tree->refresh();
+}
+
+void MainWindow::askForLibrary() {
+    const QString folder = QFileDialog::getExistingDirectory(
+        this, word(wordChooseLibrary), QString::fromStdString(m_settings.library));
+    if (!folder.isEmpty()) openLibrary(folder.toStdString());
+}
+
+void MainWindow::changeSettings() {
+    SettingsDialog dialog(m_settings, this);
+    if (dialog.exec() != QDialog::Accepted) return;
+    const std::string before = m_settings.library;
+    WorkbenchSettings changed = dialog.settings();
+    const std::string library = std::exchange(changed.library, before);
+    m_settings = changed;
+    m_settings.apply();
+    save();
+    if (library != before) openLibrary(library);
+    m_tree->refresh();
+}
+
+void MainWindow::save() {
+    std::string error;
+    if (!m_settings.save(error)) m_pane->print(error + "\n");
+}
+
+// --- pages --------------------------------------------------------------------------------------
+
+QWidget* MainWindow::pageOf(const QString& key) const {
+    for (int i = 0; i < m_pages->count(); ++i)
+        if (m_pages->widget(i)->property(keyProperty).toString() == key) return m_pages->widget(i);
+    return nullptr;
+}
+
+void MainWindow::showPage(QWidget* page, const QString& title, const QString& tip) {
+    page->setProperty(keyProperty, tip);
+    const int index = m_pages->addTab(page, title);
+    m_pages->setTabToolTip(index, tip);
+    m_pages->setCurrentIndex(index);
+}
+
+void MainWindow::showStartPage() {
+    const QString key = word(wordStart);
+    if (QWidget* there = pageOf(key)) {
+        m_pages->setCurrentWidget(there);
+        return;
+    }
+    auto* page = new StartPage(m_settings.recent, [this](const std::string& folder) {
+        if (folder.empty())
+            askForLibrary();
+        else
+            openLibrary(folder);
+    });
+    showPage(page, key, key);
+}
+
+void MainWindow::closePage(int index) {
+    QWidget* page = m_pages->widget(index);
+    if (!page) return;
+    m_pages->removeTab(index);
+    page->deleteLater();
+}
+
+QWidget* MainWindow::open(LibraryKind kind, const Vor_String& path) {
+    if (kind == LibraryKind::standard) return openStandard(path);
+    return nullptr;
+}
+
+RunPage* MainWindow::openStandard(const Vor_String& path) {
+    const QString key = toQt(path);
+    if (auto* there = dynamic_cast<RunPage*>(pageOf(key))) {
+        m_pages->setCurrentWidget(there);
+        return there;
+    }
+    Vor_String failure;
+    auto session = RunSession::open(path, failure);
+    if (!session) {
+        complain(toQt(failure));
+        return nullptr;
+    }
+    auto* page = new RunPage(std::move(session));
+    page->setAuthor(QString::fromStdString(m_settings.author));
+    showPage(page, toQt(getFileName(path)), key);
+    return page;
+}
+
+void MainWindow::complain(const QString& text) {
+    m_pane->print(fromQt(text) + "\n");
+    QMessageBox::warning(this, "Vormant", text);
+}

@@ -1,0 +1,59 @@
+// The main window: the stand-in for a CAD host around the module's dialogs. The library on the
+// left, pages in the middle, what the module prints below.
+#pragma once
+
+#include <QFileSystemWatcher>
+#include <QMainWindow>
+#include <QTabWidget>
+#include <QTimer>
+
+#include "shell/command_pane.h"
+#include "shell/library_tree.h"
+#include "shell/workbench_settings.h"
+
+class RunPage;
+
+class MainWindow : public QMainWindow {
+  public:
+    explicit MainWindow(WorkbenchSettings settings);
+    ~MainWindow() override;
+
+    /// Machine path, UTF-8. False, with the old library kept, after telling why.
+    bool openLibrary(const std::string& folder);
+    /// A page for what the tree shows; the one that is open already comes to the front. Null after
+    /// telling why.
+    QWidget* open(LibraryKind kind, const Vor_String& path);
+    RunPage* openStandard(const Vor_String& path);
+
+    LibraryTree& tree() { return *m_tree; }
+    CommandPane& commandPane() { return *m_pane; }
+    QTabWidget& pages() { return *m_pages; }
+    WorkbenchHost& host() { return m_host; }
+
+  private:
+    void makeDocks();
+    void makeMenus();
+    void makeFileMenu();
+    void makeHelpMenu();
+    void fillRecentMenu();
+    void showStartPage();
+    void askForLibrary();
+    void changeSettings();
+    void closePage(int index);
+    void showPage(QWidget* page, const QString& title, const QString& tip);
+    QWidget* pageOf(const QString& key) const;
+    void watchLibrary();
+    void libraryChanged();
+    void complain(const QString& text);
+    void save();
+
+    WorkbenchSettings m_settings;
+    QTabWidget* m_pages;
+    LibraryTree* m_tree;
+    CommandPane* m_pane;
+    WorkbenchHost m_host;
+    QMenu* m_recentMenu = nullptr;
+    QFileSystemWatcher m_watcher;
+    QTimer m_refreshSoon;
+    bool m_isGone = false;  ///< the library folder was told to be missing
+};

@@ -1,0 +1,83 @@
+#include "shell/settings_dialog.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDialogButtonBox>
+#include <QFileDialog>
+#include <QFormLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+
+#include "core_api/texts/texts.h"
+#include "shell/words.h"
+#include "window/dialog_font.h"
+
+namespace {
+
+QString word(int number) {
+    return toQt(dialString(number));
+}
+
+constexpr int scales[] = {100, 125, 150, 175, 200};
+
+}  // namespace
+
+SettingsDialog::SettingsDialog(const WorkbenchSettings& settings, QWidget* parent)
+    : QDialog(parent), m_settings(settings) {
+    setWindowTitle(word(wordSettings));
+    auto* form = new QFormLayout(this);
+
+    m_library = new QLineEdit(QString::fromStdString(settings.library));
+    m_library->setMinimumWidth(320);
+    auto* choose = new QPushButton("…");
+    choose->setFixedWidth(28);
+    connect(choose, &QPushButton::clicked, this, [this] { chooseFolder(); });
+    auto* folder = new QHBoxLayout;
+    folder->addWidget(m_library);
+    folder->addWidget(choose);
+    form->addRow(word(wordLibrary), folder);
+
+    m_language = new QComboBox;
+    for (const Vor_String& name : gMacroLangs.GetAllLanguages()) m_language->addItem(toQt(name));
+    m_language->setCurrentIndex(static_cast<int>(settings.language));
+    form->addRow(word(wordLanguage), m_language);
+
+    m_author = new QLineEdit(QString::fromStdString(settings.author));
+    form->addRow(word(wordAuthor), m_author);
+
+    m_scale = new QComboBox;
+    for (const int scale : scales) {
+        m_scale->addItem(QString::number(scale) + " %", scale);
+        if (scale == settings.scalePercent) m_scale->setCurrentIndex(m_scale->count() - 1);
+    }
+    m_scale->setToolTip(word(wordScaleFromNextStart));
+    form->addRow(word(wordScale), m_scale);
+
+    m_diagnostics = new QCheckBox(word(wordDiagnostics));
+    m_diagnostics->setChecked(settings.diagnostics);
+    form->addRow(QString(), m_diagnostics);
+
+    auto* buttons = new QDialogButtonBox;
+    buttons->addButton(word(1), QDialogButtonBox::AcceptRole);
+    buttons->addButton(word(2), QDialogButtonBox::RejectRole);
+    connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
+    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    form->addRow(buttons);
+}
+
+void SettingsDialog::chooseFolder() {
+    const QString chosen =
+        QFileDialog::getExistingDirectory(this, word(wordOpenLibrary), m_library->text());
+    if (!chosen.isEmpty()) m_library->setText(chosen);
+}
+
+WorkbenchSettings SettingsDialog::settings() const {
+    WorkbenchSettings changed = m_settings;
+    changed.library = m_library->text().toStdString();
+    changed.author = m_author->text().toStdString();
+    changed.language = static_cast<Language>(m_language->currentIndex());
+    changed.scalePercent = m_scale->currentData().toInt();
+    changed.diagnostics = m_diagnostics->isChecked();
+    return changed;
+}

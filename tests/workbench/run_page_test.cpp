@@ -1,0 +1,90 @@
+#include <gtest/gtest.h>
+
+#include <QComboBox>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QLineEdit>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include "core_api/settings.h"
+#include "run/run_page.h"
+#include "shell/main_window.h"
+#include "window/dialog_font.h"
+
+namespace {
+
+class Workbench : public testing::Test {
+  protected:
+    Workbench() : m_window(WorkbenchSettings{}) {
+        qputenv("XDG_CONFIG_HOME", m_config.path().toUtf8());
+        m_window.show();
+    }
+    RunPage* openEndPlate() {
+        EXPECT_TRUE(m_window.openLibrary(VORMANT_SOURCE_DIR "/library"));
+        return dynamic_cast<RunPage*>(m_window.open(
+            LibraryKind::standard, gSettings.libDir() + "Connection Standards\\EndPlate.tws"));
+    }
+    QTemporaryDir m_config;
+    MainWindow m_window;
+};
+
+TEST_F(Workbench, ListsTheLibraryAndComplainsOfNone) {
+    ASSERT_TRUE(m_window.openLibrary(VORMANT_SOURCE_DIR "/library"));
+    EXPECT_EQ(m_window.tree().count(LibraryKind::standard), 15);
+    EXPECT_EQ(m_window.tree().count(LibraryKind::macro), 3);
+    EXPECT_GE(m_window.tree().count(LibraryKind::sectionTable), 11);
+}
+
+TEST_F(Workbench, ResultsFollowWhatIsTyped) {
+    RunPage* page = openEndPlate();
+    ASSERT_TRUE(page);
+    auto* section = dynamic_cast<QComboBox*>(page->editor("BeamSection"));
+    ASSERT_TRUE(section);
+    section->setCurrentText("IPE-300");
+    const std::pair<const char*, const char*> inputs[] = {
+        {"BoltDiameter", "20"}, {"BoltClass", "8.8"}, {"SteelClass", "275"}, {"ShearForce", "150"}};
+    for (const auto& [name, value] : inputs) {
+        auto* edit = dynamic_cast<QLineEdit*>(page->editor(name));
+        ASSERT_TRUE(edit) << name;
+        edit->clear();
+        QTest::keyClicks(edit, value);
+    }
+    EXPECT_EQ(page->result("PlateHeight"), "220 mm");
+    EXPECT_TRUE(page->result("Utilisation").startsWith("0.605") ||
+                page->result("Utilisation").startsWith("0.604"));
+    EXPECT_EQ(page->message(), "");
+
+    // A letter is refused where a number belongs, the results stay; undone, all is well again.
+    auto* force = dynamic_cast<QLineEdit*>(page->editor("ShearForce"));
+    QTest::keyClicks(force, "x");
+    EXPECT_TRUE(page->message().contains("ShearForce"));
+    EXPECT_EQ(page->result("PlateHeight"), "220 mm");
+    QTest::keyClick(force, Qt::Key_Backspace);
+    EXPECT_EQ(page->message(), "");
+
+    QElapsedTimer clock;
+    clock.start();
+    constexpr int changes = 50;
+    for (int i = 0; i < changes; ++i) force->setText(QString::number(100 + i));
+    const double each = static_cast<double>(clock.elapsed()) / changes;
+    RecordProperty("milliseconds_per_change", std::to_string(each));
+    std::printf("one change of an input: %.2f ms\n", each);
+    EXPECT_LT(each, 100);  // a frame is 16; sanitizers and busy machines are slower
+}
+
+TEST_F(Workbench, ReportsAreWrittenWholeOrNotAtAll) {
+    RunPage* page = openEndPlate();
+    ASSERT_TRUE(page);
+    const QString html = m_config.filePath("report.html"), pdf = m_config.filePath("report.pdf");
+    EXPECT_TRUE(page->exportReport(html, "Tester"));
+    EXPECT_TRUE(page->exportReport(pdf, "Tester"));
+    QFile written(html), printed(pdf);
+    ASSERT_TRUE(written.open(QIODevice::ReadOnly) && printed.open(QIODevice::ReadOnly));
+    EXPECT_TRUE(written.readAll().contains("PlateHeight"));
+    EXPECT_TRUE(printed.readAll().startsWith("%PDF"));
+    EXPECT_FALSE(page->exportReport(m_config.filePath("no/such/folder.pdf"), ""));
+    EXPECT_TRUE(page->message().contains("folder.pdf"));
+}
+
+}  // namespace
