@@ -38,6 +38,13 @@ std::optional<struct stat> statusOf(std::string_view path) {
     return std::nullopt;
 }
 
+/// Not blocking: opening a pipe would wait for somebody to write into it. Negative with errno.
+int openToRead(std::string_view path) {
+    constexpr int how = O_RDONLY | O_CLOEXEC | O_NONBLOCK;
+    const int asWritten = ::open(paths::asWritten(path).c_str(), how);
+    return asWritten >= 0 ? asWritten : ::open(paths::toMachine(path).c_str(), how);
+}
+
 Stamp stampOf(const struct stat& status) {
     const std::int64_t seconds = status.st_mtim.tv_sec;
     return {status.st_size, seconds * 1'000'000'000 + status.st_mtim.tv_nsec, status.st_ino};
@@ -100,9 +107,7 @@ std::optional<std::string> readWhole(std::string_view path, std::string& error,
         return std::nullopt;
     };
     if (path.find('\0') != std::string_view::npos) return fail(ENOENT);
-    // Not blocking: opening a pipe would wait for somebody to write into it.
-    const Descriptor file(
-        ::open(paths::toMachine(path).c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
+    const Descriptor file(openToRead(path));
     if (file.get() < 0) return fail(errno);
     struct stat status {};
     if (::fstat(file.get(), &status) != 0) return fail(errno);
