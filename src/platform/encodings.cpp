@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <cstring>
 
 namespace encodings {
 
@@ -94,7 +95,32 @@ int compareFolded(std::string_view a, std::string_view b) {
     return a.size() < b.size() ? -1 : 1;
 }
 
+namespace {
+
+/// The first eight bytes and the last eight of `text`, which may overlap or be the same.
+std::array<std::uint64_t, 2> endsOf(std::string_view text) {
+    std::array<std::uint64_t, 2> ends{};
+    if (text.size() >= 8) {
+        std::memcpy(&ends[0], text.data(), 8);
+        std::memcpy(&ends[1], text.data() + text.size() - 8, 8);
+    } else {
+        for (const char c : text) ends[0] = ends[0] << 8 | static_cast<unsigned char>(c);
+    }
+    return ends;
+}
+
+}  // namespace
+
 std::uint32_t hashFolded(std::string_view text) {
+    constexpr std::uint64_t caseBits = 0x2020202020202020U, notAscii = 0x8080808080808080U;
+    if (text.size() <= 16) {
+        const auto [first, last] = endsOf(text);
+        if (((first | last) & notAscii) == 0) {
+            const std::uint64_t mixed = ((first | caseBits) * 0x9E3779B97F4A7C15U) ^
+                                        ((last | caseBits) * 0xBF58476D1CE4E5B9U);
+            return static_cast<std::uint32_t>((mixed ^ text.size()) >> 32 ^ mixed >> 17);
+        }
+    }
     std::uint32_t hash = 2166136261u;  // FNV-1a
     for (const char c : text) {
         hash ^= static_cast<unsigned char>(toLower(c));

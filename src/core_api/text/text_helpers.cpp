@@ -93,13 +93,10 @@ Vor_StringArray arrArrToArr(const Vor_Array<Vor_StringArray>& rows, char separat
 Vor_String stripSymbols(std::string_view text, char symbol, bool ends, bool inside) {
     const size_t first = std::min(text.find_first_not_of(symbol), text.size());
     const size_t last = first == text.size() ? first : text.find_last_not_of(symbol) + 1;
-    std::string result;
-    if (!ends) result.append(text.substr(0, first));
-    for (const char c : text.substr(first, last - first)) {
-        if (!inside || c != symbol) result.push_back(c);
-    }
-    if (!ends) result.append(text.substr(last));
-    return result;
+    std::string result(text.substr(first, last - first));
+    if (inside) std::erase(result, symbol);
+    if (ends) return result;
+    return std::string(text.substr(0, first)) + result + std::string(text.substr(last));
 }
 
 Vor_String getSubstrBefore(std::string_view text, std::string_view separator, bool wholeIfAbsent) {

@@ -12,7 +12,8 @@ size_t TextIndex::slotOf(std::string_view text, std::uint32_t hash) const {
     const size_t mask = m_slots.size() - 1;
     size_t at = hash & mask;
     while (m_slots[at].number >= 0 &&
-           (m_slots[at].hash != hash || !encodings::equalFolded(m_slots[at].text, text))) {
+           (m_slots[at].hash != hash ||
+            (m_slots[at].text != text && !encodings::equalFolded(m_slots[at].text, text)))) {
         at = (at + 1) & mask;
     }
     return at;

@@ -1,7 +1,7 @@
 #include <string_view>
-#include <unordered_map>
 #include <vector>
 
+#include "core_api/text/text_index.h"
 #include "spread/control/formula/function.h"
 
 namespace formula {
@@ -9,15 +9,15 @@ namespace {
 
 struct FunctionTable {
     std::vector<const FunctionSpec*> all;
-    std::unordered_map<std::string_view, const FunctionSpec*> byName;
+    TextIndex byName;
 
     FunctionTable() {
         for (const auto family : {mathFunctions, trigonometryFunctions, statisticsFunctions,
                                   matrixFunctions, logicFunctions, lookupFunctions, textFunctions,
                                   informationFunctions, dateFunctions, engineeringFunctions}) {
             for (const FunctionSpec& spec : family()) {
+                byName.add(spec.name, static_cast<int>(all.size()));
                 all.push_back(&spec);
-                byName.emplace(spec.name, &spec);
             }
         }
     }
@@ -31,9 +31,8 @@ const FunctionTable& table() {
 }  // namespace
 
 const FunctionSpec* findFunction(std::string_view name) {
-    const auto& byName = table().byName;
-    const auto found = byName.find(name);
-    return found == byName.end() ? nullptr : found->second;
+    const int index = table().byName.find(name);
+    return index < 0 ? nullptr : table().all[static_cast<size_t>(index)];
 }
 
 std::span<const FunctionSpec* const> allFunctions() {
