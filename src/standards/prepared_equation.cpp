@@ -38,13 +38,25 @@ std::string_view translated(std::string_view expression, const VariableReference
     return references.translate(expression, buffer);
 }
 
+/// Nothing when the names have to be replaced in the text first.
+formula::ProgramRef parsedWithNames(std::string_view expression,
+                                    const formula::ParseSettings& settings,
+                                    const VariableReferences& references) {
+    const Vor_FunctionTimer timer(gCalcCellReplaceVariables);  // both in one
+    if (!references.areCells()) return {};
+    return formula::parseWithNames(expression, settings, references);
+}
+
 void compile(PreparedEquation& equation, const VariableReferences& references,
              const control::Sheet& sheet) {
-    formula::ParseError error;
     const auto [col, row] = equation.cell;
     formula::ParseSettings settings = sheet.parseSettings(col, row);
     settings.isShared = false;
-    equation.program = formula::parse(translated(equation.expression, references), settings, error);
+    equation.program = parsedWithNames(equation.expression, settings, references);
+    formula::ParseError error;
+    if (!equation.program)
+        equation.program =
+            formula::parse(translated(equation.expression, references), settings, error);
     equation.kind =
         equation.program ? PreparedEquation::Kind::ordinary : PreparedEquation::Kind::refused;
     if (!equation.program) equation.detail = std::make_unique<Vor_String>(error.message);
@@ -58,7 +70,7 @@ const SharedText& PreparedEquation::formula(const VariableReferences& references
 }
 
 Vor_String coordinateName(const TwVarCell& variable) {
-    return getAlfabet(variable.column()) + Vor_String(variable.row(), 0);
+    return getAlfabet(variable.column()) + std::to_string(variable.row());
 }
 
 VariableReferences makeReferences(const TwVarCells& variables) {

@@ -5,6 +5,7 @@
 
 #include "core_api/text/text_helpers.h"
 #include "platform/encodings.h"
+#include "spread/control/document_text.h"
 #include "standards/words.h"
 
 namespace {
@@ -77,6 +78,24 @@ VariableReferences::VariableReferences(Vor_StringArray names, Vor_StringArray re
         m_chains = m_chains || m_index.find(reference) >= 0;
         m_longestReference = std::max(m_longestReference, static_cast<size_t>(reference.length()));
     }
+    if (m_onePass) noteCells();
+}
+
+void VariableReferences::noteCells() {
+    m_cells.reserve(static_cast<size_t>(m_names.length()));
+    for (const Vor_String& name : m_names) {
+        std::string_view rest = translateWord(name);
+        const std::optional<control::CellAddress> cell = control::takeAddress(rest);
+        if (!cell || cell->col < 1 || cell->row < 1 || !rest.empty()) return;
+        m_cells.push_back(*cell);
+    }
+    m_areCells = true;
+}
+
+const control::CellAddress* VariableReferences::cellOf(std::string_view word) const {
+    if (!mayBeName(word)) return nullptr;
+    const int index = m_index.find(word);
+    return index < 0 ? nullptr : &m_cells[static_cast<size_t>(index)];
 }
 
 std::string_view VariableReferences::translate(std::string_view text, std::string& buffer) const {

@@ -10,6 +10,7 @@
 
 #include "core_api/text/text_index.h"
 #include "core_api/text/vor_string_array.h"
+#include "spread/control/formula/cell_names.h"
 
 /// Replaces one name after another (the shorter list counts), so that what was put in for one
 /// name can be a later name. A name counts where no letter (ASCII), digit or underscore touches
@@ -22,7 +23,7 @@ bool replaceVariables(Vor_String& text, const Vor_StringArray& names, const Vor_
 /// equation. Gives exactly what replaceVariables gives: in one pass over the text as long as all
 /// names are plain words of less than 256 letters and no two are equal; otherwise name by name,
 /// passing over those that cannot be in the text.
-class VariableReferences {
+class VariableReferences : public formula::CellNames {
   public:
     VariableReferences() = default;
     VariableReferences(Vor_StringArray names, Vor_StringArray references);
@@ -37,9 +38,14 @@ class VariableReferences {
     int find(std::string_view name) const { return m_index.find(name); }
     /// `text` with references for names; lies in `buffer`.
     std::string_view translate(std::string_view text, std::string& buffer) const;
+    /// Every word that translate() replaces becomes the address of a cell: formulas can be parsed
+    /// with the names in them.
+    bool areCells() const { return m_areCells; }
+    const control::CellAddress* cellOf(std::string_view word) const override;
 
   private:
     void noteShape(const Vor_String& name);
+    void noteCells();
     std::string_view replaceOneByOne(std::string_view text, std::string& buffer) const;
     bool mayBeName(std::string_view word) const {
         return m_firsts[static_cast<unsigned char>(word[0])] && word.size() < m_lengths.size() &&
@@ -49,8 +55,10 @@ class VariableReferences {
 
     Vor_StringArray m_names;
     Vor_StringArray m_references;
+    std::vector<control::CellAddress> m_cells;  // what each name becomes in the end
     TextIndex m_index;
     bool m_onePass = true;
+    bool m_areCells = false;
     size_t m_longestReference = 0;
     bool m_chains = false;  // a reference that is put in may be a name
     // Most words are functions and numbers: what their first letter or length tells apart from

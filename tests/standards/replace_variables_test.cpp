@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <random>
 
 namespace {
@@ -113,6 +114,102 @@ TEST(VariableReferences, OnePassGivesWhatReplacingNameAfterNameGives) {
         replaceVariables(expected, names, references, false);
         EXPECT_EQ(translated(names, references, text), expected.str()) << text;
     }
+}
+
+/// Shared programs with the same instructions are one.
+formula::ProgramRef parsed(std::string_view text) {
+    formula::ParseError error;
+    return formula::parse(text, {.hostCol = 3, .hostRow = 40}, error);
+}
+
+formula::ProgramRef parsedWithNames(const VariableReferences& names, std::string_view text) {
+    return formula::parseWithNames(text, {.hostCol = 3, .hostRow = 40}, names);
+}
+
+TEST(VariableReferences, FormulasParsedWithNamesAreThoseWithReferences) {
+    const VariableReferences names({"Gap", "b_1", "A7", "C2", "Sum"},
+                                   {"B5", "C2", "B6", "D9", "E1"});
+    ASSERT_TRUE(names.areCells());
+    const struct {
+        const char* text;
+        const char* same;  ///< null: the caller has to replace the names
+    } cases[] = {
+        {"Gap*2+GAP", "B5*2+B5"},
+        {"=-gap%", "=-B5%"},
+        {"MAX(Gap:b_1,A7)", "MAX(B5:D9,B6)"},  // what b_1 becomes is a name again
+        {"IF(Gap>1.5E3,\"no name\"&A1,$A$3)", nullptr},
+        {"IF(Gap>1.5E3,\"no name\"&A1,B:B)", nullptr},
+        {"IF(Gap>1.5E3,\"no name\"&A1,LOG10(3:4))", "IF(B5>1.5E3,\"no name\"&A1,LOG10(3:4))"},
+        {"Gap&\"the gap\"", nullptr},
+        {"Sum(1,2)", nullptr},
+        {"Sum (1,2)", nullptr},
+        {"Gap.x", nullptr},
+        {"\xE9Gap", nullptr},
+        {"Gap\xE9", nullptr},
+        {"2Gap", nullptr},
+        {"Gap!A1", nullptr},
+        {"$Gap", nullptr},
+        {"#Gap", nullptr},
+        {"A:Gap", nullptr},
+        {"Gap+", nullptr},
+        {"CHOOSE(Gap,A7,b_1,TRUE)", "CHOOSE(B5,B6,D9,TRUE)"},
+    };
+    for (const auto& row : cases) {
+        const formula::ProgramRef program = parsedWithNames(names, row.text);
+        EXPECT_EQ(program.get(), row.same ? parsed(row.same).get() : nullptr) << row.text;
+    }
+    const VariableReferences exponents({"E5", "5"}, {"B5", "B6"});
+    for (const char* text : {"1.E5", "2+5", "1.5*A1", "5:7", "\"a 5\""})
+        EXPECT_FALSE(parsedWithNames(exponents, text)) << text;
+    EXPECT_EQ(parsedWithNames(exponents, "15E5*e5").get(), parsed("15E5*B5").get());
+}
+
+TEST(VariableReferences, NamesAreCellsOnlyWhenAllAreSo) {
+    EXPECT_FALSE(VariableReferences({"A", "B"}, {"A1", "A1+1"}).areCells());
+    EXPECT_FALSE(VariableReferences({"A", "B"}, {"A1", "A0"}).areCells());
+    EXPECT_FALSE(VariableReferences({"A", "b.c"}, {"A1", "A2"}).areCells());
+    EXPECT_FALSE(VariableReferences({"A", "a"}, {"A1", "A2"}).areCells());
+}
+
+/// Random formulas, half of them sound, over names that collide with references, functions,
+/// numbers and each other.
+TEST(VariableReferences, RandomFormulasParsedWithNamesAreThoseWithReferences) {
+    std::mt19937 random(11);
+    const auto pick = [&](auto count) {
+        return static_cast<size_t>(random() % static_cast<unsigned>(count));
+    };
+    const std::string_view words[] = {"A",  "B2",  "b3",  "AB", "Gap", "x_1", "5",
+                                      "E5", "c10", "MAX", "_",  "1E3", "IF",  "TRUE"};
+    const std::string_view operands[] = {"1.5",     "2",    "1.E5", "\"A\"", "\"x \"\"Gap\"",
+                                         "$B2",     "A:AB", "1:5",  ".5",    "#N/A",
+                                         "MAX(B2,", "IF(",  "(",    "Gap.x"};
+    const std::string_view between[] = {"+", "*", ",", ":", ")", "<=", " ", "&", "%+", "-"};
+    int parsedCount = 0;
+    for (int round = 0; round < 40000; ++round) {
+        Vor_StringArray names;
+        Vor_StringArray references;
+        for (size_t i = 0, count = pick(8); i < count; ++i) {
+            const Vor_String name(words[pick(std::size(words))]);
+            if (names.contains(name)) continue;
+            names.append(name);
+            references.append(std::string(1, "ABCDE"[pick(5)]) + std::to_string(1 + pick(11)));
+        }
+        std::string text;
+        for (size_t i = 0, parts = 1 + pick(5); i < parts; ++i) {
+            if (i > 0) text += between[pick(std::size(between))];
+            text +=
+                pick(4) == 0 ? operands[pick(std::size(operands))] : words[pick(std::size(words))];
+        }
+        for (auto open = std::count(text.begin(), text.end(), '('); open > 0; --open) text += ')';
+        const VariableReferences variables(names, references);
+        ASSERT_TRUE(variables.areCells());
+        const formula::ProgramRef program = parsedWithNames(variables, text);
+        if (!program) continue;
+        ++parsedCount;
+        const std::string replaced = translated(names, references, text);
+        EXPECT_EQ(program.get(), parsed(replaced).get()) << text << " -> " << replaced;
+    }
+    EXPECT_GT(parsedCount, 5000);
 }
 
 TEST(VariableReferences, FindsTheFirstOfANameRegardlessOfCase) {

@@ -12,7 +12,8 @@ constexpr std::array<uint8_t, 256> makeClasses() {
     for (int c = 'A'; c <= 'Z'; ++c) classes[static_cast<size_t>(c)] = 1;
     for (int c = 'a'; c <= 'z'; ++c) classes[static_cast<size_t>(c)] = 1;
     for (int c = '0'; c <= '9'; ++c) classes[static_cast<size_t>(c)] = 2;
-    classes['_'] = classes['\\'] = 4;
+    classes['_'] = 4 | 16;
+    classes['\\'] = 4;
     classes['.'] = classes['?'] = 8;
     // Letters of Windows-1252 may stand in names.
     for (int c = 0xC0; c <= 0xFF; ++c) classes[static_cast<size_t>(c)] = 4;
@@ -21,9 +22,40 @@ constexpr std::array<uint8_t, 256> makeClasses() {
 }
 constexpr auto classes = makeClasses();
 
+constexpr std::array<Symbol, 256> makeSymbols() {
+    std::array<Symbol, 256> symbols{};
+    symbols['+'] = Symbol::plus;
+    symbols['-'] = Symbol::minus;
+    symbols['*'] = Symbol::times;
+    symbols['/'] = Symbol::divide;
+    symbols['^'] = Symbol::power;
+    symbols['&'] = Symbol::join;
+    symbols['%'] = Symbol::percent;
+    symbols['='] = Symbol::equal;
+    symbols['<'] = Symbol::less;
+    symbols['>'] = Symbol::greater;
+    symbols['('] = Symbol::open;
+    symbols[')'] = Symbol::close;
+    symbols['{'] = Symbol::openBrace;
+    symbols['}'] = Symbol::closeBrace;
+    symbols[','] = Symbol::comma;
+    symbols[';'] = Symbol::semicolon;
+    symbols[':'] = Symbol::colon;
+    symbols['@'] = Symbol::at;
+    return symbols;
+}
+constexpr auto symbols = makeSymbols();
+
+Symbol symbolOf(char c) {
+    return symbols[static_cast<unsigned char>(c)];
+}
 uint8_t classOf(char c) {
     return classes[static_cast<unsigned char>(c)];
 }
+/// As far as a double holds every whole number.
+constexpr double powersOfTen[] = {1,   1e1, 1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
+                                  1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};
+
 bool isLetter(char c) {
     return classOf(c) == 1;
 }
@@ -36,6 +68,10 @@ bool startsName(char c) {
 bool isInName(char c) {
     return classOf(c) != 0;
 }
+/// A letter, a digit or "_".
+bool isInWord(char c) {
+    return (classOf(c) & (1 | 2 | 16)) != 0;
+}
 bool isBlank(char c) {
     return c == ' ' || c == '\t' || c == '\n' || c == '\r' || c == '\xA0';
 }
@@ -44,6 +80,24 @@ char upper(char c) {
 }
 
 }  // namespace
+
+inline bool Lexer::takeSymbol(Token& token) {
+    const char c = m_text[m_position];
+    const Symbol symbol = symbolOf(c);
+    if (symbol == Symbol::none) return false;
+    token.kind = TokenKind::symbol;
+    token.symbol = symbol;
+    token.length = 1;
+    if (c != '<' && c != '>') return true;
+    const char second = at(m_position + 1);
+    const bool isPair = second == '=' || (c == '<' && second == '>');
+    if (!isPair) return true;
+    token.length = 2;
+    token.symbol = second == '>' ? Symbol::notEqual
+                   : c == '<'    ? Symbol::lessEqual
+                                 : Symbol::greaterEqual;
+    return true;
+}
 
 void Lexer::next(Token& token) {
     const size_t before = m_position;
@@ -56,33 +110,86 @@ void Lexer::next(Token& token) {
         token.kind = TokenKind::end;
         return;
     }
-    const char c = m_text[m_position];
-    bool taken = false;
-    if (isLetter(c) || c == '$')
-        taken = takeReference(token) || takeName(token);
-    else if (isDigit(c) || c == '.')
-        taken = takeReference(token) || takeNumber(token);
-    else if (c == '"')
-        taken = takeText(token);
-    else if (c == '#')
-        taken = takeError(token);
-    else if (startsName(c))
-        taken = takeName(token);
-    else
-        taken = takeSymbol(token);
-    if (!taken) {
+    if (!takeSymbol(token) && !(m_names ? takeAmongNames(token) : take(token))) {
         token.kind = TokenKind::invalid;
+        token.symbol = Symbol::none;
         token.length = 1;
     }
     m_position = token.position + token.length;
 }
 
+bool Lexer::take(Token& token) {
+    const char c = m_text[m_position];
+    if (isLetter(c) || c == '$') return takeReference(token) || takeName(token);
+    if (isDigit(c)) {
+        const bool isNumber = takeNumber(token);
+        if (isNumber && at(m_position + token.length) != ':') return true;
+        return takeReference(token) || isNumber;  // whole rows: "1:3"
+    }
+    if (c == '.') return takeNumber(token);
+    if (c == '"') return takeText(token);
+    if (c == '#') return takeError(token);
+    return takeName(token);
+}
+
+/// Names count wherever their word stands, be it in a text, in "#N/A" or behind the point of a
+/// number. Only words that are whole tokens are looked up here.
+bool Lexer::takeAmongNames(Token& token) {
+    const char c = m_text[m_position];
+    if (isLetter(c) || c == '_') return takeWord(token);
+    if (startsName(c) || c == '$' || c == '#') return false;
+    return take(token) && !holdsName(textOf(token));
+}
+
+bool Lexer::takeWord(Token& token) {
+    size_t end = m_position + 1;
+    while (isInWord(at(end))) ++end;
+    if (isInName(at(end))) return false;  // a longer name with a word of its own inside
+    token.length = end - m_position;
+    if (const control::CellAddress* cell = m_names->cellOf(textOf(token))) {
+        token.reference.first = {cell->row, cell->col, true, true};
+        token.reference.last = token.reference.first;
+        token.reference.wholeCols = token.reference.wholeRows = false;
+        return finishReference(token, end);
+    }
+    token.kind = TokenKind::name;
+    if (at(end) == '(') return true;
+    return take(token) && token.length == end - m_position;
+}
+
+bool Lexer::holdsName(std::string_view text) const {
+    for (size_t at = 0; at < text.size();) {
+        const size_t start = at;
+        while (at < text.size() && isInWord(text[at])) ++at;
+        if (at > start && m_names->cellOf(text.substr(start, at - start))) return true;
+        if (at == start) ++at;
+    }
+    return false;
+}
+
 bool Lexer::takeNumber(Token& token) {
     size_t end = m_position;
-    while (isDigit(at(end))) ++end;
-    if (at(end) == '.')
-        for (++end; isDigit(at(end));) ++end;
+    uint64_t digits = 0;  // of the number without its point
+    size_t places = 0;
+    const auto takeDigits = [&] {
+        const size_t start = end;
+        for (; isDigit(at(end)); ++end)
+            digits = digits * 10 + static_cast<uint64_t>(m_text[end] - '0');
+        return end - start;
+    };
+    takeDigits();
+    if (at(end) == '.') {
+        ++end;
+        places = takeDigits();
+    }
     if (end == m_position + 1 && m_text[m_position] == '.') return false;
+    token.kind = TokenKind::number;
+    token.length = end - m_position;
+    // Fifteen digits and a power of ten are exact as doubles: one division rounds correctly.
+    if (token.length <= 16 && upper(at(end)) != 'E') {
+        token.number = static_cast<double>(digits) / powersOfTen[places];
+        return true;
+    }
     if (upper(at(end)) == 'E') {
         size_t exponent = end + 1;
         if (at(exponent) == '+' || at(exponent) == '-') ++exponent;
@@ -92,7 +199,6 @@ bool Lexer::takeNumber(Token& token) {
     const char* first = m_text.data() + m_position;
     const auto [stop, failure] = std::from_chars(first, m_text.data() + end, token.number);
     if (failure == std::errc::result_out_of_range) return false;
-    token.kind = TokenKind::number;
     token.length = end - m_position;
     return stop == m_text.data() + end;
 }
@@ -127,6 +233,7 @@ bool Lexer::takeError(Token& token) {
 
 // The column at `position` ("$AB"), its end; 0 when there is none.
 size_t Lexer::columnAt(size_t position, Corner& corner) const {
+    corner.col = 0;
     corner.colRelative = at(position) != '$';
     if (!corner.colRelative) ++position;
     const size_t start = position;
@@ -139,6 +246,7 @@ size_t Lexer::columnAt(size_t position, Corner& corner) const {
 }
 
 size_t Lexer::rowAt(size_t position, Corner& corner) const {
+    corner.row = 0;
     corner.rowRelative = at(position) != '$';
     if (!corner.rowRelative) ++position;
     const size_t start = position;
@@ -169,12 +277,14 @@ bool Lexer::takeReference(Token& token) {
             return finishReference(token, afterRow);
         }
         if (at(afterCol) != ':') return false;
+        reference.last = reference.first;
         const size_t end = columnAt(afterCol + 1, reference.last);
         reference.wholeCols = end != 0;
         return end != 0 && finishReference(token, end);
     }
     const size_t afterRow = rowAt(m_position, reference.first);
     if (afterRow == 0 || at(afterRow) != ':') return false;
+    reference.last = reference.first;
     const size_t end = rowAt(afterRow + 1, reference.last);
     reference.wholeRows = end != 0;
     return end != 0 && finishReference(token, end);
@@ -218,74 +328,6 @@ bool Lexer::takeName(Token& token) {
     token.kind = TokenKind::name;
     token.length = end - m_position;
     return true;
-}
-
-bool Lexer::takeSymbol(Token& token) {
-    token.kind = TokenKind::symbol;
-    token.length = 1;
-    const char second = at(m_position + 1);
-    switch (m_text[m_position]) {
-        case '+':
-            token.symbol = Symbol::plus;
-            return true;
-        case '-':
-            token.symbol = Symbol::minus;
-            return true;
-        case '*':
-            token.symbol = Symbol::times;
-            return true;
-        case '/':
-            token.symbol = Symbol::divide;
-            return true;
-        case '^':
-            token.symbol = Symbol::power;
-            return true;
-        case '&':
-            token.symbol = Symbol::join;
-            return true;
-        case '%':
-            token.symbol = Symbol::percent;
-            return true;
-        case '=':
-            token.symbol = Symbol::equal;
-            return true;
-        case '(':
-            token.symbol = Symbol::open;
-            return true;
-        case ')':
-            token.symbol = Symbol::close;
-            return true;
-        case '{':
-            token.symbol = Symbol::openBrace;
-            return true;
-        case '}':
-            token.symbol = Symbol::closeBrace;
-            return true;
-        case ',':
-            token.symbol = Symbol::comma;
-            return true;
-        case ';':
-            token.symbol = Symbol::semicolon;
-            return true;
-        case ':':
-            token.symbol = Symbol::colon;
-            return true;
-        case '@':
-            token.symbol = Symbol::at;
-            return true;
-        case '<':
-            token.length = second == '=' || second == '>' ? 2 : 1;
-            token.symbol = second == '='   ? Symbol::lessEqual
-                           : second == '>' ? Symbol::notEqual
-                                           : Symbol::less;
-            return true;
-        case '>':
-            token.length = second == '=' ? 2 : 1;
-            token.symbol = second == '=' ? Symbol::greaterEqual : Symbol::greater;
-            return true;
-        default:
-            return false;
-    }
 }
 
 std::string unquote(std::string_view token) {

@@ -6,6 +6,7 @@
 #include <string>
 #include <string_view>
 
+#include "spread/control/formula/cell_names.h"
 #include "spread/control/formula/parser.h"
 
 namespace formula {
@@ -75,7 +76,9 @@ struct Token {
 
 class Lexer {
   public:
-    Lexer(std::string_view text, ReferenceStyle style) : m_text(text), m_style(style) {}
+    /// With `names` a word that is one is a reference (A1), and whatever could hide one is invalid.
+    Lexer(std::string_view text, ReferenceStyle style, const CellNames* names = nullptr)
+        : m_text(text), m_style(style), m_names(names) {}
     /// The token after the one given before; `end` again and again at the end.
     void next(Token& token);
     std::string_view textOf(const Token& token) const {
@@ -84,6 +87,10 @@ class Lexer {
 
   private:
     char at(size_t position) const { return position < m_text.size() ? m_text[position] : '\0'; }
+    bool take(Token& token);
+    bool takeAmongNames(Token& token);
+    bool takeWord(Token& token);
+    bool holdsName(std::string_view text) const;
     bool takeNumber(Token& token);
     bool takeText(Token& token);
     bool takeError(Token& token);
@@ -99,6 +106,7 @@ class Lexer {
     std::string_view m_text;
     size_t m_position = 0;
     ReferenceStyle m_style;
+    const CellNames* m_names;
 };
 
 /// The doubled quotes of a text token resolved.

@@ -122,7 +122,7 @@ bool Parser::binary(int least, Want want, Kind& kind) {
     }
 }
 
-bool Parser::unary(Want want, Kind& kind) {
+inline bool Parser::unary(Want want, Kind& kind) {
     std::array<Op, maxNesting> signs;
     size_t count = 0;
     while (isSymbol(Symbol::plus) || isSymbol(Symbol::minus) || isSymbol(Symbol::at)) {
@@ -142,7 +142,7 @@ bool Parser::unary(Want want, Kind& kind) {
     return true;
 }
 
-bool Parser::postfix(Want want, Kind& kind) {
+inline bool Parser::postfix(Want want, Kind& kind) {
     if (!range(want, kind)) return false;
     while (isSymbol(Symbol::percent)) {
         m_code.makeSingle(kind);
@@ -152,7 +152,7 @@ bool Parser::postfix(Want want, Kind& kind) {
     return true;
 }
 
-bool Parser::range(Want want, Kind& kind) {
+inline bool Parser::range(Want want, Kind& kind) {
     const size_t start = m_code.position();
     if (!primary(want, kind)) return false;
     while (isSymbol(Symbol::colon)) {
@@ -204,7 +204,7 @@ bool Parser::primary(Want want, Kind& kind) {
     return true;
 }
 
-void Parser::setPlace(Instruction& i, const Corner& corner) const {
+inline void Parser::setPlace(Instruction& i, const Corner& corner) const {
     const bool a1 = m_settings.style == ReferenceStyle::a1;
     i.place = {corner.row, corner.col};
     if (corner.rowRelative) {
@@ -290,6 +290,15 @@ ProgramRef parse(std::string_view text, const ParseSettings& settings, ParseErro
         return {};
     }
     return Parser(text, settings, error).parse();
+}
+
+ProgramRef parseWithNames(std::string_view text, const ParseSettings& settings,
+                          const CellNames& names) {
+    // References may be longer than their names; this far the limit is not reached.
+    constexpr size_t longest = maxFormulaLength / 8;
+    if (text.size() > longest || settings.style != ReferenceStyle::a1) return {};
+    ParseError unused;
+    return Parser(text, settings, unused, &names).parse();
 }
 
 }  // namespace formula

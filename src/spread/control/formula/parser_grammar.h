@@ -13,8 +13,9 @@ enum class Want { single, reference };
 
 class Parser {
   public:
-    Parser(std::string_view text, const ParseSettings& settings, ParseError& error)
-        : m_lexer(text, settings.style), m_settings(settings), m_error(error) {
+    Parser(std::string_view text, const ParseSettings& settings, ParseError& error,
+           const CellNames* names = nullptr)
+        : m_lexer(text, settings.style, names), m_settings(settings), m_error(error) {
         m_code.inArray = settings.arrayFormula;
     }
     ProgramRef parse();

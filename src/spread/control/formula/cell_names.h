@@ -1,0 +1,27 @@
+// Formulas in which words stand for cells. Standards name their variables; reading the names while
+// the formula is parsed spares writing it anew with references first.
+#pragma once
+
+#include <string_view>
+
+#include "spread/control/cells.h"
+#include "spread/control/formula/parser.h"
+
+namespace formula {
+
+class CellNames {
+  public:
+    /// The cell that `word` (ASCII letters, digits and underscores) stands for, or null.
+    virtual const control::CellAddress* cellOf(std::string_view word) const = 0;
+
+  protected:
+    ~CellNames() = default;
+};
+
+/// What parse() gives for `text` with the reference of its cell (A1) in place of every such word,
+/// wherever the word stands. Nothing when that is no formula, or when a name may lie where no
+/// value can stand, as inside a text: then the caller has to replace the words and ask parse().
+ProgramRef parseWithNames(std::string_view text, const ParseSettings& settings,
+                          const CellNames& names);
+
+}  // namespace formula
