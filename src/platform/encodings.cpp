@@ -97,16 +97,21 @@ int compareFolded(std::string_view a, std::string_view b) {
 
 namespace {
 
-/// The first eight bytes and the last eight of `text`, which may overlap or be the same.
+template <class Number>
+std::uint64_t numberAt(const char* bytes) {
+    Number number = 0;
+    std::memcpy(&number, bytes, sizeof number);
+    return number;
+}
+
+/// The first bytes and the last ones of a text of at most 16; between them they hold it all.
 std::array<std::uint64_t, 2> endsOf(std::string_view text) {
-    std::array<std::uint64_t, 2> ends{};
-    if (text.size() >= 8) {
-        std::memcpy(&ends[0], text.data(), 8);
-        std::memcpy(&ends[1], text.data() + text.size() - 8, 8);
-    } else {
-        for (const char c : text) ends[0] = ends[0] << 8 | static_cast<unsigned char>(c);
-    }
-    return ends;
+    const char* const start = text.data();
+    const char* const end = start + text.size();
+    if (text.size() >= 8) return {numberAt<std::uint64_t>(start), numberAt<std::uint64_t>(end - 8)};
+    if (text.size() >= 4) return {numberAt<std::uint32_t>(start), numberAt<std::uint32_t>(end - 4)};
+    if (text.size() >= 2) return {numberAt<std::uint16_t>(start), numberAt<std::uint16_t>(end - 2)};
+    return {text.empty() ? 0 : numberAt<std::uint8_t>(start), 0};
 }
 
 }  // namespace
