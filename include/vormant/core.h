@@ -2,6 +2,8 @@
 #pragma once
 
 #include "core_api/dialog_state.h"
+#include "core_api/dialogs/file_dialogs.h"
+#include "core_api/dialogs/info_dialog.h"
 #include "core_api/files.h"
 #include "core_api/numbers.h"
 #include "core_api/property_list.h"

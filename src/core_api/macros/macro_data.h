@@ -31,6 +31,11 @@ class VORMANT_API MacroData {
     /// a macro or when a module is gone or refuses a value.
     ErrorStatus setAllToMacro(Vor_DbMacro* macro) const;
 
+    /// The objects in the drawing that the data was made from, as the host's dialogs know them.
+    AcArray<AcDbObjectId> objects;
+    /// The advanced profile dialog worked on an object of its own, which goes when it closes.
+    bool erasesObjects = false;
+
     bool operator==(const MacroData&) const = default;
 
   private:

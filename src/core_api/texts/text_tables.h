@@ -21,6 +21,7 @@ extern const std::span<const TextRow> designerTexts;
 extern const std::span<const TextRow> macrodlgTexts;
 extern const std::span<const TextRow> sectionsTexts;
 extern const std::span<const TextRow> cutstockTexts;
+extern const std::span<const TextRow> frameTexts;
 extern const std::span<const TextRow> workbenchTexts;
 
 /// One a line, so that tables can be added side by side.
@@ -33,6 +34,7 @@ inline auto allTables() {
         macrodlgTexts,  //
         sectionsTexts,  //
         cutstockTexts,  //
+        frameTexts,     //
         workbenchTexts,
     };
 }

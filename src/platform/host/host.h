@@ -7,6 +7,7 @@
 #include <string_view>
 
 #include "platform/export.h"
+#include "platform/host/object_id.h"
 
 class CWnd;
 
@@ -46,6 +47,10 @@ class VORMANT_API Host {
     virtual CWnd* mainWindow() { return nullptr; }
     /// Gives the keyboard back to the main window.
     virtual void focusMainWindow() {}
+    /// Removes an object from the drawing. False when there is none of that id.
+    virtual bool eraseObject(AcDbObjectId /*object*/) { return false; }
+    /// Draws a member of that section for the user to look at; null when nothing can be drawn.
+    virtual AcDbObjectId drawMember(std::string_view /*section*/) { return {}; }
 };
 
 /// Installs a host for the length of a scope.

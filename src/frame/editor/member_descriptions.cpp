@@ -1,0 +1,62 @@
+#include "frame/editor/descriptions.h"
+
+NamedValues describe(ProfCuts& data) {
+    return {choiceValue(21041, data.cuts.shape, {1395, 1396, 1397}),
+            numberValue(21080, data.cuts.gap, lengths), numberValue(21081, data.cuts.angle, angles),
+            numberValue(21050, data.cuts.radius, lengths), yesNoValue(21082, data.usesForNext)};
+}
+
+NamedValues describe(DlgProfFeaturesData& data) {
+    NamedValues values;
+    for (ProfFeature& each : data.features) {
+        values.push_back(yesNoValue(21083, each.isOn).of(each.name));
+        values.push_back(numberValue(21084, each.position, distances).of(each.name));
+        values.push_back(numberValue(21085, each.size, lengths).of(each.name));
+    }
+    return values;
+}
+
+NamedValues describe(DlgEditLibData& data) {
+    NamedValues values;
+    for (int i = 0; i < data.templateNames.length(); ++i)
+        values.push_back(
+            textValue(dialString(21086) + " " + Vor_String(i + 1, 0), data.templateNames[i]));
+    return values;
+}
+
+NamedValues describe(SectionSize& data) {
+    NamedValues values;
+    if (!data.table.rows.isIndex(data.row)) return values;
+    Vor_StringArray& cells = data.table.rows[data.row];
+    for (int i = 0; i < cells.length() && i < data.table.columnNames.length(); ++i)
+        values.push_back(textValue(data.table.columnNames[i], cells[i]));
+    return values;
+}
+
+NamedValues describe(DlgCSP2Data& data) {
+    NamedValues values;
+    for (Csp2Table& table : data.tables) {
+        for (int row = 0; row < table.rows.length() && row < table.rowItemIds.length(); ++row) {
+            const int item = data.itemIds.find(table.rowItemIds[row]);
+            if (!data.itemNames.isIndex(item)) continue;
+            Vor_StringArray& cells = table.rows[row];
+            const Vor_String owner = data.itemNames[item] + ", " + Vor_String(row + 1, 0);
+            for (int col = 0; col < cells.length() && col < table.columnNames.length(); ++col)
+                values.push_back(textValue(table.columnNames[col], cells[col]).of(owner));
+        }
+    }
+    return values;
+}
+
+NamedValues describe(DstvPoints& data) {
+    return {choiceValue(21087, data.mark, {21088, 21089, 21090}),
+            numberValue(21091, data.depth, lengths), yesNoValue(21092, data.withLabels)};
+}
+
+NamedValues describe(TwDlgCis2Data& data) {
+    constexpr int highestPhase = 9999;
+    return {textValue(21065, data.memberName),   textValue(21063, data.sectionName),
+            textValue(21064, data.materialName), textValue(21093, data.assemblyMark),
+            textValue(21094, data.pieceMark),    wholeValue(21095, data.phase, 0, highestPhase),
+            yesNoValue(21096, data.isExported)};
+}

@@ -1,0 +1,32 @@
+// The macro dialog as the frame runs it. Modal it is a dialog like others; modeless it lives in a
+// slot of OpenMacroDialogs, and asks to be closed through the call that it was opened with.
+#pragma once
+
+#include <functional>
+
+#include "frame/editor/data_dialog.h"
+#include "frame/editor/editor_kinds.h"
+
+class MacroValuesDialog : public DataDialog<MacroData, macroEditor> {
+  public:
+    using End = std::function<void(int slot)>;
+
+    /// Before it is created: modeless, in `slot`; `end` closes that slot.
+    void setModeless(int slot, End end);
+    /// It works on a command of its own, so it must not go before it has finished.
+    bool isCloseDelayed() const { return m_isInCommand; }
+
+    void onCommand(int id, int code) override;
+
+  protected:
+    void onOK() override;
+    void onCancel() override;
+
+  private:
+    int m_slot = -1;
+    End m_end;
+    bool m_isInCommand = false;
+};
+
+/// What the frame opens; another macro dialog takes its place by this line.
+using MacroDialog = MacroValuesDialog;

@@ -1,0 +1,147 @@
+// Starters around a macro: its dialog, modal and modeless, its constraints, cuts and members.
+#include "core_api/texts/texts.h"
+#include "frame/constraints_window.h"
+#include "frame/macro_dialog.h"
+#include "frame/open_macro_dialogs.h"
+#include "frame/starters.h"
+#include "frame/starting.h"
+
+void StartDlgMacro(MacroData& data) {
+    MacroDialog dialog;
+    runDialog(dialog, data, CopyBack::always);
+}
+
+bool StartDlgMacroModeless(bool keepFocus, MacroData& data, int& slot) {
+    const ResourceOverrideScope resources;
+    return openMacroDialogs().start(keepFocus, data, slot);
+}
+
+bool EndDlgMacroModeless(int slot) {
+    return openMacroDialogs().end(slot);
+}
+
+bool GetDlgMacroData(int slot, MacroData& data) {
+    const ResourceOverrideScope resources;
+    return openMacroDialogs().getData(slot, data);
+}
+
+void DestroyAllMacroDlgs() {
+    openMacroDialogs().endAll();
+}
+
+// --- constraints --------------------------------------------------------------------------------
+
+bool StartDlgEditConstrModal(EditConstrData& data) {
+    return startDialog<ConstraintsWindow>(data, CopyBack::never);
+}
+
+bool StartDlgEditConstraints(EditConstrData& data) {
+    const ResourceOverrideScope resources;
+    auto& open = constraintsWindow();
+    if (open) return true;
+    auto window = std::make_unique<ConstraintsWindow>();
+    window->data() = data;
+    window->setModeless(true);
+    if (!window->create()) return true;
+    window->show(true);
+    open = std::move(window);
+    Host::current().focusMainWindow();
+    return true;
+}
+
+void EndDlgEditConstraints() {
+    auto& open = constraintsWindow();
+    if (open) {
+        if (!open->destroy()) acutPrintf("Erase window failed\n");
+        open.reset();
+    }
+    acedPostCommandPrompt();
+}
+
+// --- cuts and members ---------------------------------------------------------------------------
+
+bool StartDlgMacroCuts(DlgMacroCutsData& data, bool& isChanged) {
+    MacroCutsDialog dialog;
+    const bool isOk = runDialog(dialog, data);
+    isChanged = dialog.isChanged();
+    return isOk;
+}
+
+namespace {
+
+/// The first section that the dialog is about.
+Vor_String firstSection(const AdvancedProfiles& profiles) {
+    for (int i = 0; i < profiles.macro.tabCount(); ++i) {
+        const MacroTabData& tab = *profiles.macro.getTab(i);
+        if (!profiles.tab.isEmpty() && !tab.key().equal(profiles.tab)) continue;
+        for (const MacroProfData& each : tab.profiles())
+            if (profiles.group.isEmpty() || each.name.equal(profiles.group))
+                return each.sectionName();
+    }
+    return {};
+}
+
+/// Draws the member that the user edits, for as long as the caller wants to see it.
+class ShownProfAdvDialog : public ProfAdvDialog {
+  public:
+    explicit ShownProfAdvDialog(bool showsMember) : m_showsMember(showsMember) {}
+    AcDbObjectId createdObject() const { return m_created; }
+
+  protected:
+    void onInit() override {
+        ProfAdvDialog::onInit();
+        const Vor_String section = firstSection(data());
+        if (m_showsMember && !section.isEmpty()) m_created = Host::current().drawMember(section);
+    }
+
+  private:
+    bool m_showsMember;
+    AcDbObjectId m_created;
+};
+
+void eraseObjects(const MacroData& data, AcDbObjectId created) {
+    if (!data.erasesObjects) return;
+    Host& host = Host::current();
+    if (data.objects.length() == 1) host.eraseObject(data.objects[0]);
+    if (!created.isNull()) host.eraseObject(created);
+}
+
+}  // namespace
+
+void StartDlgMacroProfAdv(MacroData& data, const Vor_String& tab, const Vor_String& group,
+                          bool showsMember) {
+    ShownProfAdvDialog dialog(showsMember);
+    AdvancedProfiles profiles{data, tab, group};
+    if (runDialog(dialog, profiles)) data = profiles.macro;
+    eraseObjects(data, dialog.createdObject());
+}
+
+void StartDlgMacroProfAdv(AcArray<AcDbObjectId>* objects, bool& forAll, TwMACallBack callBack) {
+    if (!objects || objects->isEmpty()) return;
+    const ResourceOverrideScope resources;
+    TwMACallBackData request{*objects, forAll};
+    ObjectProfile profile;
+    profile.forAll = forAll;
+    if (callBack && !callBack(TwMACallBackType::load, request, profile.properties)) return;
+    ObjectProfileDialog dialog;
+    const bool isOk = runDialog(dialog, profile);
+    forAll = dialog.data().forAll;
+    request.forAll = forAll;
+    if (isOk && callBack) callBack(TwMACallBackType::apply, request, profile.properties);
+}
+
+bool StartEditProfCutsDlg(DlgProfCutsData& data) {
+    static bool usesForNext = false;  // the option outlives the dialog
+    ProfCuts cuts{data, usesForNext};
+    if (!startDialog<ProfCutsDialog>(cuts)) return false;
+    usesForNext = cuts.usesForNext;
+    if (cuts.cuts.apply) cuts.cuts.apply(cuts.cuts);
+    return true;
+}
+
+bool StartArrayDlg(DynArrayData& data, const AcArray<AcDbObjectId>&, const Vor_String& title) {
+    const ResourceOverrideScope resources;
+    ArrayDialog dialog;
+    dialog.setTitle(title);
+    return runDialog(dialog, data);
+}

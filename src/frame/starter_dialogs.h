@@ -1,0 +1,26 @@
+// Which dialog each starter runs. A dialog made for its data takes the place of the editor of named
+// values here, by this one line; it needs a default constructor, data() and doModal().
+#pragma once
+
+#include "frame/editor/data_dialog.h"
+#include "frame/editor/editor_kinds.h"
+
+using EditConstrDialog = DataDialog<EditConstrData, constraintsEditor>;
+using MacroCutsDialog = DataDialog<DlgMacroCutsData, cutsEditor>;
+using ProfAdvDialog = DataDialog<AdvancedProfiles, advancedProfilesEditor>;
+using ObjectProfileDialog = DataDialog<ObjectProfile, objectProfileEditor>;
+using ProfCutsDialog = DataDialog<ProfCuts, profCutsEditor>;
+using ArrayDialog = DataDialog<DynArrayData, arrayEditor>;
+using SelectMacroDialog = DataDialog<MacroChoice, macroChoiceEditor>;
+using EditLibSectionsDialog = DataDialog<DlgEditLibData, libraryEditor>;
+using EditLibSimpleDialog = DataDialog<SectionSize, sectionSizeEditor>;
+using CSP2Dialog = DataDialog<DlgCSP2Data, cuttingStockEditor>;
+using ProfFeaturesDialog = DataDialog<DlgProfFeaturesData, featuresEditor>;
+using GridDialog = DataDialog<TwGridDlgData, gridEditor>;
+using LevelsDialog = DataDialog<TwLevelsDlgData, levelsEditor>;
+using LookUpDialog = DataDialog<TwLookUpDlgData, lookUpEditor>;
+using CladdingDialog = DataDialog<TwCladdingDlgData, claddingEditor>;
+using Cis2Dialog = DataDialog<TwDlgCis2Data, cis2Editor>;
+using BracingDialog = DataDialog<TwBracingDlgData, bracingEditor>;
+using GenVarsDialog = DataDialog<TwAutoStandardsData, genVarsEditor>;
+using DstvPointsDialog = DataDialog<DstvPoints, dstvPointsEditor>;

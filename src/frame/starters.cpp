@@ -1,0 +1,129 @@
+// Starters that are no more than a dialog over its data, and those that choose something.
+#include "frame/starters.h"
+
+#include <algorithm>
+
+#include "core_api/text/text_helpers.h"
+#include "core_api/texts/texts.h"
+#include "frame/select_image_dialog.h"
+#include "frame/starter_dialogs.h"
+#include "frame/starting.h"
+#include "frame/string_array_dialog.h"
+
+bool StartDlgCSP2(DlgCSP2Data& data) {
+    return startDialog<CSP2Dialog>(data);
+}
+
+bool StartDlgProfFeatures(DlgProfFeaturesData& data) {
+    return startDialog<ProfFeaturesDialog>(data);
+}
+
+bool StartDlgGrid(TwGridDlgData& data) {
+    return startDialog<GridDialog>(data);
+}
+
+bool StartDlgLevels(TwLevelsDlgData& data) {
+    return startDialog<LevelsDialog>(data);
+}
+
+bool StartDlgCladdingSettings(TwCladdingDlgData& data) {
+    return startDialog<CladdingDialog>(data);
+}
+
+bool StartDlgCis2Info(TwDlgCis2Data& data) {
+    return startDialog<Cis2Dialog>(data);
+}
+
+bool StartDlgBracing(TwBracingDlgData& data) {
+    return startDialog<BracingDialog>(data);
+}
+
+bool StartDlgGenVars(TwAutoStandardsData& data) {
+    return startDialog<GenVarsDialog>(data);
+}
+
+bool StartDlgSelectImage(TwSelectImageDlgData& data) {
+    return startDialog<SelectImageDialog>(data);
+}
+
+bool StartDlgLookUp(TwLookUpDlgData& data) {
+    const ResourceOverrideScope resources;
+    LookUpDialog dialog;
+    dialog.setTitle(data.title);
+    return runDialog(dialog, data);
+}
+
+void StartDSTVPointsDlg() {
+    static DstvPoints points;  // the settings outlive the dialog
+    startDialog<DstvPointsDialog>(points);
+}
+
+bool StartDlgDesigner(const Vor_String& path) {
+    constexpr int titleText = 21005, missingText = 21004;
+    const ResourceOverrideScope resources;
+    const Vor_String file = path.isEmpty() ? Vor_String() : "\n" + path;
+    showWarning(dialString(titleText), dialString(missingText) + file);
+    return false;
+}
+
+bool startGridDialog(const Vor_StringArray& columns, const Vor_StringArray& choices,
+                     Vor_Array<Vor_StringArray>& rows, bool fixedRows, Vor_String name,
+                     Vor_String title) {
+    if (columns.isEmpty()) return false;
+    if (name.isEmpty()) name = "DLG_SS_STRINGARRAY";
+    const ResourceOverrideScope resources;
+    StringArrayDialog dialog({columns, choices, fixedRows, name, title});
+    return runDialog(dialog, rows);
+}
+
+// --- macros to choose from ----------------------------------------------------------------------
+
+bool StartDlgSelectMacro(const Vor_String& title, const Vor_StringArray& macros,
+                         const int& previewWidth, const int& previewHeight, Vor_String& macro,
+                         bool& isAlternative, bool explains) {
+    AcArray<bool> enabled;
+    for (int i = 0; i < macros.length(); ++i) enabled.append(true);
+    return StartDlgSelectMacro(title, macros, enabled, previewWidth, previewHeight, macro,
+                               isAlternative, explains);
+}
+
+bool StartDlgSelectMacro(const Vor_String& title, const Vor_StringArray& macros,
+                         const AcArray<bool>& enabled, const int&, const int&, Vor_String& macro,
+                         bool& isAlternative, bool) {
+    const ResourceOverrideScope resources;
+    MacroChoice choice;
+    Vor_StringArray files;
+    for (int i = 0; i < macros.length(); ++i) {
+        if (!enabled.isIndex(i) || !enabled[i]) continue;
+        files.append(macros[i]);
+        choice.names.append(removeExtension(getFileName(macros[i])));
+    }
+    choice.chosen = std::max(files.find(macro), 0);
+    choice.hasAlternative = isAlternative;
+    SelectMacroDialog dialog;
+    dialog.setTitle(title);
+    if (!runDialog(dialog, choice)) return false;
+    const bool isChosen = !choice.isAlternative && files.isIndex(choice.chosen);
+    macro = isChosen ? files[choice.chosen] : Vor_String();
+    isAlternative = choice.isAlternative;
+    return true;
+}
+
+// --- the section library ------------------------------------------------------------------------
+
+bool StartDlgEditLibSections(DlgEditLibData& data, const Vor_String& section) {
+    const ResourceOverrideScope resources;
+    EditLibSectionsDialog dialog;
+    if (!section.isEmpty()) dialog.setTitle(dialString(21016) + " - " + section);
+    return runDialog(dialog, data);
+}
+
+bool StartDlgEditLibSimple(const Vor_String& title, Vor_ProfValuesTable& table, int& row) {
+    EditLibSimpleDialog dialog;
+    dialog.setTitle(title);
+    SectionSize size{table, row};
+    const bool isOk = runDialog(dialog, size);
+    if (isOk) table = size.table;
+    row = dialog.data().row;
+    return isOk;
+}
