@@ -7,3 +7,4 @@
 #include "frame/library.h"
 #include "frame/starters.h"
 #include "frame/tw_ss_dlgs_mgr.h"
+#include "spread/formulas/formulas_starters.h"
