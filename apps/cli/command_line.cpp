@@ -6,6 +6,7 @@
 #include <iostream>
 
 #include "io/suggestion.h"
+#include "mapping/mapping_commands.h"
 #include "sheets/sheet_commands.h"
 #include "standards/library.h"
 #include "standards/standards_commands.h"
@@ -24,6 +25,9 @@ struct Calls {
     ShowRequest show;
     EvalRequest eval;
     ConvertRequest convert;
+    ShowMappingRequest showMapping;
+    SetMappingRequest setMapping;
+    ObjectsRequest objects;
     std::function<ExitCode()> work;
 };
 
@@ -42,7 +46,7 @@ void onCall(CLI::App& command, Calls& calls, Work work) {
 
 /// `work` runs with the library open.
 template <class Work>
-void onStandardsCall(CLI::App& command, Calls& calls, Work work) {
+void onLibraryCall(CLI::App& command, Calls& calls, Work work) {
     command.callback([&calls, work] {
         calls.work = [&calls, work] {
             return openLibrary(calls.library) ? work() : ExitCode::failed;
@@ -58,14 +62,14 @@ std::string refusedWhenEmpty(const std::string& text) {
 void addStandardsReaders(CLI::App& standards, Calls& calls) {
     auto& list = *standards.add_subcommand(
         "list", "Name the standards of the library with their inputs and outputs");
-    onStandardsCall(list, calls, [] { return listStandards(); });
+    onLibraryCall(list, calls, [] { return listStandards(); });
 
     auto& check = *standards.add_subcommand(
         "check", "Look for mistakes in standards: file:row:column: message");
     check.add_option("FILE", calls.check.files, "A standards file, or a name in the library")
         ->required()
         ->check(refusedWhenEmpty);
-    onStandardsCall(check, calls, [&calls] { return checkStandards(calls.check); });
+    onLibraryCall(check, calls, [&calls] { return checkStandards(calls.check); });
 
     auto& test = *standards.add_subcommand(
         "test", "Run the check problems that stand beside a standard (NAME.cases.csv)");
@@ -73,7 +77,7 @@ void addStandardsReaders(CLI::App& standards, Calls& calls) {
     auto* all =
         test.add_flag("--all", calls.test.all, "Every standard of the library that has cases");
     names->excludes(all);
-    onStandardsCall(test, calls, [&calls] { return testStandards(calls.test); });
+    onLibraryCall(test, calls, [&calls] { return testStandards(calls.test); });
 }
 
 void addStandardsRunners(CLI::App& standards, Calls& calls) {
@@ -98,7 +102,7 @@ void addStandardsRunners(CLI::App& standards, Calls& calls) {
     macro->needs(key);
     key->needs(macro);
     write->needs(macro);
-    onStandardsCall(run, calls, [&calls] { return runStandard(calls.run); });
+    onLibraryCall(run, calls, [&calls] { return runStandard(calls.run); });
 
     auto& batch = *standards.add_subcommand(
         "batch", "Run a standard once for every line of inputs; a filter");
@@ -110,7 +114,7 @@ void addStandardsRunners(CLI::App& standards, Calls& calls) {
     batch.add_flag("--jsonl", calls.batch.jsonLines, "Lines are JSON objects instead of CSV");
     batch.add_flag("!--no-header", calls.batch.header, "Leave out the line of output names");
     addAssignments(batch, "--gen", calls.batch.genValues, "Replace a gen_ name by a value");
-    onStandardsCall(batch, calls, [&calls] { return batchStandard(calls.batch); });
+    onLibraryCall(batch, calls, [&calls] { return batchStandard(calls.batch); });
 }
 
 void addSheetCommands(CLI::App& sheet, Calls& calls) {
@@ -142,6 +146,48 @@ void addSheetCommands(CLI::App& sheet, Calls& calls) {
         ->required()
         ->check(refusedWhenEmpty);
     onCall(convert, calls, [&calls] { return convertSheet(calls.convert); });
+}
+
+void addMappingCommands(CLI::App& mapping, Calls& calls) {
+    const auto addName = [](CLI::App& command, std::string& name) {
+        command.add_option("NAME", name, "A standard of the library")
+            ->required()
+            ->check(refusedWhenEmpty);
+    };
+    const auto addKey = [](CLI::App& command, std::string& key, const char* help) {
+        command.add_option("--key", key, help)->type_name("KEY")->check(refusedWhenEmpty);
+    };
+    const auto addMacro = [](CLI::App& command, std::string& file, const char* help) {
+        return command.add_option("--macro", file, help)
+            ->type_name("FILE")
+            ->check(refusedWhenEmpty);
+    };
+
+    auto& show = *mapping.add_subcommand("show", "Print the mappings of a standard");
+    addName(show, calls.showMapping.name);
+    addKey(show, calls.showMapping.key, "Only the mapping of this key");
+    addMacro(show, calls.showMapping.macroFile, "Mark objects that this macro does not have");
+    show.add_flag("--json", calls.showMapping.json, "Print one JSON array");
+    onLibraryCall(show, calls, [&calls] { return showMapping(calls.showMapping); });
+
+    auto& set = *mapping.add_subcommand("set", "Choose objects of a macro for variables");
+    addName(set, calls.setMapping.name);
+    set.add_option("VARIABLE=OBJECT", calls.setMapping.assignments,
+                   "An object as 'mapping objects' names it; nothing behind = takes it away")
+        ->required();
+    addMacro(set, calls.setMapping.macroFile, "The macro that has the objects")->required();
+    addKey(set, calls.setMapping.key,
+           "The mapping to change or make; without it a new key is drawn");
+    set.add_flag("--attach", calls.setMapping.attach,
+                 "Attach the standard, with this mapping, to the macro too");
+    onLibraryCall(set, calls, [&calls] { return setMapping(calls.setMapping); });
+
+    auto& objects = *mapping.add_subcommand(
+        "objects", "Name everything in a macro that variables can stand for");
+    objects.add_option("FILE", calls.objects.macroFile, "A macro file")
+        ->required()
+        ->check(refusedWhenEmpty);
+    onLibraryCall(objects, calls, [&calls] { return listObjects(calls.objects); });
 }
 
 /// The subcommand that the call got as far as.
@@ -200,6 +246,10 @@ ExitCode runCommandLine(int argc, const char* const* argv) {
     auto& sheet = *app.add_subcommand("sheet", "Show, calculate and convert spreadsheets");
     sheet.require_subcommand(1);
     addSheetCommands(sheet, calls);
+    auto& mapping =
+        *app.add_subcommand("mapping", "Tie the variables of a standard to objects of macros");
+    mapping.require_subcommand(1);
+    addMappingCommands(mapping, calls);
 
     try {
         app.parse(argc, argv);

@@ -36,11 +36,14 @@ Vor_String mappingFilePath(const Vor_String& standardsName) {
 
 std::shared_ptr<const Vor_StringArray> readMappingLines(const Vor_String& standardsName,
                                                         Vor_String* message) {
-    static CachedFiles<Vor_StringArray> files;
+    static CachedFiles<Vor_StringArray> known;
     const Vor_String file = mappingFilePath(standardsName);
-    Vor_String why = file + ": there is no such file";
-    auto lines = files.get(file, [&](std::string_view path) { return readLines(path, &why); });
-    if (!lines && message) *message = why;
+    Vor_String why;
+    auto lines = known.get(file, [&](std::string_view path) { return readLines(path, &why); });
+    if (lines || !message) return lines;
+    std::string error = "the mapping file has changed just now; try again";
+    if (why.isEmpty()) (void)files::readWhole(file, error);
+    *message = why.isEmpty() ? Vor_String(error) : why;
     return lines;
 }
 

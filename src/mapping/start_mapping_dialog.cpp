@@ -3,6 +3,7 @@
 #include "core_api/macros/macro_data.h"
 #include "mapping/dialog/mapping_dialog.h"
 #include "platform/host/host.h"
+#include "platform/host/transaction.h"
 
 bool startMappingDialog(TabMappingData& data, const TwSSMapping& all, bool& changed) {
     TwMappingDlg dialog(Host::current().mainWindow(), data, all);
@@ -12,9 +13,10 @@ bool startMappingDialog(TabMappingData& data, const TwSSMapping& all, bool& chan
     return true;
 }
 
-bool startMappingDialog(Vor_DbMacro& macro, AcTransaction* transaction, bool& changed) {
+bool startMappingDialog(Vor_DbMacro& macro, bool& changed) {
     TwSSMapping all;
-    if (all.initAllVarsFromMacro(&macro, transaction) != Acad::eOk) return false;
+    AcTransaction transaction;  // for reading sections
+    if (all.initAllVarsFromMacro(&macro, &transaction) != Acad::eOk) return false;
     TabMappingData data = makeMacroData(macro).mappingData();
     if (!startMappingDialog(data, all, changed)) return false;
     macro.macroWrite()->setStandards(data);

@@ -3,7 +3,6 @@
 
 #include "platform/export.h"
 
-class AcTransaction;
 class TabMappingData;
 class TwSSMapping;
 class Vor_DbMacro;
@@ -14,4 +13,4 @@ class Vor_DbMacro;
 VORMANT_API bool startMappingDialog(TabMappingData& data, const TwSSMapping& all, bool& changed);
 
 /// The same for a macro with its groups and objects. False also without a macro.
-VORMANT_API bool startMappingDialog(Vor_DbMacro& macro, AcTransaction* transaction, bool& changed);
+VORMANT_API bool startMappingDialog(Vor_DbMacro& macro, bool& changed);

@@ -407,12 +407,12 @@ TEST(MappingDialogLibrary, TheMacrosOfTheLibraryAreMappedWhole) {
             })
             .presses(IDOK);
         bool changed = true;
-        EXPECT_TRUE(startMappingDialog(macro, nullptr, changed)) << name;
+        EXPECT_TRUE(startMappingDialog(macro, changed)) << name;
         EXPECT_FALSE(changed) << name;
     }
     Vor_DbMacro none;
     bool changed = false;
-    EXPECT_FALSE(startMappingDialog(none, nullptr, changed));
+    EXPECT_FALSE(startMappingDialog(none, changed));
     gSettings = before;
     ::unsetenv("XDG_CONFIG_HOME");
 }

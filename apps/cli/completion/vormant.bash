@@ -25,8 +25,8 @@ _vormant() {
     for ((i = 1; i < COMP_CWORD; i++)); do
         case ${COMP_WORDS[i]} in
             --library) ((i++)) ;;
-            standards | sheet) command=${COMP_WORDS[i]} ;;
-            list | check | test | run | batch | show | eval | convert)
+            standards | sheet | mapping) command=${COMP_WORDS[i]} ;;
+            list | check | test | run | batch | show | eval | convert | set | objects)
                 [[ $command == *" "* ]] || command+=" ${COMP_WORDS[i]}" ;;
         esac
     done
@@ -38,21 +38,25 @@ _vormant() {
         --set | --gen | --key | --cell) return ;;
     esac
     case $command in
-        "") options+=" --version standards sheet" ;;
+        "") options+=" --version standards sheet mapping" ;;
         standards) options+=" list check test run batch" ;;
         sheet) options+=" show eval convert" ;;
+        mapping) options+=" show set objects" ;;
         "standards test") options+=" --all" ;;
         "standards run") options+=" --set --gen --macro --key --write --trace --json" ;;
         "standards batch") options+=" --gen --jsonl --no-header" ;;
         "sheet show") options+=" --formulas" ;;
         "sheet eval") options+=" --cell --jsonl --input" ;;
+        "mapping show") options+=" --key --macro --json" ;;
+        "mapping set") options+=" --key --macro --attach" ;;
     esac
     if [[ $word == -* || $command != *" "* ]]; then
         mapfile -t COMPREPLY < <(compgen -W "$options" -- "$word")
         return
     fi
     case $command in
-        "standards check" | "standards test" | "standards run" | "standards batch")
+        "standards check" | "standards test" | "standards run" | "standards batch" | \
+            "mapping show" | "mapping set")
             _vormant_from_lines "$word" < <(_vormant_standards) ;;
     esac
     if [[ $command != "standards test" && $command != "sheet eval" ]]; then

@@ -6,9 +6,9 @@
 #include "io/output.h"
 #include "io/texts.h"
 #include "io/typed_paths.h"
+#include "mapping/mapped_standard.h"
 #include "mapping/mapping_file.h"
 #include "mapping/start_dlg_standards_ss.h"
-#include "platform/files.h"
 #include "platform/host/transaction.h"
 #include "runs/named_request.h"
 #include "standards/library.h"
@@ -45,20 +45,6 @@ bool writeMacro(const Vor_String& path, const runs::RunReport& report, Vor_DbMac
     return false;
 }
 
-/// What there is instead of a key that is missing.
-std::string keysOf(const Vor_StringArray& lines) {
-    constexpr int mostShown = 20;
-    std::string keys;
-    int count = 0;
-    for (const auto& line : lines) {
-        const Vor_String key = mappingLineKey(line);
-        if (!key.isEmpty() && ++count <= mostShown) keys += "\n  " + key.str();
-    }
-    if (count == 0) return "there is none; check that it is a mapping file";
-    if (count > mostShown) keys += "\nand " + std::to_string(count - mostShown) + " more";
-    return "there are:" + keys;
-}
-
 /// False, with the reason, when nothing of the macro would reach the standard under this key.
 bool hasMapping(const StandardName& standard, const TwDlgStandardsData& data, Vor_String& failure) {
     if (!data.moduleName.isEmpty()) {
@@ -69,16 +55,10 @@ bool hasMapping(const StandardName& standard, const TwDlgStandardsData& data, Vo
         failure = "--key " + data.mappingKey + ": the macro has no such group or module";
         return false;
     }
-    const Vor_String file = mappingFilePath(standard.mappingName());
-    const auto lines = readMappingLines(standard.mappingName());
-    if (!lines) {
-        std::string error = "the mapping file has changed just now; try again";
-        files::readWhole(file, error);
-        failure = error;
-        return false;
-    }
+    const auto lines = readMappingLines(standard.mappingName(), &failure);
+    if (!lines) return false;
     if (findMappingLine(*lines, data.mappingKey) >= 0) return true;
-    failure = file + ": there is no key \"" + data.mappingKey + "\"; " + keysOf(*lines);
+    failure = noSuchKey(standard.mappingName(), data.mappingKey, *lines);
     return false;
 }
 

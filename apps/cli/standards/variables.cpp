@@ -6,8 +6,6 @@
 
 namespace cli {
 
-namespace {
-
 const char* typeName(TwValueType type) {
     switch (type) {
         case TwValueType::Int:
@@ -18,6 +16,8 @@ const char* typeName(TwValueType type) {
             return "String";
     }
 }
+
+namespace {
 
 /// Both parts in Windows-1252; nothing after telling what is wrong.
 std::optional<Assignment> readAssignment(const std::string& option, const std::string& text) {

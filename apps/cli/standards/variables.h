@@ -10,6 +10,9 @@
 
 namespace cli {
 
+/// The word of a declaration: "Int", "Double", "String".
+const char* typeName(TwValueType type);
+
 /// "Column (String), Thickness (Double)", or "nothing".
 std::string describe(const TwVarCells& variables, TwCellType kind);
 

@@ -42,21 +42,27 @@ bool MappingSaver::isKnown(const Vor_String& path) const {
 
 ErrorStatus MappingSaver::save(const Vor_String& standardsName, const TwSSMapping& mapping,
                                Vor_String& key, Vor_String& message) {
-    const Vor_String path = mappingFilePath(standardsName);
     const auto fresh = drawKey(standardsName);
     if (!fresh) {
-        message = path + ": no new key could be drawn; try again";
+        message = mappingFilePath(standardsName) + ": no new key could be drawn; try again";
         return Acad::eInvalidInput;
     }
+    const ErrorStatus status = saveUnder(standardsName, mapping, *fresh, message);
+    if (status == Acad::eOk) key = *fresh;
+    return status;
+}
+
+ErrorStatus MappingSaver::saveUnder(const Vor_String& standardsName, const TwSSMapping& mapping,
+                                    const Vor_String& key, Vor_String& message) {
+    const Vor_String path = mappingFilePath(standardsName);
     Before before{path, std::nullopt};
     std::string error;
     if (files::exists(path) && !(before.content = files::readWhole(path, error))) {
         message = error;
         return Acad::eInvalidInput;
     }
-    if (mapping.setMappingToFile(standardsName, *fresh, &message) != Acad::eOk)
+    if (mapping.setMappingToFile(standardsName, key, &message) != Acad::eOk)
         return Acad::eInvalidInput;
     if (!isKnown(path)) m_before.push_back(std::move(before));
-    key = *fresh;
     return Acad::eOk;
 }

@@ -20,6 +20,9 @@ class VORMANT_API MappingSaver {
     /// theirs, and gives that key. eInvalidInput, with `message` saying why, when it cannot.
     ErrorStatus save(const Vor_String& standardsName, const TwSSMapping& mapping, Vor_String& key,
                      Vor_String& message);
+    /// The same under a key of the caller's, whose line is replaced.
+    ErrorStatus saveUnder(const Vor_String& standardsName, const TwSSMapping& mapping,
+                          const Vor_String& key, Vor_String& message);
     void keep() { m_before.clear(); }
 
   private:

@@ -1,0 +1,154 @@
+#include <set>
+
+#include "core_api/macros/macro_file.h"
+#include "core_api/macros/macro_limits.h"
+#include "core_api/text/text_helpers.h"
+#include "io/output.h"
+#include "io/suggestion.h"
+#include "io/texts.h"
+#include "mapping/dialog/mapping_saver.h"
+#include "mapping/dialog/object_list.h"
+#include "mapping/mapped_standard.h"
+#include "mapping/mapping_commands.h"
+#include "standards/variables.h"
+
+namespace cli {
+
+namespace {
+
+constexpr const char* groupPrefix = "Module.";
+
+/// The key in Windows-1252; nothing, after telling why, when a mapping file cannot hold it.
+std::optional<Vor_String> takeKey(const std::string& typed) {
+    std::string key, error;
+    if (!fromUtf8(typed, key, error)) {
+        complain("--key " + typed + ": " + error);
+        return std::nullopt;
+    }
+    if (key.find('=') != key.npos || !isMacroText(key))
+        error = "a key has at most 255 characters, none of them = or a control character";
+    else if (Vor_String(key).beginsWith(groupPrefix))
+        error = "this names a module group, which needs no mapping; choose another key";
+    if (error.empty()) return Vor_String(key);
+    complain("--key " + typed + ": " + error);
+    return std::nullopt;
+}
+
+std::vector<std::string> utf8Of(const Vor_StringArray& texts) {
+    std::vector<std::string> words;
+    for (const Vor_String& text : texts) appendUtf8(words.emplace_back(), text);
+    return words;
+}
+
+class Assigning {
+  public:
+    Assigning(SheetChoices& choices, const TwSSMapping& objects)
+        : m_choices(choices),
+          m_numbers(objects, TwValueType::Double),
+          m_texts(objects, TwValueType::String) {}
+
+    /// Takes "Variable=Object" over. Why not, or nothing.
+    std::string take(const std::string& typed) {
+        const auto parts = splitAssignment(typed);
+        std::string name, label, error;
+        if (!parts) return "write it as Variable=Object";
+        if (!fromUtf8(parts->name, name, error) || !fromUtf8(parts->value, label, error))
+            return error;
+        const VariableChoice* variable = m_choices.find(name);
+        if (!variable) return noSuchVariable(parts->name);
+        const auto index = static_cast<size_t>(variable - m_choices.variables().data());
+        if (!m_taken.insert(index).second) return "this variable is given twice";
+        if (!variable->canBeMapped())
+            return "a mapping file cannot hold this name; rename the variable";
+        return label.empty() ? choose(index, nullptr) : chooseByLabel(index, label, parts->value);
+    }
+
+  private:
+    std::string choose(size_t index, const TwObjectMap* object) {
+        m_choices.choose(index, object);
+        return {};
+    }
+    std::string chooseByLabel(size_t index, const Vor_String& label, const std::string& typed) {
+        const TwValueType type = m_choices.variables()[index].type;
+        const ObjectList& objects = isNumeric(type) ? m_numbers : m_texts;
+        const std::string word = typeName(type);
+        const TwObjectMap* object = objects.find(label);
+        if (!object)
+            return "the macro has no such object for a variable of type " + word +
+                   didYouMean(nearest(typed, utf8Of(objects.labels())));
+        const std::string own = typeName(*mapTypeValueType(object->kind()));
+        if (own != word)
+            return "the object is of type " + own + ", which no run finds for a variable of type " +
+                   word;
+        return choose(index, object);
+    }
+    std::string noSuchVariable(const std::string& typed) const {
+        Vor_StringArray names;
+        for (const VariableChoice& variable : m_choices.variables()) names.append(variable.name);
+        const std::string hint = didYouMean(nearest(typed, utf8Of(names)));
+        std::string all;
+        appendUtf8(all, arrToStr(names, ", "));
+        return "the standard has no such input or output" +
+               (hint.empty() ? "; it has " + all : hint);
+    }
+
+    SheetChoices& m_choices;
+    const ObjectList m_numbers;
+    const ObjectList m_texts;
+    std::set<size_t> m_taken;
+};
+
+bool attach(MappedMacro& mapped, const Vor_String& standard, const Vor_String& key,
+            Vor_String& failure) {
+    Vor_Macro& macro = *mapped.macro.macroWrite();
+    TabMappingData rows = macro.standards();
+    for (int i = 0; i < rows.length(); ++i)
+        if (rows.standardsNames()[i].equal(standard) && rows.mappingKeys()[i].equal(key, true))
+            return true;
+    if (rows.insertRow(rows.length(), standard, key) != Acad::eOk) {
+        failure = mapped.path + ": the macro can take no more standards; remove some first";
+        return false;
+    }
+    macro.setStandards(rows);
+    return saveMacro(mapped.path, mapped.macro, failure) == Acad::eOk;
+}
+
+}  // namespace
+
+ExitCode setMapping(const SetMappingRequest& request) {
+    auto key = takeKey(request.key);
+    if (!key) return ExitCode::wrongCall;
+    const auto standard = openMappedStandard(request.name);
+    if (!standard) return ExitCode::failed;
+    auto macro = openMappedMacro(request.macroFile);
+    if (!macro) return ExitCode::failed;
+
+    TwSSMapping stored;
+    if (!key->isEmpty()) (void)stored.getMappingFromFile(standard->name, *key);
+    SheetChoices choices(standard->declared, stored, macro->objects);
+    Assigning assigning(choices, macro->objects);
+    for (const std::string& assignment : request.assignments) {
+        const std::string refusal = assigning.take(assignment);
+        if (refusal.empty()) continue;
+        complain(assignment + ": " + refusal);
+        return ExitCode::wrongCall;
+    }
+
+    MappingSaver saver;
+    Vor_String failure;
+    const TwSSMapping mapping = choices.mapping();
+    const ErrorStatus status = key->isEmpty()
+                                   ? saver.save(standard->name, mapping, *key, failure)
+                                   : saver.saveUnder(standard->name, mapping, *key, failure);
+    if (status != Acad::eOk || (request.attach && !attach(*macro, standard->name, *key, failure))) {
+        complainText(failure);
+        return ExitCode::failed;
+    }
+    saver.keep();
+    Output output;
+    appendMapping(output.text(), *key, choices);
+    output.written();
+    return output.close() ? ExitCode::done : ExitCode::failed;
+}
+
+}  // namespace cli
