@@ -10,7 +10,6 @@
 #include "mapping/mapping_file.h"
 #include "mapping/start_mapping_dialog.h"
 #include "platform/files.h"
-#include "support/dialog_texts.h"
 #include "support/printed.h"
 #include "support/standard_file.h"
 #include "support/test_user.h"
@@ -415,11 +414,6 @@ TEST(MappingDialogLibrary, TheMacrosOfTheLibraryAreMappedWhole) {
     EXPECT_FALSE(startMappingDialog(none, changed));
     gSettings = before;
     ::unsetenv("XDG_CONFIG_HOME");
-}
-
-TEST(MappingDialogTexts, FitInEveryLanguage) {
-    const Dlg dialog(nullptr, TabMappingData(), TwSSMapping());
-    expectTextsFit(dialog.madeFrom());
 }
 
 TEST(ObjectList, NamesEveryObjectOnceByGroupNameAndKind) {

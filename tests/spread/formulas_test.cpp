@@ -6,7 +6,6 @@
 #include "spread/formulas/calculating_sheet.h"
 #include "spread/formulas/formulas_dialog.h"
 #include "spread/formulas/formulas_starters.h"
-#include "support/dialog_texts.h"
 #include "support/printed.h"
 #include "support/temporary_folder.h"
 #include "support/test_user.h"
@@ -258,11 +257,6 @@ TEST_F(FormulasTest, WithAUserTheDialogStaysOpenAfterALookUp) {
     const CalculatingSheet calculating(sheet);
     ASSERT_TRUE(sheet.setFormula(1, 1, formula("FROMTABLE(FILE,C1)")));
     EXPECT_EQ(shown(sheet, 1, 1), "4");
-}
-
-TEST(FormulasDialog, ItsWordsFitInEveryLanguage) {
-    const Dlg dialog(nullptr);
-    expectTextsFit(dialog.madeFrom());
 }
 
 }  // namespace
