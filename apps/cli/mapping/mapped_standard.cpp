@@ -44,20 +44,6 @@ std::optional<MappedMacro> openMappedMacro(const std::string& typed) {
     return mapped;
 }
 
-Vor_String noSuchKey(const Vor_String& standardsName, const Vor_String& key,
-                     const Vor_StringArray& lines) {
-    constexpr int mostShown = 20;
-    std::string keys;
-    int count = 0;
-    for (const auto& line : lines) {
-        const Vor_String each = mappingLineKey(line);
-        if (!each.isEmpty() && ++count <= mostShown) keys += "\n  " + each.str();
-    }
-    if (count > mostShown) keys += "\nand " + std::to_string(count - mostShown) + " more";
-    return mappingFilePath(standardsName) + ": there is no key \"" + key + "\"; " +
-           (count == 0 ? "there is none; check that it is a mapping file" : "there are:" + keys);
-}
-
 void appendMapping(std::string& text, const Vor_String& key, const SheetChoices& choices) {
     size_t width = 0;
     for (const VariableChoice& variable : choices.variables())

@@ -28,10 +28,6 @@ struct MappedMacro {
 /// Nothing, after telling why.
 std::optional<MappedMacro> openMappedMacro(const std::string& typed);
 
-/// Why there is no line for `key`, with the keys that there are.
-Vor_String noSuchKey(const Vor_String& standardsName, const Vor_String& key,
-                     const Vor_StringArray& lines);
-
 /// One mapping as people read it: its key, then a variable a line.
 void appendMapping(std::string& text, const Vor_String& key, const SheetChoices& choices);
 

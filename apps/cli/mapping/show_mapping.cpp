@@ -6,6 +6,7 @@
 #include "mapping/mapped_standard.h"
 #include "mapping/mapping_commands.h"
 #include "mapping/mapping_file.h"
+#include "runs/macro_run.h"
 #include "standards/variables.h"
 
 namespace cli {
@@ -101,7 +102,7 @@ ExitCode showMapping(const ShowMappingRequest& request) {
             mappings.push_back(std::move(*mapping));
     }
     if (!key.empty() && mappings.empty()) {
-        complainText(noSuchKey(standard->name, key, *lines));
+        complainText(runs::noSuchKey(standard->name, key, *lines));
         return ExitCode::failed;
     }
     Output output;

@@ -1,15 +1,9 @@
 #include "console.h"
-#include "core_api/macros/macro_access.h"
-#include "core_api/macros/macro_data.h"
-#include "core_api/macros/macro_file.h"
 #include "core_api/settings.h"
 #include "io/output.h"
 #include "io/texts.h"
 #include "io/typed_paths.h"
-#include "mapping/mapped_standard.h"
-#include "mapping/mapping_file.h"
-#include "mapping/start_dlg_standards_ss.h"
-#include "platform/host/transaction.h"
+#include "runs/macro_run.h"
 #include "runs/named_request.h"
 #include "standards/library.h"
 #include "standards/run_report_output.h"
@@ -33,35 +27,6 @@ ExitCode runOnValues(const RunRequest& request, const StandardName& standard,
     return ExitCode::done;
 }
 
-/// The macro's file changes only when all went well.
-bool writeMacro(const Vor_String& path, const runs::RunReport& report, Vor_DbMacro& macro,
-                const MacroData& macroData, Vor_String& failure) {
-    if (!report.allWell())
-        failure = path + ": left as it was, since the run did not go well";
-    else if (macroData.setAllToMacro(&macro) != Acad::eOk)
-        failure = path + ": left as it was, since the macro refuses a value";
-    else
-        return saveMacro(path, macro, failure) == Acad::eOk;
-    return false;
-}
-
-/// False, with the reason, when nothing of the macro would reach the standard under this key.
-bool hasMapping(const StandardName& standard, const TwDlgStandardsData& data, Vor_String& failure) {
-    if (!data.moduleName.isEmpty()) {
-        Vor_StringArray modules;
-        if (getModNamesOfGroup(data.macro->macroRead(), data.moduleName, modules) == Acad::eOk &&
-            !modules.isEmpty())
-            return true;
-        failure = "--key " + data.mappingKey + ": the macro has no such group or module";
-        return false;
-    }
-    const auto lines = readMappingLines(standard.mappingName(), &failure);
-    if (!lines) return false;
-    if (findMappingLine(*lines, data.mappingKey) >= 0) return true;
-    failure = noSuchKey(standard.mappingName(), data.mappingKey, *lines);
-    return false;
-}
-
 ExitCode runOnMacro(const RunRequest& request, const StandardName& standard,
                     runs::RunReport& report) {
     const auto path = insidePath(request.macroFile);
@@ -72,22 +37,11 @@ ExitCode runOnMacro(const RunRequest& request, const StandardName& standard,
         complain("--key " + request.mappingKey + ": " + error);
         return ExitCode::wrongCall;
     }
-    Vor_DbMacro macro;
-    if (loadMacro(*path, macro, report.failure) != Acad::eOk) return ExitCode::failed;
-
-    MacroData macroData = makeMacroData(macro);
-    AcTransaction transaction;
-    transaction.remember(macro);
-    data.initialize(&macro, standard.mappingName(), key, &macroData);
-    data.transaction = &transaction;
-    if (!hasMapping(standard, data, report.failure)) return ExitCode::failed;
-    {
-        runs::RunRecorder recorder(report);
-        StartDlgStandardsSS(data);
-    }
-    if (request.write && !writeMacro(*path, report, macro, macroData, report.failure))
+    const auto run = runs::MacroRun::open(*path, report.failure);
+    if (!run) return ExitCode::failed;
+    if (!run->run(standard.mappingName(), key, data.genNames, data.genValues, report))
         return ExitCode::failed;
-    transaction.commit();
+    if (request.write && !run->save(report, report.failure)) return ExitCode::failed;
     return ExitCode::done;
 }
 

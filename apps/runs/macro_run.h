@@ -1,0 +1,52 @@
+// A standard run on a macro out of a file: its inputs come from the macro, its outputs go back
+// into it. The file itself changes only when it is asked to and all went well.
+#pragma once
+
+#include <memory>
+
+#include "core_api/macros/macro_data.h"
+#include "core_api/macros/vor_db_macro.h"
+#include "mapping/tw_dlg_standards_data.h"
+#include "platform/host/transaction.h"
+#include "runs/run_report.h"
+
+namespace runs {
+
+class MacroRun {
+  public:
+    /// Null, with the reason in `failure`, when the file cannot be read. Host-style path.
+    static std::unique_ptr<MacroRun> open(const Vor_String& path, Vor_String& failure);
+
+    const Vor_String& path() const { return m_path; }
+    Vor_DbMacro& macro() { return m_macro; }
+    MacroData& macroData() { return m_macroData; }
+    AcTransaction& transaction() { return m_transaction; }
+
+    /// `standard` is a name inside the library without extension, or a path. `key` is a key of its
+    /// mapping file, or "Module." and a module group. False, with the reason in `report.failure`,
+    /// when nothing of the macro would reach the standard; else the report says how it went.
+    bool run(const Vor_String& standard, const Vor_String& key, const Vor_StringArray& genNames,
+             const Vor_StringArray& genValues, RunReport& report);
+
+    /// Writes the macro, with what the last run put into it. False with the reason, and the file
+    /// as it was.
+    bool save(const RunReport& report, Vor_String& failure);
+
+  private:
+    MacroRun() = default;
+
+    Vor_String m_path;
+    Vor_DbMacro m_macro;
+    MacroData m_macroData;
+    AcTransaction m_transaction;
+};
+
+/// Why there is no line for `key` among the lines of the mapping file, with the keys that there
+/// are.
+Vor_String noSuchKey(const Vor_String& standard, const Vor_String& key,
+                     const Vor_StringArray& lines);
+
+/// The keys of a standard's mapping file, in its order; none when it cannot be read.
+Vor_StringArray mappingKeys(const Vor_String& standard);
+
+}  // namespace runs
