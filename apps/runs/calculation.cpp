@@ -1,6 +1,7 @@
 #include "runs/calculation.h"
 
 #include <algorithm>
+#include <cmath>
 #include <map>
 
 #include "core_api/text/text_helpers.h"
@@ -32,9 +33,22 @@ class Values {
     std::map<std::string, std::string> m_values;
 };
 
+std::string rounded(const std::string& value) {
+    if (!isNumber(value)) return value;
+    constexpr int figures = 6;
+    const double number = textToDouble(value);
+    const double magnitude = std::fabs(number);
+    const int whole = magnitude < 1 ? 1 : static_cast<int>(std::log10(magnitude)) + 1;
+    // Below 1 the zeros behind the point are no figures.
+    const int leading =
+        magnitude > 0 && magnitude < 1 ? static_cast<int>(std::floor(-std::log10(magnitude))) : 0;
+    const int decimals = std::clamp(figures - whole + leading + (magnitude < 1 ? 1 : 0), 0, 12);
+    return Vor_String(number, decimals).str();
+}
+
 std::string written(const std::string& value) {
     if (value.empty()) return "0";
-    if (isNumber(value)) return value.front() == '-' ? "(" + value + ")" : value;
+    if (isNumber(value)) return value.front() == '-' ? "(" + rounded(value) + ")" : rounded(value);
     return isErrorText(value) ? value : "\"" + value + "\"";
 }
 
@@ -96,6 +110,11 @@ CalculationLine lineOf(const ReportedEquation& equation, const DeclaredStandard&
 }
 
 }  // namespace
+
+std::string shownValue(const std::string& value, const std::string& unit) {
+    const std::string shown = rounded(value);
+    return unit.empty() || value.empty() ? shown : shown + " " + unit;
+}
 
 Calculation makeCalculation(const RunReport& report) {
     Calculation calculation;

@@ -36,6 +36,9 @@ struct Calculation {
     std::vector<std::vector<std::string>> messages;
 };
 
+/// A value as people read it: numbers with six figures, never an exponent; the unit behind.
+std::string shownValue(const std::string& value, const std::string& unit);
+
 Calculation makeCalculation(const RunReport& report);
 
 }  // namespace runs

@@ -65,7 +65,7 @@ constexpr const char* tableAttributes =
 
 /// "IPE-300" or "12.5 mm".
 std::string withUnit(const std::string& value, const std::string& unit) {
-    return escaped(value) + (unit.empty() ? "" : "&nbsp;" + escaped(unit));
+    return escaped(shownValue(value, "")) + (unit.empty() ? "" : "&nbsp;" + escaped(unit));
 }
 
 std::string variables(const Calculation& calculation,
@@ -148,7 +148,7 @@ std::string messages(const Calculation& calculation) {
 }  // namespace
 
 std::string htmlReport(const Calculation& calculation, const ReportHeading& heading) {
-    const std::string name = getFileName(calculation.standard.path).str();
+    const std::string name = removeExtension(getFileName(calculation.standard.path)).str();
     std::string body = element("h1", escaped(name)) + "\n";
     for (const std::string& line : calculation.standard.title)
         body += element("p", escaped(line)) + "\n";

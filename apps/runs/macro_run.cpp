@@ -68,6 +68,10 @@ bool MacroRun::save(const RunReport& report, Vor_String& failure) {
     return false;
 }
 
+bool MacroRun::saveAsIs(Vor_String& failure) {
+    return saveMacro(m_path, m_macro, failure) == Acad::eOk;
+}
+
 Vor_String noSuchKey(const Vor_String& standard, const Vor_String& key,
                      const Vor_StringArray& lines) {
     constexpr int mostShown = 20;

@@ -31,6 +31,8 @@ class MacroRun {
     /// Writes the macro, with what the last run put into it. False with the reason, and the file
     /// as it was.
     bool save(const RunReport& report, Vor_String& failure);
+    /// Without a run: the macro as it is now, with the standards attached to it, say.
+    bool saveAsIs(Vor_String& failure);
 
   private:
     MacroRun() = default;

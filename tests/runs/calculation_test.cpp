@@ -93,6 +93,15 @@ TEST_F(Calculations, ShowSymbolsNumbersAndResultsOfTheirMoment) {
     EXPECT_THAT(calculation.lines[4].message, HasSubstr("Nonsense"));
 }
 
+TEST(ShownValues, HaveSixFiguresAndNoExponent) {
+    const std::pair<const char*, const char*> cases[] = {
+        {"105.9861137", "105.986"}, {"0.6048367", "0.604837"}, {"0.0012345678", "0.00123457"},
+        {"123456789", "123456789"}, {"-2.5", "-2.5"},          {"0", "0"},
+        {"IPE-300", "IPE-300"},     {"#N/A", "#N/A"},          {"", ""}};
+    for (const auto& [value, shown] : cases) EXPECT_EQ(runs::shownValue(value, ""), shown);
+    EXPECT_EQ(runs::shownValue("5", "mm"), "5 mm");
+}
+
 TEST_F(Calculations, NegativeValuesGoInParentheses) {
     EXPECT_EQ(run("-3").lines[0].numbers, "IF(\"IPE-300\"=\"IPE-300\",(-3)*2,-(-3))");
 }

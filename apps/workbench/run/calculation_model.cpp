@@ -91,7 +91,7 @@ QString textOf(const CalculationLine& line, int column) {
             return toQt(line.numbers == line.symbols ? std::string() : line.numbers);
         case CalculationModel::resultColumn:
             if (!line.ok) return toQt(dialString(wordFailed));
-            return toQt(line.unit.empty() ? line.result : line.result + " " + line.unit);
+            return toQt(runs::shownValue(line.result, line.unit));
         default:
             return toQt(line.ok || line.message.empty() ? line.rule : line.message);
     }
@@ -107,7 +107,9 @@ QVariant CalculationModel::data(const QModelIndex& index, int role) const {
         case Qt::DisplayRole:
             return textOf(*shown, index.column());
         case Qt::ToolTipRole:
-            return shown->ok ? textOf(*shown, index.column()) : toQt(shown->message);
+            if (!shown->ok) return toQt(shown->message);
+            return index.column() == resultColumn ? toQt(shown->result)
+                                                  : textOf(*shown, index.column());
         case Qt::ForegroundRole:
             return isBad ? QVariant(QColor(0xA0, 0, 0)) : QVariant();
         case Qt::BackgroundRole:
@@ -124,6 +126,6 @@ QVariant CalculationModel::data(const QModelIndex& index, int role) const {
 
 QVariant CalculationModel::headerData(int section, Qt::Orientation orientation, int role) const {
     if (orientation != Qt::Horizontal || role != Qt::DisplayRole) return {};
-    constexpr int words[columns] = {wordCell, wordEquation, wordWithNumbers, wordValue, wordRule};
+    constexpr int words[columns] = {wordCell, wordEquation, wordValue, wordWithNumbers, wordRule};
     return section >= 0 && section < columns ? toQt(dialString(words[section])) : QString();
 }

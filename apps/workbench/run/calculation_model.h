@@ -7,7 +7,7 @@
 
 class CalculationModel : public QAbstractItemModel {
   public:
-    enum Column { cellColumn, equationColumn, numbersColumn, resultColumn, ruleColumn, columns };
+    enum Column { cellColumn, equationColumn, resultColumn, numbersColumn, ruleColumn, columns };
 
     using QAbstractItemModel::QAbstractItemModel;
 

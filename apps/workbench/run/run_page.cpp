@@ -33,10 +33,6 @@ QLabel* quietLabel(const std::string& text) {
 
 enum ResultColumn { nameColumn, valueColumn, meaningColumn, resultColumns };
 
-QString shownValue(const std::string& value, const std::string& unit) {
-    return toQt(unit.empty() || value.empty() ? value : value + " " + unit);
-}
-
 }  // namespace
 
 RunPage::RunPage(std::unique_ptr<RunSession> session, QWidget* parent)
@@ -62,11 +58,9 @@ RunPage::RunPage(std::unique_ptr<RunSession> session, QWidget* parent)
     layout->addWidget(m_message);
     layout->addWidget(both, 1);
     update();
-    m_trace->header()->resizeSections(QHeaderView::ResizeToContents);
-    for (int column = 0; column < CalculationModel::columns; ++column) {
-        constexpr int widest = 340;
-        if (m_trace->columnWidth(column) > widest) m_trace->setColumnWidth(column, widest);
-    }
+    constexpr int widths[CalculationModel::columns] = {70, 230, 110, 230, 160};
+    for (int column = 0; column < CalculationModel::columns; ++column)
+        m_trace->setColumnWidth(column, widths[column]);
 }
 
 QWidget* RunPage::makeHeading() {
@@ -74,7 +68,7 @@ QWidget* RunPage::makeHeading() {
     auto* layout = new QHBoxLayout(heading);
     layout->setContentsMargins(0, 0, 0, 0);
     auto* texts = new QVBoxLayout;
-    auto* name = new QLabel(toQt(getFileName(m_session->standard().path)));
+    auto* name = new QLabel(toQt(removeExtension(getFileName(m_session->standard().path))));
     QFont font = dialogFont();
     font.setPixelSize(18);
     font.setBold(true);
@@ -208,7 +202,8 @@ void RunPage::update() {
         for (const auto& variable : calculation.outputs)
             if (variable.name == output.name) value = variable.value;
         QTableWidgetItem* item = m_results->item(row, valueColumn);
-        item->setText(shownValue(value, output.unit));
+        item->setText(toQt(runs::shownValue(value, output.unit)));
+        item->setToolTip(toQt(value));
         const bool isError = value.starts_with('#');
         item->setForeground(isError ? QBrush(QColor(0xA0, 0, 0)) : QBrush());
     }
@@ -252,7 +247,7 @@ void RunPage::pickSection(const runs::DeclaredVariable& input) {
 }
 
 void RunPage::askForExport() {
-    const QString name = toQt(getFileName(m_session->standard().path));
+    const QString name = toQt(removeExtension(getFileName(m_session->standard().path)));
     const QString path = QFileDialog::getSaveFileName(this, word(wordExportReport), name + ".pdf",
                                                       "PDF (*.pdf);;HTML (*.html)");
     if (!path.isEmpty()) exportReport(path, m_author);

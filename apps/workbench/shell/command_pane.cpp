@@ -26,5 +26,5 @@ void WorkbenchHost::postCommand(std::string_view command) {
 }
 
 void WorkbenchHost::focusMainWindow() {
-    m_window.setFocus();
+    m_widget.setFocus();
 }

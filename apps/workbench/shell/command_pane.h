@@ -13,16 +13,20 @@ class CommandPane : public QPlainTextEdit {
     void print(std::string_view text);
 };
 
-/// Prints on the pane; the window is what the module's dialogs take as their parent.
+/// Prints on the pane. `window` is what the module's dialogs take as their parent, `widget` the
+/// widget that stands for it; all borrowed.
 class WorkbenchHost : public Host {
   public:
-    explicit WorkbenchHost(CommandPane& pane, QWidget& window) : m_pane(pane), m_window(window) {}
+    WorkbenchHost(CommandPane& pane, CWnd& window, QWidget& widget)
+        : m_pane(pane), m_window(window), m_widget(widget) {}
 
     void print(std::string_view text) override { m_pane.print(text); }
     void postCommand(std::string_view command) override;
     void focusMainWindow() override;
+    CWnd* mainWindow() override { return &m_window; }
 
   private:
     CommandPane& m_pane;
-    QWidget& m_window;
+    CWnd& m_window;
+    QWidget& m_widget;
 };

@@ -13,7 +13,10 @@
 
 #include "core_api/text/text_helpers.h"
 #include "core_api/texts/texts.h"
+#include "macro/macro_page.h"
 #include "platform/paths.h"
+#include "platform/window/message_box.h"
+#include "run/example_values.h"
 #include "run/run_page.h"
 #include "shell/help_window.h"
 #include "shell/settings_dialog.h"
@@ -36,8 +39,10 @@ MainWindow::MainWindow(WorkbenchSettings settings)
       m_pages(new QTabWidget),
       m_tree(new LibraryTree),
       m_pane(new CommandPane),
-      m_host(*m_pane, *this) {
+      m_host(*m_pane, m_hostWindow, *this) {
     Host::install(&m_host);
+    m_hostWindow.create({"Host", "Vormant", {0, 0, 1200, 800}, 0, 0, true}, nullptr);
+    m_windows.represent(m_hostWindow, *this);
     m_settings.apply();
     setWindowTitle("Vormant");
     resize(1200, 800);
@@ -229,14 +234,54 @@ void MainWindow::showStartPage() {
 
 void MainWindow::closePage(int index) {
     QWidget* page = m_pages->widget(index);
-    if (!page) return;
+    if (!page || !mayClose(page)) return;
     m_pages->removeTab(index);
     page->deleteLater();
 }
 
+/// Asks about changes that were not saved; false keeps the page.
+bool MainWindow::mayClose(QWidget* page) {
+    auto* macro = dynamic_cast<MacroPage*>(page);
+    if (!macro || !macro->isChanged()) return true;
+    m_pages->setCurrentWidget(page);
+    const MessageBox question{"Vormant", dialString(wordSaveChanges).str(), MessageIcon::question,
+                              MessageButtons::yesNoCancel};
+    const int answer = showMessage(question);
+    return answer == IDNO || (answer == IDYES && macro->save());
+}
+
+void MainWindow::closeEvent(QCloseEvent* event) {
+    for (int i = 0; i < m_pages->count(); ++i)
+        if (!mayClose(m_pages->widget(i))) return event->ignore();
+    event->accept();
+}
+
 QWidget* MainWindow::open(LibraryKind kind, const Vor_String& path) {
-    if (kind == LibraryKind::standard) return openStandard(path);
-    return nullptr;
+    switch (kind) {
+        case LibraryKind::standard:
+            return openStandard(path);
+        case LibraryKind::macro:
+            return openMacro(path);
+        default:
+            return nullptr;
+    }
+}
+
+QWidget* MainWindow::openMacro(const Vor_String& path) {
+    const QString key = toQt(path);
+    if (QWidget* there = pageOf(key)) {
+        m_pages->setCurrentWidget(there);
+        return there;
+    }
+    Vor_String failure;
+    auto macro = runs::MacroRun::open(path, failure);
+    if (!macro) {
+        complain(toQt(failure));
+        return nullptr;
+    }
+    auto* page = new MacroPage(std::move(macro));
+    showPage(page, toQt(removeExtension(getFileName(path))), key);
+    return page;
 }
 
 RunPage* MainWindow::openStandard(const Vor_String& path) {
@@ -251,13 +296,15 @@ RunPage* MainWindow::openStandard(const Vor_String& path) {
         complain(toQt(failure));
         return nullptr;
     }
+    std::string refusal;
+    for (const auto& [name, value] : exampleValues(path)) session->setValue(name, value, refusal);
     auto* page = new RunPage(std::move(session));
     page->setAuthor(QString::fromStdString(m_settings.author));
-    showPage(page, toQt(getFileName(path)), key);
+    showPage(page, toQt(removeExtension(getFileName(path))), key);
     return page;
 }
 
 void MainWindow::complain(const QString& text) {
     m_pane->print(fromQt(text) + "\n");
-    QMessageBox::warning(this, "Vormant", text);
+    showWarning("Vormant", fromQt(text));
 }

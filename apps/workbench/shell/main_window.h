@@ -10,6 +10,7 @@
 #include "shell/command_pane.h"
 #include "shell/library_tree.h"
 #include "shell/workbench_settings.h"
+#include "window/qt_window_system.h"
 
 class RunPage;
 
@@ -24,6 +25,7 @@ class MainWindow : public QMainWindow {
     /// telling why.
     QWidget* open(LibraryKind kind, const Vor_String& path);
     RunPage* openStandard(const Vor_String& path);
+    QWidget* openMacro(const Vor_String& path);
 
     LibraryTree& tree() { return *m_tree; }
     CommandPane& commandPane() { return *m_pane; }
@@ -40,6 +42,8 @@ class MainWindow : public QMainWindow {
     void askForLibrary();
     void changeSettings();
     void closePage(int index);
+    bool mayClose(QWidget* page);
+    void closeEvent(QCloseEvent* event) override;
     void showPage(QWidget* page, const QString& title, const QString& tip);
     QWidget* pageOf(const QString& key) const;
     void watchLibrary();
@@ -47,6 +51,8 @@ class MainWindow : public QMainWindow {
     void complain(const QString& text);
     void save();
 
+    QtWindowSystem m_windows;
+    CWnd m_hostWindow;  ///< stands for this window in the module
     WorkbenchSettings m_settings;
     QTabWidget* m_pages;
     LibraryTree* m_tree;

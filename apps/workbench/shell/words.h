@@ -64,4 +64,11 @@ enum WorkbenchWord {
     wordAllWell,
     wordMap,
     wordCharactersRefused,
+    wordObject,
+    wordKind,
+    wordSaveMacro,
+    wordRun,
+    wordStandard,
+    wordMapsTo,
+    wordSaveChanges,
 };

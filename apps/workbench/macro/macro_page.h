@@ -1,0 +1,52 @@
+// The page of one macro: every value in it that a standard can read or set, the standards that are
+// attached to it, and runs of them on the macro. The file changes only when the user saves.
+#pragma once
+
+#include <QComboBox>
+#include <QLabel>
+#include <QPushButton>
+#include <QTableWidget>
+#include <QTreeView>
+#include <memory>
+
+#include "run/calculation_model.h"
+#include "runs/macro_run.h"
+
+class MacroPage : public QWidget {
+  public:
+    explicit MacroPage(std::unique_ptr<runs::MacroRun> macro, QWidget* parent = nullptr);
+
+    /// Runs the standard and key that are chosen. True when all went well.
+    bool run();
+    /// Writes the macro with the results of the last run and the attached standards.
+    bool save();
+    bool isChanged() const { return m_isChanged; }
+    /// Names inside the library, without extension.
+    void choose(const QString& standard, const QString& key);
+    QString message() const { return m_message->text(); }
+    /// The value shown of an object, "Plate.Thickness" say; empty for none.
+    QString value(const QString& object) const;
+
+  private:
+    QWidget* makeHeading();
+    QWidget* makeRunBar();
+    void fillStandards();
+    void fillKeys();
+    void fillObjects();
+    void showReport();
+    void show(const QString& text, bool isFailure);
+    void attachStandards();
+    void setChanged(bool changed);
+
+    std::unique_ptr<runs::MacroRun> m_macro;
+    runs::RunReport m_report;
+    runs::Calculation m_calculation;
+    CalculationModel m_model;
+    QComboBox* m_standard = nullptr;
+    QComboBox* m_key = nullptr;
+    QPushButton* m_save = nullptr;
+    QTableWidget* m_objects = nullptr;
+    QTreeView* m_trace = nullptr;
+    QLabel* m_message = nullptr;
+    bool m_isChanged = false;
+};
