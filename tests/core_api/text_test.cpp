@@ -6,6 +6,7 @@
 #include <bit>
 #include <charconv>
 #include <cmath>
+#include <cstdlib>
 #include <limits>
 #include <random>
 
@@ -80,8 +81,23 @@ TEST(NumberText, FastWayAgreesWithSlowTwin) {
             const auto units = static_cast<double>(random() % 20000000) - 1e7;
             number = (units * 10 + 5) / std::pow(10.0, decimals % 6 + 1);
         }
-        ASSERT_EQ(Vor_String(number, decimals).str(), roundedAsWritten(number, decimals))
+        const std::string wanted = roundedAsWritten(number, decimals);
+        ASSERT_EQ(Vor_String(number, decimals).str(), wanted)
             << std::hexfloat << number << " to " << decimals;
+        const double rounded = roundAsWritten(number, decimals);
+        ASSERT_EQ(rounded, std::strtod(wanted.c_str(), nullptr))
+            << std::hexfloat << number << " to " << decimals;
+        ASSERT_FALSE(rounded == 0 && std::signbit(rounded)) << std::hexfloat << number;
+    }
+}
+
+TEST(NumberText, WholeNumbersStayWhatTheyAre) {
+    for (const double number : {0.0, 1.0, 112589990.0, 112589991.0, 99999999999999.0, 0x1p50 + 1,
+                                0x1p52 + 1, 0x1p53, 1e22, 1e300}) {
+        for (const int decimals : {0, 7, 15}) {
+            EXPECT_EQ(roundAsWritten(number, decimals), number) << decimals;
+            EXPECT_EQ(roundAsWritten(-number, decimals), -number) << decimals;
+        }
     }
 }
 

@@ -24,18 +24,21 @@ constexpr std::array<double, maxDecimals + 1> powersAsDoubles = [] {
     return powers;
 }();
 
-// The number as a whole number of the last decimal place. Nothing when it is too large for that,
-// or so near a tie that the binary value could fall on the other side than the written one.
-std::optional<std::uint64_t> scaledFast(double magnitude, int decimals) {
-    constexpr double largest = 1125899906842624.0;  // 2^50: a quarter of a unit is still exact
-    const double scaled = magnitude * powersAsDoubles[static_cast<size_t>(decimals)];
-    if (!(scaled < largest)) return std::nullopt;
-    const auto whole = static_cast<std::int64_t>(scaled);
-    const double rest = scaled - static_cast<double>(whole);
+// The number in units of the last decimal place, rounded to a whole number of them. Nothing when it
+// is too large for that, or so near a tie that the binary value could fall on the other side than
+// the written one.
+inline std::optional<double> scaledFast(double number, double power) {
+    constexpr double largest = 0x1p50;  // a quarter of a unit is still exact
+    // Doubles of this size have no decimals, so that adding it rounds to a whole number.
+    constexpr double wholeOnly = 0x1.8p52;
+    const double scaled = number * power;
+    const double magnitude = std::fabs(scaled);
+    if (!(magnitude < largest)) return std::nullopt;
+    const double whole = (scaled + wholeOnly) - wholeOnly;
     // Half a unit in the last place of the number, scaled, and the rounding of the product.
-    const double doubt = scaled * 0x1p-51;
-    if (std::fabs(rest - 0.5) <= doubt) return std::nullopt;
-    return static_cast<std::uint64_t>(whole + (rest > 0.5 ? 1 : 0));
+    const double doubt = magnitude * 0x1p-51;
+    if (0.5 - std::fabs(scaled - whole) <= doubt) return std::nullopt;
+    return whole;
 }
 
 char* writeScaled(char* out, std::uint64_t scaled, int decimals, bool keepZeros) {
@@ -141,9 +144,9 @@ std::string_view writeNumber(NumberBuffer& buffer, double number, int decimals, 
     char* out = buffer.data() + 1;  // room for the sign, which only a result other than 0 gets
     bool isZero = false;
     char* end = nullptr;
-    if (const auto scaled = scaledFast(magnitude, decimals)) {
+    if (const auto scaled = scaledFast(magnitude, powersAsDoubles[static_cast<size_t>(decimals)])) {
         isZero = *scaled == 0;
-        end = writeScaled(out, *scaled, decimals, keepZeros);
+        end = writeScaled(out, static_cast<std::uint64_t>(*scaled), decimals, keepZeros);
     } else {
         Digits digits = shortestDigits(magnitude);
         roundDigits(digits, decimals);
@@ -156,18 +159,13 @@ std::string_view writeNumber(NumberBuffer& buffer, double number, int decimals, 
 }
 
 double roundAsWritten(double number, int decimals) {
-    const double magnitude = std::fabs(number);
-    constexpr double allWhole = 0x1p52;  // doubles from here on have no decimals, NaN is not below
-    if (!(magnitude < allWhole)) return number;
-    if (static_cast<double>(static_cast<std::int64_t>(magnitude)) == magnitude)
-        return number == 0 ? 0.0 : number;
     decimals = std::clamp(decimals, 0, maxDecimals);
-    if (const auto scaled = scaledFast(magnitude, decimals)) {
-        // Both are exact doubles, so that the division gives the nearest one.
-        const double rounded = static_cast<double>(static_cast<std::int64_t>(*scaled)) /
-                               powersAsDoubles[static_cast<size_t>(decimals)];
-        return *scaled == 0 ? 0.0 : std::copysign(rounded, number);
-    }
+    // Both are exact doubles, so that the division gives the nearest one.
+    const double power = powersAsDoubles[static_cast<size_t>(decimals)];
+    if (const auto scaled = scaledFast(number, power)) [[likely]]
+        return *scaled / power;
+    constexpr double allWhole = 0x1p52;  // doubles from here on have no decimals, NaN is not below
+    if (!(std::fabs(number) < allWhole) || std::trunc(number) == number) return number;
     NumberBuffer buffer;
     std::string_view text = writeNumber(buffer, number, decimals);
     return takeNumber(text).value_or(number);
