@@ -39,7 +39,13 @@ class Calculation {
     template <class Visit>
     void each(const Value& argument, Visit&& visit) const {
         if (argument.isArea()) {
-            m_cells->eachRun(argument.area(), [&](const control::CellStore::Run& run) {
+            const Area area = argument.area();
+            if (area.isOneCell()) {
+                const Value value = cell(area.col1, area.row1);
+                if (!value.isEmpty()) visit(value);
+                return;
+            }
+            m_cells->eachRun(area, [&](const control::CellStore::Run& run) {
                 if (!spend(run.end - run.first)) [[unlikely]]
                     return;
                 checkDirty(run);

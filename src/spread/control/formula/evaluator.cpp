@@ -31,9 +31,14 @@ inline std::optional<bool> compared(Op op, double a, double b) {
     }
 }
 
-/// Both operands of a binary operator whose second one stands at `top`.
-inline bool areNumbers(const Value* top) {
-    return top[-1].isNumber() && top[0].isNumber();
+/// toBoolean, with the result of a comparison in line.
+inline Result<bool> truthOf(const Value& value) {
+    return value.isBoolean() ? Result<bool>(value.truth()) : toBoolean(value);
+}
+
+inline Value areaOfOne(control::CellAddress cell) {
+    const auto col = static_cast<uint16_t>(cell.col);
+    return Value::area({cell.row, cell.row, col, col});
 }
 
 /// What a cell shows for the result of its formula: nothing is shown as 0.
@@ -77,6 +82,36 @@ Value Evaluator::otherCell(const control::Cell* cell, int col, int row) const {
     return m_calculation.valueOf(*cell, col, row);
 }
 
+// The binary operators: `a` becomes the result. False when a cell was met that has to be calculated
+// first. Each of arithmetic and comparison has its own code for two numbers; errors go the long
+// way.
+bool Evaluator::operate(const Instruction& i, Value& a, const Value& b) {
+    a = binary(i, a, b);
+    return m_calculation.m_dirtyAreas.empty();
+}
+
+template <Op op>
+inline bool Evaluator::compute(const Instruction& i, Value& a, const Value& b) {
+    if (a.isNumber() && b.isNumber()) [[likely]] {
+        const Value result = arithmetic(op, a.number(), b.number());
+        if (result.isNumber()) [[likely]] {
+            a = result;
+            return true;
+        }
+    }
+    return operate(i, a, b);
+}
+
+template <Op op>
+inline bool Evaluator::compare(const Instruction& i, Value& a, const Value& b) {
+    const auto is =
+        a.isNumber() && b.isNumber() ? compared(op, a.number(), b.number()) : std::optional<bool>();
+    if (!is) [[unlikely]]
+        return operate(i, a, b);
+    a = Value::boolean(*is);
+    return true;
+}
+
 // The end of the stack, with the result below it; null when a cell was met that has to be
 // calculated first. The stack grows upwards from m_stack; `top` is one past its last value.
 const Value* Evaluator::execute(std::span<const Instruction> code) {
@@ -116,9 +151,11 @@ const Value* Evaluator::execute(std::span<const Instruction> code) {
                 if (!dirty.empty()) return nullptr;
                 break;
             }
-            case Op::reference:
-                *top++ = area(*i, *i);
+            case Op::reference: {
+                const auto cell = cellOf(*i, hostCol, hostRow);
+                *top++ = cell ? areaOfOne(*cell) : Value(ErrorCode::ref);
                 break;
+            }
             case Op::area:
             case Op::place:
                 *top++ = area(i[0], i[1]);
@@ -135,35 +172,52 @@ const Value* Evaluator::execute(std::span<const Instruction> code) {
                 top[-1] = unary(*i, top[-1]);
                 break;
             case Op::add:
+                --top;
+                if (!compute<Op::add>(*i, top[-1], top[0])) return nullptr;
+                break;
             case Op::subtract:
+                --top;
+                if (!compute<Op::subtract>(*i, top[-1], top[0])) return nullptr;
+                break;
             case Op::multiply:
+                --top;
+                if (!compute<Op::multiply>(*i, top[-1], top[0])) return nullptr;
+                break;
             case Op::divide:
+                --top;
+                if (!compute<Op::divide>(*i, top[-1], top[0])) return nullptr;
+                break;
             case Op::power:
                 --top;
-                if (areNumbers(top)) [[likely]] {
-                    top[-1] = arithmetic(i->op, top[-1].number(), top[0].number());
-                    break;
-                }
-                top[-1] = binary(*i, top[-1], top[0]);
-                if (!dirty.empty()) return nullptr;
+                if (!compute<Op::power>(*i, top[-1], top[0])) return nullptr;
                 break;
             case Op::equal:
+                --top;
+                if (!compare<Op::equal>(*i, top[-1], top[0])) return nullptr;
+                break;
             case Op::notEqual:
+                --top;
+                if (!compare<Op::notEqual>(*i, top[-1], top[0])) return nullptr;
+                break;
             case Op::less:
+                --top;
+                if (!compare<Op::less>(*i, top[-1], top[0])) return nullptr;
+                break;
             case Op::lessEqual:
+                --top;
+                if (!compare<Op::lessEqual>(*i, top[-1], top[0])) return nullptr;
+                break;
             case Op::greater:
+                --top;
+                if (!compare<Op::greater>(*i, top[-1], top[0])) return nullptr;
+                break;
             case Op::greaterEqual:
                 --top;
-                if (areNumbers(top)) [[likely]]
-                    if (const auto is = compared(i->op, top[-1].number(), top[0].number())) {
-                        top[-1] = Value::boolean(*is);
-                        break;
-                    }
-                [[fallthrough]];
+                if (!compare<Op::greaterEqual>(*i, top[-1], top[0])) return nullptr;
+                break;
             case Op::concatenate:
-                if (i->op == Op::concatenate) --top;
-                top[-1] = binary(*i, top[-1], top[0]);
-                if (!dirty.empty()) return nullptr;
+                --top;
+                if (!operate(*i, top[-1], top[0])) return nullptr;
                 break;
             case Op::range:
                 --top;
@@ -186,7 +240,7 @@ const Value* Evaluator::execute(std::span<const Instruction> code) {
                 i = begin + i->a;
                 continue;
             case Op::jumpIfNot: {
-                const auto truth = toBoolean(top[-1]);
+                const auto truth = truthOf(top[-1]);
                 if (truth) {
                     --top;
                     if (*truth) break;

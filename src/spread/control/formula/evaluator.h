@@ -21,6 +21,11 @@ class Evaluator {
   private:
     using Args = std::span<const Value>;
     const Value* execute(std::span<const Instruction> code);
+    bool operate(const Instruction& i, Value& a, const Value& b);
+    template <Op op>
+    bool compute(const Instruction& i, Value& a, const Value& b);
+    template <Op op>
+    bool compare(const Instruction& i, Value& a, const Value& b);
     Value area(const Instruction& first, const Instruction& second) const;
     Value otherCell(const control::Cell* cell, int col, int row) const;
     Value single(const Value& value);

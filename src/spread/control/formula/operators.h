@@ -22,7 +22,8 @@ inline Value arithmetic(Op op, double a, double b) {
             result = a * b;
             break;
         case Op::divide:
-            if (b == 0) return ErrorCode::div0;
+            if (b == 0) [[unlikely]]
+                return ErrorCode::div0;
             result = a / b;
             break;
         default:
@@ -31,7 +32,8 @@ inline Value arithmetic(Op op, double a, double b) {
             result = b == 2 ? a * a : std::pow(a, b);
             break;
     }
-    if (!std::isfinite(result)) return ErrorCode::num;
+    if (!std::isfinite(result)) [[unlikely]]
+        return ErrorCode::num;
     return result;
 }
 

@@ -74,6 +74,7 @@ void addElement(Truths& truths, const Value& value) {
 
 /// A value written as argument: a text must be TRUE or FALSE, only the empty one is passed over.
 void addSingle(Truths& truths, const Value& value) {
+    if (value.isBoolean()) return truths.add(value.truth());
     if (value.isText() && value.text().empty()) return;
     if (value.isEmpty()) return;
     const Result<bool> truth = toBoolean(value);
