@@ -1,4 +1,4 @@
-// The turn of one equation cell.
+// The calculation: each equation cell has its turn.
 #include "core_api/text/number_text.h"
 #include "mapping/cell_types.h"
 #include "mapping/run_timers.h"
@@ -11,6 +11,7 @@
 struct TwStandardsSS::Turn {
     const PreparedStandard& prepared;
     const PreparedEquation& equation;
+    const std::optional<formula::Value>& result;  ///< of a formula that need not stand in its cell
     Vor_String reason;
     bool isReported = false;  ///< the failure is one that users are told
 
@@ -37,10 +38,64 @@ std::string_view formulaShown(const PreparedStandard& prepared, const PreparedEq
 
 }  // namespace
 
+void TwStandardsSS::evaluateAll(PreparedStandard& prepared) {
+    m_fillsNow = m_fillsEquationCells || !prepared.needsNoEquationCells(m_varCells, grid());
+    findNumberPlaces();
+    const RunObserver* observer = runObserver();
+    const bool tellsAll = observer && observer->wantsEveryEquation();
+    PreparedEquation changed;
+    for (PreparedEquation& known : prepared.equations()) {
+        const PreparedEquation& equation =
+            m_fillsNow ? prepared.equationIn(known, m_varCells, grid(), changed) : known;
+        if (equation.text.view().empty()) continue;
+        const auto result = hiddenResult(equation);
+        if (result && !tellsAll && takeNumber(equation, *result)) continue;
+        (void)evaluate(prepared, equation, result);
+    }
+    m_fillsNow = true;
+    m_numberPlaces.clear();
+}
+
+/// Without formulas in the sheet nobody has to hear of new numbers: they can go straight into the
+/// cells of the variables.
+void TwStandardsSS::findNumberPlaces() {
+    m_numberPlaces.assign(static_cast<size_t>(m_varCells.length()), {});
+    if (m_fillsNow) return;
+    for (int i = 0; i < m_varCells.length(); ++i) {
+        const TwVarCell& cell = m_varCells[i];
+        if (!isNumeric(cell.valueType())) continue;
+        const control::CellType& type = variableCellType(cell.valueType());
+        m_numberPlaces[static_cast<size_t>(i)] = {grid().plainCell(cell.column(), cell.row(), type),
+                                                  &type};
+    }
+}
+
+/// What the formula gives where it need not stand in its cell.
+std::optional<formula::Value> TwStandardsSS::hiddenResult(const PreparedEquation& equation) {
+    if (m_fillsNow || equation.kind != PreparedEquation::Kind::ordinary) return std::nullopt;
+    const Vor_FunctionTimer timer(gCalcCellCalcFunctions);
+    return grid().evaluate(*equation.program, equation.cell.col, equation.cell.row);
+}
+
+/// The ordinary case of a hidden run: a number into a numeric variable and its cell at once. False,
+/// with nothing done, for everything else.
+bool TwStandardsSS::takeNumber(const PreparedEquation& equation, const formula::Value& result) {
+    const auto index = static_cast<size_t>(equation.target);
+    const NumberPlace place = m_numberPlaces[index];
+    if (!place.cell || !result.isNumber()) return false;
+    const double shown = roundAsWritten(result.number(), VarValue::shownDecimals);
+    const double stored = place.type->decimals == 0 ? roundAsWritten(shown, 0) : shown;
+    if (!control::Grid::setPlain(*place.cell, *place.type, stored)) return false;
+    m_varCells[equation.target].typedValue().setNumber(shown);
+    m_assignedIn[index] = equation.cell;
+    return true;
+}
+
 ErrorStatus TwStandardsSS::evaluate(const PreparedStandard& prepared,
-                                    const PreparedEquation& equation) {
+                                    const PreparedEquation& equation,
+                                    const std::optional<formula::Value>& result) {
     using Kind = PreparedEquation::Kind;
-    Turn turn{prepared, equation, {}, false};
+    Turn turn{prepared, equation, result, {}, false};
     ErrorStatus status = Acad::eOk;
     switch (equation.kind) {
         case Kind::irregular:
@@ -83,33 +138,19 @@ ErrorStatus TwStandardsSS::assign(Turn& turn) {
     TwVarCell& target = m_varCells[equation.target];
     const auto [column, row] = equation.cell;
     const Vor_FunctionTimer timer(gCalcCellCalcFunctions);
-    const auto result = m_fillsNow ? std::nullopt : grid().evaluate(*equation.program, column, row);
-    if (result) {
-        target.typedValue().take(equationCellType(equation.givesText), *result);
+    if (turn.result && takeNumber(equation, *turn.result)) return Acad::eOk;
+    m_assignedIn[static_cast<size_t>(equation.target)] = equation.cell;
+    if (turn.result) {
+        target.typedValue().take(equationCellType(equation.givesText), *turn.result);
     } else {
         setEquationType(equation);
         grid().setFormula(column, row, equation.program, turn.prepared.formulaOf(equation).block());
         target.typedValue().readFrom(grid(), column, row);
     }
-    m_assignedIn[static_cast<size_t>(equation.target)] = equation.cell;
-    if (writeTarget(equation.target) == Acad::eOk) return Acad::eOk;
+    if (target.setValueToSS(*this) == Acad::eOk) return Acad::eOk;
     turn.reason = "\"" + target.name() + "\" takes no value \"" + target.value() +
                   "\": an Int or Double takes numbers up to 99999999999999, and nothing";
     return Acad::eInvalidInput;
-}
-
-ErrorStatus TwStandardsSS::writeTarget(int index) {
-    const TwVarCell& target = m_varCells[index];
-    const double* number = target.typedValue().number();
-    const auto at = static_cast<size_t>(index);
-    control::Cell* cell = at < m_valueCells.size() ? m_valueCells[at] : nullptr;
-    if (number && cell) {
-        const bool isWhole = target.valueType() == TwValueType::Int;
-        if (control::Grid::setPlain(*cell, variableCellType(target.valueType()),
-                                    isWhole ? roundAsWritten(*number, 0) : *number))
-            return Acad::eOk;
-    }
-    return target.setValueToSS(*this);
 }
 
 void TwStandardsSS::setEquationType(const PreparedEquation& equation) {

@@ -122,8 +122,12 @@ const PreparedEquation& PreparedStandard::equationIn(PreparedEquation& known,
     return changed;
 }
 
-bool PreparedStandard::needsNoEquationCells(const TwVarCells& variables,
-                                            const control::Grid& grid) {
+/// All cells hold the texts that their equations were prepared from, now where they were not yet.
+bool PreparedStandard::knowsAllTexts(const TwVarCells& variables, const control::Grid& grid) {
+    // Hidden runs change nothing there: one look saves a look at every cell.
+    const bool showsDocument = grid.document() && grid.document()->attachment().get() == this &&
+                               grid.isAsLoadedFrom(m_layout.equationRows().first);
+    if (showsDocument && m_isOfDocument) return true;
     for (PreparedEquation& equation : m_equations) {
         control::TextBlock* text = textOf(grid, equation.cell);
         control::TextBlock* known = equation.text.block();
@@ -132,6 +136,13 @@ bool PreparedStandard::needsNoEquationCells(const TwVarCells& variables,
         PreparedEquation unused;
         (void)equationIn(equation, variables, grid, unused);
     }
+    m_isOfDocument = showsDocument;
+    return true;
+}
+
+bool PreparedStandard::needsNoEquationCells(const TwVarCells& variables,
+                                            const control::Grid& grid) {
+    if (!knowsAllTexts(variables, grid)) return false;
     if (!m_readsEquationCells) {
         const int firstRow = m_layout.equationRows().first;
         const auto reads = [&](const PreparedEquation& equation) {

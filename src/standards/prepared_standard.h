@@ -52,6 +52,7 @@ class PreparedStandard {
                              const TwVarCells& variables, const control::Grid& grid);
 
   private:
+    bool knowsAllTexts(const TwVarCells& variables, const control::Grid& grid);
     void declare(Vor_Spread& spread, const std::vector<control::CellAddress>& filled, Marker marker,
                  TwCellType type);
 
@@ -63,5 +64,7 @@ class PreparedStandard {
     /// Cells of Strings that come before the "Calc" marker, where a value could read "Calc".
     std::vector<control::CellAddress> m_textsBeforeCalc;
     std::unique_ptr<VariableReferences> m_references;
+    /// Every equation was prepared from the text in the document that this hangs on.
+    bool m_isOfDocument = false;
     std::optional<bool> m_readsEquationCells;  // known once all equations were prepared
 };

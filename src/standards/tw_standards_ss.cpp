@@ -37,11 +37,12 @@ ErrorStatus TwStandardsSS::loadFile(const Vor_String& name) {
     setBool(static_cast<int>(control::Option::userFormulas), true);
     setBool(static_cast<int>(control::Option::repaint), false);
     setBool(static_cast<int>(control::Option::automaticRecalculation), false);
-    // Children and batches come with a path; only a bare name has to be looked for.
-    const bool isPath = name.view().find_first_of("\\/") != std::string_view::npos;
-    Vor_String path = isPath ? name : findByName(name);
+    // Children and batches come with a file; only a bare name has to be looked for.
+    const bool isFile =
+        name.view().find_first_of("\\/") != std::string_view::npos || name.endsWith(".tws");
+    Vor_String path = isFile ? name : findByName(name);
     bool isLoaded = loadFromFile(path);
-    if (!isLoaded && isPath && !ObjectExportFileExists(name)) {
+    if (!isLoaded && isFile && !ObjectExportFileExists(name)) {
         path = pathInLibrary(name);
         isLoaded = loadFromFile(path);
     }
@@ -126,32 +127,6 @@ ErrorStatus TwStandardsSS::calcCells() {
     return Acad::eOk;
 }
 
-void TwStandardsSS::evaluateAll(PreparedStandard& prepared) {
-    m_fillsNow = m_fillsEquationCells || !prepared.needsNoEquationCells(m_varCells, grid());
-    takeValueCells();
-    PreparedEquation changed;
-    for (PreparedEquation& known : prepared.equations()) {
-        const PreparedEquation& equation =
-            m_fillsNow ? prepared.equationIn(known, m_varCells, grid(), changed) : known;
-        if (!equation.text.view().empty()) (void)evaluate(prepared, equation);
-    }
-    m_fillsNow = true;
-    m_valueCells.clear();
-}
-
-/// Without formulas in the sheet nobody has to hear of new numbers: they can go straight into the
-/// cells of the variables.
-void TwStandardsSS::takeValueCells() {
-    m_valueCells.assign(static_cast<size_t>(m_varCells.length()), nullptr);
-    if (m_fillsNow) return;
-    for (int i = 0; i < m_varCells.length(); ++i) {
-        const TwVarCell& cell = m_varCells[i];
-        if (isNumeric(cell.valueType()))
-            m_valueCells[static_cast<size_t>(i)] =
-                grid().plainCell(cell.column(), cell.row(), variableCellType(cell.valueType()));
-    }
-}
-
 ErrorStatus TwStandardsSS::calcCell(int column, int row) {
     Vor_String text;
     if (!m_prepared || !getCellText(column, row, text, Reading::value) || text.isEmpty())
@@ -159,7 +134,8 @@ ErrorStatus TwStandardsSS::calcCell(int column, int row) {
     registerFunctions();
     m_assignedIn.resize(static_cast<size_t>(m_varCells.length()));
     return evaluate(*m_prepared,
-                    m_prepared->prepare(SharedText(text), {column, row}, m_varCells, grid()));
+                    m_prepared->prepare(SharedText(text), {column, row}, m_varCells, grid()),
+                    std::nullopt);
 }
 
 ErrorStatus TwStandardsSS::getVarCoordName(const Vor_String& name, Vor_String& coordinate) const {

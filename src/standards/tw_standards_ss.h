@@ -66,12 +66,19 @@ class TwStandardsSS : public Vor_Spread {
 
   private:
     struct Turn;  // one equation cell's turn
+    /// Where a numeric variable's new values go straight into its cell.
+    struct NumberPlace {
+        control::Cell* cell = nullptr;  ///< null when they take the usual way
+        const control::CellType* type = nullptr;
+    };
 
-    void takeValueCells();
+    void findNumberPlaces();
     void evaluateAll(PreparedStandard& prepared);
-    ErrorStatus evaluate(const PreparedStandard& prepared, const PreparedEquation& equation);
+    std::optional<formula::Value> hiddenResult(const PreparedEquation& equation);
+    ErrorStatus evaluate(const PreparedStandard& prepared, const PreparedEquation& equation,
+                         const std::optional<formula::Value>& result);
     ErrorStatus assign(Turn& turn);
-    ErrorStatus writeTarget(int index);
+    bool takeNumber(const PreparedEquation& equation, const formula::Value& result);
     void setEquationType(const PreparedEquation& equation);
     std::optional<Vor_String> searchChildFile(const Vor_String& name) const;
     ErrorStatus runChild(const Vor_String& text, const Vor_String& functionName,
@@ -85,7 +92,7 @@ class TwStandardsSS : public Vor_Spread {
     Vor_StringArray m_genValues;
     std::shared_ptr<PreparedStandard> m_prepared;
     std::vector<control::CellAddress> m_assignedIn;  // by variable
-    std::vector<control::Cell*> m_valueCells;        // of numeric variables, while not filling
+    std::vector<NumberPlace> m_numberPlaces;         // by variable, in hidden runs
     bool m_knowsFunctions = false;
     bool m_fillsEquationCells = true;
     bool m_fillsNow = true;  // in the calculation under way

@@ -278,6 +278,13 @@ TEST(Document, StartingAgainUndoesWhateverWasDone) {
         [](Grid& g) { g.pasteText(1, 1, "a\tb\nc\td"); },
         [](Grid& g) { g.setFormula(1, 1, "1+1"), g.setFormula(1, 1, ""); },
         [](Grid& g) {
+            // Numbers past all bookkeeping, into a cell as it was and into one that was changed.
+            const control::CellType own = control::numberType(2), given = control::numberType(7);
+            g.writeEmpty(1, 3, given);
+            Grid::setPlain(*g.plainCell(1, 3, given), given, 5);
+            Grid::setPlain(*g.plainCell(2, 2, own), own, 7);
+        },
+        [](Grid& g) {
             for (int i = 0; i < 3000; ++i) g.setData(1 + i % 4, 1 + i % 10, std::to_string(i));
         },
     };

@@ -53,6 +53,11 @@ void Grid::noteTouched(int col, int row) {
         m_touched.push_back(cell);
 }
 
+bool Grid::isAsLoadedFrom(int firstRow) const {
+    return m_canUndo && std::none_of(m_touched.begin(), m_touched.end(),
+                                     [&](CellAddress cell) { return cell.row >= firstRow; });
+}
+
 void Grid::noteStructure() {
     m_changed = true;
     m_isAsLoaded = false;

@@ -112,7 +112,12 @@ class Grid {
     Cell* plainCell(int col, int row, const CellType& type);
     /// Writes a number that is rounded to the decimals of `type` into a cell that plainCell gave.
     /// False when it is out of range, or the cell holds a text, which takes writeNumber.
-    static bool setPlain(Cell& cell, const CellType& type, double number);
+    static bool setPlain(Cell& cell, const CellType& type, double number) {
+        if (cell.type == ValueType::text || !type.takes(number)) return false;
+        cell.number = number;
+        cell.type = ValueType::number;
+        return true;
+    }
     /// The value reading, typed. A text is borrowed until the cell changes. Empty outside.
     formula::Value shownValue(int col, int row) const;
     /// As shownValue for a value that stands in a cell of this type.
@@ -269,6 +274,8 @@ class Grid {
     const std::shared_ptr<const Document>& document() const { return m_document; }
     /// No cell was changed since document() was restored.
     bool isAsLoaded() const { return m_isAsLoaded; }
+    /// No cell in `firstRow` or below was. False also when nobody has kept count.
+    bool isAsLoadedFrom(int firstRow) const;
 
   private:
     struct Edit {
@@ -281,6 +288,7 @@ class Grid {
     void changeHeaderLooks(Band& band, int from, int to, int count, const ChangeLook& change);
     void changeColumnLooks(int col, const ChangeLook& change);
     void changeCellLooks(const Block& block, const ChangeLook& change);
+    LookIndex ownLook(int col, int row, const CellType& type);
     void noteTouched(int col, int row);
     void noteStructure();
     void dropBeyond(int lastCol, int lastRow);

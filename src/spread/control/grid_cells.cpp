@@ -37,11 +37,6 @@ std::optional<double> numberWrittenAs(std::string_view text) {
     return number;
 }
 
-bool isInRange(const CellType& type, double number) {
-    const bool isLimited = type.least != 0 || type.most != 0;
-    return !isLimited || (number >= type.least && number <= type.most);
-}
-
 /// What a cell of `type` stores for a written value; nothing when it refuses.
 class Acceptance {
   public:
@@ -70,7 +65,7 @@ class Acceptance {
         if (!std::isfinite(number)) return std::nullopt;
         if (m_type.isNumber()) {
             number = roundAsWritten(number, m_type.decimals);
-            return isInRange(m_type, number) ? std::optional(Value(number)) : std::nullopt;
+            return m_type.takes(number) ? std::optional(Value(number)) : std::nullopt;
         }
         if (!m_type.keepsText()) return Value(number);
         return Value::borrowedText({m_buffer, formula::writeNumber(number, m_buffer)});
@@ -174,32 +169,34 @@ bool Grid::writeValue(int col, int row, const Value& value) {
 }
 
 bool Grid::writeNumber(int col, int row, const CellType& type, double number) {
-    if (!setType(col, row, type) || !isInRange(type, number)) return false;
+    if (!isInside(col, row)) return false;
+    if (!type.takes(number)) {
+        (void)setType(col, row, type);
+        return false;
+    }
     noteTouched(col, row);
-    m_sheet->setValue(col, row, Value(number));
+    m_sheet->put(col, row, Value(number), ownLook(col, row, type));
     return true;
 }
 
 bool Grid::writeEmpty(int col, int row, const CellType& type) {
-    if (!setType(col, row, type)) return false;
+    if (!isInside(col, row)) return false;
     const Cell* cell = m_sheet->find(col, row);
-    if (!cell || (cell->type == ValueType::empty && !cell->formula)) return true;
+    if (!cell || (cell->type == ValueType::empty && !cell->formula)) return setType(col, row, type);
     noteTouched(col, row);
-    m_sheet->setValue(col, row, Value());
+    m_sheet->put(col, row, Value(), ownLook(col, row, type));
     return true;
 }
 
 Cell* Grid::plainCell(int col, int row, const CellType& type) {
     if (!isInside(col, row) || !(look(col, row).type == type)) return nullptr;
-    noteTouched(col, row);
-    return m_sheet->plainCell(col, row);
-}
-
-bool Grid::setPlain(Cell& cell, const CellType& type, double number) {
-    if (cell.type == ValueType::text || !isInRange(type, number)) return false;
-    cell.number = number;
-    cell.type = ValueType::number;
-    return true;
+    Cell* cell = m_sheet->plainCell(col, row);
+    if (!cell) return nullptr;
+    m_changed = true;
+    // One that has another look than in the document was noted when it got that.
+    const Cell* original = m_document ? m_document->sheet().find(col, row) : nullptr;
+    if (!original || original->look == cell->look) noteTouched(col, row);
+    return cell;
 }
 
 Value Grid::shown(const CellType& type, const Value& value) {

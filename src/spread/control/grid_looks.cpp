@@ -59,11 +59,18 @@ LookIndex Grid::lookIndex(int col, int row) const {
 
 bool Grid::setType(int col, int row, const CellType& type) {
     if (!isInside(col, row)) return setType(Block{col, row, col, row}, type);
-    const LookIndex now = lookIndex(col, row);
-    if (m_looks[now].type == type) return true;
+    const LookIndex look = ownLook(col, row, type);
+    if (look == m_sheet->look(col, row)) return true;
     noteTouched(col, row);
-    m_sheet->setLook(col, row, m_looks.withType(now, type));
+    m_sheet->setLook(col, row, look);
     return true;
+}
+
+/// The look that the cell itself has to hold so that it is of `type`.
+LookIndex Grid::ownLook(int col, int row, const CellType& type) {
+    const LookIndex own = m_sheet->look(col, row);
+    const LookIndex shown = own != inheritedLook ? own : m_sides->columnLook(col);
+    return m_looks[shown].type == type ? own : m_looks.withType(shown, type);
 }
 
 bool Grid::setType(const Block& block, const CellType& type) {

@@ -42,6 +42,11 @@ struct CellType {
     bool operator==(const CellType&) const = default;
 
     bool isNumber() const { return kind == CellKind::number; }
+    /// Whether a number lies in the range.
+    bool takes(double value) const {
+        const bool isLimited = least != 0 || most != 0;
+        return !isLimited || (value >= least && value <= most);
+    }
     /// Cells of this type keep a written text as text, whatever it reads like.
     bool keepsText() const {
         return kind != CellKind::general && kind != CellKind::number && kind != CellKind::checkBox;

@@ -103,6 +103,14 @@ void Sheet::setValue(int col, int row, const Value& value) {
     touched(col, row);
 }
 
+void Sheet::put(int col, int row, const Value& value, uint16_t look) {
+    Cell& cell = m_cells.obtain(col, row);
+    if (cell.formula) removeFormula(col, row, cell);
+    m_cells.setValue(cell, value);
+    cell.look = look;
+    touched(col, row);
+}
+
 void Sheet::clearCell(int col, int row) {
     Cell* cell = m_cells.find(col, row);
     if (!cell) return;

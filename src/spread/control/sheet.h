@@ -46,6 +46,8 @@ class Sheet {
     Cell* plainCell(int col, int row) {
         return m_liveFormulas == 0 ? m_cells.find(col, row) : nullptr;
     }
+    /// setValue and setLook in one.
+    void put(int col, int row, const Value& value, uint16_t look);
     void setLook(int col, int row, uint16_t look) { m_cells.obtain(col, row).look = look; }
     /// Makes the cell what `from` is, a cell of any sheet that has no formula: value (its text is
     /// shared, not copied) and look. A formula in the cell is removed.
