@@ -4,6 +4,7 @@
 #include <charconv>
 #include <cmath>
 
+#include "core_api/text/number_text.h"
 #include "platform/encodings.h"
 
 namespace cli {
@@ -53,12 +54,19 @@ void appendJsonUtf8(std::string& line, std::string_view utf8) {
 }
 
 void appendNumber(std::string& line, double number) {
+    // Results have few decimals, which are written faster than the shortest digits are found.
+    constexpr int decimals = 7;
+    if (std::fabs(number) < 1e8 && roundAsWritten(number, decimals) == number) {
+        NumberBuffer buffer;
+        line += writeNumber(buffer, number, decimals);
+        return;
+    }
     char text[32];
-    const bool isPlain = std::fabs(number) < 1e15 && (number == 0 || std::fabs(number) >= 1e-7);
+    const bool isPlain = std::fabs(number) < 1e15 && std::fabs(number) >= 1e-7;
     const auto end = isPlain
                          ? std::to_chars(text, text + sizeof text, number, std::chars_format::fixed)
                          : std::to_chars(text, text + sizeof text, number);
-    line.append(number == 0 ? "0" : std::string_view(text, end.ptr));
+    line.append(text, end.ptr);
 }
 
 void appendRounded(std::string& line, double number) {
