@@ -4,7 +4,7 @@
 #include <QFileInfo>
 
 #include "shell/main_window.h"
-#include "window/dialog_font.h"
+#include "window/qt_window_system.h"
 
 namespace {
 
@@ -22,7 +22,7 @@ int main(int argc, char** argv) {
     QApplication application(argc, argv);
     QApplication::setApplicationName("vormant-workbench");
     QApplication::setApplicationVersion(VORMANT_VERSION);
-    QApplication::setFont(dialogFont());
+    QtWindowSystem windows;
 
     QCommandLineParser parser;
     parser.setApplicationDescription(

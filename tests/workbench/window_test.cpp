@@ -1,65 +1,26 @@
 // Dialogs on the desktop, worked with as a user does: by clicks, keys and the frame.
 #include <gmock/gmock.h>
 
-#include <QAbstractItemView>
-#include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
-#include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
-#include <QMessageBox>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTabBar>
 #include <QTabWidget>
-#include <QTest>
-#include <QTimer>
+#include <QToolTip>
 
+#include "desktop_fixture.h"
 #include "dialog_problems.h"
 #include "sample_dialog.h"
-#include "window/qt_window_system.h"
 
 namespace {
 
 using sample::Dialog;
 using testing::ElementsAre;
 using testing::IsEmpty;
-
-class Desktop : public testing::Test {
-  protected:
-    /// What a test does while a modal question waits.
-    static void meanwhile(std::function<void()> steps) {
-        QTimer::singleShot(50, qApp, std::move(steps));
-    }
-    static void settle() { QTest::qWait(20); }
-
-    template <class Widget>
-    Widget& widget(const CWnd& window) const {
-        auto* found = qobject_cast<Widget*>(system.widgetOf(window));
-        if (!found) throw std::runtime_error("no such widget");
-        return *found;
-    }
-    template <class Widget>
-    Widget& widget(const CDialog& dialog, int id) const {
-        return widget<Widget>(*dialog.descendant(id));
-    }
-    void click(QWidget& widget, QPoint at = {}) const {
-        QTest::mouseClick(&widget, Qt::LeftButton, {}, at);
-    }
-    static void key(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
-        QWidget* focused = QApplication::focusWidget();
-        ASSERT_TRUE(focused);
-        QTest::keyClick(focused, key, modifiers);
-    }
-    static void showItem(QAbstractItemView& view, int row, Qt::KeyboardModifiers modifiers = {}) {
-        const QRect place = view.visualRect(view.model()->index(row, 0));
-        QTest::mouseClick(view.viewport(), Qt::LeftButton, modifiers, place.center());
-    }
-
-    QtWindowSystem system;
-};
 
 class ModelessSample : public Desktop {
   protected:
@@ -92,8 +53,14 @@ TEST_F(ModelessSample, FieldsTakeWhatIsTyped) {
     line.setSelection(0, 3);
     EXPECT_EQ(dialog.at<CEdit>(sample::name).selectionEnd(), 3);
 
-    line.insert(QString::fromUtf8("\xE6\x9D\xB1"));  // no key of ours types it
+    // Typed or pasted, a character that cannot be kept is taken back.
+    line.setCursorPosition(3);
+    QKeyEvent foreign(QEvent::KeyPress, 0, {}, QString::fromUtf8("\xE6\x9D\xB1"));
+    QApplication::sendEvent(&line, &foreign);
+    EXPECT_EQ(line.text(), "HEB 200");
+    EXPECT_EQ(line.cursorPosition(), 3);
     EXPECT_EQ(dialog.at<CEdit>(sample::name).text(), "HEB 200");
+    EXPECT_TRUE(QToolTip::text().contains("U+6771")) << QToolTip::text().toStdString();
 
     auto& text = at<QPlainTextEdit>(sample::remarks);
     QTest::keyClicks(&text, "one");
@@ -136,13 +103,13 @@ TEST_F(ModelessSample, ButtonsAndBoxesFollowTheirWindow) {
 }
 
 TEST_F(ModelessSample, ListsAndCombosTakeWhatIsPicked) {
-    showItem(at<QAbstractItemView>(sample::list), 1);
+    clickItem(at<QAbstractItemView>(sample::list), 1);
     EXPECT_EQ(dialog.at<CListBox>(sample::list).selectedText(), "M20");
-    showItem(at<QAbstractItemView>(sample::list), 1, Qt::ControlModifier);
+    clickItem(at<QAbstractItemView>(sample::list), 1, Qt::ControlModifier);
     EXPECT_EQ(dialog.at<CListBox>(sample::list).selected(), 1) << "cannot be unselected";
 
-    showItem(at<QAbstractItemView>(sample::manyList), 0);
-    showItem(at<QAbstractItemView>(sample::manyList), 2, Qt::ControlModifier);
+    clickItem(at<QAbstractItemView>(sample::manyList), 0);
+    clickItem(at<QAbstractItemView>(sample::manyList), 2, Qt::ControlModifier);
     EXPECT_THAT(dialog.at<CListBox>(sample::manyList).selection(), ElementsAre(0, 2));
 
     auto& checks = at<QAbstractItemView>(sample::checkList);
@@ -248,104 +215,6 @@ TEST_F(ModelessSample, ItsCrossCancels) {
     EXPECT_FALSE(system.widgetOf(dialog));
 }
 
-TEST_F(Desktop, ModalDialogsEndByEnterEscapeAndTimers) {
-    Dialog dialog;
-    meanwhile([&] {
-        EXPECT_EQ(QApplication::activeModalWidget(), system.widgetOf(dialog));
-        key(Qt::Key_Return);
-    });
-    EXPECT_EQ(dialog.doModal(), IDOK);
-    EXPECT_FALSE(system.widgetOf(dialog));
-
-    meanwhile([&] { key(Qt::Key_Escape); });
-    EXPECT_EQ(dialog.doModal(), IDCANCEL);
-
-    int ticks = 0;
-    const int timer = system.startTimer(10, [&](int number) {
-        if (++ticks == 3) {
-            dialog.press(IDOK);
-            system.killTimer(number);
-        }
-    });
-    EXPECT_EQ(dialog.doModal(), IDOK);
-    EXPECT_EQ(ticks, 3);
-    EXPECT_FALSE(system.killTimer(timer));
-}
-
-TEST_F(Desktop, ModalDialogsLieInEachOther) {
-    Dialog outer;
-    Dialog inner(&outer);
-    outer.whenMore = [&] {
-        meanwhile([&] {
-            EXPECT_EQ(QApplication::activeModalWidget(), system.widgetOf(inner));
-            const QRect over = widget<QWidget>(outer).geometry();
-            EXPECT_LE(
-                (widget<QWidget>(inner).geometry().center() - over.center()).manhattanLength(), 2);
-            key(Qt::Key_Escape);
-        });
-        EXPECT_EQ(inner.doModal(), IDCANCEL);
-        EXPECT_FALSE(outer.isEnded());
-        outer.press(IDOK);
-    };
-    meanwhile([&] { click(widget<QWidget>(outer, sample::moreButton)); });
-    EXPECT_EQ(outer.doModal(), IDOK);
-}
-
-// The outer dialog goes while its own button still waits for the inner one.
-TEST_F(Desktop, ADialogMayEndAndGoWhileItsButtonIsPressed) {
-    auto outer = std::make_unique<Dialog>();
-    Dialog inner;
-    outer->whenMore = [&] {
-        meanwhile([&] {
-            outer.reset();
-            inner.press(IDOK);
-        });
-        inner.doModal();
-    };
-    outer->create();
-    outer->show(true);
-    settle();
-    click(widget<QWidget>(*outer, sample::moreButton));
-    settle();
-    EXPECT_FALSE(outer);
-}
-
-TEST_F(Desktop, EndingTheProgramEndsModalDialogs) {
-    Dialog dialog;
-    meanwhile([&] { QCoreApplication::exit(); });
-    QTimer::singleShot(0, qApp, [&] { EXPECT_EQ(dialog.doModal(), IDCANCEL); });
-    QApplication::exec();
-    EXPECT_FALSE(dialog.isCreated());
-}
-
-TEST_F(Desktop, MessageBoxesAnswerWithTheirButtons) {
-    struct Case {
-        MessageButtons buttons;
-        Qt::Key key;
-        int answer;
-    };
-    for (const Case& each : {Case{MessageButtons::ok, Qt::Key_Escape, IDOK},
-                             {MessageButtons::okCancel, Qt::Key_Return, IDOK},
-                             {MessageButtons::okCancel, Qt::Key_Escape, IDCANCEL},
-                             {MessageButtons::yesNoCancel, Qt::Key_Return, IDYES},
-                             {MessageButtons::yesNoCancel, Qt::Key_Escape, IDCANCEL},
-                             {MessageButtons::yesNo, Qt::Key_Escape, IDNO},
-                             {MessageButtons::retryCancel, Qt::Key_Return, IDRETRY}}) {
-        meanwhile([&] {
-            auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-            ASSERT_TRUE(box);
-            EXPECT_EQ(box->text(), "Save <table>?");
-            EXPECT_EQ(box->icon(), QMessageBox::Question);
-            saveGrab(*box, "message");
-            QTest::keyClick(box, each.key);
-        });
-        EXPECT_EQ(
-            system.messageBox({"Sample", "Save <table>?", MessageIcon::question, each.buttons}),
-            each.answer)
-            << static_cast<int>(each.buttons) << ' ' << each.key;
-    }
-}
-
 TEST_F(ModelessSample, MenusGiveTheCommandPicked) {
     const MenuEntry entries[] = {
         {7, "Copy"}, {}, {8, "Paste", false}, {9, "Bolts & nuts", true, true}};
@@ -363,17 +232,6 @@ TEST_F(ModelessSample, MenusGiveTheCommandPicked) {
     meanwhile([&] { QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Escape); });
     EXPECT_EQ(system.popupMenu(dialog, entries), 0);
     EXPECT_FALSE(dialog.isEnded());
-}
-
-TEST_F(Desktop, AForgottenScreenBringsItsDialogsBack) {
-    Dialog dialog;
-    dialog.create();
-    dialog.move({-5000, 9000, -4000, 9600});
-    dialog.show(true);
-    settle();
-    EXPECT_TRUE(QGuiApplication::primaryScreen()->availableGeometry().intersects(
-        widget<QWidget>(dialog).geometry()));
-    EXPECT_EQ(dialog.rect().left, widget<QWidget>(dialog).geometry().x());
 }
 
 }  // namespace

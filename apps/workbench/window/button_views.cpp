@@ -4,11 +4,13 @@
 #include <QKeyEvent>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QTabWidget>
 #include <algorithm>
 
-#include "platform/window/controls.h"
+#include "platform/window/dialog.h"
 #include "window/captions.h"
 #include "window/control_views.h"
+#include "window/dialog_navigation.h"
 #include "window/pictures.h"
 #include "window/qt_window_system.h"
 
@@ -62,11 +64,17 @@ class PushView : public PressView<QPushButton> {
     void apply(WindowChange change) override {
         if (change == WindowChange::style) {
             shown().setCheckable(model().isCheckable());
-            shown().setDefault(model().hasStyle(styleDefault));
+            shown().setDefault(isDefault());
         }
         PressView::apply(change);
     }
     void showCheck() override { shown().setChecked(model().isCheckable() && model().check() != 0); }
+
+  private:
+    bool isDefault() const {
+        const auto* dialog = dynamic_cast<const CDialog*>(model().parent());
+        return dialog && !dialog->isPage() && defaultButton(*dialog) == &model();
+    }
 };
 
 class CheckView : public PressView<QCheckBox> {
@@ -129,8 +137,11 @@ class GroupView : public ViewOf<CButton, QGroupBox> {
   public:
     GroupView(QtWindowSystem& system, CButton& window, QGroupBox* group)
         : ViewOf(system, window, group) {
-        // What it frames may have been made before it.
+        // What it frames may have been made before it; frames of tabs lie below all.
         group->lower();
+        for (QWidget* tabs :
+             group->parentWidget()->findChildren<QTabWidget*>(Qt::FindDirectChildrenOnly))
+            tabs->lower();
         group->setAttribute(Qt::WA_TransparentForMouseEvents);
     }
 

@@ -72,8 +72,7 @@ class ComboView : public ViewOf<CComboBox, ComboWidget> {
         const bool isOpenHeight = rect.height() >= 2 * closed;
         const int lines = (rect.height() - closed) / shown().fontMetrics().lineSpacing();
         if (isOpenHeight) shown().setMaxVisibleItems(std::max(lines, 10));
-        shown().setGeometry(rect.left, rect.top, rect.width(),
-                            isOpenHeight ? closed : rect.height());
+        placeAt({rect.left, rect.top, rect.right, isOpenHeight ? rect.top + closed : rect.bottom});
     }
 
   private:

@@ -5,21 +5,12 @@
 
 #include "platform/window/dialog.h"
 #include "window/dialog_font.h"
+#include "window/dialog_navigation.h"
 #include "window/dialog_widget.h"
 #include "window/placement.h"
 #include "window/qt_window_system.h"
-#include "window/tab_order.h"
 
 namespace {
-
-/// The button that Enter presses: the one marked for it, else OK.
-CButton* defaultButton(const CDialog& dialog) {
-    for (CWnd* child : dialog.children()) {
-        auto* button = dynamic_cast<CButton*>(child);
-        if (button && button->hasStyle(styleDefault)) return button;
-    }
-    return dialog.itemAs<CButton>(IDOK);
-}
 
 CTabCtrl* visibleTabs(const CDialog& dialog) {
     for (CWnd* child : dialog.children()) {

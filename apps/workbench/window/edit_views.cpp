@@ -48,10 +48,11 @@ class LineView : public ViewOf<CEdit, QLineEdit> {
     void type(const QString& text) {
         if (isFollowing() || !window()) return;
         if (!canBeKept(text)) {
-            const int at = shown().cursorPosition();
+            const auto length = static_cast<int>(text.size() - toQt(model().text()).size());
+            const int before = shown().cursorPosition() - length;
             refuseTyped(shown(), text);
             follow(WindowChange::text);
-            shown().setCursorPosition(at - 1);
+            shown().setCursorPosition(before);
             return;
         }
         act([&] { model().userTypes(fromQt(text)); });

@@ -4,6 +4,7 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QGuiApplication>
+#include <QLineEdit>
 #include <optional>
 
 #include "platform/paths.h"
@@ -26,6 +27,36 @@ QString existingFolder(const std::string& folder) {
     return path;
 }
 
+/// Names with a dot of their own ("HEB 200.5") need the extension as well.
+QString withExtension(const QString& path, const FileQuestion& question) {
+    const QString ending = "." + toQt(question.extension);
+    const bool isComplete = question.kind == Kind::folder || question.extension.empty() ||
+                            path.endsWith(ending, Qt::CaseInsensitive) ||
+                            (question.kind != Kind::save && QFileInfo::exists(path));
+    return isComplete ? path : path + ending;
+}
+
+/// Looks for what was typed with the extension, too: Qt adds it only to names without any dot.
+class Chooser : public QFileDialog {
+  public:
+    Chooser(QWidget* parent, const FileQuestion& question)
+        : QFileDialog(parent), m_question(question) {}
+
+  protected:
+    void accept() override {
+        auto* field = findChild<QLineEdit*>("fileNameEdit");
+        if (field && !field->text().isEmpty() && !field->text().contains('"')) {
+            const QString path = directory().filePath(field->text());
+            const QString ending = withExtension(path, m_question).mid(path.size());
+            if (!QFileInfo(path).isDir()) field->setText(field->text() + ending);
+        }
+        QFileDialog::accept();
+    }
+
+  private:
+    const FileQuestion& m_question;
+};
+
 void setUp(QFileDialog& chooser, const FileQuestion& question) {
     chooser.setWindowTitle(toQt(question.title));
     // Asked after the extension was added, in the words of the module.
@@ -41,20 +72,10 @@ void setUp(QFileDialog& chooser, const FileQuestion& question) {
     } else if (!question.extension.empty()) {
         const QString extension = toQt(question.extension);
         chooser.setNameFilter(toQt(question.filterName) + " (*." + extension + ")");
-        chooser.setDefaultSuffix(extension);
     }
     if (const QString folder = existingFolder(question.folder); !folder.isEmpty())
         chooser.setDirectory(folder);
     if (!question.preset.empty()) chooser.selectFile(toQt(question.preset));
-}
-
-/// Names with a dot of their own ("HEB 200.5") need the extension as well.
-QString withExtension(const QString& path, const FileQuestion& question) {
-    const QString ending = "." + toQt(question.extension);
-    const bool isComplete = question.kind == Kind::folder || question.extension.empty() ||
-                            path.endsWith(ending, Qt::CaseInsensitive) ||
-                            (question.kind != Kind::save && QFileInfo::exists(path));
-    return isComplete ? path : path + ending;
 }
 
 bool mayBeReplaced(const QString& path, const FileQuestion& question) {
@@ -93,7 +114,7 @@ std::vector<std::string> accepted(const QStringList& chosen, const FileQuestion&
 
 std::vector<std::string> QtWindowSystem::chooseFiles(const FileQuestion& question, CWnd* parent) {
     syncGrids();
-    QFileDialog chooser(ownerOf(parent));
+    Chooser chooser(ownerOf(parent), question);
     setUp(chooser, question);
     while (chooser.exec() == QDialog::Accepted) {
         const auto files = accepted(chooser.selectedFiles(), question);

@@ -4,6 +4,7 @@
 #include <QClipboard>
 #include <QEventLoop>
 #include <QFontMetrics>
+#include <QStyle>
 #include <QStyleFactory>
 #include <QTimer>
 #include <algorithm>
@@ -42,7 +43,13 @@ static void loadIcons() {
 QtWindowSystem::QtWindowSystem() : m_keyRoute(std::make_unique<KeyRoute>(*this)) {
     loadIcons();
     QApplication::setStyle(QStyleFactory::create("Fusion"));
+    // The icons are drawn for a light ground.
+    QApplication::setPalette(QApplication::style()->standardPalette());
     QApplication::setFont(dialogFont());
+    const QFontMetrics metrics(dialogFont());
+    const QString letters = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz";
+    m_character = {metrics.horizontalAdvance(letters) / static_cast<int>(letters.size()),
+                   metrics.height() + 1};
     m_before = WindowSystem::install(this);
 }
 
@@ -225,14 +232,6 @@ bool QtWindowSystem::isShiftHeld() {
 
 void QtWindowSystem::setClipboardText(std::string_view text) {
     QGuiApplication::clipboard()->setText(toQt(text));
-}
-
-// The average letter; a pixel above the line keeps marked letters apart from their frames.
-CSize QtWindowSystem::dialogCharacter() {
-    const QFontMetrics metrics(dialogFont());
-    const QString letters = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz";
-    const int width = metrics.horizontalAdvance(letters) / static_cast<int>(letters.size());
-    return {width, metrics.height() + 1};
 }
 
 int QtWindowSystem::textWidth(std::string_view text) {

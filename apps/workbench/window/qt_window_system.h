@@ -69,7 +69,7 @@ class QtWindowSystem : public WindowSystem {
     bool isShiftHeld() override;
     std::string clipboardText() override;
     void setClipboardText(std::string_view text) override;
-    CSize dialogCharacter() override;
+    CSize dialogCharacter() override { return m_character; }
     int textWidth(std::string_view text) override;
     int startTimer(int milliseconds, TimerCall call) override;
     bool killTimer(int timer) override;
@@ -94,6 +94,7 @@ class QtWindowSystem : public WindowSystem {
     std::vector<ModalRun> m_modalRuns;
     std::unique_ptr<KeyRoute> m_keyRoute;
     Timers m_timers;
+    CSize m_character;  // the average letter, and a line with a pixel above it
     GridMaker m_makeGrid;
     GridSync m_syncGrid;
     Qt::FocusReason m_focusReason = Qt::OtherFocusReason;

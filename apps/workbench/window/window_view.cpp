@@ -1,6 +1,7 @@
 #include "window/window_view.h"
 
 #include <QAbstractItemView>
+#include <cmath>
 
 #include "platform/window/wnd.h"
 #include "window/captions.h"
@@ -69,8 +70,20 @@ void WindowView::apply(WindowChange change) {
 }
 
 void WindowView::placeWidget() {
-    const CRect& rect = m_window->rect();
-    m_widget->setGeometry(rect.left, rect.top, rect.width(), rect.height());
+    placeAt(m_window->rect());
+}
+
+// Where a pixel of ours is one and a half of the screen's, an edge that falls between two of them
+// loses its line.
+void WindowView::placeAt(const CRect& rect) {
+    const qreal ratio = m_widget->devicePixelRatioF();
+    const auto moved = [&](int at, int step) {
+        for (int tries = 0; tries < 3 && std::floor(at * ratio) != at * ratio; ++tries) at += step;
+        return at;
+    };
+    const QPoint topLeft(moved(rect.left, -1), moved(rect.top, -1));
+    const QPoint beyond(moved(rect.right, 1), moved(rect.bottom, 1));
+    m_widget->setGeometry(QRect(topLeft, beyond - QPoint(1, 1)));
 }
 
 void WindowView::showWidget() {

@@ -9,6 +9,7 @@
 #include <QWidget>
 #include <functional>
 
+#include "platform/window/geometry.h"
 #include "platform/window/window_system.h"
 
 class QtWindowSystem;
@@ -42,6 +43,8 @@ class WindowView : public QObject {
     /// Takes over one kind of change; the base knows those of all windows.
     virtual void apply(WindowChange change);
     virtual void placeWidget();
+    /// Puts the widget at a place in its parent, on whole pixels of the screen.
+    void placeAt(const CRect& rect);
     virtual void showWidget();
     /// The changes that a user makes by hand, to be taken back where the window does otherwise.
     virtual void applyOwnChanges() {}

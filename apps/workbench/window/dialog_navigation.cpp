@@ -1,4 +1,4 @@
-#include "window/tab_order.h"
+#include "window/dialog_navigation.h"
 
 #include <algorithm>
 #include <vector>
@@ -29,4 +29,12 @@ CWnd* nextInTabOrder(CDialog& dialog, const CWnd* from, bool backwards) {
     if (found == stops.end()) return backwards ? stops.back() : stops.front();
     if (backwards) return found == stops.begin() ? stops.back() : *(found - 1);
     return found + 1 == stops.end() ? stops.front() : *(found + 1);
+}
+
+CButton* defaultButton(const CDialog& dialog) {
+    for (CWnd* child : dialog.children()) {
+        auto* button = dynamic_cast<CButton*>(child);
+        if (button && button->hasStyle(styleDefault)) return button;
+    }
+    return dialog.itemAs<CButton>(IDOK);
 }

@@ -1,0 +1,62 @@
+// The real desktop for the length of a test, and how a test works with its widgets.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <QAbstractItemView>
+#include <QApplication>
+#include <QTest>
+#include <QTimer>
+#include <functional>
+#include <stdexcept>
+#include <utility>
+
+#include "platform/window/dialog.h"
+#include "window/qt_window_system.h"
+
+class Desktop : public testing::Test {
+  protected:
+    // A question that nobody answers would wait for ever.
+    Desktop() {
+        m_patience.setSingleShot(true);
+        m_patience.callOnTimeout([] {
+            ADD_FAILURE() << "somebody waits for an answer";
+            QCoreApplication::exit();
+        });
+        m_patience.start(30000);
+    }
+
+    /// What a test does while a modal question waits.
+    static void meanwhile(std::function<void()> steps) {
+        QTimer::singleShot(50, qApp, std::move(steps));
+    }
+    static void settle() { QTest::qWait(20); }
+
+    template <class Widget>
+    Widget& widget(const CWnd& window) const {
+        auto* found = qobject_cast<Widget*>(system.widgetOf(window));
+        if (!found) throw std::runtime_error("no such widget");
+        return *found;
+    }
+    template <class Widget>
+    Widget& widget(const CDialog& dialog, int id) const {
+        return widget<Widget>(*dialog.descendant(id));
+    }
+    void click(QWidget& widget, QPoint at = {}) const {
+        QTest::mouseClick(&widget, Qt::LeftButton, {}, at);
+    }
+    static void key(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
+        QWidget* focused = QApplication::focusWidget();
+        ASSERT_TRUE(focused);
+        QTest::keyClick(focused, key, modifiers);
+    }
+    static void clickItem(QAbstractItemView& view, int row, Qt::KeyboardModifiers modifiers = {}) {
+        const QRect place = view.visualRect(view.model()->index(row, 0));
+        QTest::mouseClick(view.viewport(), Qt::LeftButton, modifiers, place.center());
+    }
+
+    QtWindowSystem system;
+
+  private:
+    QTimer m_patience;
+};
