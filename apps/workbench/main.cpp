@@ -1,10 +1,12 @@
-// vormant-workbench [LIBRARY]
+// vormant-workbench [LIBRARY] [--open NAME]… [--screenshot FILE]
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QFileInfo>
+#include <QTimer>
+#include <cstdio>
 
+#include "platform/paths.h"
 #include "shell/main_window.h"
-#include "window/qt_window_system.h"
 
 namespace {
 
@@ -14,30 +16,60 @@ void applyScale(const WorkbenchSettings& settings) {
         qputenv("QT_SCALE_FACTOR", QByteArray::number(settings.scalePercent / 100.0));
 }
 
+QString absolute(const QString& path) {
+    return QFileInfo(path).absoluteFilePath();
+}
+
+/// What is open is drawn into a picture, as a reader of the manual will see it.
+void takeScreenshot(MainWindow& window, const QString& file) {
+    constexpr int untilPainted = 500;  // milliseconds
+    QTimer::singleShot(untilPainted, &window, [&window, file] {
+        const bool isSaved = window.grab().save(file);
+        if (!isSaved)
+            std::fprintf(stderr, "vormant-workbench: %s: cannot be written\n", qPrintable(file));
+        QApplication::exit(isSaved ? 0 : 1);
+    });
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
-    const WorkbenchSettings settings = WorkbenchSettings::load();
+    WorkbenchSettings settings = WorkbenchSettings::load();
     applyScale(settings);
     QApplication application(argc, argv);
     QApplication::setApplicationName("vormant-workbench");
     QApplication::setApplicationVersion(VORMANT_VERSION);
-    QtWindowSystem windows;
 
     QCommandLineParser parser;
     parser.setApplicationDescription(
         "Connection standards, sections and bills for steel detailers");
     parser.addHelpOption();
     parser.addVersionOption();
+    const QCommandLineOption open("open", "Standard, macro or sheet to open", "file");
+    const QCommandLineOption language("language", "Language of the texts: en, nl, de or fr",
+                                      "code");
+    const QCommandLineOption screenshot("screenshot", "Draw the window into a picture and end",
+                                        "file");
+    parser.addOptions({open, language, screenshot});
     parser.addPositionalArgument("library", "Folder of the library to open", "[library]");
     parser.process(application);
 
+    if (parser.isSet(language)) {
+        const qsizetype code = QStringList{"en", "nl", "de", "fr"}.indexOf(parser.value(language));
+        if (code < 0) {
+            std::fprintf(stderr, "vormant-workbench: --language %s: choose en, nl, de or fr\n",
+                         qPrintable(parser.value(language)));
+            return 2;
+        }
+        settings.sessionLanguage = static_cast<Language>(code);
+    }
     MainWindow window(settings);
     window.show();
     const QStringList given = parser.positionalArguments();
-    const std::string library = given.isEmpty()
-                                    ? settings.library
-                                    : QFileInfo(given.front()).absoluteFilePath().toStdString();
+    const std::string library =
+        given.isEmpty() ? settings.library : absolute(given.front()).toStdString();
     if (!library.empty()) window.openLibrary(library);
+    for (const QString& file : parser.values(open)) window.openFile(absolute(file));
+    if (parser.isSet(screenshot)) takeScreenshot(window, parser.value(screenshot));
     return QApplication::exec();
 }

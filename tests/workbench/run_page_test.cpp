@@ -8,8 +8,10 @@
 #include <QTest>
 
 #include "core_api/settings.h"
+#include "macro/macro_page.h"
 #include "run/run_page.h"
 #include "shell/main_window.h"
+#include "support/test_user.h"
 #include "window/dialog_font.h"
 
 namespace {
@@ -85,6 +87,48 @@ TEST_F(Workbench, ReportsAreWrittenWholeOrNotAtAll) {
     EXPECT_TRUE(printed.readAll().startsWith("%PDF"));
     EXPECT_FALSE(page->exportReport(m_config.filePath("no/such/folder.pdf"), ""));
     EXPECT_TRUE(page->message().contains("folder.pdf"));
+}
+
+TEST_F(Workbench, RunsStandardsOnMacrosAndLeavesTheFileUntilSaved) {
+    QTemporaryDir folder;
+    const QString file = folder.filePath("joint.macro");
+    ASSERT_TRUE(QFile::copy(VORMANT_SOURCE_DIR "/library/Macros/EndPlate.macro", file));
+    QFile::setPermissions(file, QFile::ReadOwner | QFile::WriteOwner);
+    const auto content = [&] {
+        QFile read(file);
+        EXPECT_TRUE(read.open(QIODevice::ReadOnly));
+        return read.readAll();
+    };
+    const QByteArray before = content();
+    ASSERT_TRUE(m_window.openLibrary(VORMANT_SOURCE_DIR "/library"));
+    auto* page = dynamic_cast<MacroPage*>(m_window.openFile(file));
+    ASSERT_TRUE(page);
+    EXPECT_EQ(page->value("Plate.Height"), "200");
+    page->choose("EndPlate", "no such key");
+    EXPECT_FALSE(page->run());
+    EXPECT_TRUE(page->message().contains("no such key")) << page->message().toStdString();
+    page->choose("EndPlate", "BeamToColumn");
+    EXPECT_TRUE(page->run()) << page->message().toStdString();
+    EXPECT_NE(page->value("Plate.Height"), "200");
+    EXPECT_EQ(content(), before);
+    EXPECT_TRUE(page->save());
+    EXPECT_NE(content(), before);
+    EXPECT_FALSE(page->isChanged());
+}
+
+TEST_F(Workbench, ComplainsOfFilesThatAreNoneAndGoesOn) {
+    TestUser user;  // every complaint is a message box with OK alone
+    EXPECT_FALSE(m_window.openLibrary("/no/such/folder"));
+    EXPECT_EQ(m_window.openFile("/no/such/file.tws"), nullptr);
+    QTemporaryDir folder;
+    QFile broken(folder.filePath("broken.tws"));
+    ASSERT_TRUE(broken.open(QIODevice::WriteOnly));
+    broken.write("vormant-sheet 1\nsize 1 1\ncells\n");
+    broken.close();
+    EXPECT_EQ(m_window.openFile(broken.fileName()), nullptr);
+    ASSERT_EQ(user.told().size(), 3u);
+    EXPECT_NE(user.told()[2].text.find("broken.tws"), std::string::npos);
+    EXPECT_TRUE(m_window.openLibrary(VORMANT_SOURCE_DIR "/library"));
 }
 
 }  // namespace

@@ -49,6 +49,7 @@ MacroPage::MacroPage(std::unique_ptr<runs::MacroRun> macro, QWidget* parent)
     m_objects->setObjectName("macroObjects");
     m_objects->setHorizontalHeaderLabels({word(wordObject), word(wordKind), word(wordValue)});
     m_objects->verticalHeader()->hide();
+    m_objects->verticalHeader()->setDefaultSectionSize(22);
     m_objects->setEditTriggers(QAbstractItemView::NoEditTriggers);
     m_objects->setSelectionBehavior(QAbstractItemView::SelectRows);
     m_objects->horizontalHeader()->setStretchLastSection(true);

@@ -40,6 +40,9 @@ MainWindow::MainWindow(WorkbenchSettings settings)
       m_tree(new LibraryTree),
       m_pane(new CommandPane),
       m_host(*m_pane, m_hostWindow, *this) {
+    Q_INIT_RESOURCE(icons);
+    Q_INIT_RESOURCE(manual);
+    setWindowIcon(QIcon(":/icons/vormant-workbench.svg"));
     Host::install(&m_host);
     m_hostWindow.create({"Host", "Vormant", {0, 0, 1200, 800}, 0, 0, true}, nullptr);
     m_windows.represent(m_hostWindow, *this);
@@ -190,6 +193,7 @@ void MainWindow::changeSettings() {
     const std::string before = m_settings.library;
     WorkbenchSettings changed = dialog.settings();
     const std::string library = std::exchange(changed.library, before);
+    if (changed.language != m_settings.language) changed.sessionLanguage.reset();
     m_settings = changed;
     m_settings.apply();
     save();
@@ -265,6 +269,16 @@ QWidget* MainWindow::open(LibraryKind kind, const Vor_String& path) {
         default:
             return nullptr;
     }
+}
+
+QWidget* MainWindow::openFile(const QString& path) {
+    const auto inside = paths::toInside(path.toStdString());
+    if (!inside || !QFileInfo::exists(path)) {
+        complain(path + ": " + word(wordNoSuchFile));
+        return nullptr;
+    }
+    const bool isMacro = path.endsWith(".macro", Qt::CaseInsensitive);
+    return open(isMacro ? LibraryKind::macro : LibraryKind::standard, Vor_String(*inside));
 }
 
 QWidget* MainWindow::openMacro(const Vor_String& path) {

@@ -24,6 +24,8 @@ class MainWindow : public QMainWindow {
     /// A page for what the tree shows; the one that is open already comes to the front. Null after
     /// telling why.
     QWidget* open(LibraryKind kind, const Vor_String& path);
+    /// By its extension; a machine path.
+    QWidget* openFile(const QString& path);
     RunPage* openStandard(const Vor_String& path);
     QWidget* openMacro(const Vor_String& path);
 

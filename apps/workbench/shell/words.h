@@ -71,4 +71,5 @@ enum WorkbenchWord {
     wordStandard,
     wordMapsTo,
     wordSaveChanges,
+    wordNoSuchFile,
 };

@@ -60,6 +60,6 @@ void WorkbenchSettings::noteLibrary(const std::string& folder) {
 }
 
 void WorkbenchSettings::apply() const {
-    gSettings.current().language = language;
+    gSettings.current().language = sessionLanguage.value_or(language);
     gSettings.current().diagnostics = diagnostics;
 }

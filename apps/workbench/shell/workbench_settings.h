@@ -1,6 +1,7 @@
 // What the workbench remembers between sessions, kept in the module's registry.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -10,6 +11,8 @@ struct WorkbenchSettings {
     std::string library;              ///< machine path, UTF-8; empty until one was opened
     std::vector<std::string> recent;  ///< libraries, the newest first
     Language language = Language::english;
+    /// Asked for at the start of this session alone; not kept.
+    std::optional<Language> sessionLanguage;
     bool diagnostics = true;
     int scalePercent = 100;  ///< 100 to 200; counts from the next start
     std::string author;      ///< for reports, UTF-8

@@ -120,6 +120,9 @@ constexpr TextRow rows[] = {
       "Er zijn wijzigingen die niet zijn opgeslagen. Opslaan?",
       "Es gibt Änderungen, die nicht gespeichert sind. Speichern?",
       "Des modifications ne sont pas enregistrées. Les enregistrer ?"}},
+    {22155,
+     {"there is no such file", "dat bestand bestaat niet", "diese Datei gibt es nicht",
+      "ce fichier n'existe pas"}},
 };
 
 }  // namespace
