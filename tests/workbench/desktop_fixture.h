@@ -5,6 +5,7 @@
 
 #include <QAbstractItemView>
 #include <QApplication>
+#include <QPointer>
 #include <QTest>
 #include <QTimer>
 #include <functional>
@@ -23,12 +24,25 @@ class Desktop : public testing::Test {
             ADD_FAILURE() << "somebody waits for an answer";
             QCoreApplication::exit();
         });
-        m_patience.start(30000);
+        m_patience.start(60000);
     }
 
-    /// What a test does while a modal question waits.
+    /// What a test does once a modal question or a menu waits that was not there before.
     static void meanwhile(std::function<void()> steps) {
-        QTimer::singleShot(50, qApp, std::move(steps));
+        auto* look = new QTimer(qApp);
+        look->callOnTimeout([look, steps = std::move(steps), before = QPointer(waiting())] {
+            const QWidget* asked = waiting();
+            const bool isMenu = asked == QApplication::activePopupWidget();
+            if (!asked || asked == before || (!isMenu && !asked->isActiveWindow())) return;
+            look->stop();
+            look->deleteLater();
+            steps();
+        });
+        look->start(10);
+    }
+    static QWidget* waiting() {
+        QWidget* menu = QApplication::activePopupWidget();
+        return menu ? menu : QApplication::activeModalWidget();
     }
     static void settle() { QTest::qWait(20); }
 

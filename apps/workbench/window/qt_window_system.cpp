@@ -4,8 +4,6 @@
 #include <QClipboard>
 #include <QEventLoop>
 #include <QFontMetrics>
-#include <QStyle>
-#include <QStyleFactory>
 #include <QTimer>
 #include <algorithm>
 #include <utility>
@@ -14,6 +12,7 @@
 #include "spread/t_spread.h"
 #include "window/control_views.h"
 #include "window/dialog_font.h"
+#include "window/dialog_style.h"
 #include "window/key_route.h"
 
 namespace {
@@ -42,7 +41,7 @@ static void loadIcons() {
 
 QtWindowSystem::QtWindowSystem() : m_keyRoute(std::make_unique<KeyRoute>(*this)) {
     loadIcons();
-    QApplication::setStyle(QStyleFactory::create("Fusion"));
+    QApplication::setStyle(new DialogStyle);
     // The icons are drawn for a light ground.
     QApplication::setPalette(QApplication::style()->standardPalette());
     QApplication::setFont(dialogFont());
