@@ -181,6 +181,7 @@ class FileChooser : public Desktop {
         meanwhile([=] {
             auto* chooser = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
             ASSERT_TRUE(chooser);
+            saveGrab(*chooser, "files");
             chooser->findChild<QLineEdit*>("fileNameEdit")->setText(name);
             if (!answers.empty()) answersNext(answers);
             static_cast<Confirmable*>(chooser)->accept();

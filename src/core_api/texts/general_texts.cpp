@@ -40,6 +40,11 @@ constexpr TextRow rows[] = {
       "Dit teken kan niet worden bewaard: %1. Gebruik West-Europese letters.",
       "Dieses Zeichen kann nicht gespeichert werden: %1. Westeuropäische Buchstaben verwenden.",
       "Ce caractère ne peut pas être conservé : %1. Utilisez des lettres d'Europe occidentale."}},
+    {9107, {"Look in:", "Zoeken in:", "Suchen in:", "Rechercher dans :"}},
+    {9108, {"File &name:", "Bestands&naam:", "Datei&name:", "&Nom du fichier :"}},
+    {9109, {"Files of type:", "Bestandstype:", "Dateityp:", "Type de fichier :"}},
+    {9110, {"&Open", "&Openen", "Ö&ffnen", "&Ouvrir"}},
+    {9111, {"&Save", "Op&slaan", "&Speichern", "&Enregistrer"}},
 };
 
 }  // namespace
