@@ -11,9 +11,9 @@ namespace {
 
 constexpr const char* style = R"(<style>
 body { font-family: "DejaVu Sans", Arial, sans-serif; font-size: 9pt; color: #202020; }
-h1 { font-size: 14pt; margin-bottom: 2pt; }
-h2 { font-size: 11pt; margin-top: 12pt; margin-bottom: 3pt; }
-p { margin-top: 2pt; margin-bottom: 2pt; }
+h1 { font-size: 14pt; margin-bottom: 4px; }
+h2 { font-size: 11pt; margin-top: 16px; margin-bottom: 6px; }
+p { margin-top: 5px; margin-bottom: 5px; }
 .quiet { color: #606060; }
 .failed { color: #a00000; font-weight: bold; }
 .numbers { color: #404080; }
@@ -39,6 +39,16 @@ std::string escaped(std::string_view windows1252) {
             default:
                 text += c;
         }
+    }
+    return text;
+}
+
+/// An expression, which may go on in the next line after any of its commas.
+std::string breakable(std::string_view windows1252) {
+    std::string text;
+    for (const char c : escaped(windows1252)) {
+        text += c;
+        if (c == ',') text += "&#8203;";
     }
     return text;
 }
@@ -83,22 +93,20 @@ std::string variables(const Calculation& calculation,
     return element("table", rows, tableAttributes);
 }
 
-std::string listing(const Calculation& calculation);
-
+/// The lines of an equation below each other.
 std::string equation(const CalculationLine& line) {
-    std::string text;
-    if (line.name.empty()) {
-        text = escaped(line.symbols);
-    } else {
-        text = element("b", escaped(line.name)) + " = " + escaped(line.symbols);
-        if (line.numbers != line.symbols)
-            text += "<br>" + element("span", "= " + escaped(line.numbers), "class=\"numbers\"");
-        if (line.ok) {
-            const std::string result = "= " + withUnit(line.result, line.unit);
-            text += "<br>" + (line.isError ? element("span", result, "class=\"failed\"")
-                                           : element("b", result));
-        }
-    }
+    const std::string cell = getAlfabet(line.column).str() + std::to_string(line.row);
+    std::string text = element("span", escaped(cell), "class=\"quiet\"") + "&nbsp; ";
+    text += line.name.empty() ? breakable(line.symbols)
+                              : element("b", escaped(line.name)) + " = " + breakable(line.symbols);
+    if (!line.rule.empty())
+        text += " &nbsp;" + element("span", "[" + escaped(line.rule) + "]", "class=\"quiet\"");
+    if (line.numbers != line.symbols && !line.name.empty())
+        text += "<br>" + element("span", "= " + breakable(line.numbers), "class=\"numbers\"");
+    const std::string result = "= " + withUnit(line.result, line.unit);
+    if (line.ok && !line.name.empty())
+        text += "<br>" +
+                (line.isError ? element("span", result, "class=\"failed\"") : element("b", result));
     if (!line.ok)
         text += "<br>" + element("span",
                                  word(wordFailed) + (line.message.empty() ? "" : ": ") +
@@ -107,21 +115,32 @@ std::string equation(const CalculationLine& line) {
     return text;
 }
 
-std::string listing(const Calculation& calculation) {
-    std::string rows;
-    for (const CalculationLine& line : calculation.lines) {
-        const std::string cell = getAlfabet(line.column).str() + std::to_string(line.row);
-        std::string text = equation(line);
-        if (line.child)
-            text += element("blockquote",
-                            variables(*line.child, line.child->inputs) + listing(*line.child));
-        rows +=
-            element("tr", element("td", escaped(cell), "class=\"quiet\" valign=\"top\"") +
-                              element("td", text) +
-                              element("td", escaped(line.rule), "class=\"quiet\" valign=\"top\"")) +
-            "\n";
+/// What a called standard was given, in one line.
+std::string given(const Calculation& child) {
+    std::string text;
+    for (const auto& input : child.inputs) {
+        const DeclaredVariable* declared = child.standard.find(input.name);
+        if (!text.empty()) text += ", ";
+        text += escaped(input.name) + " = " + withUnit(input.value, declared ? declared->unit : "");
     }
-    return element("table", rows, tableAttributes);
+    return element("span", text, "class=\"quiet\"");
+}
+
+/// Called standards are set in, paragraph by paragraph: tables in tables grow too narrow.
+std::string listing(const Calculation& calculation, int depth = 0) {
+    constexpr int step = 28;  // pixels
+    const auto paragraph = [&](const std::string& html, int level) {
+        return element("p", html, "style=\"margin-left: " + std::to_string(level * step) + "px\"") +
+               "\n";
+    };
+    std::string text;
+    for (const CalculationLine& line : calculation.lines) {
+        text += paragraph(equation(line), depth);
+        if (!line.child) continue;
+        text += paragraph(given(*line.child), depth + 1);
+        text += listing(*line.child, depth + 1);
+    }
+    return text;
 }
 
 std::string section(int title, const std::string& html) {

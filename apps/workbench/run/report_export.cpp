@@ -1,7 +1,7 @@
 #include "run/report_export.h"
 
+#include <QAbstractTextDocumentLayout>
 #include <QDate>
-#include <QLocale>
 #include <QPageLayout>
 #include <QPdfWriter>
 #include <QSaveFile>
@@ -26,13 +26,19 @@ bool writeFile(const QString& path, QString& error, const std::function<bool(QIO
     return false;
 }
 
+// One pixel of the page's style is one dot of this printer, so its dots are as large.
 bool writePdf(const QByteArray& html, QIODevice& device) {
     QPdfWriter writer(&device);
+    writer.setResolution(96);
     writer.setPageSize(QPageSize(QPageSize::A4));
-    constexpr double margin = 15;  // mm
+    constexpr double margin = 10;  // mm
     writer.setPageMargins(QMarginsF(margin, margin, margin, margin), QPageLayout::Millimeter);
     QTextDocument document;
+    document.setDefaultFont(QFont("DejaVu Sans", 9));
+    document.setDocumentMargin(20);  // without one, pages show the first line of the next
     document.setHtml(QString::fromUtf8(html));
+    document.documentLayout()->setPaintDevice(&writer);
+    document.setPageSize(QSizeF(writer.width(), writer.height()));
     document.print(&writer);
     return true;
 }
