@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "core_api/resource_override.h"
 #include "frame/tw_ss_dlgs_mgr.h"
 #include "standards/run_chain.h"
 #include "standards/run_failure.h"
@@ -42,6 +43,7 @@ bool runStandard(TwDlgStandardsData& data) {
 }  // namespace
 
 bool StartDlgStandardsSS(TwDlgStandardsData& data) {
+    const ResourceOverrideScope resources;
     clearRunFailure();
     const bool done = runStandard(data);
     if (done) clearRunFailure();

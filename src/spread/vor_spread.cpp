@@ -19,6 +19,13 @@ struct OptionSetting {
     bool on;
 };
 
+/// Null for the last.
+const CWnd* siblingAfter(const CWnd& window) {
+    const std::vector<CWnd*>& order = window.parent()->children();
+    const auto found = std::find(order.begin(), order.end(), &window);
+    return found == order.end() || found + 1 == order.end() ? nullptr : *(found + 1);
+}
+
 }  // namespace
 
 bool Vor_Spread::attach(CWnd* parent, int ctrlId, bool exactRect) {
@@ -26,8 +33,10 @@ bool Vor_Spread::attach(CWnd* parent, int ctrlId, bool exactRect) {
     if (!placeholder || isCreated()) return false;
     CRect rect = placeholder->rect();
     if (!exactRect) rect = rect.movedBy(-dialogLeft, -dialogTop);
+    const CWnd* next = siblingAfter(*placeholder);
     placeholder->destroy();
     if (!create({gridClassName, {}, rect, 0, ctrlId, true}, parent)) return false;
+    comeBefore(next);  // Tab reaches it where the item stood
     setMaxRows(0);
     setMaxCols(0);
     grid().view().appearance = 1;

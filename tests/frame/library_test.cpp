@@ -3,6 +3,7 @@
 #include "frame/frame_host.h"
 #include "frame/open_macro_dialogs.h"
 #include "frame/starters.h"
+#include "standards/run_observer.h"
 
 namespace {
 
@@ -49,6 +50,23 @@ TEST_F(FrameTest, EntryPointInitialisesAndIgnoresStrangers) {
         EXPECT_EQ(acrxEntryPoint(static_cast<AcRx::AppMsgCode>(other), nullptr), AcRx::kRetOK);
     EXPECT_EQ(host.calls, "unlock\nmdi\n");
     EXPECT_EQ(host.prompts, 0);
+}
+
+class ResourceWatcher : public RunObserver {
+  public:
+    ResourceWatcher() { setRunObserver(this); }
+    ~ResourceWatcher() override { setRunObserver(nullptr); }
+    void runEnded(bool) override { atEnd = gResourceOverride.current(); }
+    ModuleInstance atEnd = nullptr;
+};
+
+TEST_F(FrameTest, RunsOfStandardsHaveTheModulesResources) {
+    ResourceWatcher watcher;
+    TwDlgStandardsData data;
+    data.standardsName = "no such standard";
+    EXPECT_FALSE(StartDlgStandardsSS(data));
+    EXPECT_EQ(watcher.atEnd, &instance);
+    EXPECT_FALSE(isOverridden());
 }
 
 TEST_F(FrameTest, UnloadClosesEveryModelessDialog) {

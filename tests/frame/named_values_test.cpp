@@ -117,6 +117,15 @@ TEST_F(NamedValuesEditor, AnotherTypeOfCutHasOtherOffsets) {
     EXPECT_EQ(cut.offsets[cutRadius], 15);
 }
 
+TEST_F(NamedValuesEditor, TabGoesThroughTheValuesFirst) {
+    LevelsDialog dialog;
+    Vor_Spread& grid = open(dialog);
+    dialog.show(true);
+    EXPECT_EQ(dialog.nextTabItem(nullptr, false), &grid);
+    EXPECT_EQ(dialog.nextTabItem(&grid, false), dialog.item(IDOK));
+    EXPECT_EQ(dialog.nextTabItem(&grid, true), dialog.item(IDCANCEL));
+}
+
 TEST_F(NamedValuesEditor, ComesBackInItsSize) {
     {
         LevelsDialog dialog;

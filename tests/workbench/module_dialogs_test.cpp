@@ -7,6 +7,9 @@
 
 #include "core_api/settings.h"
 #include "dialog_problems.h"
+#include "frame/select_image_dialog.h"
+#include "frame/starter_dialogs.h"
+#include "frame/string_array_dialog.h"
 #include "mapping/dialog/mapping_dialog.h"
 #include "spread/formulas/formulas_dialog.h"
 #include "support/temporary_folder.h"
@@ -26,6 +29,13 @@ const Row rows[] = {
      [] {
          return std::unique_ptr<CDialog>(new TwMappingDlg(nullptr, TabMappingData(), noObjects));
      }},
+    {"bracing", [] { return std::unique_ptr<CDialog>(new BracingDialog); }},
+    {"table",
+     [] {
+         const StringTable table{{"Name", "Size"}, {}, false, "DLG_TABLE", ""};
+         return std::unique_ptr<CDialog>(new StringArrayDialog(table));
+     }},
+    {"image", [] { return std::unique_ptr<CDialog>(new SelectImageDialog); }},
 };
 
 class ModuleDialogs : public testing::TestWithParam<Row> {

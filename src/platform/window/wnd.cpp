@@ -65,6 +65,14 @@ CWnd* CWnd::descendant(int id) const {
     return nullptr;
 }
 
+void CWnd::comeBefore(const CWnd* sibling) {
+    if (!m_parent || sibling == this) return;
+    std::vector<CWnd*>& order = m_parent->m_children;
+    if (sibling && std::find(order.begin(), order.end(), sibling) == order.end()) return;
+    std::erase(order, this);
+    order.insert(std::find(order.begin(), order.end(), sibling), this);
+}
+
 CWnd* CWnd::adopt(std::unique_ptr<CWnd> child) {
     m_owned.push_back(std::move(child));
     return m_owned.back().get();

@@ -59,6 +59,8 @@ class VORMANT_API CWnd {
         return dynamic_cast<ControlClass*>(item(id));
     }
     const std::vector<CWnd*>& children() const { return m_children; }
+    /// Comes before `sibling` in the order of Tab (null: last). Nothing happens when it is none.
+    void comeBefore(const CWnd* sibling);
     /// Keeps a child for as long as this window is created.
     CWnd* adopt(std::unique_ptr<CWnd> child);
 
