@@ -3,6 +3,7 @@
 #include "platform/window/window_system.h"
 
 using control::Block;
+using control::CellAddress;
 using control::Colour;
 
 namespace {
@@ -133,6 +134,40 @@ bool TSpread::tellListener(GridNotice::What what, int col, int row) {
 
 bool TSpread::userEnters(int col, int row, std::string_view text) {
     return m_grid->enter(col, row, text) && tellListener(GridNotice::What::changed, col, row);
+}
+
+void TSpread::tellChanged(const std::vector<CellAddress>& cells) {
+    if (cells.empty()) return;
+    tell(WindowChange::content);
+    const Listener listener = m_listener;
+    if (!listener) return;
+    for (const CellAddress& cell : cells)
+        listener({GridNotice::What::changed, cell.col, cell.row});
+}
+
+bool TSpread::userClears(const Block& given) {
+    const std::optional<Block> block = m_grid->resolved(given);
+    if (!block) return false;
+    const control::Area area{block->row1, block->row2, static_cast<uint16_t>(block->col1),
+                             static_cast<uint16_t>(block->col2)};
+    std::vector<CellAddress> filled;
+    m_grid->sheet().cells().each(area, [&](int row, int col, const control::Cell& cell) {
+        if (cell.type != control::ValueType::empty || cell.formula != 0)
+            filled.push_back({col, row});
+    });
+    std::erase_if(filled, [&](const CellAddress& cell) {
+        return !m_grid->enter(cell.col, cell.row, "");
+    });
+    tellChanged(filled);
+    return !filled.empty();
+}
+
+bool TSpread::userPastes(int col, int row, std::string_view text) {
+    std::vector<CellAddress> taken;
+    const bool isWhole = m_grid->pasteText(
+        col, row, text, [&](int toCol, int toRow) { taken.push_back({toCol, toRow}); });
+    tellChanged(taken);
+    return isWhole;
 }
 
 bool TSpread::userMoves(int col, int row) {

@@ -4,6 +4,7 @@
 
 #include <functional>
 #include <memory>
+#include <vector>
 
 #include "core_api/text/vor_string.h"
 #include "platform/export.h"
@@ -86,6 +87,11 @@ class VORMANT_API TSpread : public CWnd {
     void setListener(Listener listener) { m_listener = std::move(listener); }
     /// Types a text into a cell, or picks it from the cell's list.
     bool userEnters(int col, int row, std::string_view text);
+    /// Empties what may be typed into; the listener hears of each cell that was emptied.
+    bool userClears(const control::Block& block);
+    /// Writes tab-separated lines from a cell on; the listener hears of each cell that took its
+    /// text. False when one refused.
+    bool userPastes(int col, int row, std::string_view text);
     bool userMoves(int col, int row);
     bool userSelects(const control::Block& block);
     /// Presses a button cell, or toggles a check box.
@@ -102,6 +108,7 @@ class VORMANT_API TSpread : public CWnd {
 
   private:
     bool tellListener(GridNotice::What what, int col, int row);
+    void tellChanged(const std::vector<control::CellAddress>& cells);
 
     std::unique_ptr<control::Grid> m_grid;
     Listener m_listener;

@@ -16,6 +16,7 @@ struct TextRow {
 
 extern const std::span<const TextRow> generalTexts;
 extern const std::span<const TextRow> sheetTexts;
+extern const std::span<const TextRow> gridTexts;
 extern const std::span<const TextRow> mappingTexts;
 extern const std::span<const TextRow> designerTexts;
 extern const std::span<const TextRow> macrodlgTexts;
@@ -29,6 +30,7 @@ inline auto allTables() {
     return std::array{
         generalTexts,   //
         sheetTexts,     //
+        gridTexts,      //
         mappingTexts,   //
         designerTexts,  //
         macrodlgTexts,  //

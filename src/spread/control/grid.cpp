@@ -38,6 +38,7 @@ Grid::~Grid() = default;
 
 SideTables& Grid::changeSides() {
     m_changed = true;
+    ++m_sidesRevision;
     return m_sides.change();
 }
 
@@ -357,6 +358,7 @@ void Grid::startFrom(const Document& document) {
     m_cols = document.cols();
     m_rows = document.rows();
     m_sides = document.sides();
+    ++m_sidesRevision;
     m_active = {};
     m_selection.reset();
     m_edit.reset();

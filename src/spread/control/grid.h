@@ -10,6 +10,7 @@
 
 #include <array>
 #include <bitset>
+#include <cstdint>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -68,7 +69,11 @@ struct ViewSettings {
     int appearance = 0;
     int cursorType = 0;
     int cursorStyle = 0;
-    int editEnterAction = 0;  ///< where Enter goes after typing: 0 stays, 5 to the next cell
+    /// Where Enter goes after typing: 0 stays, 2 to the cell below, 5 to the next cell that can be
+    /// typed into.
+    int editEnterAction = 0;
+    bool textTips = false;       ///< a text that is cut off shows whole when the mouse rests on it
+    bool noteIndicators = true;  ///< a mark in the corner of cells with a note
 };
 
 class Grid {
@@ -205,6 +210,9 @@ class Grid {
     const SideTables& sides() const { return *m_sides; }
     /// For colours and the like that nothing else depends on.
     SideTables& changeSides();
+    /// Another number whenever the side tables may have changed, so that views follow them only
+    /// then.
+    uint64_t sidesRevision() const { return m_sidesRevision; }
 
     // --- structure --------------------------------------------------------------------------
     /// The counts stay: what is pushed over the edge is dropped, and deleting leaves blank rows at
@@ -247,7 +255,9 @@ class Grid {
     bool enter(int col, int row, std::string_view typed);
     /// The block as tab-separated lines, and such lines written from a cell on as typed.
     std::string copyText(const Block& block) const;
-    bool pasteText(int col, int row, std::string_view text);
+    /// False when a cell refused its text; the others are written, and `entered` hears of each.
+    using CellCall = std::function<void(int col, int row)>;
+    bool pasteText(int col, int row, std::string_view text, const CellCall& entered = nullptr);
     void setActionKey(KeyAction action, const ActionKey& key);
     /// The action of a key, or nothing.
     std::optional<KeyAction> keyAction(const ActionKey& key) const;
@@ -302,6 +312,7 @@ class Grid {
     std::unique_ptr<Sheet> m_sheet;
     LookTable m_looks;
     SharedSides m_sides;
+    uint64_t m_sidesRevision = 0;
     std::vector<const formula::CustomFunction*> m_custom;
     std::bitset<optionCount> m_options;  // but for those that lie in m_sides
     bool m_changed = false;

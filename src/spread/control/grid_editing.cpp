@@ -167,13 +167,17 @@ std::string Grid::copyText(const Block& given) const {
     return copied;
 }
 
-bool Grid::pasteText(int toCol, int toRow, std::string_view text) {
+bool Grid::pasteText(int toCol, int toRow, std::string_view text, const CellCall& entered) {
     if (!isInside(toCol, toRow)) return false;
     bool taken = true;
     int col = toCol, row = toRow;
     while (!text.empty() && row <= m_rows) {
         const Field field = takeField(text);
-        if (col <= m_cols) taken = enter(col, row, field.text) && taken;
+        if (col <= m_cols) {
+            const bool isTaken = enter(col, row, field.text);
+            if (isTaken && entered) entered(col, row);
+            taken = taken && isTaken;
+        }
         col = field.endsLine ? toCol : col + 1;
         row += field.endsLine ? 1 : 0;
     }

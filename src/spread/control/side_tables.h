@@ -51,7 +51,7 @@ struct SideTables {
     bool columnHeaders = true;  ///< shown
     bool rowHeaders = true;
     int referenceStyle = 0;  ///< 0 and 1: A1; 2: R1C1
-    int gridType = 0;
+    int gridType = 0;  ///< lines: 0 both ways, 1 none, 2 between rows, 3 between columns
     Colour gridColour = automatic;
     Colour greyArea = automatic;
     Colour lockedColour = automatic;

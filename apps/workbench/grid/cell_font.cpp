@@ -1,0 +1,51 @@
+#include "grid/cell_font.h"
+
+#include <QFontDatabase>
+#include <algorithm>
+#include <deque>
+
+#include "spread/control/text_fit.h"
+#include "window/dialog_font.h"
+
+namespace {
+
+struct Known {
+    control::Font asked;
+    CellFont given;
+};
+
+QFont make(const control::Font& asked) {
+    QFont font = dialogFont();
+    const QString family = toQt(asked.name);
+    if (QFontDatabase::hasFamily(family)) font.setFamily(family);
+    font.setPixelSize(std::max(asked.height * 4 / 5, 1));
+    font.setWeight(static_cast<QFont::Weight>(std::clamp(asked.weight, 1, 1000)));
+    font.setItalic(asked.italic);
+    font.setUnderline(asked.underlined);
+    return font;
+}
+
+int width(std::string_view line, const control::Font& font) {
+    return cellFont(font).metrics.horizontalAdvance(toQt(line));
+}
+
+}  // namespace
+
+const CellFont& cellFont(const control::Font& font) {
+    static std::deque<Known> known;
+    static const Known* last = nullptr;
+    if (last && last->asked == font) return last->given;
+    auto found = std::find_if(known.begin(), known.end(),
+                              [&](const Known& entry) { return entry.asked == font; });
+    if (found == known.end()) {
+        const QFont made = make(font);
+        known.push_back({font, {made, QFontMetrics(made)}});
+        found = std::prev(known.end());
+    }
+    last = &*found;
+    return last->given;
+}
+
+void measureWithCellFonts() {
+    control::setMeasureLine(width);
+}

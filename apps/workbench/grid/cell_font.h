@@ -1,0 +1,20 @@
+// The fonts of cells as this desktop has them. A cell's font height is that of a whole line, of
+// which the letters take four fifths: the usual 15 gives the size of the dialogs' own font.
+#pragma once
+
+#include <QFont>
+#include <QFontMetrics>
+#include <string_view>
+
+#include "spread/control/look.h"
+
+struct CellFont {
+    QFont font;
+    QFontMetrics metrics;
+};
+
+/// Remembered for as long as the program runs; a sheet has a handful. A family that is not
+/// installed becomes that of dialogs.
+const CellFont& cellFont(const control::Font& font);
+/// From now on grids fit their columns to what these fonts take.
+void measureWithCellFonts();

@@ -1,0 +1,349 @@
+#include "grid/cell_painter.h"
+
+#include <QApplication>
+#include <QPainter>
+#include <algorithm>
+
+#include "grid/cell_font.h"
+#include "grid/grid_steps.h"
+#include "platform/window/bitmap.h"
+#include "window/dialog_font.h"
+
+using control::CellAddress;
+using control::CellKind;
+using control::Colour;
+using control::Look;
+using control::Reading;
+
+namespace {
+
+constexpr int margin = 4;  // as the control fits its columns (text_fit.cpp)
+constexpr int arrowWidth = 18;
+constexpr int boxSize = 13;
+constexpr int noteMark = 6;
+constexpr int farthestOverflow = 40;  // columns that a text may reach over
+const QColor errorColour(192, 0, 0);
+const QColor usualLines(208, 208, 208);
+
+enum GridLines { both = 0, none = 1, betweenRows = 2, betweenCols = 3 };
+
+Qt::PenStyle penStyle(int borderStyle) {
+    switch (borderStyle) {
+        case 2:
+            return Qt::DashLine;
+        case 3:
+            return Qt::DotLine;
+        case 4:
+            return Qt::DashDotLine;
+        case 5:
+            return Qt::DashDotDotLine;
+        default:
+            return Qt::SolidLine;
+    }
+}
+
+int penWidth(int borderStyle) {
+    return borderStyle == 7 ? 2 : borderStyle == 8 ? 3 : 1;
+}
+
+Qt::Alignment alignmentOf(const Look& look, control::ValueType type) {
+    switch (look.alignment) {
+        case 1:
+            return Qt::AlignLeft;
+        case 2:
+            return Qt::AlignRight;
+        case 3:
+            return Qt::AlignHCenter;
+        default:
+            break;
+    }
+    if (type == control::ValueType::number) return Qt::AlignRight;
+    return type == control::ValueType::text ? Qt::AlignLeft : Qt::AlignHCenter;
+}
+
+bool hasBorder(const Look& look, control::BorderSide side) {
+    return (look.borderSides & side) != 0 && look.borderStyle != 0;
+}
+
+QString textOf(const control::Grid& grid, CellAddress cell) {
+    std::string buffer;
+    return toQt(grid.text(cell.col, cell.row, Reading::data, buffer));
+}
+
+}  // namespace
+
+QColor toQt(Colour colour, const QColor& fallback) {
+    if (colour == control::automatic) return fallback;
+    return QColor(static_cast<int>(colour & 255), static_cast<int>(colour >> 8 & 255),
+                  static_cast<int>(colour >> 16 & 255));
+}
+
+QRect checkBoxIn(const QRect& cell) {
+    QRect box(0, 0, boxSize, boxSize);
+    box.moveCenter(cell.center());
+    return box;
+}
+
+QRect comboArrowIn(const QRect& cell) {
+    return QRect(cell.right() - arrowWidth, cell.top(), arrowWidth, cell.height() - 1);
+}
+
+struct CellPainter::Drawing {
+    QPainter& painter;
+    const QStyleOptionViewItem& option;
+    const QRect& rect;
+    CellAddress cell;
+    const Look& look;
+    bool isSelected;
+    bool isActive;
+
+    const QPalette& palette() const { return option.palette; }
+    bool isEnabled() const { return (option.state & QStyle::State_Enabled) != 0; }
+    QStyle& style() const { return *(option.widget ? option.widget->style() : qApp->style()); }
+};
+
+CellPainter::CellPainter(const control::Grid& grid, QObject* parent)
+    : QStyledItemDelegate(parent), m_grid(grid) {}
+
+void CellPainter::paint(QPainter* painter, const QStyleOptionViewItem& option,
+                        const QModelIndex& index) const {
+    const CellAddress cell{index.column() + 1, index.row() + 1};
+    if (!m_grid.isInside(cell.col, cell.row)) return;
+    const Drawing d{*painter,
+                    option,
+                    option.rect,
+                    cell,
+                    m_grid.look(cell.col, cell.row),
+                    isSelected(cell),
+                    m_grid.active() == cell};
+    painter->save();
+    painter->setClipRect(d.rect);
+    drawBackground(d);
+    drawContent(d);
+    drawLines(d);
+    drawNoteMark(d);
+    painter->restore();
+}
+
+bool CellPainter::isSelected(CellAddress cell) const {
+    if (!m_grid.selection() || cell == m_grid.active()) return false;
+    const std::optional<control::Block> block = m_grid.resolved(*m_grid.selection());
+    return block && cell.col >= block->col1 && cell.col <= block->col2 && cell.row >= block->row1 &&
+           cell.row <= block->row2;
+}
+
+void CellPainter::drawBackground(const Drawing& d) const {
+    const control::SideTables& sides = m_grid.sides();
+    QColor colour = d.palette().color(QPalette::Base);
+    if (d.look.locked) colour = toQt(sides.lockedColour, colour);
+    colour = toQt(d.look.background, colour);
+    if (d.isSelected)
+        colour = toQt(sides.selectionBackground, d.palette().color(QPalette::Highlight));
+    d.painter.fillRect(d.rect, colour);
+}
+
+QColor CellPainter::textColour(const Drawing& d, CellAddress cell) const {
+    if (d.isSelected && cell == d.cell)
+        return toQt(m_grid.sides().selectionText, d.palette().color(QPalette::HighlightedText));
+    if (!d.isEnabled()) return d.palette().color(QPalette::Disabled, QPalette::Text);
+    if (m_grid.sheet().value(cell.col, cell.row).isError()) return errorColour;
+    return toQt(m_grid.look(cell.col, cell.row).textColour, d.palette().color(QPalette::Text));
+}
+
+void CellPainter::drawContent(const Drawing& d) const {
+    switch (d.look.type.kind) {
+        case CellKind::checkBox:
+            return drawCheckBox(d);
+        case CellKind::button:
+            return drawButton(d);
+        case CellKind::picture:
+        case CellKind::pictureHandle:
+            return drawPicture(d);
+        case CellKind::comboBox:
+            if (d.isActive) {
+                drawComboArrow(d);
+                return drawText(d, d.rect.adjusted(0, 0, -arrowWidth, 0));
+            }
+            return drawText(d, d.rect);
+        default:
+            if (isRoom(d.cell.col, d.cell.row)) return drawTextFromTheLeft(d);
+            return drawText(d, d.rect);
+    }
+}
+
+// --- texts --------------------------------------------------------------------------------------
+
+// Nothing stands in it that a text from the left would cover.
+bool CellPainter::isRoom(int col, int row) const {
+    if (col > m_grid.cols() || !m_grid.sheet().value(col, row).isEmpty()) return false;
+    const CellKind kind = m_grid.look(col, row).type.kind;
+    const bool isPlain = kind == CellKind::general || kind == CellKind::edit ||
+                         kind == CellKind::staticText || kind == CellKind::number;
+    return isPlain && !m_grid.spanAt(col, row);
+}
+
+bool CellPainter::mayOverflow(CellAddress cell) const {
+    const Look& look = m_grid.look(cell.col, cell.row);
+    const control::Value value = m_grid.sheet().value(cell.col, cell.row);
+    const bool isPlain = look.type.kind == CellKind::general || look.type.kind == CellKind::edit ||
+                         look.type.kind == CellKind::staticText;
+    return isPlain && value.isText() && look.alignment <= 1 &&
+           value.text().find('\n') == std::string_view::npos && !m_grid.spanAt(cell.col, cell.row);
+}
+
+bool CellPainter::isCutOff(CellAddress cell, int width) const {
+    const Look& look = m_grid.look(cell.col, cell.row);
+    if (!m_grid.sheet().cells().find(cell.col, cell.row)) return false;
+    if (mayOverflow(cell) && isRoom(cell.col + 1, cell.row)) return false;
+    const QSize size = cellFont(look.font).metrics.size(Qt::TextExpandTabs, textOf(m_grid, cell));
+    return size.width() > width - 2 * margin;
+}
+
+void CellPainter::drawText(const Drawing& d, const QRect& room) const {
+    QString text = textOf(m_grid, d.cell);
+    if (text.isEmpty()) return;
+    const CellFont& font = cellFont(d.look.font);
+    const control::ValueType type = m_grid.sheet().value(d.cell.col, d.cell.row).type();
+    const QRect inner = room.adjusted(margin, 0, -margin, -1);
+    const bool hasLines = text.contains('\n');
+    Qt::Alignment alignment = alignmentOf(d.look, type);
+    if (!hasLines && font.metrics.horizontalAdvance(text) > inner.width()) {
+        // A number that is cut would be another number.
+        if (type == control::ValueType::number)
+            text = QString(std::max(inner.width() / font.metrics.horizontalAdvance('#'), 1), '#');
+        else if (!mayOverflow(d.cell) || !isRoom(d.cell.col + 1, d.cell.row))
+            text = font.metrics.elidedText(text, Qt::ElideRight, inner.width());
+    }
+    const bool isTall = hasLines && font.metrics.size(0, text).height() > inner.height();
+    alignment |= isTall ? Qt::AlignTop : Qt::AlignVCenter;
+    d.painter.setFont(font.font);
+    d.painter.setPen(textColour(d, d.cell));
+    d.painter.drawText(inner, static_cast<int>(alignment) | Qt::TextDontClip | Qt::TextExpandTabs,
+                       text);
+}
+
+// An empty cell shows its piece of a text that reaches over from a cell to the left.
+void CellPainter::drawTextFromTheLeft(const Drawing& d) const {
+    CellAddress from = d.cell;
+    int before = 0;  // pixels from the text's cell to this one
+    do {
+        if (--from.col < 1 || d.cell.col - from.col > farthestOverflow) return;
+        before += m_grid.colWidth(from.col);
+    } while (isRoom(from.col, from.row));
+    if (!mayOverflow(from)) return;
+    const CellFont& font = cellFont(m_grid.look(from.col, from.row).font);
+    const QString text = textOf(m_grid, from);
+    const int width = font.metrics.horizontalAdvance(text);
+    if (width + margin <= before) return;
+    const QRect place(d.rect.left() - before + margin, d.rect.top(), width, d.rect.height() - 1);
+    d.painter.setFont(font.font);
+    d.painter.setPen(d.isSelected ? textColour(d, d.cell) : textColour(d, from));
+    d.painter.drawText(place, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextDontClip, text);
+}
+
+// --- other kinds --------------------------------------------------------------------------------
+
+void CellPainter::drawCheckBox(const Drawing& d) const {
+    const std::string text = m_grid.text(d.cell.col, d.cell.row, Reading::value);
+    const bool isChecked = text == "1";
+    if (!isChecked && !text.empty() && text != "0") return drawText(d, d.rect);
+    const int picture = isChecked ? d.look.type.picture : d.look.type.otherPicture;
+    const bool isUsual = picture == 0 || picture == bitmapChecked || picture == bitmapUnchecked;
+    if (!isUsual && m_pictures.drawNumber(d.painter, d.rect, picture)) return;
+    QStyleOptionButton box;
+    box.initFrom(d.option.widget);
+    box.rect = checkBoxIn(d.rect);
+    box.state = isChecked ? QStyle::State_On : QStyle::State_Off;
+    if (d.isEnabled() && !d.look.locked) box.state |= QStyle::State_Enabled;
+    d.style().drawPrimitive(QStyle::PE_IndicatorCheckBox, &box, &d.painter, d.option.widget);
+}
+
+void CellPainter::drawComboArrow(const Drawing& d) const {
+    QStyleOption arrow;
+    arrow.initFrom(d.option.widget);
+    arrow.rect = comboArrowIn(d.rect);
+    d.painter.fillRect(arrow.rect, d.palette().color(QPalette::Button));
+    arrow.rect = QRect(0, 0, 9, 9);
+    arrow.rect.moveCenter(comboArrowIn(d.rect).center());
+    arrow.state = QStyle::State_Enabled;
+    d.style().drawPrimitive(QStyle::PE_IndicatorArrowDown, &arrow, &d.painter, d.option.widget);
+}
+
+void CellPainter::drawButton(const Drawing& d) const {
+    QStyleOptionButton button;
+    button.initFrom(d.option.widget);
+    button.rect = d.rect.adjusted(1, 1, -2, -2);
+    button.text = toQt(d.look.type.text);
+    button.fontMetrics = cellFont(d.look.font).metrics;
+    button.state = m_pressed == d.cell ? QStyle::State_Sunken : QStyle::State_Raised;
+    if (d.isEnabled() && !d.look.locked) button.state |= QStyle::State_Enabled;
+    d.painter.setFont(cellFont(d.look.font).font);
+    d.style().drawControl(QStyle::CE_PushButton, &button, &d.painter, d.option.widget);
+}
+
+void CellPainter::drawPicture(const Drawing& d) const {
+    const QRect room = d.rect.adjusted(0, 0, -1, -1);
+    const bool isDrawn = d.look.type.kind == CellKind::picture
+                             ? m_pictures.drawFile(d.painter, room, d.look.type.text)
+                             : m_pictures.drawNumber(d.painter, room, d.look.type.picture);
+    if (isDrawn) return;
+    // A crossed box tells that a picture is missing.
+    const QRect box = room.adjusted(3, 3, -3, -3);
+    d.painter.setPen(usualLines);
+    d.painter.drawRect(box);
+    d.painter.drawLine(box.topLeft(), box.bottomRight());
+    d.painter.drawLine(box.bottomLeft(), box.topRight());
+}
+
+// --- lines --------------------------------------------------------------------------------------
+
+void CellPainter::drawLine(const Drawing& d, const QLine& line, const Look& look) const {
+    QPen pen(toQt(look.borderColour, d.palette().color(QPalette::Text)));
+    pen.setStyle(penStyle(look.borderStyle));
+    pen.setWidth(penWidth(look.borderStyle));
+    pen.setCapStyle(Qt::FlatCap);
+    d.painter.setPen(pen);
+    d.painter.drawLine(line);
+}
+
+// The line between two cells belongs to the left and the upper one; a border of either takes its
+// place.
+void CellPainter::drawLines(const Drawing& d) const {
+    const control::SideTables& sides = m_grid.sides();
+    const control::Span* span = m_grid.spanAt(d.cell.col, d.cell.row);
+    const int nextCol = d.cell.col + (span ? span->cols : 1);
+    const int nextRow = d.cell.row + (span ? span->rows : 1);
+    const QLine right(d.rect.topRight(), d.rect.bottomRight());
+    const QLine bottom(d.rect.bottomLeft(), d.rect.bottomRight());
+    d.painter.setPen(toQt(sides.gridColour, usualLines));
+    if (sides.gridType == both || sides.gridType == betweenRows) d.painter.drawLine(bottom);
+    if (sides.gridType == both || sides.gridType == betweenCols) d.painter.drawLine(right);
+
+    const auto lookAt = [&](int col, int row) {
+        return m_grid.isInside(col, row) ? &m_grid.look(col, row) : nullptr;
+    };
+    const Look* beside = lookAt(nextCol, d.cell.row);
+    const Look* below = lookAt(d.cell.col, nextRow);
+    if (hasBorder(d.look, control::borderRight))
+        drawLine(d, right, d.look);
+    else if (beside && hasBorder(*beside, control::borderLeft))
+        drawLine(d, right, *beside);
+    if (hasBorder(d.look, control::borderBottom))
+        drawLine(d, bottom, d.look);
+    else if (below && hasBorder(*below, control::borderTop))
+        drawLine(d, bottom, *below);
+    if (d.cell.col == 1 && hasBorder(d.look, control::borderLeft))
+        drawLine(d, QLine(d.rect.topLeft(), d.rect.bottomLeft()), d.look);
+    if (d.cell.row == 1 && hasBorder(d.look, control::borderTop))
+        drawLine(d, QLine(d.rect.topLeft(), d.rect.topRight()), d.look);
+}
+
+void CellPainter::drawNoteMark(const Drawing& d) const {
+    if (!m_grid.view().noteIndicators || m_grid.sides().notes.empty()) return;
+    if (m_grid.note(d.cell.col, d.cell.row).empty()) return;
+    const QPoint corner(d.rect.right(), d.rect.top());
+    const QPoint mark[] = {corner, corner - QPoint(noteMark, 0), corner + QPoint(0, noteMark)};
+    d.painter.setPen(Qt::NoPen);
+    d.painter.setBrush(errorColour);
+    d.painter.drawPolygon(mark, 3);
+}

@@ -1,0 +1,52 @@
+// Draws the cells of a grid, straight from the grid.
+#pragma once
+
+#include <QStyledItemDelegate>
+
+#include "grid/cell_pictures.h"
+#include "spread/control/grid.h"
+
+/// Colours of the module as Qt has them; `automatic` gives the fallback.
+QColor toQt(control::Colour colour, const QColor& fallback);
+
+/// Where a check box and the arrow of a combo box lie in their cell.
+QRect checkBoxIn(const QRect& cell);
+QRect comboArrowIn(const QRect& cell);
+
+class CellPainter : public QStyledItemDelegate {
+  public:
+    CellPainter(const control::Grid& grid, QObject* parent);
+
+    CellPictures& pictures() { return m_pictures; }
+    /// The button cell that the mouse holds down.
+    void setPressed(control::CellAddress cell) { m_pressed = cell; }
+    /// True when the text of a cell of this width cannot be seen whole.
+    bool isCutOff(control::CellAddress cell, int width) const;
+
+    void paint(QPainter* painter, const QStyleOptionViewItem& option,
+               const QModelIndex& index) const override;
+
+  private:
+    struct Drawing;
+    void drawBackground(const Drawing& d) const;
+    void drawContent(const Drawing& d) const;
+    void drawText(const Drawing& d, const QRect& room) const;
+    void drawTextFromTheLeft(const Drawing& d) const;
+    void drawCheckBox(const Drawing& d) const;
+    void drawComboArrow(const Drawing& d) const;
+    void drawButton(const Drawing& d) const;
+    void drawPicture(const Drawing& d) const;
+    void drawLines(const Drawing& d) const;
+    void drawLine(const Drawing& d, const QLine& line, const control::Look& look) const;
+    void drawNoteMark(const Drawing& d) const;
+
+    QColor textColour(const Drawing& d, control::CellAddress cell) const;
+    bool isSelected(control::CellAddress cell) const;
+    bool mayOverflow(control::CellAddress cell) const;
+    bool isRoom(int col, int row) const;
+
+    const control::Grid& m_grid;
+    // A picture is read when it is first drawn.
+    mutable CellPictures m_pictures;
+    control::CellAddress m_pressed;
+};

@@ -1,0 +1,67 @@
+#include "grid/cell_pictures.h"
+
+#include <QFile>
+#include <QPainter>
+
+#include "platform/files.h"
+#include "window/pictures.h"
+
+namespace {
+
+QPixmap readPicture(const std::string& path) {
+    std::string error;
+    const std::optional<std::string> bytes = files::readWhole(path, error);
+    if (!bytes) return {};
+    if (const std::optional<CBitmap> bitmap = decodeBitmap(*bytes, error)) return pixmapOf(*bitmap);
+    QPixmap picture;
+    picture.loadFromData(reinterpret_cast<const uchar*>(bytes->data()),
+                         static_cast<uint>(bytes->size()));
+    return picture;
+}
+
+/// As large as it is, smaller when the room is.
+QSize fitted(QSize size, const QRect& room) {
+    const bool fits = size.width() <= room.width() && size.height() <= room.height();
+    return fits ? size : size.scaled(room.size(), Qt::KeepAspectRatio);
+}
+
+}  // namespace
+
+const QPixmap& CellPictures::file(const std::string& path) {
+    const auto found = m_files.find(path);
+    if (found != m_files.end()) return found->second;
+    return m_files.emplace(path, readPicture(path)).first->second;
+}
+
+const CellPictures::Numbered& CellPictures::numbered(int number) {
+    const auto found = m_numbered.find(number);
+    if (found != m_numbered.end()) return found->second;
+    Numbered made;
+    const QString drawing = QStringLiteral(":/bitmaps/%1.svg").arg(number);
+    if (QFile::exists(drawing))
+        made.drawing = std::make_unique<QSvgRenderer>(drawing);
+    else
+        made.pixels = pixmapOf(bitmapResource(number));
+    return m_numbered.emplace(number, std::move(made)).first->second;
+}
+
+bool CellPictures::drawFile(QPainter& painter, const QRect& room, const std::string& path) {
+    const QPixmap& picture = file(path);
+    if (picture.isNull()) return false;
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    painter.drawPixmap(QRect(room.topLeft(), fitted(picture.size(), room)), picture);
+    return true;
+}
+
+bool CellPictures::drawNumber(QPainter& painter, const QRect& room, int number) {
+    const Numbered& picture = numbered(number);
+    const QSize natural = picture.drawing ? picture.drawing->defaultSize() : picture.pixels.size();
+    if (natural.isEmpty()) return false;
+    QRect place(QPoint(), fitted(natural, room));
+    place.moveCenter(room.center());
+    if (picture.drawing)
+        picture.drawing->render(&painter, place);
+    else
+        painter.drawPixmap(place, picture.pixels);
+    return true;
+}

@@ -1,0 +1,92 @@
+#include "grid/grid_header.h"
+
+#include <QPainter>
+
+#include "grid/cell_font.h"
+#include "grid/cell_painter.h"
+#include "grid/grid_model.h"
+
+using control::headerIndex;
+
+namespace {
+
+constexpr int smallestSection = 3;
+constexpr int margin = 3;
+
+}  // namespace
+
+void drawHeaderCell(QPainter& painter, const QRect& rect, const QString& text,
+                    const control::Look& look, const QPalette& palette, bool isChosen) {
+    QColor background = toQt(look.background, palette.color(QPalette::Button));
+    if (isChosen) background = background.darker(115);
+    painter.fillRect(rect, background);
+    painter.setPen(palette.color(QPalette::Mid));
+    painter.drawLine(rect.topRight(), rect.bottomRight());
+    painter.drawLine(rect.bottomLeft(), rect.bottomRight());
+    painter.setFont(cellFont(look.font).font);
+    painter.setPen(toQt(look.textColour, palette.color(QPalette::ButtonText)));
+    const Qt::Alignment alignment = look.alignment == 1   ? Qt::AlignLeft
+                                    : look.alignment == 2 ? Qt::AlignRight
+                                                          : Qt::AlignHCenter;
+    const QRect inner = rect.adjusted(margin, 0, -margin, -1);
+    const bool isLong = cellFont(look.font).metrics.horizontalAdvance(text) > inner.width();
+    // What is too long for one line is broken, and read from its start.
+    const int flags =
+        static_cast<int>(isLong ? Qt::AlignLeft : alignment) | Qt::AlignVCenter | Qt::TextWordWrap;
+    painter.drawText(inner, flags, text);
+}
+
+GridHeader::GridHeader(const control::Grid& grid, Qt::Orientation orientation, QWidget* parent)
+    : QHeaderView(orientation, parent), m_grid(grid) {
+    setMinimumSectionSize(smallestSection);
+    setSectionsClickable(true);
+    setHighlightSections(false);
+    setSectionResizeMode(QHeaderView::Interactive);
+}
+
+QSize GridHeader::sizeHint() const {
+    return orientation() == Qt::Horizontal ? QSize(0, m_grid.rowHeight(headerIndex))
+                                           : QSize(m_grid.colWidth(headerIndex), 0);
+}
+
+// The active cell, or a selected one, lies in it.
+bool GridHeader::isChosen(int index) const {
+    const bool isCol = orientation() == Qt::Horizontal;
+    if (m_grid.selection()) {
+        const auto block = m_grid.resolved(*m_grid.selection());
+        if (!block) return false;
+        return isCol ? index >= block->col1 && index <= block->col2
+                     : index >= block->row1 && index <= block->row2;
+    }
+    return index == (isCol ? m_grid.active().col : m_grid.active().row);
+}
+
+// The rectangle of the whole span that holds a section.
+QRect GridHeader::spanned(const QRect& rect, int index, int& anchor) const {
+    const bool isCol = orientation() == Qt::Horizontal;
+    const control::Span* span = isCol ? m_grid.spanAt(index, 0) : m_grid.spanAt(0, index);
+    if (!span) return rect;
+    anchor = isCol ? span->col : span->row;
+    int before = 0, size = 0;
+    for (int i = 0; i < (isCol ? span->cols : span->rows); ++i) {
+        const int each = sectionSize(anchor + i - 1);
+        if (anchor + i < index) before += each;
+        size += each;
+    }
+    return isCol ? QRect(rect.left() - before, rect.top(), size, rect.height())
+                 : QRect(rect.left(), rect.top() - before, rect.width(), size);
+}
+
+void GridHeader::paintSection(QPainter* painter, const QRect& rect, int section) const {
+    const int index = section + 1;
+    int anchor = index;
+    const QRect whole = spanned(rect, index, anchor);
+    const bool isCol = orientation() == Qt::Horizontal;
+    painter->save();
+    painter->setClipRect(rect);
+    drawHeaderCell(*painter, whole,
+                   isCol ? columnHeaderText(m_grid, anchor) : rowHeaderText(m_grid, anchor),
+                   isCol ? m_grid.look(anchor, headerIndex) : m_grid.look(headerIndex, anchor),
+                   palette(), isChosen(index));
+    painter->restore();
+}

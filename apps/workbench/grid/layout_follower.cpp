@@ -1,0 +1,71 @@
+#include "grid/layout_follower.h"
+
+#include <QHeaderView>
+#include <QSignalBlocker>
+#include <QTableView>
+
+namespace {
+
+// Sections that were taken away come back with the usual size.
+void forgetBeyond(std::map<int, int>& sizes, std::set<int>& hidden, int count) {
+    sizes.erase(sizes.upper_bound(count), sizes.end());
+    hidden.erase(hidden.upper_bound(count), hidden.end());
+}
+
+}  // namespace
+
+bool LayoutFollower::follow() {
+    const bool isSame = m_revision == m_grid.sidesRevision() && m_colCount == m_grid.cols() &&
+                        m_rowCount == m_grid.rows();
+    if (isSame) return false;
+    m_revision = m_grid.sidesRevision();
+    m_colCount = m_grid.cols();
+    m_rowCount = m_grid.rows();
+    m_isFollowing = true;
+    const control::SideTables& sides = m_grid.sides();
+    followBand(*m_view.horizontalHeader(), sides.cols, m_colCount, m_cols);
+    followBand(*m_view.verticalHeader(), sides.rows, m_rowCount, m_rows);
+    m_view.horizontalHeader()->setVisible(sides.columnHeaders);
+    m_view.verticalHeader()->setVisible(sides.rowHeaders);
+    followSpans();
+    m_isFollowing = false;
+    return true;
+}
+
+void LayoutFollower::followBand(QHeaderView& header, const control::Band& band, int count,
+                                Sections& known) {
+    forgetBeyond(known.sizes, known.hidden, count);
+    // Without updates a header does not look for the place of each section that changes, which
+    // would take the square of their number; without signals the view does not lay out each time.
+    const QSignalBlocker blocker(header);
+    header.setUpdatesEnabled(false);
+    if (header.defaultSectionSize() != band.defaultSize) {
+        header.setDefaultSectionSize(band.defaultSize);
+        known.sizes.clear();  // all sections have the usual size now
+    }
+    if (known.sizes != band.sizes) {
+        for (const auto& [index, size] : known.sizes)
+            if (!band.sizes.contains(index)) header.resizeSection(index - 1, band.defaultSize);
+        for (const auto& [index, size] : band.sizes)
+            if (index <= count) header.resizeSection(index - 1, size);
+        known.sizes = band.sizes;
+    }
+    if (known.hidden != band.hidden) {
+        for (const int index : known.hidden)
+            if (!band.hidden.contains(index)) header.showSection(index - 1);
+        for (const int index : band.hidden)
+            if (index <= count) header.hideSection(index - 1);
+        known.hidden = band.hidden;
+    }
+    header.setUpdatesEnabled(true);
+}
+
+void LayoutFollower::followSpans() {
+    std::vector<control::Span> spans = m_grid.sides().spans.all();
+    std::erase_if(spans, [](const control::Span& span) { return span.col < 1 || span.row < 1; });
+    if (spans == m_spans) return;
+    m_view.clearSpans();
+    for (const control::Span& span : spans)
+        m_view.setSpan(span.row - 1, span.col - 1, span.rows, span.cols);
+    m_spans = std::move(spans);
+}

@@ -1,0 +1,71 @@
+#include "grid/refusal.h"
+
+#include "core_api/texts/texts.h"
+#include "grid/grid_steps.h"
+#include "window/dialog_font.h"
+
+using control::CellKind;
+using control::CellType;
+
+namespace {
+
+enum Words {
+    isLocked = 9201,
+    isNotTyped = 9202,
+    isNoNumber = 9203,
+    isOutOfRange = 9204,
+    isTooLong = 9205,
+    isNotListed = 9206,
+    isNoFormula = 9207,
+    someRefused = 9208,
+    isNoCheck = 9209,
+};
+
+QString words(Words number) {
+    return toQt(dialString(number));
+}
+
+QString rangeOf(const CellType& type) {
+    return words(isOutOfRange)
+        .arg(QString::number(type.least, 'g', 15), QString::number(type.most, 'g', 15));
+}
+
+}  // namespace
+
+QString whyClosed(const control::Grid& grid, int col, int row) {
+    if (grid.look(col, row).locked) return words(isLocked);
+    const CellKind kind = grid.look(col, row).type.kind;
+    const bool isTyped = isOpen(grid, {col, row}) && kind != CellKind::button;
+    return isTyped ? QString() : words(isNotTyped);
+}
+
+QString whyRefused(control::Grid& grid, int col, int row, std::string_view typed) {
+    if (const QString closed = whyClosed(grid, col, row); !closed.isEmpty()) return closed;
+    if (typed.starts_with('=') && grid.option(control::Option::userFormulas)) {
+        formula::ParseError error;
+        grid.setFormula(col, row, typed.substr(1), &error);
+        return words(isNoFormula).arg(toQt(error.message));
+    }
+    const CellType& type = grid.look(col, row).type;
+    switch (type.kind) {
+        case CellKind::edit:
+            return whyTooLong(type.maxLength);
+        case CellKind::comboBox:
+            return words(isNotListed).arg(toQt(typed));
+        case CellKind::checkBox:
+            return words(isNoCheck);
+        default: {
+            bool isNumber = false;
+            toQt(typed).toDouble(&isNumber);
+            return isNumber ? rangeOf(type) : words(isNoNumber).arg(toQt(typed));
+        }
+    }
+}
+
+QString whyTooLong(int maxLength) {
+    return words(isTooLong).arg(maxLength);
+}
+
+QString whySomeRefused() {
+    return words(someRefused);
+}

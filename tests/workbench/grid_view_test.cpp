@@ -1,0 +1,249 @@
+#include "grid/grid_view.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QHeaderView>
+#include <QLineEdit>
+#include <QScrollBar>
+#include <QTest>
+#include <QVBoxLayout>
+#include <iostream>
+
+#include "grid/cell_painter.h"
+#include "grid/item_list.h"
+#include "platform/window/window_system.h"
+#include "spread/vor_spread.h"
+#include "support/test_user.h"
+#include "window/dialog_font.h"
+
+namespace {
+
+using control::Block;
+using control::CellAddress;
+using control::Reading;
+using testing::ElementsAre;
+
+constexpr int header = control::headerIndex;
+constexpr int gridId = 1004;
+
+/// A grid in a dialog between two fields that Tab can go to.
+class GridViewTest : public testing::Test {
+  protected:
+    GridViewTest() {
+        dialog.create({"#32770", "Dialog", {100, 50, 700, 550}, 0, 0, true}, nullptr);
+        placeholder.create({"Static", "", {20, 30, 437, 230}, 0, gridId, true}, &dialog);
+        spread.attach(&dialog, gridId, true);
+        size(4, 6);
+        spread.setListener([this](const GridNotice& notice) {
+            constexpr const char* names[] = {"changed", "moved", "pressed", "checked", "double"};
+            notices.push_back(std::string(names[static_cast<int>(notice.what)]) + " " +
+                              std::to_string(notice.col) + "," + std::to_string(notice.row));
+        });
+    }
+    ~GridViewTest() override {
+        view.reset();
+        spread.destroy();
+        dialog.destroy();
+    }
+    void size(int cols, int rows) {
+        spread.setNrCols(cols, false);
+        spread.setNrRows(rows);
+    }
+    GridView& open() {
+        auto* layout = new QVBoxLayout(&window);
+        layout->addWidget(&before);
+        view = std::make_unique<GridView>(spread, &window);
+        layout->addWidget(view.get());
+        layout->addWidget(&after);
+        window.resize(640, 400);
+        window.show();
+        window.activateWindow();
+        view->setFocus();
+        QApplication::processEvents();
+        return *view;
+    }
+    control::Grid& grid() { return spread.grid(); }
+    std::string text(int col, int row) const { return spread.grid().text(col, row, Reading::data); }
+    std::pair<int, int> active() const {
+        return {spread.grid().active().col, spread.grid().active().row};
+    }
+    QWidget* target() const { return QApplication::focusWidget(); }
+    // Each key goes where the keyboard is by then.
+    void keys(const QString& typed) const {
+        for (const QChar character : typed) QTest::keyClick(target(), character.toLatin1());
+    }
+    void key(Qt::Key key, Qt::KeyboardModifiers with = Qt::NoModifier) const {
+        QTest::keyClick(target(), key, with);
+    }
+    QRect place(int col, int row) const {
+        return view->visualRect(view->model()->index(row - 1, col - 1));
+    }
+    void click(int col, int row, Qt::KeyboardModifiers with = Qt::NoModifier) const {
+        QTest::mouseClick(view->viewport(), Qt::LeftButton, with, place(col, row).center());
+    }
+    void moveTo(int col, int row) {
+        grid().setActive(col, row);
+        view->sync();
+    }
+
+    CWnd dialog;
+    CWnd placeholder;
+    Vor_Spread spread;
+    QWidget window;
+    QLineEdit before, after;
+    std::unique_ptr<GridView> view;
+    std::vector<std::string> notices;
+};
+
+// --- typing -------------------------------------------------------------------------------------
+
+TEST_F(GridViewTest, TypingEntersATextAndEnterGoesOnAsTheGridSays) {
+    struct Row {
+        int action;
+        const char* typed;
+        std::pair<int, int> then;
+    };
+    open();
+    for (const Row& row : {Row{0, "M12", {2, 2}}, Row{2, "M16", {2, 3}}, Row{5, "M20", {3, 2}}}) {
+        SCOPED_TRACE(row.action);
+        grid().view().editEnterAction = row.action;
+        moveTo(2, 2);
+        keys(row.typed);
+        EXPECT_TRUE(grid().isEditing());
+        EXPECT_NE(text(2, 2), row.typed);
+        key(Qt::Key_Return);
+        EXPECT_FALSE(grid().isEditing());
+        EXPECT_EQ(text(2, 2), row.typed);
+        EXPECT_EQ(active(), row.then);
+    }
+    EXPECT_EQ(notices.front(), "changed 2,2");
+    EXPECT_EQ(std::count(notices.begin(), notices.end(), "changed 2,2"), 3);
+}
+
+TEST_F(GridViewTest, EscapeKeepsWhatTheCellHadAndF2ChangesIt) {
+    spread.setData(1, 1, "plate");
+    open();
+    moveTo(1, 1);
+    keys("x");
+    key(Qt::Key_Escape);
+    EXPECT_EQ(text(1, 1), "plate");
+    key(Qt::Key_F2);
+    keys("s");
+    key(Qt::Key_Down);
+    EXPECT_EQ(text(1, 1), "plates");
+    EXPECT_EQ(active(), std::pair(1, 2));
+    QTest::mouseDClick(view->viewport(), Qt::LeftButton, {}, place(1, 1).center());
+    EXPECT_TRUE(grid().isEditing());
+    keys("!");
+    click(3, 3);
+    EXPECT_EQ(text(1, 1), "plates!");
+    EXPECT_EQ(active(), std::pair(3, 3));
+    EXPECT_THAT(notices, testing::Contains("double 1,1"));
+}
+
+TEST_F(GridViewTest, AResultThatWasOnlyLookedAtKeepsItsFormula) {
+    spread.setFormula(1, 1, "1/3");
+    open();
+    moveTo(1, 1);
+    key(Qt::Key_F2);
+    key(Qt::Key_Return);
+    EXPECT_EQ(grid().text(1, 1, Reading::formula), "1/3");
+    grid().setOption(control::Option::userFormulas, true);
+    moveTo(1, 2);
+    keys("=A1*3");
+    key(Qt::Key_Return);
+    EXPECT_EQ(text(1, 2), "1");
+}
+
+TEST_F(GridViewTest, ARefusedTextStaysOpenAndSaysWhy) {
+    spread.setNumberCell(Block{1, 1, 1, 2}, 2);
+    grid().setType(2, 1, control::numberType(0, 0, 1, 9));
+    spread.setTextCell(Block{3, 1, 3, 1}, 3);
+    Vor_StringArray items;
+    items.append("M12");
+    items.append("M16");
+    spread.setComboCell({4, 1, 4, 1}, items, true);
+    grid().changeLooks({4, 1, 4, 1}, [](control::Look& look) { look.type.editable = true; });
+    struct Row {
+        int col;
+        const char* typed;
+        const char* why;
+    };
+    open();
+    grid().setOption(control::Option::userFormulas, true);
+    for (const Row& row :
+         {Row{1, "12x", "\"12x\" is no number. Type digits and a point, such as 12.5."},
+          Row{1, "1,5", "\"1,5\" is no number. Type digits and a point, such as 12.5."},
+          Row{2, "10", "The number must lie between 1 and 9."},
+          Row{1, "=NOSUCH(1)", "The formula cannot be read: "}}) {
+        SCOPED_TRACE(row.typed);
+        moveTo(row.col, 1);
+        keys(row.typed);
+        key(Qt::Key_Return);
+        EXPECT_TRUE(view->isEditing());
+        EXPECT_EQ(grid().editText(), row.typed);
+        EXPECT_THAT(view->refusal().toStdString(), testing::StartsWith(row.why));
+        click(4, 4);  // going elsewhere does not lose it either
+        EXPECT_EQ(active(), std::pair(row.col, 1));
+        key(Qt::Key_Escape);
+        EXPECT_FALSE(view->isEditing());
+        EXPECT_EQ(view->refusal(), "");
+        EXPECT_EQ(text(row.col, 1), "");
+    }
+    moveTo(3, 1);
+    keys("abcd");
+    EXPECT_EQ(view->refusal(), "At most 3 characters fit here.");
+    key(Qt::Key_Return);
+    EXPECT_EQ(text(3, 1), "abc");
+}
+
+TEST_F(GridViewTest, CharactersThatTheModuleCannotKeepAreRefusedAtOnce) {
+    open();
+    moveTo(1, 1);
+    keys("12");
+    view->findChild<QPlainTextEdit*>()->insertPlainText(QString::fromUtf8("3\xE6\x9D\xB1"));
+    EXPECT_EQ(grid().editText(), "12");
+    EXPECT_THAT(view->refusal().toStdString(), testing::HasSubstr("\xE6\x9D\xB1"));
+    view->findChild<QPlainTextEdit*>()->insertPlainText(QString::fromUtf8("\xE2\x82\xAC"));
+    key(Qt::Key_Return);
+    EXPECT_EQ(text(1, 1), "12\x80");
+}
+
+TEST_F(GridViewTest, EditModeAndCharactersSelectedFromOutsideShow) {
+    spread.setData(2, 2, "bolt M16");
+    open();
+    grid().setActive(2, 2);
+    grid().beginEdit();
+    grid().setEditSelection(5, 3);
+    view->sync();
+    auto* field = view->findChild<QPlainTextEdit*>();
+    ASSERT_TRUE(field);
+    EXPECT_EQ(field->textCursor().selectedText(), "M16");
+    key(Qt::Key_End);
+    EXPECT_EQ(grid().editSelection(), std::pair(8, 0));
+    grid().endEdit(false);
+    view->sync();
+    EXPECT_FALSE(view->isEditing());
+    EXPECT_TRUE(view->hasFocus());
+}
+
+TEST_F(GridViewTest, LockedAndStaticCellsSayThatTheyAreClosed) {
+    spread.setLock(1, 1, true);
+    spread.setStaticCell({2, 1, 2, 1});
+    spread.setData(1, 1, "kept");
+    open();
+    moveTo(1, 1);
+    keys("x");
+    EXPECT_EQ(view->refusal(), "This cell is locked.");
+    key(Qt::Key_Delete);
+    EXPECT_EQ(text(1, 1), "kept");
+    moveTo(2, 1);
+    key(Qt::Key_F2);
+    EXPECT_EQ(view->refusal(), "This cell cannot be typed into.");
+    EXPECT_FALSE(view->isEditing());
+}
+
+}  // namespace
