@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QPainter>
 #include <algorithm>
+#include <optional>
 
 #include "grid/cell_font.h"
 #include "grid/grid_steps.h"
@@ -222,23 +223,43 @@ void CellPainter::drawText(const Drawing& d, const QRect& room) const {
                        text);
 }
 
+/// A text that reaches over empty cells.
+struct CellPainter::Reach {
+    CellAddress from;
+    int before = 0;  ///< pixels from the left edge of its cell to that of the cell it reaches
+    int end = 0;     ///< pixels from the left edge of its cell to its own end
+};
+
+// The text that stands in a cell, its own or one from the left, when it may reach over others.
+std::optional<CellPainter::Reach> CellPainter::reachInto(CellAddress cell) const {
+    Reach reach{cell, 0, 0};
+    while (isRoom(reach.from.col, reach.from.row)) {
+        if (--reach.from.col < 1 || cell.col - reach.from.col > farthestOverflow)
+            return std::nullopt;
+        reach.before += m_grid.colWidth(reach.from.col);
+    }
+    if (!mayOverflow(reach.from)) return std::nullopt;
+    const Look& look = m_grid.look(reach.from.col, reach.from.row);
+    reach.end = margin + cellFont(look.font).metrics.horizontalAdvance(textOf(m_grid, reach.from));
+    return reach;
+}
+
+bool CellPainter::goesOnToTheRight(const Drawing& d) const {
+    if (!isRoom(d.cell.col + 1, d.cell.row)) return false;
+    const std::optional<Reach> reach = reachInto(d.cell);
+    return reach && reach->end > reach->before + d.rect.width();
+}
+
 // An empty cell shows its piece of a text that reaches over from a cell to the left.
 void CellPainter::drawTextFromTheLeft(const Drawing& d) const {
-    CellAddress from = d.cell;
-    int before = 0;  // pixels from the text's cell to this one
-    do {
-        if (--from.col < 1 || d.cell.col - from.col > farthestOverflow) return;
-        before += m_grid.colWidth(from.col);
-    } while (isRoom(from.col, from.row));
-    if (!mayOverflow(from)) return;
-    const CellFont& font = cellFont(m_grid.look(from.col, from.row).font);
-    const QString text = textOf(m_grid, from);
-    const int width = font.metrics.horizontalAdvance(text);
-    if (width + margin <= before) return;
-    const QRect place(d.rect.left() - before + margin, d.rect.top(), width, d.rect.height() - 1);
-    d.painter.setFont(font.font);
-    d.painter.setPen(d.isSelected ? textColour(d, d.cell) : textColour(d, from));
-    d.painter.drawText(place, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextDontClip, text);
+    const std::optional<Reach> reach = reachInto(d.cell);
+    if (!reach || reach->end <= reach->before) return;
+    const QRect place(d.rect.left() - reach->before + margin, d.rect.top(), reach->end,
+                      d.rect.height() - 1);
+    d.painter.setFont(cellFont(m_grid.look(reach->from.col, reach->from.row).font).font);
+    d.painter.setPen(textColour(d, d.isSelected ? d.cell : reach->from));
+    d.painter.drawText(place, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextDontClip,
+                       textOf(m_grid, reach->from));
 }
 
 // --- other kinds --------------------------------------------------------------------------------
@@ -301,7 +322,8 @@ void CellPainter::drawLine(const Drawing& d, const QLine& line, const Look& look
     QPen pen(toQt(look.borderColour, d.palette().color(QPalette::Text)));
     pen.setStyle(penStyle(look.borderStyle));
     pen.setWidth(penWidth(look.borderStyle));
-    pen.setCapStyle(Qt::FlatCap);
+    // A flat end would leave out the last pixel.
+    pen.setCapStyle(pen.style() == Qt::SolidLine ? Qt::SquareCap : Qt::FlatCap);
     d.painter.setPen(pen);
     d.painter.drawLine(line);
 }
@@ -317,7 +339,8 @@ void CellPainter::drawLines(const Drawing& d) const {
     const QLine bottom(d.rect.bottomLeft(), d.rect.bottomRight());
     d.painter.setPen(toQt(sides.gridColour, usualLines));
     if (sides.gridType == both || sides.gridType == betweenRows) d.painter.drawLine(bottom);
-    if (sides.gridType == both || sides.gridType == betweenCols) d.painter.drawLine(right);
+    const bool hasRight = sides.gridType == both || sides.gridType == betweenCols;
+    if (hasRight && !goesOnToTheRight(d)) d.painter.drawLine(right);
 
     const auto lookAt = [&](int col, int row) {
         return m_grid.isInside(col, row) ? &m_grid.look(col, row) : nullptr;

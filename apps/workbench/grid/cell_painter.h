@@ -44,6 +44,9 @@ class CellPainter : public QStyledItemDelegate {
     bool isSelected(control::CellAddress cell) const;
     bool mayOverflow(control::CellAddress cell) const;
     bool isRoom(int col, int row) const;
+    struct Reach;
+    std::optional<Reach> reachInto(control::CellAddress cell) const;
+    bool goesOnToTheRight(const Drawing& d) const;
 
     const control::Grid& m_grid;
     // A picture is read when it is first drawn.

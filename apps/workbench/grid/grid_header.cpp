@@ -29,11 +29,15 @@ void drawHeaderCell(QPainter& painter, const QRect& rect, const QString& text,
                                     : look.alignment == 2 ? Qt::AlignRight
                                                           : Qt::AlignHCenter;
     const QRect inner = rect.adjusted(margin, 0, -margin, -1);
-    const bool isLong = cellFont(look.font).metrics.horizontalAdvance(text) > inner.width();
-    // What is too long for one line is broken, and read from its start.
-    const int flags =
-        static_cast<int>(isLong ? Qt::AlignLeft : alignment) | Qt::AlignVCenter | Qt::TextWordWrap;
-    painter.drawText(inner, flags, text);
+    const QFontMetrics& metrics = cellFont(look.font).metrics;
+    const bool isLong = metrics.horizontalAdvance(text) > inner.width();
+    // Two lines where there is room for them.
+    if (isLong && inner.height() < 2 * metrics.lineSpacing())
+        painter.drawText(inner, Qt::AlignLeft | Qt::AlignVCenter,
+                         metrics.elidedText(text, Qt::ElideRight, inner.width()));
+    else
+        painter.drawText(inner, static_cast<int>(alignment) | Qt::AlignVCenter | Qt::TextWordWrap,
+                         text);
 }
 
 GridHeader::GridHeader(const control::Grid& grid, Qt::Orientation orientation, QWidget* parent)

@@ -49,7 +49,7 @@ GridView::GridView(TSpread& spread, QWidget* parent)
 void GridView::connectHeaders() {
     const auto select = [this](bool isCol, int section, bool isDrag) {
         setFocus(Qt::MouseFocusReason);
-        if (!m_editor.commit()) return;
+        if (!commitEdit()) return;
         const bool extends =
             isDrag || QGuiApplication::keyboardModifiers().testFlag(Qt::ShiftModifier);
         selectBand(isCol, section + 1, extends);
@@ -79,6 +79,7 @@ void GridView::connectHeaders() {
 // --- following the grid -------------------------------------------------------------------------
 
 void GridView::sync() {
+    if (!model()) return;
     m_model.follow();
     if (m_layout.follow()) {
         m_painter.pictures().forgetFiles();
@@ -137,6 +138,7 @@ void GridView::resizeEvent(QResizeEvent* event) {
 
 void GridView::paintEvent(QPaintEvent* event) {
     QTableView::paintEvent(event);
+    if (!model()) return;
     QPainter painter(viewport());
     drawFrames(painter);
 }
@@ -194,7 +196,7 @@ QString GridView::tipAt(const QPoint& point) const {
     if (const auto note = grid().note(cell->col, cell->row); !note.empty()) return toQt(note);
     if (grid().view().textTips && m_painter.isCutOff(*cell, rectOf(*cell).width()))
         return m_model.data(indexOf(*cell), Qt::DisplayRole).toString();
-    return toQt(m_spread.tip());
+    return {};
 }
 
 bool GridView::viewportEvent(QEvent* event) {
@@ -202,8 +204,8 @@ bool GridView::viewportEvent(QEvent* event) {
     const auto* help = static_cast<QHelpEvent*>(event);
     const QString tip = tipAt(help->pos());
     const std::optional<CellAddress> cell = cellAt(help->pos());
+    if (tip.isEmpty()) return QTableView::viewportEvent(event);
     // Rich text would read "<" in a cell's text as markup.
-    QToolTip::showText(help->globalPos(), tip.isEmpty() ? tip : tip.toHtmlEscaped(), viewport(),
-                       cell ? rectOf(*cell) : QRect());
+    QToolTip::showText(help->globalPos(), tip.toHtmlEscaped(), viewport(), rectOf(*cell));
     return true;
 }

@@ -18,7 +18,7 @@ class GridView : public QTableView {
     Q_OBJECT
 
   public:
-    /// `spread` outlives the view.
+    /// `spread` outlives the view, or takes its model away before it goes.
     GridView(TSpread& spread, QWidget* parent);
 
     /// Shows what the grid is now: its counts, sizes, spans, active cell, selection and edit mode.
@@ -27,7 +27,7 @@ class GridView : public QTableView {
 
     /// Enters what is being typed. False, with the reason shown, when the cell refuses it; the
     /// field stays open.
-    bool commitEdit() { return m_editor.commit(); }
+    bool commitEdit();
     bool isEditing() const { return m_editor.isOpen(); }
     /// The reason shown beside a cell that refused what was typed; empty when there is none.
     QString refusal() const;
@@ -94,6 +94,7 @@ class GridView : public QTableView {
     bool run(control::KeyAction action);
 
     // grid_view_selection.cpp
+    static bool isAlive(const QPointer<GridView>& view);
     void go(Cell cell);
     void extendTo(Cell cell);
     void select(const control::Block& block);

@@ -77,8 +77,9 @@ void GridView::keyPressEvent(QKeyEvent* event) {
         return;
     }
     m_bubble->hide();
-    const bool isUsed = activeCell() && (runsAction(*event) || selects(*event) || moves(*event) ||
-                                         acts(*event) || types(*event));
+    const bool isUsed =
+        model() && activeCell() &&
+        (runsAction(*event) || selects(*event) || moves(*event) || acts(*event) || types(*event));
     event->setAccepted(isUsed);
 }
 
@@ -87,7 +88,7 @@ bool GridView::editorKey(QKeyEvent& key) {
     if (isEnter(key)) {
         if (isAlt(key)) {
             m_editor.field()->insertPlainText("\n");
-        } else if (m_editor.commit()) {
+        } else if (commitEdit()) {
             goOnByEnter(!isShift(key));
         }
         return true;
@@ -124,7 +125,7 @@ bool GridView::entersBesides(const QKeyEvent& key) {
         return isCombo;
     }
     if (m_editor.field()->blockCount() > 1) return false;
-    if (m_editor.commit()) moves(key);
+    if (commitEdit()) moves(key);
     return true;
 }
 
@@ -159,9 +160,10 @@ std::optional<CellAddress> GridView::targetOf(const QKeyEvent& key, CellAddress 
             return isCtrl(key) ? lastFilledCell(grid())
                                : nearestShown(grid(), {grid().cols(), from.row}, {-1, 0});
         case Qt::Key_PageUp:
-            return pageFrom(from, -1);
         case Qt::Key_PageDown:
-            return pageFrom(from, 1);
+            // With Ctrl they turn the pages of the dialog.
+            if (isCtrl(key)) return std::nullopt;
+            return pageFrom(from, key.key() == Qt::Key_PageUp ? -1 : 1);
         default:
             return std::nullopt;
     }
@@ -194,7 +196,7 @@ void GridView::leaveBy(bool forwards) {
 }
 
 void GridView::goOnByTab(bool forwards) {
-    if (!m_editor.commit()) return;
+    if (!commitEdit()) return;
     m_bubble->hide();
     if (!activeCell()) return leaveBy(forwards);
     int action = Vor_Spread::tabMoves;
@@ -245,7 +247,7 @@ bool GridView::run(control::KeyAction action) {
         m_spread.clipboardCopy();
         if (action == control::KeyAction::cut) m_spread.userClears(*block);
     }
-    if (!self) return true;
+    if (!isAlive(self)) return true;
     sync();
     if (!isWhole) refuse(whySomeRefused());
     return true;
@@ -281,7 +283,7 @@ bool GridView::acts(const QKeyEvent& key) {
         case Qt::Key_Delete: {
             const QPointer<GridView> self(this);
             const bool isCleared = m_spread.userClears(chosen());
-            if (!self) return true;
+            if (!isAlive(self)) return true;
             sync();
             if (!isCleared && !grid().selection() && look.locked) showWhyClosed(cell);
             return true;
@@ -330,7 +332,7 @@ bool GridView::picksByLetter(CellAddress cell, const QString& letter) {
         if (!item.startsWith(letter, Qt::CaseInsensitive)) continue;
         const QPointer<GridView> self(this);
         m_spread.userEnters(cell.col, cell.row, fromQt(item));
-        if (self) sync();
+        if (isAlive(self)) sync();
         break;
     }
     return true;
@@ -343,8 +345,8 @@ void GridView::openList(CellAddress cell) {
     ItemList::open(this, onScreen, itemsOf(grid().look(cell.col, cell.row).type),
                    m_model.data(indexOf(cell), Qt::DisplayRole).toString(),
                    [self, cell](const QString& item) {
-                       if (!self) return;
+                       if (!isAlive(self)) return;
                        self->m_spread.userEnters(cell.col, cell.row, fromQt(item));
-                       if (self) self->sync();
+                       if (isAlive(self)) self->sync();
                    });
 }

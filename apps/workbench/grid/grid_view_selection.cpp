@@ -23,13 +23,23 @@ std::optional<CellAddress> GridView::cellAt(const QPoint& point) const {
 }
 
 // --- selecting ----------------------------------------------------------------------------------
-// A listener may do anything to the grid and even close the dialog with this view in it.
+// A listener may do anything to the grid and even close the dialog. Its grid is gone then, and the
+// view waits without a model for its own end.
+
+bool GridView::isAlive(const QPointer<GridView>& view) {
+    return view && view->model();
+}
+
+bool GridView::commitEdit() {
+    const QPointer<GridView> self(this);
+    return isAlive(self) && m_editor.commit() && isAlive(self);
+}
 
 void GridView::go(CellAddress cell) {
     if (cell == grid().active() && !grid().selection()) return;
     const QPointer<GridView> self(this);
     m_spread.userMoves(cell.col, cell.row);
-    if (self) sync();
+    if (isAlive(self)) sync();
 }
 
 void GridView::select(const Block& block) {
@@ -37,15 +47,16 @@ void GridView::select(const Block& block) {
     m_extended = block;
     const QPointer<GridView> self(this);
     m_spread.userSelects(block);
-    if (self) sync();
+    if (isAlive(self)) sync();
 }
 
 void GridView::extendTo(CellAddress cell) {
     if (!m_extended || grid().selection() != m_extended) m_anchor = grid().active();
     m_head = cell;
     if (m_anchor == cell) return go(cell);
+    const QPointer<GridView> self(this);
     select(blockOf(grid(), m_anchor, cell));
-    if (grid().isInside(cell.col, cell.row)) scrollTo(indexOf(cell));
+    if (isAlive(self) && grid().isInside(cell.col, cell.row)) scrollTo(indexOf(cell));
 }
 
 void GridView::selectBand(bool isCol, int index, bool extends) {
@@ -55,7 +66,7 @@ void GridView::selectBand(bool isCol, int index, bool extends) {
 }
 
 void GridView::selectAll() {
-    if (m_editor.commit()) select({1, 1, -1, -1});
+    if (commitEdit()) select({1, 1, -1, -1});
 }
 
 Block GridView::chosen() const {
@@ -69,17 +80,17 @@ void GridView::mousePressEvent(QMouseEvent* event) {
     m_bubble->hide();
     const std::optional<CellAddress> cell = cellAt(event->position().toPoint());
     if (event->button() != Qt::LeftButton || !cell) {
-        m_editor.commit();
+        commitEdit();
         return;
     }
-    if (!m_editor.commit()) return;
+    if (!commitEdit()) return;
     const QPointer<GridView> self(this);
     const bool wasActive = grid().active() == *cell;
     m_isDragging = true;
     m_pressed = *cell;
     if (event->modifiers() & Qt::ShiftModifier) return extendTo(*cell);
     go(*cell);
-    if (!self) return;
+    if (!isAlive(self)) return;
     m_anchor = m_head = *cell;
     const control::Look& look = grid().look(cell->col, cell->row);
     if (look.type.kind == CellKind::button && !look.locked) {
@@ -95,7 +106,7 @@ void GridView::mousePressEvent(QMouseEvent* event) {
 }
 
 void GridView::mouseMoveEvent(QMouseEvent* event) {
-    if (!m_isDragging || !(event->buttons() & Qt::LeftButton)) return;
+    if (!model() || !m_isDragging || !(event->buttons() & Qt::LeftButton)) return;
     QPoint point = event->position().toPoint();
     // Beyond the edge the selection goes on to the next cell, which scrolls.
     const QRect view = viewport()->rect();
@@ -126,7 +137,7 @@ void GridView::mouseReleaseEvent(QMouseEvent* event) {
 void GridView::press(CellAddress cell) {
     const QPointer<GridView> self(this);
     if (!m_spread.userClicks(cell.col, cell.row)) showWhyClosed(cell);
-    if (self) sync();
+    if (isAlive(self)) sync();
 }
 
 void GridView::toggleAt(CellAddress cell, const QPoint& point) {
@@ -140,17 +151,17 @@ void GridView::mouseDoubleClickEvent(QMouseEvent* event) {
     const CellKind kind = grid().look(cell->col, cell->row).type.kind;
     // Two quick clicks on a button or a check box are two clicks.
     if (kind == CellKind::button || kind == CellKind::checkBox) return mousePressEvent(event);
-    if (!m_editor.commit()) return;
+    if (!commitEdit()) return;
     const QPointer<GridView> self(this);
     go(*cell);
-    if (self) m_spread.userDoubleClicks(cell->col, cell->row);
-    if (!self) return;
+    if (isAlive(self)) m_spread.userDoubleClicks(cell->col, cell->row);
+    if (!isAlive(self)) return;
     if (grid().active() == *cell && isOpen(grid(), *cell)) m_editor.begin();
     sync();
 }
 
 void GridView::contextMenuEvent(QContextMenuEvent* event) {
-    if (!m_editor.commit()) return;
+    if (!commitEdit()) return;
     const QPointer<GridView> self(this);
     if (event->reason() == QContextMenuEvent::Mouse) {
         const std::optional<CellAddress> cell = cellAt(event->pos());
@@ -160,15 +171,16 @@ void GridView::contextMenuEvent(QContextMenuEvent* event) {
                               cell->row <= block->row2;
         if (cell && !isChosen) go(*cell);
     }
-    if (!self) return;
+    if (!isAlive(self)) return;
     const bool wasShown = m_spread.showContextMenu();
-    if (!self) return;
+    if (!isAlive(self)) return;
     event->setAccepted(wasShown);
     sync();
 }
 
 void GridView::focusInEvent(QFocusEvent* event) {
     QTableView::focusInEvent(event);
+    if (!model()) return;
     m_spread.focus();
     activeCell();
     viewport()->update();

@@ -21,13 +21,13 @@ constexpr int spare = 12;  // for the next letters
 /// Its text begins where the cell's own does.
 class Field : public QPlainTextEdit {
   public:
-    explicit Field(QWidget* parent) : QPlainTextEdit(parent) {
+    Field(QWidget* parent, QPalette colours) : QPlainTextEdit(parent) {
         setFrameShape(QFrame::NoFrame);
         document()->setDocumentMargin(0);
         setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
         setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
         setLineWrapMode(QPlainTextEdit::NoWrap);
-        QPalette colours = palette();
+        // The colours around it are those of the area without cells.
         colours.setColor(QPalette::Window, colours.color(QPalette::Base));
         setPalette(colours);
         setAutoFillBackground(true);
@@ -120,7 +120,7 @@ void InCellEditor::show(const QString& text, std::pair<int, int> selection) {
 void InCellEditor::open() {
     const control::Grid& grid = m_spread.grid();
     const control::Look& look = grid.look(grid.active().col, grid.active().row);
-    m_field = new Field(m_view.viewport());
+    m_field = new Field(m_view.viewport(), m_view.palette());
     m_field->setFont(cellFont(look.font).font);
     m_field->setReadOnly(look.type.kind == control::CellKind::comboBox && !look.type.editable);
     m_field->installEventFilter(this);
@@ -204,7 +204,9 @@ bool InCellEditor::eventFilter(QObject* watched, QEvent* event) {
             const Qt::FocusReason reason = static_cast<QFocusEvent*>(event)->reason();
             const bool returns = reason == Qt::ActiveWindowFocusReason ||
                                  reason == Qt::PopupFocusReason || reason == Qt::MenuBarFocusReason;
-            if (!returns) commit();
+            // While a dialog is destroyed no window has the keyboard, and nobody is to hear of a
+            // cell any more.
+            if (!returns && m_view.model() && CWnd::focused()) commit();
             return false;
         }
         default:
@@ -229,7 +231,7 @@ QRect InCellEditor::roomFor(const QRect& cell) const {
 }
 
 void InCellEditor::place() {
-    if (!m_field) return;
+    if (!m_field || !m_view.model()) return;
     const CellAddress cell = m_spread.grid().active();
     const QRect shown = m_view.visualRect(m_view.model()->index(cell.row - 1, cell.col - 1));
     const QRect room = roomFor(shown);

@@ -1,106 +1,16 @@
-#include "grid/grid_view.h"
+// Typing into the cells of a grid.
+#include <QPlainTextEdit>
 
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
-#include <QApplication>
-#include <QElapsedTimer>
-#include <QHeaderView>
-#include <QLineEdit>
-#include <QScrollBar>
-#include <QTest>
-#include <QVBoxLayout>
-#include <iostream>
-
-#include "grid/cell_painter.h"
-#include "grid/item_list.h"
-#include "platform/window/window_system.h"
-#include "spread/vor_spread.h"
-#include "support/test_user.h"
-#include "window/dialog_font.h"
+#include "grid_window.h"
 
 namespace {
 
 using control::Block;
-using control::CellAddress;
 using control::Reading;
-using testing::ElementsAre;
 
-constexpr int header = control::headerIndex;
-constexpr int gridId = 1004;
+using GridEditing = GridWindow;
 
-/// A grid in a dialog between two fields that Tab can go to.
-class GridViewTest : public testing::Test {
-  protected:
-    GridViewTest() {
-        dialog.create({"#32770", "Dialog", {100, 50, 700, 550}, 0, 0, true}, nullptr);
-        placeholder.create({"Static", "", {20, 30, 437, 230}, 0, gridId, true}, &dialog);
-        spread.attach(&dialog, gridId, true);
-        size(4, 6);
-        spread.setListener([this](const GridNotice& notice) {
-            constexpr const char* names[] = {"changed", "moved", "pressed", "checked", "double"};
-            notices.push_back(std::string(names[static_cast<int>(notice.what)]) + " " +
-                              std::to_string(notice.col) + "," + std::to_string(notice.row));
-        });
-    }
-    ~GridViewTest() override {
-        view.reset();
-        spread.destroy();
-        dialog.destroy();
-    }
-    void size(int cols, int rows) {
-        spread.setNrCols(cols, false);
-        spread.setNrRows(rows);
-    }
-    GridView& open() {
-        auto* layout = new QVBoxLayout(&window);
-        layout->addWidget(&before);
-        view = std::make_unique<GridView>(spread, &window);
-        layout->addWidget(view.get());
-        layout->addWidget(&after);
-        window.resize(640, 400);
-        window.show();
-        window.activateWindow();
-        view->setFocus();
-        QApplication::processEvents();
-        return *view;
-    }
-    control::Grid& grid() { return spread.grid(); }
-    std::string text(int col, int row) const { return spread.grid().text(col, row, Reading::data); }
-    std::pair<int, int> active() const {
-        return {spread.grid().active().col, spread.grid().active().row};
-    }
-    QWidget* target() const { return QApplication::focusWidget(); }
-    // Each key goes where the keyboard is by then.
-    void keys(const QString& typed) const {
-        for (const QChar character : typed) QTest::keyClick(target(), character.toLatin1());
-    }
-    void key(Qt::Key key, Qt::KeyboardModifiers with = Qt::NoModifier) const {
-        QTest::keyClick(target(), key, with);
-    }
-    QRect place(int col, int row) const {
-        return view->visualRect(view->model()->index(row - 1, col - 1));
-    }
-    void click(int col, int row, Qt::KeyboardModifiers with = Qt::NoModifier) const {
-        QTest::mouseClick(view->viewport(), Qt::LeftButton, with, place(col, row).center());
-    }
-    void moveTo(int col, int row) {
-        grid().setActive(col, row);
-        view->sync();
-    }
-
-    CWnd dialog;
-    CWnd placeholder;
-    Vor_Spread spread;
-    QWidget window;
-    QLineEdit before, after;
-    std::unique_ptr<GridView> view;
-    std::vector<std::string> notices;
-};
-
-// --- typing -------------------------------------------------------------------------------------
-
-TEST_F(GridViewTest, TypingEntersATextAndEnterGoesOnAsTheGridSays) {
+TEST_F(GridEditing, TypingEntersATextAndEnterGoesOnAsTheGridSays) {
     struct Row {
         int action;
         const char* typed;
@@ -123,7 +33,7 @@ TEST_F(GridViewTest, TypingEntersATextAndEnterGoesOnAsTheGridSays) {
     EXPECT_EQ(std::count(notices.begin(), notices.end(), "changed 2,2"), 3);
 }
 
-TEST_F(GridViewTest, EscapeKeepsWhatTheCellHadAndF2ChangesIt) {
+TEST_F(GridEditing, EscapeKeepsWhatTheCellHadAndF2ChangesIt) {
     spread.setData(1, 1, "plate");
     open();
     moveTo(1, 1);
@@ -144,7 +54,7 @@ TEST_F(GridViewTest, EscapeKeepsWhatTheCellHadAndF2ChangesIt) {
     EXPECT_THAT(notices, testing::Contains("double 1,1"));
 }
 
-TEST_F(GridViewTest, AResultThatWasOnlyLookedAtKeepsItsFormula) {
+TEST_F(GridEditing, AResultThatWasOnlyLookedAtKeepsItsFormula) {
     spread.setFormula(1, 1, "1/3");
     open();
     moveTo(1, 1);
@@ -158,7 +68,7 @@ TEST_F(GridViewTest, AResultThatWasOnlyLookedAtKeepsItsFormula) {
     EXPECT_EQ(text(1, 2), "1");
 }
 
-TEST_F(GridViewTest, ARefusedTextStaysOpenAndSaysWhy) {
+TEST_F(GridEditing, ARefusedTextStaysOpenAndSaysWhy) {
     spread.setNumberCell(Block{1, 1, 1, 2}, 2);
     grid().setType(2, 1, control::numberType(0, 0, 1, 9));
     spread.setTextCell(Block{3, 1, 3, 1}, 3);
@@ -200,7 +110,7 @@ TEST_F(GridViewTest, ARefusedTextStaysOpenAndSaysWhy) {
     EXPECT_EQ(text(3, 1), "abc");
 }
 
-TEST_F(GridViewTest, CharactersThatTheModuleCannotKeepAreRefusedAtOnce) {
+TEST_F(GridEditing, CharactersThatTheModuleCannotKeepAreRefusedAtOnce) {
     open();
     moveTo(1, 1);
     keys("12");
@@ -212,7 +122,7 @@ TEST_F(GridViewTest, CharactersThatTheModuleCannotKeepAreRefusedAtOnce) {
     EXPECT_EQ(text(1, 1), "12\x80");
 }
 
-TEST_F(GridViewTest, EditModeAndCharactersSelectedFromOutsideShow) {
+TEST_F(GridEditing, EditModeAndCharactersSelectedFromOutsideShow) {
     spread.setData(2, 2, "bolt M16");
     open();
     grid().setActive(2, 2);
@@ -230,7 +140,7 @@ TEST_F(GridViewTest, EditModeAndCharactersSelectedFromOutsideShow) {
     EXPECT_TRUE(view->hasFocus());
 }
 
-TEST_F(GridViewTest, LockedAndStaticCellsSayThatTheyAreClosed) {
+TEST_F(GridEditing, LockedAndStaticCellsSayThatTheyAreClosed) {
     spread.setLock(1, 1, true);
     spread.setStaticCell({2, 1, 2, 1});
     spread.setData(1, 1, "kept");

@@ -1,0 +1,10 @@
+#include "grid/show_grids.h"
+
+#include "grid/grid_view.h"
+#include "window/qt_window_system.h"
+
+void showGrids(QtWindowSystem& system) {
+    system.showGridsWith(
+        [](TSpread& spread, QWidget* parent) { return new GridView(spread, parent); },
+        [](QWidget& grid) { static_cast<GridView&>(grid).sync(); });
+}
