@@ -28,6 +28,8 @@ const QColor usualLines(208, 208, 208);
 
 enum GridLines { both = 0, none = 1, betweenRows = 2, betweenCols = 3 };
 
+// Border styles: 1 to 5 are thin lines, solid, dashed, dotted and mixed; 7 is twice and 8 three
+// times as wide. All others are as 1.
 Qt::PenStyle penStyle(int borderStyle) {
     switch (borderStyle) {
         case 2:
@@ -318,14 +320,22 @@ void CellPainter::drawPicture(const Drawing& d) const {
 
 // --- lines --------------------------------------------------------------------------------------
 
-void CellPainter::drawLine(const Drawing& d, const QLine& line, const Look& look) const {
-    QPen pen(toQt(look.borderColour, d.palette().color(QPalette::Text)));
-    pen.setStyle(penStyle(look.borderStyle));
-    pen.setWidth(penWidth(look.borderStyle));
-    // A flat end would leave out the last pixel.
-    pen.setCapStyle(pen.style() == Qt::SolidLine ? Qt::SquareCap : Qt::FlatCap);
-    d.painter.setPen(pen);
-    d.painter.drawLine(line);
+// Solid lines are filled: strokes leave gaps where they meet on screens that are scaled by
+// fractions.
+void CellPainter::drawLine(const Drawing& d, const QRect& line, const Look& look) const {
+    const QColor colour = toQt(look.borderColour, d.palette().color(QPalette::Text));
+    const Qt::PenStyle style = penStyle(look.borderStyle);
+    if (style == Qt::SolidLine) {
+        const int wider = penWidth(look.borderStyle) - 1;
+        d.painter.fillRect(line.adjusted(line.left() > d.rect.left() ? -wider : 0,
+                                         line.top() > d.rect.top() ? -wider : 0,
+                                         line.right() < d.rect.right() ? wider : 0,
+                                         line.bottom() < d.rect.bottom() ? wider : 0),
+                           colour);
+        return;
+    }
+    d.painter.setPen(QPen(colour, 1, style, Qt::FlatCap));
+    d.painter.drawLine(line.topLeft(), line.bottomRight());
 }
 
 // The line between two cells belongs to the left and the upper one; a border of either takes its
@@ -335,12 +345,12 @@ void CellPainter::drawLines(const Drawing& d) const {
     const control::Span* span = m_grid.spanAt(d.cell.col, d.cell.row);
     const int nextCol = d.cell.col + (span ? span->cols : 1);
     const int nextRow = d.cell.row + (span ? span->rows : 1);
-    const QLine right(d.rect.topRight(), d.rect.bottomRight());
-    const QLine bottom(d.rect.bottomLeft(), d.rect.bottomRight());
-    d.painter.setPen(toQt(sides.gridColour, usualLines));
-    if (sides.gridType == both || sides.gridType == betweenRows) d.painter.drawLine(bottom);
+    const QRect right(d.rect.topRight(), d.rect.bottomRight());
+    const QRect bottom(d.rect.bottomLeft(), d.rect.bottomRight());
+    const QColor usual = toQt(sides.gridColour, usualLines);
+    if (sides.gridType == both || sides.gridType == betweenRows) d.painter.fillRect(bottom, usual);
     const bool hasRight = sides.gridType == both || sides.gridType == betweenCols;
-    if (hasRight && !goesOnToTheRight(d)) d.painter.drawLine(right);
+    if (hasRight && !goesOnToTheRight(d)) d.painter.fillRect(right, usual);
 
     const auto lookAt = [&](int col, int row) {
         return m_grid.isInside(col, row) ? &m_grid.look(col, row) : nullptr;
@@ -356,9 +366,9 @@ void CellPainter::drawLines(const Drawing& d) const {
     else if (below && hasBorder(*below, control::borderTop))
         drawLine(d, bottom, *below);
     if (d.cell.col == 1 && hasBorder(d.look, control::borderLeft))
-        drawLine(d, QLine(d.rect.topLeft(), d.rect.bottomLeft()), d.look);
+        drawLine(d, QRect(d.rect.topLeft(), d.rect.bottomLeft()), d.look);
     if (d.cell.row == 1 && hasBorder(d.look, control::borderTop))
-        drawLine(d, QLine(d.rect.topLeft(), d.rect.topRight()), d.look);
+        drawLine(d, QRect(d.rect.topLeft(), d.rect.topRight()), d.look);
 }
 
 void CellPainter::drawNoteMark(const Drawing& d) const {

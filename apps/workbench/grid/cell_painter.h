@@ -37,7 +37,7 @@ class CellPainter : public QStyledItemDelegate {
     void drawButton(const Drawing& d) const;
     void drawPicture(const Drawing& d) const;
     void drawLines(const Drawing& d) const;
-    void drawLine(const Drawing& d, const QLine& line, const control::Look& look) const;
+    void drawLine(const Drawing& d, const QRect& line, const control::Look& look) const;
     void drawNoteMark(const Drawing& d) const;
 
     QColor textColour(const Drawing& d, control::CellAddress cell) const;

@@ -20,9 +20,9 @@ void drawHeaderCell(QPainter& painter, const QRect& rect, const QString& text,
     QColor background = toQt(look.background, palette.color(QPalette::Button));
     if (isChosen) background = background.darker(115);
     painter.fillRect(rect, background);
-    painter.setPen(palette.color(QPalette::Mid));
-    painter.drawLine(rect.topRight(), rect.bottomRight());
-    painter.drawLine(rect.bottomLeft(), rect.bottomRight());
+    const QColor lines = palette.color(QPalette::Mid);
+    painter.fillRect(QRect(rect.topRight(), rect.bottomRight()), lines);
+    painter.fillRect(QRect(rect.bottomLeft(), rect.bottomRight()), lines);
     painter.setFont(cellFont(look.font).font);
     painter.setPen(toQt(look.textColour, palette.color(QPalette::ButtonText)));
     const Qt::Alignment alignment = look.alignment == 1   ? Qt::AlignLeft

@@ -28,7 +28,8 @@ class Field : public QPlainTextEdit {
         setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
         setLineWrapMode(QPlainTextEdit::NoWrap);
         // The colours around it are those of the area without cells.
-        colours.setColor(QPalette::Window, colours.color(QPalette::Base));
+        for (const QPalette::ColorRole role : {QPalette::Base, QPalette::Window})
+            colours.setColor(role, colours.color(QPalette::Base));
         setPalette(colours);
         setAutoFillBackground(true);
     }
@@ -195,7 +196,8 @@ bool InCellEditor::eventFilter(QObject* watched, QEvent* event) {
     if (watched != m_field) return QObject::eventFilter(watched, event);
     switch (event->type()) {
         case QEvent::ShortcutOverride:
-            // Enter and Escape are this field's, not buttons of the dialog.
+            // Keys are this field's before they are a shortcut; with Ctrl only those it knows.
+            if (static_cast<QKeyEvent*>(event)->modifiers() & Qt::ControlModifier) return false;
             event->accept();
             return true;
         case QEvent::KeyPress:
