@@ -3,6 +3,8 @@
 
 #include <algorithm>
 
+#include "spread/find_replace_dlg.h"
+
 using control::Block;
 
 namespace {
@@ -27,6 +29,16 @@ const CWnd* siblingAfter(const CWnd& window) {
 }
 
 }  // namespace
+
+Vor_Spread::Vor_Spread() = default;
+
+Vor_Spread::~Vor_Spread() {
+    destroy();
+}
+
+void Vor_Spread::onDestroy() {
+    m_findDialog.reset();
+}
 
 bool Vor_Spread::attach(CWnd* parent, int ctrlId, bool exactRect) {
     CWnd* placeholder = parent ? parent->item(ctrlId) : nullptr;

@@ -10,11 +10,17 @@
 #include "core_api/text/vor_array.h"
 #include "core_api/text/vor_string.h"
 #include "core_api/text/vor_string_array.h"
+#include "spread/cell_changes.h"
 #include "spread/t_spread.h"
+
+class TwFindReplaceDlg;
 
 class VORMANT_API Vor_Spread : public TSpread {
   public:
     static constexpr int headerIndex = control::headerIndex;
+
+    Vor_Spread();
+    ~Vor_Spread() override;
 
     /// What getCellText reads: entered data (0), formula (1), tag (2) or value (3).
     using Reading = control::Reading;
@@ -146,6 +152,13 @@ class VORMANT_API Vor_Spread : public TSpread {
     bool findNext(const Vor_String& text, bool substring, int fromCol, int fromRow, int& foundCol,
                   int& foundRow) const;
     bool replaceInCell(int col, int row, const Vor_String& from, const Vor_String& to);
+    /// Opens the find-and-replace window, or brings the open one to the front.
+    bool showFindReplace();
+    /// Null unless that window is open.
+    TwFindReplaceDlg* findDialog() const;
+    /// Hears of cells that are replaced (borrowed; null for none).
+    void setChangeObserver(CellChangeObserver* observer) { m_changeObserver = observer; }
+    CellChangeObserver* changeObserver() const { return m_changeObserver; }
 
     // --- menu and keys ----------------------------------------------------------------------
     enum MenuCommand {
@@ -188,6 +201,9 @@ class VORMANT_API Vor_Spread : public TSpread {
     bool addCustomFunction(const char* name, int minArgs, int maxArgs, SSCustomFunction callback,
                            int flags);
 
+  protected:
+    void onDestroy() override;
+
   private:
     int columnsToShare() const;
     template <class Width>
@@ -211,4 +227,6 @@ class VORMANT_API Vor_Spread : public TSpread {
     Vor_Array<int> m_menuCommands;
     int m_checkColumn = -1;
     int m_dependentColumn = -1;
+    std::unique_ptr<TwFindReplaceDlg> m_findDialog;
+    CellChangeObserver* m_changeObserver = nullptr;
 };

@@ -1,6 +1,8 @@
 // Finding and replacing texts. Letter case never matters.
 #include <algorithm>
 
+#include "platform/window/window_system.h"
+#include "spread/find_replace_dlg.h"
 #include "spread/vor_spread.h"
 
 bool Vor_Spread::findInRow(const Vor_String& text, bool substring, int row, int fromCol,
@@ -32,4 +34,24 @@ bool Vor_Spread::replaceInCell(int col, int row, const Vor_String& from, const V
     if (!getCellText(col, row, text, Reading::value)) return false;
     text.replaceSubString(from, to);
     return setData(col, row, text);
+}
+
+bool Vor_Spread::showFindReplace() {
+    if (!isAttached()) return false;
+    if (!findDialog()) {
+        m_findDialog = std::make_unique<TwFindReplaceDlg>(*this);
+        if (!m_findDialog->create()) {
+            m_findDialog.reset();
+            return false;
+        }
+        m_findDialog->show(true);
+    }
+    WindowSystem::current().bringToFront(*m_findDialog);
+    if (CWnd* field = m_findDialog->item(TwFindReplaceDlg::findField)) field->focus();
+    return true;
+}
+
+TwFindReplaceDlg* Vor_Spread::findDialog() const {
+    const bool isOpen = m_findDialog && m_findDialog->isCreated() && !m_findDialog->isEnded();
+    return isOpen ? m_findDialog.get() : nullptr;
 }

@@ -17,6 +17,7 @@ struct TextRow {
 extern const std::span<const TextRow> generalTexts;
 extern const std::span<const TextRow> sheetTexts;
 extern const std::span<const TextRow> gridTexts;
+extern const std::span<const TextRow> sheetEditorTexts;
 extern const std::span<const TextRow> mappingTexts;
 extern const std::span<const TextRow> designerTexts;
 extern const std::span<const TextRow> macrodlgTexts;
@@ -28,15 +29,16 @@ extern const std::span<const TextRow> workbenchTexts;
 /// One a line, so that tables can be added side by side.
 inline auto allTables() {
     return std::array{
-        generalTexts,   //
-        sheetTexts,     //
-        gridTexts,      //
-        mappingTexts,   //
-        designerTexts,  //
-        macrodlgTexts,  //
-        sectionsTexts,  //
-        cutstockTexts,  //
-        frameTexts,     //
+        generalTexts,      //
+        sheetTexts,        //
+        gridTexts,         //
+        sheetEditorTexts,  //
+        mappingTexts,      //
+        designerTexts,     //
+        macrodlgTexts,     //
+        sectionsTexts,     //
+        cutstockTexts,     //
+        frameTexts,        //
         workbenchTexts,
     };
 }

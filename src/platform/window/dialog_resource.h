@@ -94,6 +94,7 @@ struct DialogResource {
     CRect size;  ///< 0, 0, width, height in dialog units; also the least size of resizable ones
     std::span<const ControlTemplate> controls = {};
     bool isResizable = false;
+    bool isTopmost = false;  ///< stays above the other windows
 };
 
 /// The window class that stands for a control.

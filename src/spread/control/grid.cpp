@@ -167,6 +167,24 @@ bool Grid::swapCols(int first, int other, int count) {
     return true;
 }
 
+bool Grid::moveRows(int from, int count, int to) {
+    if (!isRun(from, count, m_rows - count + 1) || !isRun(to, count, m_rows - count + 1))
+        return false;
+    noteStructure();
+    m_sheet->moveRows(from, count, to);
+    changeSides().moveRows(from, count, to);
+    return true;
+}
+
+bool Grid::moveCols(int from, int count, int to) {
+    if (!isRun(from, count, m_cols - count + 1) || !isRun(to, count, m_cols - count + 1))
+        return false;
+    noteStructure();
+    m_sheet->moveCols(from, count, to);
+    changeSides().moveCols(from, count, to);
+    return true;
+}
+
 bool Grid::copyBlock(const Block& given, int toCol, int toRow) {
     const std::optional<Block> from = resolved(given);
     if (!from || !isInside(toCol, toRow)) return false;

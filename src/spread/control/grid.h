@@ -74,6 +74,9 @@ struct ViewSettings {
     int editEnterAction = 0;
     bool textTips = false;       ///< a text that is cut off shows whole when the mouse rests on it
     bool noteIndicators = true;  ///< a mark in the corner of cells with a note
+    int textTipDelay = 0;        ///< milliseconds
+    int visibleCols = 0;         ///< how much a window should show at first; 0 leaves it open
+    int visibleRows = 0;
 };
 
 class Grid {
@@ -145,6 +148,10 @@ class Grid {
     std::string_view note(int col, int row) const;
     /// Empties value, formula, tag and note; the look stays.
     void clearCells(const Block& block);
+
+    /// Makes a cell what it was, past what its type takes: value and look of `content` and, unless
+    /// null, a formula in A1 notation whose result the value is; without a value it is calculated.
+    void putCell(int col, int row, const Cell& content, const TextBlock* formula, bool isArray);
 
     // --- formulas ---------------------------------------------------------------------------
     /// Text without "=", in the sheet's reference style. False with the reason, and the cell as it
@@ -224,6 +231,10 @@ class Grid {
     /// Both groups lie inside the sheet and do not overlap, else false.
     bool swapRows(int first, int other, int count);
     bool swapCols(int first, int other, int count);
+    /// Rows from..from+count-1 go where the first of them gets the number `to`, those in between
+    /// move up or down; references follow. False when either place lies outside.
+    bool moveRows(int from, int count, int to);
+    bool moveCols(int from, int count, int to);
     /// Contents, looks and tags of a block to the place whose top left is (col, row).
     bool copyBlock(const Block& from, int col, int row);
     bool copyRowLooks(int from, int to);

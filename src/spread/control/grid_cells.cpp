@@ -279,6 +279,19 @@ void Grid::clearCells(const Block& block) {
         std::erase_if(changeSides().notes, isIn);
 }
 
+void Grid::putCell(int col, int row, const Cell& content, const TextBlock* formula, bool isArray) {
+    if (!isInside(col, row)) return;
+    noteTouched(col, row);
+    if (formula) {
+        m_sheet->putFormula(col, row, formula->view(), content.value(), isArray);
+        m_sheet->setLook(col, row, content.look);
+    } else if (content.type == ValueType::empty && content.look == inheritedLook) {
+        m_sheet->clearCell(col, row);
+    } else {
+        m_sheet->putBack(col, row, content);
+    }
+}
+
 bool Grid::setFormula(int col, int row, std::string_view text, formula::ParseError* error) {
     formula::ParseError reason;
     formula::ParseError& why = error ? *error : reason;

@@ -1,6 +1,7 @@
 // What a user does with a grid: selecting, typing, copying.
 #include <algorithm>
 
+#include "core_api/text/delimited_text.h"
 #include "core_api/text/number_text.h"
 #include "spread/control/grid.h"
 
@@ -19,33 +20,6 @@ void appendField(std::string& out, std::string_view field) {
         out += c;
     }
     out += '"';
-}
-
-// Takes one field from the start of `text`, with what ends it: a tab, a line end or the text's end.
-struct Field {
-    std::string text;
-    bool endsLine = false;
-};
-
-Field takeField(std::string_view& text) {
-    Field field;
-    if (text.starts_with('"')) {
-        size_t at = 1;
-        for (; at < text.size(); ++at) {
-            if (text[at] == '"') {
-                if (at + 1 == text.size() || text[at + 1] != '"') break;
-                ++at;
-            }
-            field.text += text[at];
-        }
-        text.remove_prefix(std::min(at + 1, text.size()));
-    }
-    const size_t end = std::min(text.find_first_of("\t\r\n"), text.size());
-    field.text += text.substr(0, end);
-    field.endsLine = end == text.size() || text[end] != '\t';
-    const bool twoBytes = text.substr(end, 2) == "\r\n";
-    text.remove_prefix(std::min(end + (twoBytes ? 2 : 1), text.size()));
-    return field;
 }
 
 bool isItem(std::string_view items, std::string_view text) {
@@ -170,17 +144,17 @@ std::string Grid::copyText(const Block& given) const {
 bool Grid::pasteText(int toCol, int toRow, std::string_view text, const CellCall& entered) {
     if (!isInside(toCol, toRow)) return false;
     bool taken = true;
-    int col = toCol, row = toRow;
-    while (!text.empty() && row <= m_rows) {
-        const Field field = takeField(text);
-        if (col <= m_cols) {
-            const bool isTaken = enter(col, row, field.text);
-            if (isTaken && entered) entered(col, row);
-            taken = taken && isTaken;
+    DelimitedText lines(text, '\t');
+    int row = toRow;
+    for (std::vector<std::string> fields; row <= m_rows && lines.next(fields); ++row)
+        for (int col = toCol; const std::string& field : fields) {
+            if (col <= m_cols) {
+                const bool isTaken = enter(col, row, field);
+                if (isTaken && entered) entered(col, row);
+                taken = taken && isTaken;
+            }
+            ++col;
         }
-        col = field.endsLine ? toCol : col + 1;
-        row += field.endsLine ? 1 : 0;
-    }
     return taken;
 }
 

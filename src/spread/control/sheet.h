@@ -69,6 +69,11 @@ class Sheet {
     /// cell shows #NAME?.
     void loadFormula(int col, int row, std::string_view text, const Value& cached,
                      bool isArray = false);
+    /// As loadFormula in a sheet that is in use: what reads the cell is calculated anew.
+    void putFormula(int col, int row, std::string_view text, const Value& cached, bool isArray) {
+        loadFormula(col, row, text, cached, isArray);
+        touched(col, row);
+    }
     /// The text of the cell's formula without "=", or nothing. Lives until the cell changes.
     std::optional<std::string_view> formula(int col, int row) const;
     bool isArrayFormula(int col, int row) const;
@@ -105,6 +110,9 @@ class Sheet {
     /// pointing at the places, formulas that travel keep their relative references.
     void swapRows(int first, int other, int count);
     void swapCols(int first, int other, int count);
+    /// Rows from..from+count-1 go where the first of them gets the number `to`; references follow.
+    void moveRows(int from, int count, int to);
+    void moveCols(int from, int count, int to);
     /// Copies value, formula (relative references shifted) and look.
     void copyCell(CellAddress from, CellAddress to);
 
@@ -152,7 +160,7 @@ class Sheet {
     template <class Move>
     void restructure(Move&& moveCells, const formula::MoveReference& moveReference);
     void replaceText(FormulaSlot& slot, std::string_view text);
-    std::string carried(std::string_view text, int cols, int rows) const;
+    void touchAll(const Area& area);
     void carryFormula(int col, int row, int cols, int rows);
 
     CellStore m_cells;

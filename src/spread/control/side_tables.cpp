@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "spread/control/reference_moves.h"
+
 namespace control {
 namespace {
 
@@ -29,6 +31,11 @@ struct Exchange {
         if (index >= other && index < other + count) return index - other + first;
         return index;
     }
+};
+
+struct Relocation {
+    int from, count, to;
+    int operator()(int index) const { return movedLine(index, from, count, to); }
 };
 
 struct Cut {
@@ -110,9 +117,10 @@ void shrink(int& first, int& extent, const Deletion& by) {
     if (by.at < first) first = std::max(by.at, first - by.count);
 }
 
-void exchange(int& first, int extent, const Exchange& by) {
+template <class Move>
+void carrySpan(int& first, int extent, const Move& by) {
     if (first == 0) return;
-    // A span moves with its group; one that reaches over a group's edge stays.
+    // A span moves with its lines; one that they would tear apart stays.
     const int to = by(first);
     if (by(first + extent - 1) == to + extent - 1) first = to;
 }
@@ -181,13 +189,25 @@ void SideTables::deleteCols(int at, int count) {
 void SideTables::swapRows(int first, int other, int count) {
     const Exchange move{first, other, count};
     moveRowsOf(*this, move);
-    changeSpans(spans, [&](Span& span) { exchange(span.row, span.rows, move); });
+    changeSpans(spans, [&](Span& span) { carrySpan(span.row, span.rows, move); });
 }
 
 void SideTables::swapCols(int first, int other, int count) {
     const Exchange move{first, other, count};
     moveColsOf(*this, move);
-    changeSpans(spans, [&](Span& span) { exchange(span.col, span.cols, move); });
+    changeSpans(spans, [&](Span& span) { carrySpan(span.col, span.cols, move); });
+}
+
+void SideTables::moveRows(int from, int count, int to) {
+    const Relocation move{from, count, to};
+    moveRowsOf(*this, move);
+    changeSpans(spans, [&](Span& span) { carrySpan(span.row, span.rows, move); });
+}
+
+void SideTables::moveCols(int from, int count, int to) {
+    const Relocation move{from, count, to};
+    moveColsOf(*this, move);
+    changeSpans(spans, [&](Span& span) { carrySpan(span.col, span.cols, move); });
 }
 
 void SideTables::cut(int lastCol, int lastRow) {

@@ -73,6 +73,8 @@ struct SideTables {
     void deleteCols(int at, int count);
     void swapRows(int first, int other, int count);
     void swapCols(int first, int other, int count);
+    void moveRows(int from, int count, int to);
+    void moveCols(int from, int count, int to);
     /// Drops what lies beyond the last column and row.
     void cut(int cols, int rows);
 };

@@ -1,63 +1,12 @@
 // Rows and columns that come, go and change places, and what that does to formulas.
-#include <cstdlib>
+#include <algorithm>
 
+#include "spread/control/reference_moves.h"
 #include "spread/control/sheet.h"
 
 namespace control {
 
-using formula::MovedReference;
 using formula::ParseError;
-
-namespace {
-
-// One end of a span under an insertion: what lies at or behind `at` moves.
-void shift(int& first, int& last, int at, int count, int limit, bool& isGood) {
-    if (first >= at) first += count;
-    if (last >= at) last += count;
-    if (first > limit) isGood = false;
-    if (last > limit) last = limit;
-}
-
-// A span under a deletion: it shrinks, and is gone when nothing is left.
-void shrink(int& first, int& last, int at, int count, bool& isGood) {
-    const int end = at + count;  // the first one that stays
-    if (first >= at && last < end) {
-        isGood = false;
-        return;
-    }
-    if (first >= end)
-        first -= count;
-    else if (first >= at)
-        first = at;
-    if (last >= end)
-        last -= count;
-    else if (last >= at)
-        last = at - 1;
-}
-
-template <class Change>
-bool changeRows(MovedReference& r, Change&& change) {
-    if (r.wholeCols) return true;
-    int first = r.area.row1, last = r.area.row2;
-    bool isGood = true;
-    change(first, last, isGood);
-    r.area.row1 = first;
-    r.area.row2 = last;
-    return isGood;
-}
-
-template <class Change>
-bool changeCols(MovedReference& r, Change&& change) {
-    if (r.wholeRows) return true;
-    int first = r.area.col1, last = r.area.col2;
-    bool isGood = true;
-    change(first, last, isGood);
-    r.area.col1 = static_cast<uint16_t>(first);
-    r.area.col2 = static_cast<uint16_t>(last);
-    return isGood;
-}
-
-}  // namespace
 
 // Moves the cells, then gives every formula its new place and its rewritten text.
 template <class Move>
@@ -119,62 +68,68 @@ void Sheet::dropSlot(uint32_t id) {
 }
 
 void Sheet::insertRows(int at, int count) {
-    restructure([&] { m_cells.insertRows(at, count); },
-                [=](MovedReference& r) {
-                    return changeRows(r, [=](int& first, int& last, bool& isGood) {
-                        shift(first, last, at, count, formula::maxRows, isGood);
-                    });
-                });
+    restructure([&] { m_cells.insertRows(at, count); }, rowsInserted(at, count));
 }
 
 void Sheet::deleteRows(int at, int count) {
-    restructure([&] { m_cells.deleteRows(at, count); },
-                [=](MovedReference& r) {
-                    return changeRows(r, [=](int& first, int& last, bool& isGood) {
-                        shrink(first, last, at, count, isGood);
-                    });
-                });
+    restructure([&] { m_cells.deleteRows(at, count); }, rowsDeleted(at, count));
 }
 
 void Sheet::insertCols(int at, int count) {
-    restructure([&] { m_cells.insertCols(at, count); },
-                [=](MovedReference& r) {
-                    return changeCols(r, [=](int& first, int& last, bool& isGood) {
-                        shift(first, last, at, count, formula::maxCols, isGood);
-                    });
-                });
+    restructure([&] { m_cells.insertCols(at, count); }, colsInserted(at, count));
 }
 
 void Sheet::deleteCols(int at, int count) {
-    restructure([&] { m_cells.deleteCols(at, count); },
-                [=](MovedReference& r) {
-                    return changeCols(r, [=](int& first, int& last, bool& isGood) {
-                        shrink(first, last, at, count, isGood);
-                    });
-                });
+    restructure([&] { m_cells.deleteCols(at, count); }, colsDeleted(at, count));
 }
 
-// The text of a formula carried by (cols, rows): relative references go along.
-std::string Sheet::carried(std::string_view text, int cols, int rows) const {
-    const auto moved = formula::rewriteReferences(text, [=](MovedReference& r) {
-        if (!r.wholeCols) {
-            if (!r.rowsAbsolute[0]) r.area.row1 += rows;
-            if (!r.rowsAbsolute[1]) r.area.row2 += rows;
-        }
-        int col1 = r.area.col1, col2 = r.area.col2;
-        if (!r.wholeRows) {
-            if (!r.colsAbsolute[0]) col1 += cols;
-            if (!r.colsAbsolute[1]) col2 += cols;
-        }
-        if (col1 < 1 || col2 < 1 || col1 > formula::maxCols || col2 > formula::maxCols ||
-            r.area.row1 < 1 || r.area.row2 < 1 || r.area.row1 > formula::maxRows ||
-            r.area.row2 > formula::maxRows)
-            return false;
-        r.area.col1 = static_cast<uint16_t>(col1);
-        r.area.col2 = static_cast<uint16_t>(col2);
-        return true;
-    });
-    return moved ? *moved : std::string(text);
+namespace {
+
+// Moves a run of lines by reversing its two parts and then the whole.
+template <class Swap>
+void relocateLines(int from, int count, int to, Swap&& swapLines) {
+    const auto reverse = [&](int first, int last) {
+        while (first < last) swapLines(first++, last--);
+    };
+    const int low = std::min(from, to);
+    const int high = std::max(from, to) + count - 1;
+    reverse(low, high);
+    reverse(to, to + count - 1);
+    if (to > from)
+        reverse(low, to - 1);
+    else
+        reverse(to + count, high);
+}
+
+}  // namespace
+
+void Sheet::moveRows(int from, int count, int to) {
+    const auto moveCells = [&] {
+        const int lastCol = m_cells.lastCol();
+        relocateLines(from, count, to, [&](int a, int b) {
+            for (int col = 1; col <= lastCol; ++col) m_cells.swapCells({col, a}, {col, b});
+        });
+    };
+    restructure(moveCells, rowsMoved(from, count, to));
+    touchAll({std::min(from, to), std::max(from, to) + count - 1, 1, formula::maxCols});
+}
+
+void Sheet::moveCols(int from, int count, int to) {
+    const auto moveCells = [&] {
+        const int lastRow = m_cells.lastRow();
+        relocateLines(from, count, to, [&](int a, int b) {
+            for (int row = 1; row <= lastRow; ++row) m_cells.swapCells({a, row}, {b, row});
+        });
+    };
+    restructure(moveCells, colsMoved(from, count, to));
+    touchAll({1, formula::maxRows, static_cast<uint16_t>(std::min(from, to)),
+              static_cast<uint16_t>(std::max(from, to) + count - 1)});
+}
+
+// An area keeps its text when lines change places inside it, while its cells come in another order.
+void Sheet::touchAll(const Area& area) {
+    m_cells.each(area, [&](int row, int col, const Cell&) { touchedQuietly(col, row); });
+    if (m_automatic) recalculateDirty();
 }
 
 void Sheet::carryFormula(int col, int row, int cols, int rows) {
@@ -183,7 +138,7 @@ void Sheet::carryFormula(int col, int row, int cols, int rows) {
     FormulaSlot& slot = m_slots[cell->formula];
     slot.col = static_cast<uint16_t>(col);
     slot.row = row;
-    replaceText(slot, carried(slot.text->view(), cols, rows));
+    replaceText(slot, carriedFormula(slot.text->view(), cols, rows));
 }
 
 void Sheet::swapRows(int first, int other, int count) {
@@ -234,7 +189,8 @@ void Sheet::copyCell(CellAddress from, CellAddress to) {
         setReferenceStyle(formula::ReferenceStyle::a1);
         const FormulaSlot& slot = m_slots[source->formula];
         const bool isArray = slot.isArray;
-        const std::string text = carried(slot.text->view(), to.col - from.col, to.row - from.row);
+        const std::string text =
+            carriedFormula(slot.text->view(), to.col - from.col, to.row - from.row);
         ParseError error;
         if (isArray ? !setArrayFormula(to.col, to.row, text, error)
                     : !setFormula(to.col, to.row, text, error))

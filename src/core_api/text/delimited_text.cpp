@@ -1,0 +1,50 @@
+#include "core_api/text/delimited_text.h"
+
+#include <algorithm>
+
+bool DelimitedText::next(std::vector<std::string>& fields) {
+    fields.clear();
+    if (m_rest.empty()) return false;
+    m_rowLine = m_line;
+    do {
+        fields.emplace_back();
+    } while (takeField(fields.back()));
+    return true;
+}
+
+namespace {
+
+/// Where the quoted field at the start of `text` ends: behind its closing quote; 0 without one.
+size_t endOfQuoted(std::string_view text) {
+    for (size_t at = 1; at < text.size(); ++at) {
+        if (text[at] != '"') continue;
+        if (!text.substr(at + 1).starts_with('"')) return at + 1;
+        ++at;
+    }
+    return 0;
+}
+
+}  // namespace
+
+// True when another field of the row follows.
+bool DelimitedText::takeField(std::string& field) {
+    if (m_rest.starts_with('"')) {
+        const size_t end = endOfQuoted(m_rest);
+        for (size_t at = 1; at + 1 < end; ++at) {
+            field += m_rest[at];
+            if (m_rest[at] == '"') ++at;
+            if (m_rest[at] == '\n') ++m_line;
+        }
+        m_rest.remove_prefix(end);
+    }
+    const char ends[] = {m_separator, '\r', '\n'};
+    const size_t end = std::min(m_rest.find_first_of({ends, sizeof ends}), m_rest.size());
+    field += m_rest.substr(0, end);
+    m_rest.remove_prefix(end);
+    if (m_rest.empty()) return false;
+    const char mark = m_rest[0];
+    m_rest.remove_prefix(m_rest.starts_with("\r\n") ? 2 : 1);
+    if (mark == m_separator) return true;
+    ++m_line;
+    return false;
+}

@@ -1,0 +1,30 @@
+// Rows of fields parted by one character, as spreadsheets exchange them (comma-separated values,
+// the clipboard): a field may stand in double quotes, a quote inside is doubled, a quoted field may
+// run over several lines.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "platform/export.h"
+
+class VORMANT_API DelimitedText {
+  public:
+    /// `text` is borrowed. Lines end in "\n", "\r\n" or "\r".
+    DelimitedText(std::string_view text, char separator) : m_rest(text), m_separator(separator) {}
+
+    /// The next row; false at the end. A quote that is never closed is an ordinary character, and
+    /// so is what follows a closing quote: no text is lost.
+    bool next(std::vector<std::string>& fields);
+    /// Where the row given last began, from 1.
+    int lineNumber() const { return m_rowLine; }
+
+  private:
+    bool takeField(std::string& field);
+
+    std::string_view m_rest;
+    char m_separator;
+    int m_line = 1;
+    int m_rowLine = 0;
+};

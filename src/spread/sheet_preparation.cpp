@@ -1,0 +1,109 @@
+#include "spread/sheet_preparation.h"
+
+#include "core_api/text/text_helpers.h"
+#include "platform/files.h"
+#include "platform/host/host.h"
+#include "spread/tw_sheet_settings.h"
+#include "spread/vor_spread.h"
+
+namespace {
+
+constexpr int newCols = 6;
+constexpr int newRows = 11;
+constexpr int visibleCols = 4;
+constexpr int visibleRows = 5;
+constexpr int newTextLength = 100;
+constexpr int plainWeight = 400;
+constexpr int boldWeight = 700;
+constexpr int userFormulas = 12;
+constexpr int automaticRecalculation = 7;
+constexpr int sheetChanged = 30;
+
+TwSheetSettings settingsOf(const Vor_String& name) {
+    TwSheetSettings settings;
+    if (settings.readFromFile(name)) return settings;
+    TwEditorRegistry editor;
+    editor.read();
+    settings.readFromFile(editor.defaultSettings);
+    return settings;
+}
+
+void applyFont(Vor_Spread& sheet, const TwSheetSettings& settings) {
+    const int height = settings.defaultTextHeight;
+    if (settings.defaultFont.isEmpty() || height < 1) return;
+    constexpr int header = Vor_Spread::headerIndex;
+    sheet.setFont({-1, -1, -1, -1}, settings.defaultFont, height, plainWeight);
+    sheet.setFont({-1, header, -1, header}, settings.defaultFont, height, boldWeight);
+    sheet.setFont({header, -1, header, -1}, settings.defaultFont, height, boldWeight);
+}
+
+void startNewSheet(Vor_Spread& sheet, const Vor_String& settingsName) {
+    sheet.setNrCols(newCols, false);
+    sheet.setNrRows(newRows);
+    control::ViewSettings& view = sheet.grid().view();
+    view.visibleCols = visibleCols;
+    view.visibleRows = visibleRows;
+    sheet.setTextCell({1, 1, -1, -1}, newTextLength);
+    const TwSheetSettings settings = settingsOf(settingsName);
+    settings.writeToSheet(sheet);
+    applyFont(sheet, settings);
+}
+
+void showTextTips(Vor_Spread& sheet) {
+    control::ViewSettings& view = sheet.grid().view();
+    view.textTips = true;
+    view.textTipDelay = 10;
+    view.noteIndicators = false;
+}
+
+/// True, with `reference` at the copy, when there is such a file and it was copied, or lies in
+/// `folder` already.
+bool copyBeside(const Vor_String& folder, Vor_String& reference) {
+    if (reference.isEmpty() || !files::exists(reference)) return false;
+    const Vor_String copy = folder + getFileName(reference);
+    const auto copyFile = [](const Vor_String& from, const Vor_String& to) {
+        if (from.equal(to)) return true;
+        std::string error;
+        const auto content = files::readWhole(from, error);
+        if (content && files::writeWhole(to, *content, error)) return true;
+        acutPrint(error + "\n");
+        return false;
+    };
+    if (!copyFile(reference, copy)) return false;
+    const Vor_String picture = changeExtension(reference, "bmp");
+    if (files::exists(picture)) copyFile(picture, changeExtension(copy, "bmp"));
+    reference = copy;
+    return true;
+}
+
+}  // namespace
+
+bool prepareSheet(Vor_Spread& sheet, const Vor_String& settingsName, bool isNew) {
+    if (!sheet.isAttached()) return false;
+    for (const int option : {userFormulas, 25, automaticRecalculation, 21})
+        sheet.setBool(option, true);
+    if (isNew) startNewSheet(sheet, settingsName);
+    showTextTips(sheet);
+    return true;
+}
+
+bool setVariables(Vor_Spread& sheet, const Vor_StringArray& names, const Vor_StringArray& values) {
+    TwSheetSettings settings;
+    if (!settings.readFromSheet(sheet)) return false;
+    settings.varNames = names;
+    settings.varValues = values;
+    return settings.writeToSheet(sheet);
+}
+
+bool saveSheet(Vor_Spread& sheet, const Vor_String& path) {
+    if (!sheet.saveToFile(path)) return false;
+    sheet.setBool(sheetChanged, false);
+    TwSheetSettings settings;
+    settings.readFromSheet(sheet);
+    const Vor_String folder = getPath(path);
+    const bool hasHeader = copyBeside(folder, settings.headerFile);
+    const bool hasFooter = copyBeside(folder, settings.footerFile);
+    // The saved file keeps the references it had: other copies of the sheet still need them.
+    if (hasHeader || hasFooter) settings.writeToSheet(sheet);
+    return true;
+}
