@@ -1,0 +1,46 @@
+// A copied block: what its cells hold and how they look. A value, which outlives the sheet.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "spread/control/grid.h"
+#include "spread/editor/kept_cell.h"
+
+namespace editor {
+
+enum class PasteWhat { all, contents, values, looks };
+
+class Clip {
+  public:
+    Clip(const control::Grid& grid, const control::Block& block);
+
+    int cols() const { return m_block.col2 - m_block.col1 + 1; }
+    int rows() const { return m_block.row2 - m_block.row1 + 1; }
+    /// Where it was copied.
+    const control::Block& source() const { return m_block; }
+    /// For other programs: lines of fields parted by tabs.
+    const std::string& text() const { return m_text; }
+    /// Whether `clipboard` still holds this copy, and not that of another program.
+    bool isOn(std::string_view clipboard) const { return clipboard == m_text; }
+
+    struct Item {
+        int col = 0, row = 0;  ///< from the block's top left, from 0
+        KeptCell cell;         ///< its look is an index into looks()
+        std::string tag, note;
+    };
+    /// Row by row, every cell of the block.
+    const std::vector<Item>& items() const { return m_items; }
+    const control::Look& look(const Item& item) const { return m_looks[item.cell.look()]; }
+    /// Merged cells that lie in the block whole, from its top left, from 0.
+    const std::vector<control::Span>& spans() const { return m_spans; }
+
+  private:
+    control::Block m_block;
+    std::string m_text;
+    std::vector<Item> m_items;
+    std::vector<control::Look> m_looks;
+    std::vector<control::Span> m_spans;
+};
+
+}  // namespace editor

@@ -1,0 +1,51 @@
+// What one cell was: value, formula and look, 24 bytes, with its texts shared. Undo histories and
+// copies of blocks hold many of them.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "spread/control/grid.h"
+
+namespace editor {
+
+class KeptCell {
+  public:
+    KeptCell() = default;
+    /// The cell as it is now. A result that is out of date is left out.
+    static KeptCell of(const control::Sheet& sheet, int col, int row);
+    KeptCell(const KeptCell& other);
+    KeptCell(KeptCell&& other) noexcept;
+    KeptCell& operator=(KeptCell other) noexcept;
+    ~KeptCell();
+
+    /// Makes the cell what was kept. The sheet is in A1 notation.
+    void put(control::Grid& grid, int col, int row) const;
+
+    control::Value value() const { return m_cell.value(); }
+    bool isEmpty() const { return m_cell.type == control::ValueType::empty && !m_formula; }
+    bool hasFormula() const { return m_formula != nullptr; }
+    /// Without "=", empty without a formula.
+    std::string_view formula() const { return m_formula ? m_formula->view() : ""; }
+    control::LookIndex look() const { return m_cell.look; }
+
+    void setLook(control::LookIndex look) { m_cell.look = look; }
+    /// Replaces the text of a formula; its result is forgotten.
+    void setFormula(std::string_view text);
+    void setNumber(double number);
+    void setText(std::string_view text);
+    /// No value and no formula; the look stays.
+    void empty();
+
+    bool operator==(const KeptCell& other) const;
+
+  private:
+    void dropValue();
+    void dropFormula();
+    bool isArray() const { return m_cell.formula != 0; }
+
+    control::Cell m_cell;  // its formula number tells an array formula (1) from a plain one
+    control::TextBlock* m_formula = nullptr;
+};
+
+}  // namespace editor
