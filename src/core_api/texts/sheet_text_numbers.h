@@ -51,6 +51,24 @@ enum SheetText {
     badDecimals,
     badFill,
     mergedInSort,
+
+    // Families of functions.
+    familyMaths = 21670,
+    familyTrigonometry,
+    familyStatistics,
+    familyMatrices,
+    familyLogic,
+    familyLookUp,
+    familyTexts,
+    familyInformation,
+    familyDates,
+    familyEngineering,
+
+    // Reading text files; %1 is the line, %2 what is wrong there.
+    csvCharacter = 21690,
+    csvTooWide,
+    csvTooLong,
+    csvBroken,
 };
 
 }  // namespace texts

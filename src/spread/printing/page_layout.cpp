@@ -1,0 +1,115 @@
+#include "spread/printing/page_layout.h"
+
+#include <algorithm>
+#include <functional>
+
+namespace printing {
+
+using control::Grid;
+using control::headerIndex;
+
+namespace {
+
+// Lines (rows or columns) that are printed, with their sizes in pixels.
+struct PrintedLines {
+    std::vector<int> numbers;
+    std::vector<int> sizes;
+    int total = 0;
+
+    PrintedLines(int last, const std::function<int(int)>& sizeOf) {
+        for (int line = 1; line <= last; ++line) {
+            const int size = sizeOf(line);
+            if (size <= 0) continue;
+            numbers.push_back(line);
+            sizes.push_back(size);
+            total += size;
+        }
+    }
+};
+
+// Cuts lines into groups that fit into `room` pixels; a line that is larger stands alone.
+std::vector<std::vector<int>> groups(const PrintedLines& lines, double room) {
+    std::vector<std::vector<int>> all(1);
+    double used = 0;
+    for (size_t i = 0; i < lines.numbers.size(); ++i) {
+        constexpr double tolerance = 1e-6;
+        if (used + lines.sizes[i] > room + tolerance && !all.back().empty()) {
+            all.emplace_back();
+            used = 0;
+        }
+        all.back().push_back(lines.numbers[i]);
+        used += lines.sizes[i];
+    }
+    return all;
+}
+
+struct UsedArea {
+    int col = 0, row = 0;
+};
+
+UsedArea usedArea(const Grid& grid) {
+    UsedArea used{grid.sheet().cells().lastCol(), grid.sheet().cells().lastRow()};
+    for (const control::Span& span : grid.sides().spans.all()) {
+        if (span.col > 0) used.col = std::max(used.col, span.col + span.cols - 1);
+        if (span.row > 0) used.row = std::max(used.row, span.row + span.rows - 1);
+    }
+    const control::SideTables& sides = grid.sides();
+    if (!sides.cols.texts.empty()) used.col = std::max(used.col, sides.cols.texts.rbegin()->first);
+    if (!sides.rows.texts.empty()) used.row = std::max(used.row, sides.rows.texts.rbegin()->first);
+    return {std::min(used.col, grid.cols()), std::min(used.row, grid.rows())};
+}
+
+struct Fit {
+    bool isLandscape;
+    double scale;
+};
+
+// `pixels` of columns on a page whose margins leave `widthOf(isLandscape)` millimetres.
+Fit smartFit(double pixels, const std::function<double(bool)>& widthOf) {
+    constexpr double smallestPortrait = 0.75;
+    constexpr double smallest = 0.5;
+    const auto scaleFor = [&](bool isLandscape) {
+        return std::min(1.0, widthOf(isLandscape) / (pixels * millimetresPerPixel));
+    };
+    if (scaleFor(false) >= 1) return {false, 1};
+    if (scaleFor(true) >= 1) return {true, 1};
+    if (scaleFor(false) >= smallestPortrait) return {false, scaleFor(false)};
+    if (scaleFor(true) >= smallest) return {true, scaleFor(true)};
+    return {false, 1};
+}
+
+}  // namespace
+
+PageLayout layOutPages(const Grid& grid, const TwSheetSettings& settings, Paper paper,
+                       double headerHeight, double footerHeight) {
+    const UsedArea used = usedArea(grid);
+    const PrintedLines cols(used.col, [&](int col) { return grid.colWidth(col); });
+    const PrintedLines rows(used.row, [&](int row) { return grid.rowHeight(row); });
+    const int headWidth = settings.rowHeader ? grid.colWidth(headerIndex) : 0;
+    const int headHeight = settings.colHeader ? grid.rowHeight(headerIndex) : 0;
+    const auto paperOf = [&](bool isLandscape) { return isLandscape ? paper.turned() : paper; };
+    const auto bodyWidth = [&](bool isLandscape) {
+        return std::max(paperOf(isLandscape).width - settings.marginLeft - settings.marginRight,
+                        1.0);
+    };
+    PageLayout layout;
+    const Fit fit = settings.smartPrint ? smartFit(std::max(cols.total + headWidth, 1), bodyWidth)
+                                        : Fit{false, 1};
+    layout.isLandscape = fit.isLandscape;
+    layout.scale = fit.scale;
+    layout.paper = paperOf(fit.isLandscape);
+    layout.body = {static_cast<double>(settings.marginLeft), settings.marginTop + headerHeight,
+                   bodyWidth(fit.isLandscape),
+                   std::max(layout.paper.height - settings.marginTop - settings.marginBottom -
+                                headerHeight - footerHeight,
+                            1.0)};
+    const double pixel = layout.millimetres(1);
+    const auto across = groups(cols, layout.body.width / pixel - headWidth);
+    const auto downwards = groups(rows, layout.body.height / pixel - headHeight);
+    for (const std::vector<int>& pageCols : across)
+        for (const std::vector<int>& pageRows : downwards)
+            layout.pages.push_back({pageCols, pageRows});
+    return layout;
+}
+
+}  // namespace printing

@@ -1,0 +1,152 @@
+// Pages of a printed sheet, and what stands on them.
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+#include "spread/control/document.h"
+#include "spread/printing/print_job.h"
+#include "support/temporary_folder.h"
+
+namespace {
+
+using control::Grid;
+using printing::PageLayout;
+using printing::PrintedCell;
+using printing::PrintJob;
+
+// 64 pixels a column, 20 a row; a row header of 40 and a column header of 20.
+void fill(Grid& grid, int cols, int rows) {
+    grid.setCols(cols);
+    grid.setRows(rows);
+    grid.setData(1, 1, "first");
+    grid.setData(cols, rows, "last");
+}
+
+std::string pagesText(const PageLayout& layout) {
+    std::string text = layout.isLandscape ? "landscape" : "portrait";
+    text += " " + std::to_string(std::lround(layout.scale * 100)) + "%";
+    for (const printing::Page& page : layout.pages)
+        text += " " + std::to_string(page.cols.front()) + "-" + std::to_string(page.cols.back()) +
+                "x" + std::to_string(page.rows.front()) + "-" + std::to_string(page.rows.back());
+    return text;
+}
+
+TEST(PageLayout, FitsColumnsAndCutsRows) {
+    // The paper leaves 196 mm (740 pixels) across, 287 mm (1084 pixels) down; turned 283 and 200.
+    const struct {
+        int cols, rows;
+        bool smart;
+        double header;
+        const char* pages;
+    } cases[] = {
+        {10, 50, true, 0, "portrait 100% 1-10x1-50"},
+        {10, 120, true, 0, "portrait 100% 1-10x1-53 1-10x54-106 1-10x107-120"},
+        {10, 54, true, 20, "portrait 100% 1-10x1-49 1-10x50-54"},
+        {16, 40, true, 0, "landscape 100% 1-16x1-36 1-16x37-40"},
+        {30, 10, true, 0, "landscape 55% 1-30x1-10"},
+        {60, 10, true, 0,
+         "portrait 100% 1-10x1-10 11-20x1-10 21-30x1-10 31-40x1-10 41-50x1-10 51-60x1-10"},
+        {16, 60, false, 0, "portrait 100% 1-10x1-53 1-10x54-60 11-16x1-53 11-16x54-60"},
+    };
+    for (const auto& each : cases) {
+        Grid grid;
+        fill(grid, each.cols, each.rows);
+        TwSheetSettings settings;
+        settings.smartPrint = each.smart;
+        EXPECT_EQ(pagesText(printing::layOutPages(grid, settings, {}, each.header, 0)), each.pages)
+            << each.cols << "x" << each.rows;
+    }
+}
+
+TEST(PageLayout, LeavesOutWhatIsHiddenOrEmptyAndPrintsWhatIsTooLarge) {
+    Grid grid;
+    fill(grid, 5, 9);
+    grid.setCols(40);
+    grid.setRows(900);
+    grid.setRowHidden(2, true);
+    grid.setRowHeight(4, 5000);
+    TwSheetSettings settings;
+    settings.colHeader = settings.rowHeader = false;
+    const PageLayout layout = printing::layOutPages(grid, settings, {}, 0, 0);
+    EXPECT_EQ(pagesText(layout), "portrait 100% 1-5x1-3 1-5x4-4 1-5x5-9");
+    EXPECT_EQ(layout.pages[0].rows, (std::vector<int>{1, 3}));
+    Grid empty;
+    empty.setCols(5);
+    empty.setRows(5);
+    EXPECT_EQ(printing::layOutPages(empty, settings, {}, 0, 0).pages.size(), 1u);
+}
+
+const PrintedCell* find(const std::vector<PrintedCell>& cells, const std::string& text) {
+    for (const PrintedCell& cell : cells)
+        if (cell.text == text) return &cell;
+    return nullptr;
+}
+
+TEST(PrintJob, PlacesCellsUnderRepeatedHeadings) {
+    Grid grid;
+    fill(grid, 3, 60);
+    grid.setData(2, control::headerIndex, "Size");
+    grid.addSpan({1, 53, 2, 3});
+    grid.setData(1, 53, "merged");
+    grid.changeLooks({1, 1, 1, 1}, [](control::Look& look) { look.background = 255; });
+    TwSheetSettings settings;
+    settings.colors = false;
+    const PrintJob job(grid, settings, {});
+    ASSERT_EQ(job.pageCount(), 2);
+    const double pixel = printing::millimetresPerPixel;
+    for (int page = 0; page < 2; ++page) {
+        const auto printed = job.page(page);
+        const PrintedCell* heading = find(printed.body, "Size");
+        ASSERT_TRUE(heading && heading->isHeading);
+        EXPECT_DOUBLE_EQ(heading->place.left, 9 + 104 * pixel);
+        EXPECT_DOUBLE_EQ(heading->place.top, 5);
+        EXPECT_TRUE(find(printed.body, "C"));
+        const PrintedCell* merged = find(printed.body, "merged");
+        ASSERT_TRUE(merged);
+        EXPECT_NEAR(merged->place.width, 128 * pixel, 1e-9);
+        EXPECT_NEAR(merged->place.height, (page == 0 ? 20 : 40) * pixel, 1e-9);
+        EXPECT_NEAR(printed.frame.width, (40 + 3 * 64) * pixel, 1e-9);
+    }
+    EXPECT_EQ(find(job.page(0).body, "first")->look.background, control::automatic);
+    EXPECT_FALSE(find(job.page(1).body, "first"));
+    EXPECT_TRUE(find(job.page(1).body, "54"));
+    settings.colors = true;
+    settings.border = settings.rowHeader = false;
+    const PrintJob plain(grid, settings, {});
+    EXPECT_EQ(find(plain.page(0).body, "first")->look.background, 255u);
+    EXPECT_DOUBLE_EQ(find(plain.page(0).body, "first")->place.left, 9);
+    EXPECT_EQ(plain.page(0).frame, printing::Rect());
+}
+
+TEST(PrintJob, HeadersAndFootersShowVariables) {
+    TemporaryFolder folder;
+    Grid band;
+    band.setCols(2);
+    band.setRows(2);
+    band.setData(1, 1, "{title}: {Page} of {Pages} {{none} {");
+    control::CellType picture;
+    picture.kind = control::CellKind::picture;
+    picture.text = "c:\\elsewhere\\logo.bmp";
+    band.setType(2, 2, picture);
+    std::string error;
+    ASSERT_TRUE(saveDocument(band, folder.inside("head.sss"), error)) << error;
+    Grid grid;
+    fill(grid, 3, 60);
+    TwSheetSettings settings;
+    settings.headerFile = folder.inside("head.sss");
+    settings.footerFile = folder.inside("none.sss");
+    settings.varNames = {"Date", "Title"};
+    settings.varValues = {"today", "Frame 12"};
+    const PrintJob job(grid, settings, {});
+    ASSERT_EQ(job.problems().size(), 1u);
+    EXPECT_NE(job.problems()[0].find("none.sss"), std::string::npos);
+    ASSERT_EQ(job.pageCount(), 2);
+    const auto printed = job.page(1);
+    EXPECT_EQ(printed.header[0].text, "Frame 12: 2 of 2 {{none} {");
+    EXPECT_DOUBLE_EQ(printed.header[0].place.top, 5);
+    EXPECT_EQ(printed.header.back().picture, folder.inside("logo.bmp"));
+    EXPECT_NEAR(job.layout().body.top, 5 + 40 * printing::millimetresPerPixel, 1e-9);
+    EXPECT_TRUE(printed.footer.empty());
+}
+
+}  // namespace
