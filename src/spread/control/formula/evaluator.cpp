@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 #include <optional>
 
 #include "spread/control/formula/coerce.h"
@@ -29,6 +30,16 @@ inline std::optional<bool> compared(Op op, double a, double b) {
         default:
             return !isLess;
     }
+}
+
+/// Not finite where arithmetic() gives an error.
+template <Op op>
+inline double plainResult(double a, double b) {
+    if constexpr (op == Op::add) return a + b;
+    if constexpr (op == Op::subtract) return a - b;
+    if constexpr (op == Op::multiply) return a * b;
+    if constexpr (op == Op::divide) return a / b;
+    return b == 2 ? a * a : std::numeric_limits<double>::infinity();
 }
 
 /// toBoolean, with the result of a comparison in line.
@@ -93,8 +104,8 @@ bool Evaluator::operate(const Instruction& i, Value& a, const Value& b) {
 template <Op op>
 inline bool Evaluator::compute(const Instruction& i, Value& a, const Value& b) {
     if (a.isNumber() && b.isNumber()) [[likely]] {
-        const Value result = arithmetic(op, a.number(), b.number());
-        if (result.isNumber()) [[likely]] {
+        const double result = plainResult<op>(a.number(), b.number());
+        if (std::isfinite(result)) [[likely]] {
             a = result;
             return true;
         }

@@ -21,13 +21,14 @@ class Evaluator {
   private:
     using Args = std::span<const Value>;
     const Value* execute(std::span<const Instruction> code);
-    bool operate(const Instruction& i, Value& a, const Value& b);
+    // Rare ways are kept out of line, so that the loop of execute() stays small.
+    [[gnu::noinline]] bool operate(const Instruction& i, Value& a, const Value& b);
     template <Op op>
     bool compute(const Instruction& i, Value& a, const Value& b);
     template <Op op>
     bool compare(const Instruction& i, Value& a, const Value& b);
     Value area(const Instruction& first, const Instruction& second) const;
-    Value otherCell(const control::Cell* cell, int col, int row) const;
+    [[gnu::noinline]] Value otherCell(const control::Cell* cell, int col, int row) const;
     Value single(const Value& value);
     Value plainOf(const Value& value);
     Value unary(const Instruction& i, const Value& a);
