@@ -19,7 +19,11 @@ bool read(const control::Grid& grid, int col, int row, control::Reading reading,
 }  // namespace
 
 TSpread::TSpread() : m_grid(std::make_unique<control::Grid>()) {}
-TSpread::~TSpread() = default;
+
+// What shows the grid may look at it once more while it goes.
+TSpread::~TSpread() {
+    destroy();
+}
 
 bool TSpread::setMaxRows(int count) {
     return SSSetMaxRows(handle(), count);
