@@ -13,6 +13,7 @@
 
 #include "core_api/text/text_helpers.h"
 #include "core_api/texts/texts.h"
+#include "grid/show_grids.h"
 #include "macro/macro_page.h"
 #include "platform/paths.h"
 #include "platform/window/message_box.h"
@@ -46,6 +47,7 @@ MainWindow::MainWindow(WorkbenchSettings settings)
     Host::install(&m_host);
     m_hostWindow.create({"Host", "Vormant", {0, 0, 1200, 800}, 0, 0, true}, nullptr);
     m_windows.represent(m_hostWindow, *this);
+    showGrids(m_windows);
     m_settings.apply();
     setWindowTitle("Vormant");
     resize(1200, 800);
