@@ -13,7 +13,6 @@ constexpr int boldWeight = 700;
 constexpr int plainWeight = 400;
 constexpr int dialogLeft = 5;  // what a dialog's frame and title take
 constexpr int dialogTop = 20;
-constexpr int scrollBarWidth = 17;
 constexpr control::Colour buttonFace = control::rgb(240, 240, 240);
 
 struct OptionSetting {

@@ -47,8 +47,9 @@ class VORMANT_API Vor_Spread : public TSpread {
     /// Mode 5: each listed column has its width, the others share the rest.
     bool setFixedWidths(int mode, const Vor_Array<int>& columns, const Vor_Array<int>& widths);
     bool autoSize();
-    /// Width of the grid's window without its scroll bar, in pixels.
+    /// Width of the grid's window without its scroll bar and frame, in pixels.
     int clientWidth() const;
+    static constexpr int scrollBarWidth = 17;
 
     // --- size -------------------------------------------------------------------------------
     int nrRows() const;

@@ -5,12 +5,14 @@
 #include <QHeaderView>
 #include <QHelpEvent>
 #include <QPainter>
+#include <QScrollBar>
 #include <QToolTip>
 
 #include "grid/cell_font.h"
 #include "grid/grid_header.h"
 #include "grid/message_bubble.h"
 #include "grid/refusal.h"
+#include "spread/vor_spread.h"
 #include "window/dialog_font.h"
 
 using control::CellAddress;
@@ -41,6 +43,8 @@ GridView::GridView(TSpread& spread, QWidget* parent)
     setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
     setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
     setAttribute(Qt::WA_InputMethodEnabled);
+    // Columns that share the width of the window leave just this much.
+    verticalScrollBar()->setFixedWidth(Vor_Spread::scrollBarWidth - 2 * frameWidth());
     setModel(&m_model);
     connectHeaders();
     sync();

@@ -76,6 +76,7 @@ void TwMappingDlg::onInit() {
 void TwMappingDlg::prepareGrids() {
     m_sheetsGrid.attach(this, sheetsItem, true);
     m_sheetsGrid.setStandardLook(1);
+    m_sheetsGrid.setBool(static_cast<int>(control::Option::rowHeaders), false);
     m_sheetsGrid.setNrCols(2, false);
     m_sheetsGrid.setRow(Vor_Spread::headerIndex,
                         Vor_StringArray{dialString(21522), dialString(21523)});
