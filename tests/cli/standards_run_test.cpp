@@ -341,7 +341,7 @@ TEST_F(RunOnMacro, BrokenMacrosAndMappingsAreNamed) {
     EXPECT_EQ(unprintable.err.find('\x1B'), std::string::npos);
     EXPECT_LT(unprintable.err.size(), 2000u);
     std::filesystem::remove(m_folder / mapping);
-    EXPECT_THAT(run({}, "BeamToColumn").err, HasSubstr("EndPlate.map: there is no such file"));
+    EXPECT_THAT(run({}, "BeamToColumn").err, HasSubstr("EndPlate.map: No such file"));
 }
 
 }  // namespace
