@@ -5,14 +5,12 @@
 #include <QHeaderView>
 #include <QHelpEvent>
 #include <QPainter>
-#include <QScrollBar>
 #include <QToolTip>
 
 #include "grid/cell_font.h"
 #include "grid/grid_header.h"
 #include "grid/message_bubble.h"
 #include "grid/refusal.h"
-#include "spread/vor_spread.h"
 #include "window/dialog_font.h"
 
 using control::CellAddress;
@@ -43,8 +41,6 @@ GridView::GridView(TSpread& spread, QWidget* parent)
     setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
     setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
     setAttribute(Qt::WA_InputMethodEnabled);
-    // Columns that share the width of the window leave just this much.
-    verticalScrollBar()->setFixedWidth(Vor_Spread::scrollBarWidth - 2 * frameWidth());
     setModel(&m_model);
     connectHeaders();
     sync();
@@ -125,6 +121,14 @@ void GridView::setHeightByUser(int section, int size) {
     if (m_layout.isFollowing()) return;
     grid().setRowHeight(section + 1, size);
     sync();
+}
+
+// Columns that share the window's width may miss it by a frame or two; no bar for that.
+void GridView::updateGeometries() {
+    constexpr int hardlyMore = 4;  // pixels
+    const bool fits = horizontalHeader()->length() - viewport()->width() <= hardlyMore;
+    setHorizontalScrollBarPolicy(fits ? Qt::ScrollBarAlwaysOff : Qt::ScrollBarAsNeeded);
+    QTableView::updateGeometries();
 }
 
 void GridView::scrollContentsBy(int dx, int dy) {
