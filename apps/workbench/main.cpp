@@ -22,7 +22,7 @@ QString absolute(const QString& path) {
 
 /// What is open is drawn into a picture, as a reader of the manual will see it.
 void takeScreenshot(MainWindow& window, const QString& file) {
-    constexpr int untilPainted = 500;  // milliseconds
+    constexpr int untilPainted = 50;  // milliseconds
     QTimer::singleShot(untilPainted, &window, [&window, file] {
         const bool isSaved = window.grab().save(file);
         if (!isSaved)
