@@ -63,6 +63,14 @@ ErrorStatus Vor_Module::setVariable(const ConstraintVariable& variable) {
     return Acad::eOk;
 }
 
+ErrorStatus Vor_Module::setCut(const CutConstraint& cut) {
+    CutConstraint* old = findNamed(m_cuts, cut.name);
+    if (!old || !areCutOffsetsGood(cut)) return Acad::eInvalidInput;
+    old->type = cut.type;  // the name stays as it was spelt when it was added
+    old->offsets = cut.offsets;
+    return Acad::eOk;
+}
+
 ErrorStatus Vor_Module::setCutOffset(std::string_view name, TwCutOffsetType offset, double value) {
     CutConstraint* cut = findNamed(m_cuts, name);
     if (!cut || !hasCutOffset(cut->type, offset)) return Acad::eInvalidInput;
