@@ -214,9 +214,16 @@ void MacroPage::show(const QString& text, bool isFailure) {
 
 void MacroPage::attachStandards() {
     bool isChanged = false;
-    if (!startMappingDialog(m_macro->macro(), isChanged)) return;
+    if (!startMappingDialog(m_macro->macro(), isChanged) || !isChanged) return;
+    // Saving after a run writes the dialog data, which must know them too.
+    m_macro->macroData().mappingData() = makeMacroData(m_macro->macro()).mappingData();
+    noteChange();
+}
+
+void MacroPage::noteChange() {
     fillStandards();
-    if (isChanged) setChanged(true);
+    fillObjects();
+    setChanged(true);
 }
 
 bool MacroPage::save() {

@@ -21,6 +21,9 @@ class MacroPage : public QWidget {
     /// Writes the macro with the results of the last run and the attached standards.
     bool save();
     bool isChanged() const { return m_isChanged; }
+    runs::MacroRun& macro() { return *m_macro; }
+    /// Somebody changed the macro.
+    void noteChange();
     /// Names inside the library, without extension.
     void choose(const QString& standard, const QString& key);
     QString message() const { return m_message->text(); }

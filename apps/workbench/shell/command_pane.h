@@ -15,7 +15,7 @@ class CommandPane : public QPlainTextEdit {
 
 /// Prints on the pane. `window` is what the module's dialogs take as their parent, `widget` the
 /// widget that stands for it; all borrowed.
-class WorkbenchHost : public Host {
+class WorkbenchHost : public Host, private DynamicLinker, private CommandStack {
   public:
     WorkbenchHost(CommandPane& pane, CWnd& window, QWidget& widget)
         : m_pane(pane), m_window(window), m_widget(widget) {}
@@ -24,8 +24,15 @@ class WorkbenchHost : public Host {
     void postCommand(std::string_view command) override;
     void focusMainWindow() override;
     CWnd* mainWindow() override { return &m_window; }
+    DynamicLinker* dynamicLinker() override { return this; }
+    CommandStack* commandStack() override { return this; }
 
   private:
+    // Nothing is locked here, every window may have many pages, and no command has a group.
+    bool unlockApplication(void* application) override { return application != nullptr; }
+    bool registerAppMDIAware(void* application) override { return application != nullptr; }
+    bool removeGroup(std::string_view) override { return false; }
+
     CommandPane& m_pane;
     CWnd& m_window;
     QWidget& m_widget;

@@ -11,6 +11,7 @@
 #include <QMessageBox>
 #include <QVBoxLayout>
 
+#include "core_api/sections/section_tables.h"
 #include "core_api/text/text_helpers.h"
 #include "core_api/texts/texts.h"
 #include "grid/show_grids.h"
@@ -19,9 +20,11 @@
 #include "platform/window/message_box.h"
 #include "run/example_values.h"
 #include "run/run_page.h"
+#include "sections/table_page.h"
 #include "shell/help_window.h"
 #include "shell/settings_dialog.h"
 #include "shell/start_page.h"
+#include "shell/starters_menu.h"
 #include "shell/words.h"
 #include "window/dialog_font.h"
 
@@ -40,14 +43,18 @@ MainWindow::MainWindow(WorkbenchSettings settings)
       m_pages(new QTabWidget),
       m_tree(new LibraryTree),
       m_pane(new CommandPane),
-      m_host(*m_pane, m_hostWindow, *this) {
+      m_host(*m_pane, m_hostWindow, *this),
+      m_moduleData([this](const Vor_String& path) {
+          QWidget* page = path.isEmpty() ? m_pages->currentWidget() : pageOf(toQt(path));
+          return dynamic_cast<MacroPage*>(page);
+      }) {
     Q_INIT_RESOURCE(icons);
     Q_INIT_RESOURCE(manual);
     setWindowIcon(QIcon(":/icons/vormant-workbench.svg"));
-    Host::install(&m_host);
     m_hostWindow.create({"Host", "Vormant", {0, 0, 1200, 800}, 0, 0, true}, nullptr);
     m_windows.represent(m_hostWindow, *this);
     showGrids(m_windows);
+    m_session.emplace(m_host);
     m_settings.apply();
     setWindowTitle("Vormant");
     resize(1200, 800);
@@ -67,9 +74,7 @@ MainWindow::MainWindow(WorkbenchSettings settings)
             [this] { m_refreshSoon.start(); });
 }
 
-MainWindow::~MainWindow() {
-    Host::install(nullptr);
-}
+MainWindow::~MainWindow() = default;
 
 void MainWindow::makeDocks() {
     auto* library = new QWidget;
@@ -97,6 +102,7 @@ void MainWindow::makeDocks() {
 
 void MainWindow::makeMenus() {
     makeFileMenu();
+    addStarters(*menuBar()->addMenu(word(wordModule)), m_moduleData);
     QMenu* view = menuBar()->addMenu(word(wordView));
     for (QDockWidget* dock : findChildren<QDockWidget*>())
         view->addAction(dock->toggleViewAction());
@@ -148,6 +154,7 @@ bool MainWindow::openLibrary(const std::string& folder) {
         return false;
     }
     gSettings.setLibDir(*inside);
+    m_moduleData.clear();
     m_settings.noteLibrary(folder);
     m_isGone = false;
     save();
@@ -259,6 +266,7 @@ bool MainWindow::mayClose(QWidget* page) {
 void MainWindow::closeEvent(QCloseEvent* event) {
     for (int i = 0; i < m_pages->count(); ++i)
         if (!mayClose(m_pages->widget(i))) return event->ignore();
+    m_session.reset();  // its modeless dialogs go with the window
     event->accept();
 }
 
@@ -268,6 +276,8 @@ QWidget* MainWindow::open(LibraryKind kind, const Vor_String& path) {
             return openStandard(path);
         case LibraryKind::macro:
             return openMacro(path);
+        case LibraryKind::sectionTable:
+            return openSectionTable(path);
         default:
             return nullptr;
     }
@@ -297,6 +307,25 @@ QWidget* MainWindow::openMacro(const Vor_String& path) {
     }
     auto* page = new MacroPage(std::move(macro));
     showPage(page, toQt(removeExtension(getFileName(path))), key);
+    return page;
+}
+
+QWidget* MainWindow::openSectionTable(const Vor_String& path) {
+    const QString key = toQt(path);
+    if (QWidget* there = pageOf(key)) {
+        m_pages->setCurrentWidget(there);
+        return there;
+    }
+    int index = 0;
+    const Vor_String name = removeExtension(getFileName(path));
+    const SectionTable* table =
+        gSectionTables.hasTable(name, index) ? gSectionTables.table(index) : nullptr;
+    if (!table) {
+        complain(key + ": " + word(wordNoSuchFile));
+        return nullptr;
+    }
+    auto* page = new TablePage(path, *table);
+    showPage(page, toQt(name), key);
     return page;
 }
 

@@ -7,7 +7,9 @@
 #include <QTabWidget>
 #include <QTimer>
 
+#include "module/module_data.h"
 #include "shell/command_pane.h"
+#include "shell/host_session.h"
 #include "shell/library_tree.h"
 #include "shell/workbench_settings.h"
 #include "window/qt_window_system.h"
@@ -28,11 +30,13 @@ class MainWindow : public QMainWindow {
     QWidget* openFile(const QString& path);
     RunPage* openStandard(const Vor_String& path);
     QWidget* openMacro(const Vor_String& path);
+    QWidget* openSectionTable(const Vor_String& path);
 
     LibraryTree& tree() { return *m_tree; }
     CommandPane& commandPane() { return *m_pane; }
     QTabWidget& pages() { return *m_pages; }
     WorkbenchHost& host() { return m_host; }
+    ModuleData& moduleData() { return m_moduleData; }
 
   private:
     void makeDocks();
@@ -60,6 +64,8 @@ class MainWindow : public QMainWindow {
     LibraryTree* m_tree;
     CommandPane* m_pane;
     WorkbenchHost m_host;
+    ModuleData m_moduleData;
+    std::optional<HostSession> m_session;  ///< until the window is closed
     QMenu* m_recentMenu = nullptr;
     QFileSystemWatcher m_watcher;
     QTimer m_refreshSoon;

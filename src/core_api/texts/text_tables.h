@@ -25,6 +25,7 @@ extern const std::span<const TextRow> sectionsTexts;
 extern const std::span<const TextRow> cutstockTexts;
 extern const std::span<const TextRow> frameTexts;
 extern const std::span<const TextRow> workbenchTexts;
+extern const std::span<const TextRow> startersTexts;
 
 /// One a line, so that tables can be added side by side.
 inline auto allTables() {
@@ -39,7 +40,8 @@ inline auto allTables() {
         sectionsTexts,     //
         cutstockTexts,     //
         frameTexts,        //
-        workbenchTexts,
+        workbenchTexts,    //
+        startersTexts,
     };
 }
 

@@ -1,0 +1,194 @@
+#include "core_api/files.h"
+#include "core_api/macros/vor_bolt_module.h"
+#include "core_api/sections/section_tables.h"
+#include "core_api/settings.h"
+#include "core_api/text/text_helpers.h"
+#include "core_api/texts/texts.h"
+#include "module/module_data.h"
+#include "module/starts.h"
+
+namespace starts {
+
+// --- sections -----------------------------------------------------------------------------------
+
+namespace {
+
+constexpr int sectionWord = 21063, lengthWord = 21044, numberWord = 21073;
+
+bool hasSections() {
+    return gSectionTables.table(0) != nullptr;
+}
+
+Vor_ProfValuesTable tableOf(const SectionTable& table) {
+    Vor_ProfValuesTable made;
+    made.tableName = table.name();
+    made.drawnAs = table.drawnAs();
+    made.columnNames = table.header();
+    made.rows = table.rows();
+    return made;
+}
+
+/// The first size of a table, or an empty text.
+Vor_String firstSection(std::string_view table) {
+    const Vor_StringArray names = ModuleData::sections(table);
+    return names.isEmpty() ? Vor_String() : names[0];
+}
+
+}  // namespace
+
+Outcome sectionLibrary(ModuleData& data) {
+    auto& edited = data.objects.sectionLibrary;
+    if (!edited) {
+        edited.emplace();
+        edited->GetAvailableFiles();
+        for (const Vor_String& path : ObjectExportFindFiles(gSettings.libDir() + "prof\\", "*.dwg"))
+            edited->templateNames.append(getFileName(path));
+    }
+    return changedIf(StartDlgEditLibSections(*edited, data.member().sectionName));
+}
+
+Outcome sectionSize(ModuleData& data) {
+    if (!hasSections()) return Outcome::noSections;
+    auto& edited = data.objects.sectionTable;
+    if (!edited) edited = tableOf(*gSectionTables.table(0));
+    return changedIf(StartDlgEditLibSimple(edited->tableName, *edited, data.objects.sectionRow));
+}
+
+// --- members ------------------------------------------------------------------------------------
+
+Outcome memberCuts(ModuleData& data) {
+    DlgProfCutsData& edited = data.objects.memberCuts;
+    edited.memberName = data.member().memberName;
+    edited.apply = [&edited](const DlgProfCutsData& confirmed) { edited = confirmed; };
+    return changedIf(StartEditProfCutsDlg(edited));
+}
+
+namespace {
+
+/// The holes of the macro's bolts.
+DlgProfFeaturesData featuresOf(ModuleData& data) {
+    DlgProfFeaturesData made;
+    made.sectionName = data.member().sectionName;
+    runs::MacroRun* run = data.macro();
+    if (!run) return made;
+    const Vor_Macro& macro = *run->macro().macroRead();
+    for (int i = 0; i < macro.moduleCount(); ++i)
+        if (const Vor_BoltModule* bolts = asBoltModule(&macro.module(i)))
+            made.features.append(
+                {bolts->name(), true, 0, bolts->boltDiameter() + bolts->holeOffset()});
+    return made;
+}
+
+/// What the macro's members need, from bars of the usual length.
+DlgCSP2Data stockOf(ModuleData& data) {
+    DlgCSP2Data made;
+    runs::MacroRun* run = data.macro();
+    const Vor_StringArray columns{dialString(lengthWord), dialString(numberWord)};
+    for (Csp2Table& table : made.tables) table.columnNames = columns;
+    for (int i = 0; run && run->macro().baseProf(i); ++i) {
+        made.itemIds.append(i + 1);
+        made.itemNames.append(run->macro().baseProf(i)->sectionName);
+        for (Csp2Table& table : made.tables) {
+            table.rowItemIds.append(i + 1);
+            table.rows.append({&table == &made.tables[0] ? "4500" : "12000", "1"});
+        }
+    }
+    return made;
+}
+
+TwDlgCis2Data cis2Of(const Vor_PrPl& member) {
+    TwDlgCis2Data made;
+    made.memberName = member.memberName;
+    made.sectionName = member.sectionName;
+    made.materialName = member.material;
+    return made;
+}
+
+}  // namespace
+
+Outcome memberFeatures(ModuleData& data) {
+    auto& edited = data.objects.memberFeatures;
+    if (!edited) edited = featuresOf(data);
+    return edited->features.isEmpty() ? Outcome::noMacro : changedIf(StartDlgProfFeatures(*edited));
+}
+
+Outcome cuttingStock(ModuleData& data) {
+    auto& edited = data.objects.cuttingStock;
+    if (!edited) edited = stockOf(data);
+    return changedIf(StartDlgCSP2(*edited));
+}
+
+Outcome cis2(ModuleData& data) {
+    auto& edited = data.objects.cis2;
+    if (!edited) edited = cis2Of(data.member());
+    return changedIf(StartDlgCis2Info(*edited));
+}
+
+Outcome dstvPoints(ModuleData&) {
+    StartDSTVPointsDlg();
+    return Outcome::closed;
+}
+
+// --- buildings ----------------------------------------------------------------------------------
+
+Outcome constructionGrid(ModuleData& data) {
+    auto& edited = data.objects.constructionGrid;
+    if (!edited) {
+        edited.emplace();
+        edited->x = {"6000 6000 6000", "1"};
+        edited->y = {"5000 5000", "A"};
+    }
+    return changedIf(StartDlgGrid(*edited));
+}
+
+Outcome levels(ModuleData& data) {
+    auto& edited = data.objects.levels;
+    if (!edited) {
+        constexpr double storey = 3500;
+        edited.emplace();
+        for (int i = 0; i < 3; ++i)
+            edited->levels.append({Vor_String(i * storey / 1000, 1) + " m", i * storey, true});
+    }
+    return changedIf(StartDlgLevels(*edited));
+}
+
+Outcome cladding(ModuleData& data) {
+    return changedIf(StartDlgCladdingSettings(data.objects.cladding));
+}
+
+Outcome bracing(ModuleData& data) {
+    auto& edited = data.objects.bracing;
+    if (!edited) {
+        edited.emplace();
+        edited->sectionName = firstSection("L");
+        edited->material = data.member().material;
+    }
+    return changedIf(StartDlgBracing(*edited));
+}
+
+// --- choices ------------------------------------------------------------------------------------
+
+Outcome lookUp(ModuleData& data) {
+    if (!hasSections()) return Outcome::noSections;
+    auto& edited = data.objects.lookUp;
+    if (!edited) {
+        edited.emplace();
+        edited->prompt = dialString(sectionWord);
+        edited->names = ModuleData::sections(data.member().sectionName.str().substr(0, 3));
+        edited->chosen = 0;
+    }
+    return changedIf(StartDlgLookUp(*edited));
+}
+
+Outcome selectImage(ModuleData& data) {
+    TwSelectImageDlgData edited;
+    if (!gSettings.libDir().isEmpty())
+        edited.files = ObjectExportFindFilesRecursive(gSettings.libDir(), "*.bmp");
+    if (edited.files.isEmpty()) return Outcome::noPictures;
+    edited.chosen = data.objects.chosenPicture;
+    const bool isOk = StartDlgSelectImage(edited);
+    if (isOk) data.objects.chosenPicture = edited.chosen;
+    return changedIf(isOk);
+}
+
+}  // namespace starts

@@ -1,0 +1,132 @@
+// The program with a library in which every starter has something to work on, and a user who looks
+// at each window that opens before doing something with it.
+#pragma once
+
+#include <gmock/gmock.h>
+#include <stdlib.h>
+
+#include <QApplication>
+#include <QPointer>
+#include <QTest>
+#include <QTimer>
+#include <filesystem>
+#include <set>
+
+#include "core_api/macros/macro_file.h"
+#include "frame/editor/named_values_dialog.h"
+#include "macro/macro_page.h"
+#include "macros/sample_macro.h"
+#include "platform/window/bitmap.h"
+#include "sections/table_page.h"
+#include "shell/main_window.h"
+#include "shell/starters_menu.h"
+#include "support/temporary_folder.h"
+
+struct StarterTitles {
+    static constexpr int macro = 24030, macroModeless = 24031, takeMacroData = 24032,
+                         endMacroModeless = 24033, destroyAllMacros = 24034,
+                         constraintsModal = 24035, constraints = 24036, endConstraints = 24037,
+                         macroCuts = 24038, profilesOfObjects = 24040, readSheetFile = 24051,
+                         evaluate = 24053, dstvPoints = 24066, constructionGrid = 24070,
+                         bracing = 24073, runStandard = 24081, selfTest = 24082;
+};
+
+/// The settings as they were, and the user's own left alone, once the test is over.
+struct OwnRegistry {
+    OwnRegistry() { ::setenv("XDG_CONFIG_HOME", folder.path().c_str(), 1); }
+    ~OwnRegistry() {
+        gSettings = before;
+        ::unsetenv("XDG_CONFIG_HOME");
+    }
+    TemporaryFolder folder;
+    Vor_Settings before = gSettings;
+};
+
+class StartersTest : public testing::Test, public StarterTitles {
+  protected:
+    using Visit = std::function<void(QWidget& window)>;
+
+    void openProgram(Language language = Language::english) {
+        WorkbenchSettings settings;
+        settings.language = language;
+        window = std::make_unique<MainWindow>(settings);
+        window->show();
+        fillLibrary();
+        ASSERT_TRUE(window->openLibrary(m_library.path().string()));
+    }
+    QWidget* openMacro(const char* name) {
+        return window->openMacro(m_library.inside(std::string("Macros\\") + name + ".macro"));
+    }
+    ModuleData& data() { return window->moduleData(); }
+    const Vor_Macro& macro() { return *data().macro()->macro().macroRead(); }
+
+    static const Starter& starter(int title) {
+        for (const Starter& each : starters())
+            if (each.title == title) return each;
+        throw std::runtime_error("no such starter");
+    }
+    /// Starts it; every window that opens meanwhile is visited once.
+    Outcome run(int title, Visit visit) {
+        std::vector<QPointer<QWidget>> seen;
+        for (QWidget* each : shownWindows()) seen.emplace_back(each);
+        QTimer look;
+        look.callOnTimeout([&] {
+            for (QWidget* each : shownWindows()) {
+                if (std::count(seen.begin(), seen.end(), each) > 0) continue;
+                if (QApplication::activeModalWidget() && QApplication::activeModalWidget() != each)
+                    continue;
+                seen.emplace_back(each);
+                visit(*each);
+                return;
+            }
+        });
+        look.start(10);
+        const Outcome outcome = start(starter(title), data());
+        QTest::qWait(40);
+        return outcome;
+    }
+    /// The windows of the module that are on the screen, and questions.
+    std::vector<QWidget*> shownWindows() const {
+        std::vector<QWidget*> shown;
+        for (QWidget* each : QApplication::topLevelWidgets())
+            if (each->isVisible() && each->windowFlags().testFlag(Qt::Dialog) &&
+                each->windowType() == Qt::Dialog)
+                shown.push_back(each);
+        return shown;
+    }
+    static QtWindowSystem& system() {
+        return dynamic_cast<QtWindowSystem&>(WindowSystem::current());
+    }
+    static CDialog* dialogOf(QWidget& window) {
+        return dynamic_cast<CDialog*>(system().windowOf(&window));
+    }
+    static NamedValuesDialog& valuesOf(QWidget& window) {
+        return dynamic_cast<NamedValuesDialog&>(*dialogOf(window));
+    }
+    static void press(QWidget& window, int id) {
+        QTest::mouseClick(window.findChild<QWidget*>(QString::number(id)), Qt::LeftButton);
+    }
+    static void escape(QWidget& window) { QTest::keyClick(&window, Qt::Key_Escape); }
+    QString printed() { return window->commandPane().toPlainText(); }
+
+    OwnRegistry m_registry;
+    std::unique_ptr<MainWindow> window;
+
+  private:
+    void fillLibrary() {
+        using std::filesystem::copy, std::filesystem::copy_options;
+        copy(VORMANT_SOURCE_DIR "/library", m_library.path(), copy_options::recursive);
+        Vor_String failure;
+        std::string error;
+        ASSERT_EQ(saveMacro(m_library.inside("Macros\\A sample.macro"), sampleMacro(), failure),
+                  Acad::eOk)
+            << failure.str();
+        m_library.write("prof/Castellated beam.dwg", "");
+        for (const char* name : {"Plate", "Angle"})
+            ASSERT_TRUE(writeBitmap(CBitmap(64, 48, 0x4070A0),
+                                    m_library.inside(std::string(name) + ".bmp"), error))
+                << error;
+    }
+
+    TemporaryFolder m_library;
+};

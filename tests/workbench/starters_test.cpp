@@ -1,0 +1,299 @@
+// Every starter of the module, reached through the program's menu on a real desktop.
+#include <QFileDialog>
+#include <QLineEdit>
+#include <QMenu>
+#include <QMenuBar>
+#include <QMessageBox>
+
+#include "core_api/macros/vor_bolt_module.h"
+#include "dialog_problems.h"
+#include "frame/open_macro_dialogs.h"
+#include "starters_fixture.h"
+#include "window/dialog_font.h"
+#include "window/dialog_navigation.h"
+
+namespace {
+
+using testing::IsEmpty;
+
+/// What ends otherwise than cancelled after Escape.
+Outcome expectedAfterEscape(int title) {
+    using T = StarterTitles;
+    switch (title) {
+        case T::macroModeless:
+        case T::constraints:
+            return Outcome::opened;
+        case T::takeMacroData:
+        case T::endMacroModeless:
+        case T::destroyAllMacros:
+            return Outcome::noneOpen;
+        case T::endConstraints:
+        case T::evaluate:
+        case T::dstvPoints:
+            return Outcome::closed;
+        case T::readSheetFile:
+            return Outcome::succeeded;
+        case T::runStandard:
+        case T::selfTest:
+            return Outcome::failed;  // neither standard is there
+        default:
+            return Outcome::cancelled;
+    }
+}
+
+// --- what makes a dialog good -------------------------------------------------------------------
+
+bool takesKeyboard(const QWidget& widget) {
+    return widget.isVisible() && widget.isEnabled() && widget.focusPolicy() & Qt::TabFocus &&
+           !widget.objectName().isEmpty();
+}
+
+/// The controls that Tab never comes to.
+std::vector<std::string> unreached(QWidget& window, const QtWindowSystem& system) {
+    std::set<const QWidget*> reached;
+    constexpr int mostPresses = 400;
+    for (int i = 0; i < mostPresses; ++i) {
+        QWidget* focused = QApplication::focusWidget();
+        if (!focused) break;
+        if (const CWnd* control = system.windowOf(focused))
+            reached.insert(system.widgetOf(*control));
+        // Backwards first: a grid is left from its first cell on, not after all others.
+        const bool isBack = i < mostPresses / 2;
+        QTest::keyClick(focused, isBack ? Qt::Key_Backtab : Qt::Key_Tab,
+                        isBack ? Qt::ShiftModifier : Qt::NoModifier);
+    }
+    std::vector<std::string> missing;
+    for (const QWidget* each : window.findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly))
+        if (takesKeyboard(*each) && !reached.contains(each))
+            missing.push_back(each->objectName().toStdString());
+    return missing;
+}
+
+void checkSizes(QWidget& window, const std::string& name) {
+    const QSize usual = window.size();
+    const std::pair<const char*, QSize> sizes[] = {
+        {"large", usual * 1.4}, {"small", window.minimumSize()}, {"", usual}};
+    for (const auto& [label, size] : sizes) {
+        window.resize(size);
+        QTest::qWait(20);
+        EXPECT_THAT(dialogProblems(window), IsEmpty()) << label;
+        saveGrab(window, name + label);
+    }
+}
+
+void checkDialog(QWidget& window, const std::string& name) {
+    SCOPED_TRACE(window.windowTitle().toStdString());
+    auto& system = dynamic_cast<QtWindowSystem&>(WindowSystem::current());
+    auto* dialog = dynamic_cast<CDialog*>(system.windowOf(&window));
+    ASSERT_TRUE(dialog);
+    EXPECT_FALSE(window.windowTitle().isEmpty());
+    checkSizes(window, name);
+    const CButton* byEnter = defaultButton(*dialog);
+    EXPECT_TRUE((byEnter && byEnter->isVisible()) || dialog->item(IDCANCEL)) << "nothing closes it";
+    EXPECT_THAT(unreached(window, system), IsEmpty()) << "by Tab";
+}
+
+// --- every starter ------------------------------------------------------------------------------
+
+class EveryStarter : public StartersTest, public testing::WithParamInterface<Language> {
+  protected:
+    void visit(QWidget& shown, const std::string& name) {
+        if (auto* files = qobject_cast<QFileDialog*>(&shown)) return chooseSheet(*files);
+        if (!qobject_cast<QMessageBox*>(&shown)) checkDialog(shown, name);
+        saveGrab(shown, name);
+        escape(shown);
+    }
+    static void chooseSheet(QFileDialog& files) {
+        files.findChild<QLineEdit*>("fileNameEdit")->setText("EndPlate.tws");
+        QMetaObject::invokeMethod(&files, "accept");
+    }
+};
+
+TEST_P(EveryStarter, OpensAGoodDialogAndLeavesAllAsItWasAfterEscape) {
+    openProgram(GetParam());
+    for (const Starter& each : starters()) {
+        const std::string name =
+            std::to_string(each.title) + "-" + std::to_string(static_cast<int>(GetParam()));
+        SCOPED_TRACE(name + " " + dialString(each.title).str());
+        const MacroData before = data().macro()->macroData();
+        const Vor_Macro macroBefore = macro();
+        const Outcome outcome = run(each.title, [&](QWidget& shown) { visit(shown, name); });
+        EXPECT_EQ(outcome, expectedAfterEscape(each.title));
+        QTest::qWait(80);  // what is closed with a delay
+        EXPECT_THAT(shownWindows(), IsEmpty());
+        EXPECT_TRUE(data().macro()->macroData() == before);
+        EXPECT_TRUE(macro() == macroBefore);
+        EXPECT_FALSE(printed().isEmpty());
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Languages, EveryStarter,
+                         testing::Values(Language::english, Language::german));
+
+TEST_F(StartersTest, TheMenuHasThemAllWithMnemonicsOfTheirOwn) {
+    for (const Language language :
+         {Language::english, Language::dutch, Language::german, Language::french}) {
+        gSettings.current().language = language;
+        QMenu menu;
+        ModuleData noData([](const Vor_String&) { return nullptr; });
+        addStarters(menu, noData);
+        size_t entries = 0;
+        for (const QAction* sub : menu.actions()) {
+            std::set<QChar> letters;
+            for (const QAction* entry : sub->menu()->actions()) {
+                const qsizetype mark = entry->text().indexOf('&');
+                EXPECT_GE(mark, 0) << entry->text().toStdString();
+                EXPECT_TRUE(letters.insert(entry->text()[mark + 1].toLower()).second)
+                    << entry->text().toStdString();
+                ++entries;
+            }
+        }
+        EXPECT_EQ(entries, starters().size());
+    }
+}
+
+TEST_F(StartersTest, SayWhatIsMissingWithoutALibrary) {
+    window = std::make_unique<MainWindow>(WorkbenchSettings{});
+    gSettings.setLibDir("");
+    for (const int title : {StarterTitles::macro, macroModeless, macroCuts, profilesOfObjects})
+        EXPECT_EQ(start(starter(title), data()), Outcome::noMacro) << title;
+    EXPECT_TRUE(printed().contains("open a library"));
+}
+
+// --- what comes back ----------------------------------------------------------------------------
+
+TEST_F(StartersTest, TypedValuesComeBackWithOK) {
+    openProgram();
+    const Outcome outcome = run(constructionGrid, [&](QWidget& shown) {
+        QTest::keyClicks(QApplication::focusWidget(), "Hall");
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+        press(shown, IDOK);
+    });
+    EXPECT_EQ(outcome, Outcome::changed);
+    EXPECT_EQ(data().objects.constructionGrid->name, "Hall");
+    EXPECT_TRUE(printed().contains("Construction grid: changed"));
+}
+
+TEST_F(StartersTest, ChangesOfAMacroGoToItsPage) {
+    openProgram();
+    auto* page = dynamic_cast<MacroPage*>(openMacro("EndPlate"));
+    ASSERT_TRUE(page);
+    const auto type = [](int row, const char* text) {
+        return [=](QWidget& shown) {
+            valuesOf(shown).grid().setData(namedValuesValueColumn, row, text);
+            press(shown, IDOK);
+        };
+    };
+    EXPECT_EQ(run(StarterTitles::macro, type(1, "24")), Outcome::changed);
+    EXPECT_EQ(asBoltModule(macro().findModule("Bolts"))->boltDiameter(), 24);
+    EXPECT_TRUE(page->isChanged());
+    EXPECT_EQ(run(constraintsModal, type(1, "321")), Outcome::changed);
+    EXPECT_EQ(page->value("Plate.Height"), "321");
+    EXPECT_EQ(run(profilesOfObjects, type(1, "IPE-400")), Outcome::changed);
+    EXPECT_EQ(data().member().sectionName, "IPE-400");
+    EXPECT_EQ(run(runStandard, escape), Outcome::succeeded) << printed().toStdString();
+}
+
+TEST_F(StartersTest, CutsChangeWithTheirType) {
+    openProgram();
+    EXPECT_EQ(run(macroCuts,
+                  [&](QWidget& shown) {
+                      valuesOf(shown).grid().setData(namedValuesValueColumn, 2, "-7.5");
+                      valuesOf(shown).press(IDOK);
+                  }),
+              Outcome::cancelled)
+        << "nothing was changed by the user";
+    EXPECT_EQ(run(macroCuts,
+                  [&](QWidget& shown) {
+                      QTest::keyClick(QApplication::focusWidget(), Qt::Key_Down);
+                      QTest::keyClicks(QApplication::focusWidget(), "-7.5");
+                      QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+                      press(shown, IDOK);
+                  }),
+              Outcome::changed);
+    EXPECT_EQ(macro().findModule("Plate1")->findCut("Cope")->offsets[cutOffset], -7.5);
+}
+
+// --- modeless dialogs ---------------------------------------------------------------------------
+
+TEST_F(StartersTest, ModelessMacroDialogsCloseByMenuAndTellTheMacroWhatWasConfirmed) {
+    openProgram();
+    const auto leave = [](QWidget&) {};
+    for (int i = 0; i < 3; ++i) EXPECT_EQ(run(macroModeless, leave), Outcome::opened);
+    const auto shown = shownWindows();
+    ASSERT_EQ(shown.size(), 3u);
+    EXPECT_EQ(run(endMacroModeless, leave), Outcome::closed);
+    EXPECT_EQ(shownWindows().size(), 2u);
+
+    QWidget& first = *shownWindows().front();
+    valuesOf(first).grid().setData(namedValuesValueColumn, 1, "33");
+    press(first, IDOK);
+    EXPECT_EQ(shownWindows().size(), 2u) << "busy with its own button";
+    QTest::qWait(150);
+    EXPECT_EQ(shownWindows().size(), 1u);
+    EXPECT_EQ(asBoltModule(macro().findModule("Bolts1"))->boltDiameter(), 33);
+    EXPECT_EQ(run(takeMacroData, leave), Outcome::changed);
+    EXPECT_EQ(run(destroyAllMacros, leave), Outcome::closed);
+    EXPECT_THAT(shownWindows(), IsEmpty());
+    EXPECT_EQ(openMacroDialogs().length(), 0);
+}
+
+TEST_F(StartersTest, ClosingTheProgramUnloadsTheModuleWithAllThatIsOpen) {
+    openProgram();
+    for (const int title : {macroModeless, macroModeless, constraints})
+        EXPECT_EQ(start(starter(title), data()), Outcome::opened);
+    QTest::qWait(30);
+    EXPECT_EQ(shownWindows().size(), 3u);
+    press(*shownWindows().front(), IDCANCEL);  // one is just about to close
+    EXPECT_TRUE(window->close());
+    EXPECT_THAT(shownWindows(), IsEmpty());
+    window.reset();
+    QTest::qWait(100);
+}
+
+TEST_F(StartersTest, TheProgramMayGoWithoutBeingClosed) {
+    openProgram();
+    for (const int title : {macroModeless, constraints}) start(starter(title), data());
+    QTest::qWait(30);
+    window.reset();
+    QTest::qWait(100);
+    EXPECT_THAT(shownWindows(), IsEmpty());
+}
+
+TEST_F(StartersTest, QuestionsLieOverTheirDialog) {
+    openProgram();
+    int boxes = 0;
+    const Outcome outcome = run(bracing, [&](QWidget& shown) {
+        if (qobject_cast<QMessageBox*>(&shown)) {
+            ++boxes;
+            saveGrab(shown, "refused");
+            escape(shown);
+            return;
+        }
+        QTimer::singleShot(0, &shown, [&] {
+            valuesOf(shown).grid().setData(namedValuesValueColumn, 4, "1e9");
+            press(shown, IDOK);
+            EXPECT_EQ(boxes, 1);
+            escape(shown);
+        });
+    });
+    EXPECT_EQ(outcome, Outcome::cancelled);
+    EXPECT_EQ(boxes, 1);
+}
+
+TEST_F(StartersTest, SectionTablesOpenAsPagesThatSort) {
+    openProgram();
+    auto* page = dynamic_cast<TablePage*>(
+        window->open(LibraryKind::sectionTable, gSettings.libDir() + "prof\\IPE.pr"));
+    ASSERT_TRUE(page);
+    QTableView& table = page->table();
+    const auto first = [&] { return table.model()->index(0, 0).data().toString(); };
+    EXPECT_EQ(first(), "80") << "as in the file";
+    table.sortByColumn(0, Qt::DescendingOrder);
+    EXPECT_EQ(first(), "600") << "by number, not by letter";
+    window->resize(1000, 600);
+    QTest::qWait(30);
+    saveGrab(*window, "table-page");
+}
+
+}  // namespace
