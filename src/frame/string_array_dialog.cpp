@@ -46,7 +46,8 @@ void StringArrayDialog::onInit() {
             menu.append(entry);
     }
     m_grid.setMenuCommands(menu);
-    m_grid.setAutoSize(1);
+    constexpr int rowNumbersWidth = 40;
+    m_grid.setAutoSize(4, Vor_Spread::headerIndex, rowNumbersWidth);
     showRows();
     ChangeDlgSize(*this, m_table.sizeName);
     m_grid.autoSize();
