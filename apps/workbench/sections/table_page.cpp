@@ -6,6 +6,7 @@
 #include <QVBoxLayout>
 
 #include "core_api/text/text_helpers.h"
+#include "platform/paths.h"
 #include "window/dialog_font.h"
 
 namespace {
@@ -31,7 +32,7 @@ class ValueItem : public QStandardItem {
 };
 
 QLabel* headingOf(const Vor_String& path) {
-    auto* heading = new QLabel(toQt(path));
+    auto* heading = new QLabel(QString::fromStdString(paths::asWritten(path)));
     heading->setTextInteractionFlags(Qt::TextSelectableByMouse);
     heading->setContentsMargins(4, 4, 4, 4);
     return heading;
