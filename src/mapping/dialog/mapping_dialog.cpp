@@ -80,8 +80,7 @@ void TwMappingDlg::prepareGrids() {
     m_sheetsGrid.setNrCols(2, false);
     m_sheetsGrid.setRow(Vor_Spread::headerIndex,
                         Vor_StringArray{dialString(21522), dialString(21523)});
-    constexpr int rowNumbersWidth = 40;
-    m_sheetsGrid.setAutoSize(4, Vor_Spread::headerIndex, rowNumbersWidth);
+    m_sheetsGrid.setAutoSize(1);
     m_sheetsGrid.setListener([this](const GridNotice& notice) { onSheetNotice(notice); });
 
     m_objectsGrid.attach(this, objectsItem, true);
