@@ -4,6 +4,7 @@
 #include <QElapsedTimer>
 #include <QFile>
 #include <QLineEdit>
+#include <QMenuBar>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -114,6 +115,22 @@ TEST_F(Workbench, RunsStandardsOnMacrosAndLeavesTheFileUntilSaved) {
     EXPECT_TRUE(page->save());
     EXPECT_NE(content(), before);
     EXPECT_FALSE(page->isChanged());
+}
+
+TEST_F(Workbench, SpeaksAnotherLanguageAtOnce) {
+    ASSERT_TRUE(m_window.openLibrary(VORMANT_SOURCE_DIR "/library"));
+    WorkbenchSettings settings;
+    settings.library = VORMANT_SOURCE_DIR "/library";
+    settings.language = Language::german;
+    m_window.take(settings);
+    const auto menus = m_window.menuBar()->actions();
+    ASSERT_FALSE(menus.isEmpty());
+    EXPECT_EQ(menus.front()->text(), "&Datei");
+    EXPECT_EQ(m_window.tree().topLevelItem(1)->text(0), "Makros");
+    EXPECT_EQ(WorkbenchSettings::load().language, Language::german);
+    settings.language = Language::english;
+    m_window.take(settings);
+    EXPECT_EQ(m_window.menuBar()->actions().size(), menus.size());
 }
 
 TEST_F(Workbench, ComplainsOfFilesThatAreNoneAndGoesOn) {

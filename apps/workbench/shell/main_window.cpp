@@ -80,12 +80,12 @@ void MainWindow::makeDocks() {
     auto* library = new QWidget;
     auto* layout = new QVBoxLayout(library);
     layout->setContentsMargins(0, 0, 0, 0);
-    auto* search = new QLineEdit;
-    search->setPlaceholderText(word(wordSearch));
-    search->setClearButtonEnabled(true);
-    connect(search, &QLineEdit::textChanged, this,
+    m_search = new QLineEdit;
+    m_search->setPlaceholderText(word(wordSearch));
+    m_search->setClearButtonEnabled(true);
+    connect(m_search, &QLineEdit::textChanged, this,
             [this](const QString& text) { m_tree->filter(text); });
-    layout->addWidget(search);
+    layout->addWidget(m_search);
     layout->addWidget(m_tree);
     const auto dock = [this](int title, QWidget* widget, Qt::DockWidgetArea area) {
         auto* made = new QDockWidget(word(title), this);
@@ -199,15 +199,34 @@ void MainWindow::askForLibrary() {
 void MainWindow::changeSettings() {
     SettingsDialog dialog(m_settings, this);
     if (dialog.exec() != QDialog::Accepted) return;
+    // Not here: this is called from a menu, which a new language replaces.
+    QTimer::singleShot(0, this, [this, changed = dialog.settings()] { take(changed); });
+}
+
+void MainWindow::take(WorkbenchSettings changed) {
     const std::string before = m_settings.library;
-    WorkbenchSettings changed = dialog.settings();
     const std::string library = std::exchange(changed.library, before);
-    if (changed.language != m_settings.language) changed.sessionLanguage.reset();
+    const bool speaksOtherwise = changed.language != m_settings.language;
+    if (speaksOtherwise) changed.sessionLanguage.reset();
     m_settings = changed;
     m_settings.apply();
     save();
+    if (speaksOtherwise) retranslate();
     if (library != before) openLibrary(library);
     m_tree->refresh();
+}
+
+// Pages that are open keep their words until they are opened again.
+void MainWindow::retranslate() {
+    qDeleteAll(menuBar()->findChildren<QMenu*>(QString(), Qt::FindDirectChildrenOnly));
+    menuBar()->clear();
+    makeMenus();
+    for (QDockWidget* dock : findChildren<QDockWidget*>())
+        dock->setWindowTitle(word(dock->objectName().toInt()));
+    m_search->setPlaceholderText(word(wordSearch));
+    for (int i = m_pages->count(); i-- > 0;)
+        if (dynamic_cast<StartPage*>(m_pages->widget(i))) closePage(i);
+    showStartPage();
 }
 
 void MainWindow::save() {

@@ -14,6 +14,7 @@
 #include "shell/workbench_settings.h"
 #include "window/qt_window_system.h"
 
+class QLineEdit;
 class RunPage;
 
 class MainWindow : public QMainWindow {
@@ -32,6 +33,9 @@ class MainWindow : public QMainWindow {
     QWidget* openMacro(const Vor_String& path);
     QWidget* openSectionTable(const Vor_String& path);
 
+    /// As if the user had confirmed them in the dialog of the settings.
+    void take(WorkbenchSettings changed);
+
     LibraryTree& tree() { return *m_tree; }
     CommandPane& commandPane() { return *m_pane; }
     QTabWidget& pages() { return *m_pages; }
@@ -47,6 +51,7 @@ class MainWindow : public QMainWindow {
     void showStartPage();
     void askForLibrary();
     void changeSettings();
+    void retranslate();
     void closePage(int index);
     bool mayClose(QWidget* page);
     void closeEvent(QCloseEvent* event) override;
@@ -67,6 +72,7 @@ class MainWindow : public QMainWindow {
     ModuleData m_moduleData;
     std::optional<HostSession> m_session;  ///< until the window is closed
     QMenu* m_recentMenu = nullptr;
+    QLineEdit* m_search = nullptr;
     QFileSystemWatcher m_watcher;
     QTimer m_refreshSoon;
     bool m_isGone = false;  ///< the library folder was told to be missing
