@@ -17,6 +17,7 @@
 #include "run/section_picker.h"
 #include "shell/words.h"
 #include "window/dialog_font.h"
+#include "window/typed_text.h"
 
 namespace {
 
@@ -179,8 +180,8 @@ QWidget* RunPage::makeTrace() {
 void RunPage::take(const runs::DeclaredVariable& input, QWidget& editor, const QString& text) {
     std::string refusal;
     const QString name = toQt(input.name);
-    if (!canBeKept(text))
-        m_refusals[name] = word(wordCharactersRefused);
+    if (const QString why = refusalOf(text); !why.isEmpty())
+        m_refusals[name] = why;
     else if (!m_session->setValue(input.name, fromQt(text.trimmed()), refusal))
         m_refusals[name] = toQt(refusal);
     else
