@@ -1,4 +1,4 @@
-// vormant-workbench [LIBRARY] [--open NAME]… [--screenshot FILE]
+// vormant-workbench [LIBRARY] [FILE…] [--open NAME]… [--screenshot FILE]
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QFileInfo>
@@ -52,6 +52,7 @@ int main(int argc, char** argv) {
                                         "file");
     parser.addOptions({open, language, screenshot});
     parser.addPositionalArgument("library", "Folder of the library to open", "[library]");
+    parser.addPositionalArgument("files", "Standards, macros or sheets to open", "[file…]");
     parser.process(application);
 
     if (parser.isSet(language)) {
@@ -65,11 +66,12 @@ int main(int argc, char** argv) {
     }
     MainWindow window(settings);
     window.show();
-    const QStringList given = parser.positionalArguments();
+    QStringList files = parser.positionalArguments();
+    const bool isLibrary = !files.isEmpty() && !QFileInfo(files.front()).isFile();
     const std::string library =
-        given.isEmpty() ? settings.library : absolute(given.front()).toStdString();
+        isLibrary ? absolute(files.takeFirst()).toStdString() : settings.library;
     if (!library.empty()) window.openLibrary(library);
-    for (const QString& file : parser.values(open)) window.openFile(absolute(file));
+    for (const QString& file : files + parser.values(open)) window.openFile(absolute(file));
     if (parser.isSet(screenshot)) takeScreenshot(window, parser.value(screenshot));
     return QApplication::exec();
 }

@@ -86,17 +86,20 @@ class VORMANT_API TSpread : public CWnd {
     using Listener = std::function<void(const GridNotice&)>;
     void setListener(Listener listener) { m_listener = std::move(listener); }
     /// Types a text into a cell, or picks it from the cell's list.
-    bool userEnters(int col, int row, std::string_view text);
+    virtual bool userEnters(int col, int row, std::string_view text);
     /// Empties what may be typed into; the listener hears of each cell that was emptied.
-    bool userClears(const control::Block& block);
+    virtual bool userClears(const control::Block& block);
     /// Writes tab-separated lines from a cell on; the listener hears of each cell that took its
     /// text. False when one refused.
-    bool userPastes(int col, int row, std::string_view text);
+    virtual bool userPastes(int col, int row, std::string_view text);
     bool userMoves(int col, int row);
     bool userSelects(const control::Block& block);
     /// Presses a button cell, or toggles a check box.
-    bool userClicks(int col, int row);
+    virtual bool userClicks(int col, int row);
     bool userDoubleClicks(int col, int row);
+    /// Pulls at the edge of a header cell.
+    virtual bool userSizesCol(int col, int pixels) { return grid().setColWidth(col, pixels); }
+    virtual bool userSizesRow(int row, int pixels) { return grid().setRowHeight(row, pixels); }
     /// The right mouse button. True when there was a menu.
     virtual bool showContextMenu() { return false; }
     /// What the control tells of a cell: `code` 0x3B or 0x3C when its check box was clicked.
@@ -106,8 +109,10 @@ class VORMANT_API TSpread : public CWnd {
     // The calls take one kind of handle; those that only read change nothing behind it.
     SSHandle handle() const { return m_grid.get(); }
 
-  private:
+    /// Always true.
     bool tellListener(GridNotice::What what, int col, int row);
+
+  private:
     void tellChanged(const std::vector<control::CellAddress>& cells);
 
     std::unique_ptr<control::Grid> m_grid;

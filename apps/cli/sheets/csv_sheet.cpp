@@ -11,25 +11,6 @@ namespace {
 
 using formula::Value;
 
-void appendCell(std::string& line, const control::Grid& grid, int col, int row) {
-    const Value value = grid.sheet().value(col, row);
-    std::string text;
-    if (const auto formulaText = grid.sheet().formula(col, row)) {
-        text = "=";
-        appendUtf8(text, *formulaText);
-        appendCsvField(line, text);
-    } else if (value.isNumber()) {
-        appendNumber(line, value.number());
-    } else if (value.isBoolean()) {
-        line += value.truth() ? "TRUE" : "FALSE";
-    } else if (value.isError()) {
-        line += formula::errorText(value.error());
-    } else if (value.isText()) {
-        appendUtf8(text, value.text());
-        appendCsvField(line, text);
-    }
-}
-
 /// Writes one field into the cell (col, row), which the grid has.
 bool placeField(control::Grid& grid, int col, int row, std::string_view field, std::string& error) {
     std::string text;
@@ -62,24 +43,6 @@ bool placeRecord(control::Grid& grid, int row, const std::vector<std::string_vie
 }
 
 }  // namespace
-
-std::optional<std::string> sheetAsCsv(const control::Grid& grid, std::string& error) {
-    constexpr long long maxFields = 100'000'000;
-    const auto [cols, rows] = usedArea(grid);
-    if (static_cast<long long>(cols) * rows > maxFields) {
-        error = "cells lie as far out as " + cellName({cols, rows}) + ", too far for CSV";
-        return std::nullopt;
-    }
-    std::string text;
-    for (int row = 1; row <= rows; ++row) {
-        for (int col = 1; col <= cols; ++col) {
-            if (col > 1) text += ',';
-            appendCell(text, grid, col, row);
-        }
-        text += '\n';
-    }
-    return text;
-}
 
 bool sheetFromCsv(const std::string& path, control::Grid& grid) {
     std::string error;

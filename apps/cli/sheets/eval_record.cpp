@@ -145,10 +145,6 @@ std::optional<control::CellAddress> cellAddress(std::string_view text) {
     return control::CellAddress{area->col1, area->row1};
 }
 
-std::string cellName(control::CellAddress address) {
-    return getAlfabet(address.col).str() + std::to_string(address.row);
-}
-
 bool readEvalRecord(std::string_view json, EvalRecord& record, std::string& error) {
     record = EvalRecord();
     if (isTooDeep(json)) {

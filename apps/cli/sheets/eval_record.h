@@ -15,6 +15,7 @@
 #include <variant>
 #include <vector>
 
+#include "sheets/sheet_writing.h"
 #include "spread/control/sheet.h"
 
 namespace cli {
@@ -44,7 +45,7 @@ CellContent contentFromText(std::string_view text);
 
 /// "B7" or "$B$7"; nothing when it is no address of one cell.
 std::optional<control::CellAddress> cellAddress(std::string_view text);
-std::string cellName(control::CellAddress address);
+using sheets::cellName;
 
 /// False, with the reason in `error`, when the line is no such record; `record.id` is filled in as
 /// far as it could be read.

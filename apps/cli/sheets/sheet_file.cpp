@@ -6,6 +6,7 @@
 #include "io/typed_paths.h"
 #include "platform/encodings.h"
 #include "platform/files.h"
+#include "sheets/sheet_writing.h"
 #include "spread/control/document.h"
 
 namespace cli {
@@ -43,8 +44,8 @@ bool saveSheet(const control::Grid& grid, const std::string& path, SheetFormat f
         complainText(error);
         return false;
     }
-    const auto content =
-        format == SheetFormat::csv ? sheetAsCsv(grid, error) : sheetAsXlsx(grid, error);
+    const auto content = format == SheetFormat::csv ? sheets::sheetAsCsv(grid, error)
+                                                    : sheets::sheetAsXlsx(grid, error);
     if (!content) {
         complainAt(path, 0, error);
         return false;
@@ -52,10 +53,6 @@ bool saveSheet(const control::Grid& grid, const std::string& path, SheetFormat f
     if (files::writeWhole(*inside, *content, error)) return true;
     complainText(error);
     return false;
-}
-
-UsedArea usedArea(const control::Grid& grid) {
-    return {grid.sheet().cells().lastCol(), grid.sheet().cells().lastRow()};
 }
 
 }  // namespace cli

@@ -13,8 +13,12 @@ struct CellFont {
     QFontMetrics metrics;
 };
 
-/// Remembered for as long as the program runs; a sheet has a handful. A family that is not
-/// installed becomes that of dialogs.
-const CellFont& cellFont(const control::Font& font);
+/// At `zoom` percent. Remembered for as long as the program runs; a sheet has a handful. A family
+/// that is not installed becomes that of dialogs.
+const CellFont& cellFont(const control::Font& font, int zoom = 100);
+/// Pixels of a grid as pixels of a view.
+constexpr int zoomed(int pixels, int zoom) {
+    return (pixels * zoom + 50) / 100;
+}
 /// From now on grids fit their columns to what these fonts take.
 void measureWithCellFonts();

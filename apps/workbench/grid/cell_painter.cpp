@@ -5,7 +5,6 @@
 #include <algorithm>
 #include <optional>
 
-#include "grid/cell_font.h"
 #include "grid/grid_steps.h"
 #include "platform/window/bitmap.h"
 #include "window/dialog_font.h"
@@ -198,14 +197,14 @@ bool CellPainter::isCutOff(CellAddress cell, int width) const {
     const Look& look = m_grid.look(cell.col, cell.row);
     if (!m_grid.sheet().cells().find(cell.col, cell.row)) return false;
     if (mayOverflow(cell) && isRoom(cell.col + 1, cell.row)) return false;
-    const QSize size = cellFont(look.font).metrics.size(Qt::TextExpandTabs, textOf(m_grid, cell));
+    const QSize size = fontOf(look).metrics.size(Qt::TextExpandTabs, textOf(m_grid, cell));
     return size.width() > width - 2 * margin;
 }
 
 void CellPainter::drawText(const Drawing& d, const QRect& room) const {
     QString text = textOf(m_grid, d.cell);
     if (text.isEmpty()) return;
-    const CellFont& font = cellFont(d.look.font);
+    const CellFont& font = fontOf(d.look);
     const control::ValueType type = m_grid.sheet().value(d.cell.col, d.cell.row).type();
     const QRect inner = room.adjusted(margin, 0, -margin, -1);
     const bool hasLines = text.contains('\n');
@@ -238,11 +237,11 @@ std::optional<CellPainter::Reach> CellPainter::reachInto(CellAddress cell) const
     while (isRoom(reach.from.col, reach.from.row)) {
         if (--reach.from.col < 1 || cell.col - reach.from.col > farthestOverflow)
             return std::nullopt;
-        reach.before += m_grid.colWidth(reach.from.col);
+        reach.before += zoomed(m_grid.colWidth(reach.from.col), m_zoom);
     }
     if (!mayOverflow(reach.from)) return std::nullopt;
     const Look& look = m_grid.look(reach.from.col, reach.from.row);
-    reach.end = margin + cellFont(look.font).metrics.horizontalAdvance(textOf(m_grid, reach.from));
+    reach.end = margin + fontOf(look).metrics.horizontalAdvance(textOf(m_grid, reach.from));
     return reach;
 }
 
@@ -258,7 +257,7 @@ void CellPainter::drawTextFromTheLeft(const Drawing& d) const {
     if (!reach || reach->end <= reach->before) return;
     const QRect place(d.rect.left() - reach->before + margin, d.rect.top(), reach->end,
                       d.rect.height() - 1);
-    d.painter.setFont(cellFont(m_grid.look(reach->from.col, reach->from.row).font).font);
+    d.painter.setFont(fontOf(m_grid.look(reach->from.col, reach->from.row)).font);
     d.painter.setPen(textColour(d, d.isSelected ? d.cell : reach->from));
     d.painter.drawText(place, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextDontClip,
                        textOf(m_grid, reach->from));
@@ -297,10 +296,10 @@ void CellPainter::drawButton(const Drawing& d) const {
     button.initFrom(d.option.widget);
     button.rect = d.rect.adjusted(1, 1, -2, -2);
     button.text = toQt(d.look.type.text);
-    button.fontMetrics = cellFont(d.look.font).metrics;
+    button.fontMetrics = fontOf(d.look).metrics;
     button.state = m_pressed == d.cell ? QStyle::State_Sunken : QStyle::State_Raised;
     if (d.isEnabled() && !d.look.locked) button.state |= QStyle::State_Enabled;
-    d.painter.setFont(cellFont(d.look.font).font);
+    d.painter.setFont(fontOf(d.look).font);
     d.style().drawControl(QStyle::CE_PushButton, &button, &d.painter, d.option.widget);
 }
 

@@ -3,6 +3,7 @@
 
 #include <QStyledItemDelegate>
 
+#include "grid/cell_font.h"
 #include "grid/cell_pictures.h"
 #include "spread/control/grid.h"
 
@@ -17,6 +18,8 @@ class CellPainter : public QStyledItemDelegate {
   public:
     CellPainter(const control::Grid& grid, QObject* parent);
 
+    /// Percent.
+    void setZoom(int zoom) { m_zoom = zoom; }
     CellPictures& pictures() { return m_pictures; }
     /// The button cell that the mouse holds down.
     void setPressed(control::CellAddress cell) { m_pressed = cell; }
@@ -40,6 +43,7 @@ class CellPainter : public QStyledItemDelegate {
     void drawLine(const Drawing& d, const QRect& line, const control::Look& look) const;
     void drawNoteMark(const Drawing& d) const;
 
+    const CellFont& fontOf(const control::Look& look) const { return cellFont(look.font, m_zoom); }
     QColor textColour(const Drawing& d, control::CellAddress cell) const;
     bool isSelected(control::CellAddress cell) const;
     bool mayOverflow(control::CellAddress cell) const;
@@ -52,4 +56,5 @@ class CellPainter : public QStyledItemDelegate {
     // A picture is read when it is first drawn.
     mutable CellPictures m_pictures;
     control::CellAddress m_pressed;
+    int m_zoom = 100;
 };

@@ -16,20 +16,20 @@ constexpr int margin = 3;
 }  // namespace
 
 void drawHeaderCell(QPainter& painter, const QRect& rect, const QString& text,
-                    const control::Look& look, const QPalette& palette, bool isChosen) {
+                    const control::Look& look, const QPalette& palette, bool isChosen, int zoom) {
     QColor background = toQt(look.background, palette.color(QPalette::Button));
     if (isChosen) background = background.darker(115);
     painter.fillRect(rect, background);
     const QColor lines = palette.color(QPalette::Mid);
     painter.fillRect(QRect(rect.topRight(), rect.bottomRight()), lines);
     painter.fillRect(QRect(rect.bottomLeft(), rect.bottomRight()), lines);
-    painter.setFont(cellFont(look.font).font);
+    painter.setFont(cellFont(look.font, zoom).font);
     painter.setPen(toQt(look.textColour, palette.color(QPalette::ButtonText)));
     const Qt::Alignment alignment = look.alignment == 1   ? Qt::AlignLeft
                                     : look.alignment == 2 ? Qt::AlignRight
                                                           : Qt::AlignHCenter;
     const QRect inner = rect.adjusted(margin, 0, -margin, -1);
-    const QFontMetrics& metrics = cellFont(look.font).metrics;
+    const QFontMetrics& metrics = cellFont(look.font, zoom).metrics;
     const bool isLong = metrics.horizontalAdvance(text) > inner.width();
     // Two lines where there is room for them.
     if (isLong && inner.height() < 2 * metrics.lineSpacing())
@@ -49,8 +49,13 @@ GridHeader::GridHeader(const control::Grid& grid, Qt::Orientation orientation, Q
 }
 
 QSize GridHeader::sizeHint() const {
-    return orientation() == Qt::Horizontal ? QSize(0, m_grid.rowHeight(headerIndex))
-                                           : QSize(m_grid.colWidth(headerIndex), 0);
+    return orientation() == Qt::Horizontal ? QSize(0, zoomed(m_grid.rowHeight(headerIndex), m_zoom))
+                                           : QSize(zoomed(m_grid.colWidth(headerIndex), m_zoom), 0);
+}
+
+void GridHeader::setZoom(int zoom) {
+    m_zoom = zoom;
+    updateGeometry();
 }
 
 // The active cell, or a selected one, lies in it.
@@ -91,6 +96,6 @@ void GridHeader::paintSection(QPainter* painter, const QRect& rect, int section)
     drawHeaderCell(*painter, whole,
                    isCol ? columnHeaderText(m_grid, anchor) : rowHeaderText(m_grid, anchor),
                    isCol ? m_grid.look(anchor, headerIndex) : m_grid.look(headerIndex, anchor),
-                   palette(), isChosen(index));
+                   palette(), isChosen(index), m_zoom);
     painter->restore();
 }

@@ -11,6 +11,8 @@ class GridHeader : public QHeaderView {
 
     /// As high, or wide, as the grid says.
     QSize sizeHint() const override;
+    /// Percent.
+    void setZoom(int zoom);
 
   protected:
     void paintSection(QPainter* painter, const QRect& rect, int section) const override;
@@ -20,8 +22,9 @@ class GridHeader : public QHeaderView {
     QRect spanned(const QRect& rect, int index, int& anchor) const;
 
     const control::Grid& m_grid;
+    int m_zoom = 100;
 };
 
 /// Draws one header cell, the corner too.
 void drawHeaderCell(QPainter& painter, const QRect& rect, const QString& text,
-                    const control::Look& look, const QPalette& palette, bool isChosen);
+                    const control::Look& look, const QPalette& palette, bool isChosen, int zoom);

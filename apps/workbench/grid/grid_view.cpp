@@ -24,7 +24,8 @@ GridView::GridView(TSpread& spread, QWidget* parent)
       m_layout(spread.grid(), *this),
       m_editor(spread, *this,
                {[this](QKeyEvent& key) { return editorKey(key); },
-                [this](const QString& why) { refuse(why); }, [this] { m_bubble->hide(); }}),
+                [this](const QString& why) { refuse(why); }, [this] { m_bubble->hide(); },
+                [this](QPlainTextEdit* field) { emit fieldOpened(field); }}),
       m_bubble(new MessageBubble(this)) {
     static const bool isMeasuring = (measureWithCellFonts(), true);
     Q_UNUSED(isMeasuring)
@@ -69,9 +70,9 @@ void GridView::connectHeaders() {
     connect(rows, &QHeaderView::sectionResized, this,
             [this](int s, int, int size) { setHeightByUser(s, size); });
     connect(cols, &QHeaderView::sectionHandleDoubleClicked, this,
-            [this](int s) { setWidthByUser(s, grid().fitWidth(s + 1)); });
+            [this](int s) { fitByUser(true, s + 1); });
     connect(rows, &QHeaderView::sectionHandleDoubleClicked, this,
-            [this](int s) { setHeightByUser(s, grid().fitHeight(s + 1)); });
+            [this](int s) { fitByUser(false, s + 1); });
     if (auto* corner = findChild<QAbstractButton*>(QString(), Qt::FindDirectChildrenOnly))
         corner->installEventFilter(this);
 }
@@ -91,6 +92,16 @@ void GridView::sync() {
     viewport()->update();
     horizontalHeader()->viewport()->update();
     verticalHeader()->viewport()->update();
+}
+
+void GridView::setZoom(int percent) {
+    m_zoom = percent;
+    m_painter.setZoom(percent);
+    m_layout.setZoom(percent);
+    m_editor.setZoom(percent);
+    for (QHeaderView* header : {horizontalHeader(), verticalHeader()})
+        static_cast<GridHeader*>(header)->setZoom(percent);
+    sync();
 }
 
 void GridView::followColours() {
@@ -113,13 +124,19 @@ void GridView::followActive() {
 // A size that the user gave a column or row.
 void GridView::setWidthByUser(int section, int size) {
     if (m_layout.isFollowing()) return;
-    grid().setColWidth(section + 1, size);
+    m_spread.userSizesCol(section + 1, zoomed(size, 10000 / m_zoom));
     sync();
 }
 
 void GridView::setHeightByUser(int section, int size) {
     if (m_layout.isFollowing()) return;
-    grid().setRowHeight(section + 1, size);
+    m_spread.userSizesRow(section + 1, zoomed(size, 10000 / m_zoom));
+    sync();
+}
+
+void GridView::fitByUser(bool isCol, int index) {
+    isCol ? m_spread.userSizesCol(index, grid().fitWidth(index))
+          : m_spread.userSizesRow(index, grid().fitHeight(index));
     sync();
 }
 
@@ -171,7 +188,7 @@ void GridView::drawCorner(QWidget& corner) const {
     std::string buffer;
     const auto text = grid().text(headerIndex, headerIndex, control::Reading::data, buffer);
     drawHeaderCell(painter, corner.rect(), toQt(text), grid().look(headerIndex, headerIndex),
-                   palette(), false);
+                   palette(), false, m_zoom);
 }
 
 bool GridView::eventFilter(QObject* watched, QEvent* event) {

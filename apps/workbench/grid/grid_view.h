@@ -25,12 +25,21 @@ class GridView : public QTableView {
     /// Cheap when nothing changed.
     void sync();
 
+    /// Percent: 100 shows pixels of the grid as pixels of the screen.
+    void setZoom(int percent);
+    int zoom() const { return m_zoom; }
+
     /// Enters what is being typed. False, with the reason shown, when the cell refuses it; the
     /// field stays open.
     bool commitEdit();
     bool isEditing() const { return m_editor.isOpen(); }
+    /// The field that is typed in; null while there is none.
+    QPlainTextEdit* field() const { return m_editor.field(); }
     /// The reason shown beside a cell that refused what was typed; empty when there is none.
     QString refusal() const;
+
+    /// Shows beside the active cell why something was not done.
+    void refuse(const QString& why);
 
     /// Selects the whole sheet.
     void selectAll() override;
@@ -38,6 +47,8 @@ class GridView : public QTableView {
   signals:
     /// A cell refused what was typed, for the reason given; it is shown beside the cell, too.
     void refused(const QString& why);
+    /// A cell is typed into from now on.
+    void fieldOpened(QPlainTextEdit* field);
 
   protected:
     bool event(QEvent* event) override;
@@ -75,6 +86,7 @@ class GridView : public QTableView {
     void drawCorner(QWidget& corner) const;
     void setWidthByUser(int section, int size);
     void setHeightByUser(int section, int size);
+    void fitByUser(bool isCol, int index);
     QString tipAt(const QPoint& point) const;
 
     // grid_view_keys.cpp
@@ -104,7 +116,6 @@ class GridView : public QTableView {
     void press(Cell cell);
     void toggleAt(Cell cell, const QPoint& point);
 
-    void refuse(const QString& why);
     void showWhyClosed(Cell cell);
 
     TSpread& m_spread;
@@ -113,6 +124,8 @@ class GridView : public QTableView {
     LayoutFollower m_layout;
     InCellEditor m_editor;
     MessageBubble* m_bubble;
+
+    int m_zoom = 100;
 
     // Where a selection started and where it was last extended to; what it selected, so that one
     // that was made elsewhere starts anew.

@@ -122,7 +122,7 @@ void InCellEditor::open() {
     const control::Grid& grid = m_spread.grid();
     const control::Look& look = grid.look(grid.active().col, grid.active().row);
     m_field = new Field(m_view.viewport(), m_view.palette());
-    m_field->setFont(cellFont(look.font).font);
+    m_field->setFont(cellFont(look.font, m_zoom).font);
     m_field->setReadOnly(look.type.kind == control::CellKind::comboBox && !look.type.editable);
     m_field->installEventFilter(this);
     show(toQt(grid.editText()), grid.editSelection());
@@ -134,6 +134,7 @@ void InCellEditor::open() {
     place();
     m_field->show();
     if (hadFocus) m_field->setFocus();
+    m_hooks.opened(m_field);
 }
 
 void InCellEditor::close() {

@@ -19,6 +19,7 @@ class InCellEditor : public QObject {
         std::function<void(const QString& why)> refused;
         /// The text was changed by hand.
         std::function<void()> typed;
+        std::function<void(QPlainTextEdit*)> opened;
     };
     InCellEditor(TSpread& spread, QTableView& view, Hooks hooks);
 
@@ -33,6 +34,8 @@ class InCellEditor : public QObject {
     /// What was not changed is not entered: a formula's result would take the formula's place.
     bool commit();
     void cancel();
+    /// Percent, for the next field.
+    void setZoom(int zoom) { m_zoom = zoom; }
     /// Shows what the grid's edit mode is now.
     void follow();
     void place();
@@ -55,4 +58,5 @@ class InCellEditor : public QObject {
     QPointer<QPlainTextEdit> m_field;
     QString m_kept;  // the text before the last change
     bool m_isShowing = false;
+    int m_zoom = 100;
 };

@@ -4,6 +4,8 @@
 #include <QSignalBlocker>
 #include <QTableView>
 
+#include "grid/cell_font.h"
+
 namespace {
 
 // Sections that were taken away come back with the usual size.
@@ -15,12 +17,14 @@ void forgetBeyond(std::map<int, int>& sizes, std::set<int>& hidden, int count) {
 }  // namespace
 
 bool LayoutFollower::follow() {
-    const bool isSame = m_revision == m_grid.sidesRevision() && m_colCount == m_grid.cols() &&
-                        m_rowCount == m_grid.rows();
+    const bool isSame = m_zoom == m_shownZoom && m_revision == m_grid.sidesRevision() &&
+                        m_colCount == m_grid.cols() && m_rowCount == m_grid.rows();
     if (isSame) return false;
     m_revision = m_grid.sidesRevision();
     m_colCount = m_grid.cols();
     m_rowCount = m_grid.rows();
+    if (m_zoom != m_shownZoom) m_cols.sizes = m_rows.sizes = {};
+    m_shownZoom = m_zoom;
     m_isFollowing = true;
     const control::SideTables& sides = m_grid.sides();
     followBand(*m_view.horizontalHeader(), sides.cols, m_colCount, m_cols);
@@ -33,21 +37,22 @@ bool LayoutFollower::follow() {
 }
 
 void LayoutFollower::followBand(QHeaderView& header, const control::Band& band, int count,
-                                Sections& known) {
+                                Sections& known) const {
     forgetBeyond(known.sizes, known.hidden, count);
     // Without updates a header does not look for the place of each section that changes, which
     // would take the square of their number; without signals the view does not lay out each time.
     const QSignalBlocker blocker(header);
     header.setUpdatesEnabled(false);
-    if (header.defaultSectionSize() != band.defaultSize) {
-        header.setDefaultSectionSize(band.defaultSize);
+    const int usual = zoomed(band.defaultSize, m_zoom);
+    if (header.defaultSectionSize() != usual) {
+        header.setDefaultSectionSize(usual);
         known.sizes.clear();  // all sections have the usual size now
     }
     if (known.sizes != band.sizes) {
         for (const auto& [index, size] : known.sizes)
-            if (!band.sizes.contains(index)) header.resizeSection(index - 1, band.defaultSize);
+            if (!band.sizes.contains(index)) header.resizeSection(index - 1, usual);
         for (const auto& [index, size] : band.sizes)
-            if (index <= count) header.resizeSection(index - 1, size);
+            if (index <= count) header.resizeSection(index - 1, zoomed(size, m_zoom));
         known.sizes = band.sizes;
     }
     if (known.hidden != band.hidden) {

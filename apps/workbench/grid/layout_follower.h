@@ -17,6 +17,8 @@ class LayoutFollower {
 
     /// True when anything but cells may have changed since the last time.
     bool follow();
+    /// Percent.
+    void setZoom(int zoom) { m_zoom = zoom; }
     /// While it passes sizes on, what the headers tell is not a user's doing.
     bool isFollowing() const { return m_isFollowing; }
 
@@ -25,8 +27,8 @@ class LayoutFollower {
         std::map<int, int> sizes;
         std::set<int> hidden;
     };
-    static void followBand(QHeaderView& header, const control::Band& band, int count,
-                           Sections& known);
+    void followBand(QHeaderView& header, const control::Band& band, int count,
+                    Sections& known) const;
     void followSpans();
 
     const control::Grid& m_grid;
@@ -37,5 +39,7 @@ class LayoutFollower {
     uint64_t m_revision = 0;
     int m_colCount = -1;
     int m_rowCount = -1;
+    int m_zoom = 100;
+    int m_shownZoom = 100;
     bool m_isFollowing = false;
 };

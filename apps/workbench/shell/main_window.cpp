@@ -21,6 +21,7 @@
 #include "run/example_values.h"
 #include "run/run_page.h"
 #include "sections/table_page.h"
+#include "sheet/sheet_page.h"
 #include "shell/help_window.h"
 #include "shell/settings_dialog.h"
 #include "shell/start_page.h"
@@ -61,6 +62,8 @@ MainWindow::MainWindow(WorkbenchSettings settings)
     m_pages->setTabsClosable(true);
     m_pages->setDocumentMode(true);
     m_pages->setMovable(true);
+    setAcceptDrops(true);
+    connect(m_pages, &QTabWidget::currentChanged, this, [this] { followPage(); });
     connect(m_pages, &QTabWidget::tabCloseRequested, this, [this](int index) { closePage(index); });
     setCentralWidget(m_pages);
     m_tree->setOpener([this](LibraryKind kind, const Vor_String& path) { open(kind, path); });
@@ -74,7 +77,11 @@ MainWindow::MainWindow(WorkbenchSettings settings)
             [this] { m_refreshSoon.start(); });
 }
 
-MainWindow::~MainWindow() = default;
+// Pages use the window system, which is a part of this.
+MainWindow::~MainWindow() {
+    m_pages->disconnect(this);
+    while (m_pages->count() > 0) delete m_pages->widget(0);
+}
 
 void MainWindow::makeDocks() {
     auto* library = new QWidget;
@@ -103,17 +110,20 @@ void MainWindow::makeDocks() {
 void MainWindow::makeMenus() {
     makeFileMenu();
     addStarters(*menuBar()->addMenu(word(wordModule)), m_moduleData);
-    QMenu* view = menuBar()->addMenu(word(wordView));
+    QMenu* view = m_viewMenu = menuBar()->addMenu(word(wordView));
     for (QDockWidget* dock : findChildren<QDockWidget*>())
         view->addAction(dock->toggleViewAction());
     view->addSeparator();
     view->addAction(word(wordReload), QKeySequence(Qt::Key_F5), this, [this] { libraryChanged(); });
     view->addAction(word(wordStart), this, [this] { showStartPage(); });
     makeHelpMenu();
+    followPage();
 }
 
 void MainWindow::makeFileMenu() {
     QMenu* file = menuBar()->addMenu(word(wordFile));
+    addSheetFileActions(*file);
+    file->addSeparator();
     file->addAction(word(wordOpenLibrary), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_O), this,
                     [this] { askForLibrary(); });
     m_recentMenu = file->addMenu(word(wordRecentLibraries));
@@ -242,8 +252,9 @@ QWidget* MainWindow::pageOf(const QString& key) const {
     return nullptr;
 }
 
-void MainWindow::showPage(QWidget* page, const QString& title, const QString& tip) {
-    page->setProperty(keyProperty, tip);
+void MainWindow::showPage(QWidget* page, const QString& title, const QString& tip,
+                          const QString& key) {
+    page->setProperty(keyProperty, key.isEmpty() ? tip : key);
     const int index = m_pages->addTab(page, title);
     m_pages->setTabToolTip(index, tip);
     m_pages->setCurrentIndex(index);
@@ -274,12 +285,15 @@ void MainWindow::closePage(int index) {
 /// Asks about changes that were not saved; false keeps the page.
 bool MainWindow::mayClose(QWidget* page) {
     auto* macro = dynamic_cast<MacroPage*>(page);
-    if (!macro || !macro->isChanged()) return true;
+    auto* sheet = dynamic_cast<SheetPage*>(page);
+    const bool isChanged = (macro && macro->isChanged()) || (sheet && sheet->isChanged());
+    if (!isChanged) return true;
     m_pages->setCurrentWidget(page);
     const MessageBox question{"Vormant", dialString(wordSaveChanges).str(), MessageIcon::question,
                               MessageButtons::yesNoCancel};
     const int answer = showMessage(question);
-    return answer == IDNO || (answer == IDYES && macro->save());
+    if (answer == IDYES) return macro ? macro->save() : sheet->save();
+    return answer == IDNO;
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {
@@ -308,6 +322,8 @@ QWidget* MainWindow::openFile(const QString& path) {
         complain(path + ": " + word(wordNoSuchFile));
         return nullptr;
     }
+    const bool isStandard = path.endsWith(".tws", Qt::CaseInsensitive);
+    if (!isStandard && isSheetPath(*inside)) return openSheet(Vor_String(*inside));
     const bool isMacro = path.endsWith(".macro", Qt::CaseInsensitive);
     return open(isMacro ? LibraryKind::macro : LibraryKind::standard, Vor_String(*inside));
 }
@@ -363,6 +379,7 @@ RunPage* MainWindow::openStandard(const Vor_String& path) {
     std::string refusal;
     for (const auto& [name, value] : exampleValues(path)) session->setValue(name, value, refusal);
     auto* page = new RunPage(std::move(session));
+    page->setSheetOpener([this](const Vor_String& sheet) { openSheet(sheet); });
     page->setAuthor(QString::fromStdString(m_settings.author));
     showPage(page, toQt(removeExtension(getFileName(path))), key);
     return page;

@@ -4,6 +4,7 @@
 
 #include <QFileSystemWatcher>
 #include <QMainWindow>
+#include <QPointer>
 #include <QTabWidget>
 #include <QTimer>
 
@@ -16,6 +17,7 @@
 
 class QLineEdit;
 class RunPage;
+class SheetPage;
 
 class MainWindow : public QMainWindow {
   public:
@@ -35,6 +37,11 @@ class MainWindow : public QMainWindow {
 
     /// As if the user had confirmed them in the dialog of the settings.
     void take(WorkbenchSettings changed);
+    /// A document, or a text file of other programs, to be edited; null after telling why.
+    SheetPage* openSheet(const Vor_String& path);
+    SheetPage* newSheet();
+    /// The sheet in front; null when another page is.
+    SheetPage* currentSheet() const;
 
     LibraryTree& tree() { return *m_tree; }
     CommandPane& commandPane() { return *m_pane; }
@@ -55,12 +62,23 @@ class MainWindow : public QMainWindow {
     void closePage(int index);
     bool mayClose(QWidget* page);
     void closeEvent(QCloseEvent* event) override;
-    void showPage(QWidget* page, const QString& title, const QString& tip);
+    /// `key` finds the page again; empty for the tip.
+    void showPage(QWidget* page, const QString& title, const QString& tip, const QString& key = {});
     QWidget* pageOf(const QString& key) const;
     void watchLibrary();
     void libraryChanged();
     void complain(const QString& text);
     void save();
+
+    // main_window_sheets.cpp
+    void addSheetFileActions(QMenu& file);
+    void askForFile();
+    void exportSheet(const char* extension, int filterName);
+    SheetPage* showSheet(SheetPage* page);
+    void showTitle(SheetPage& page);
+    void followPage();
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
 
     QtWindowSystem m_windows;
     CWnd m_hostWindow;  ///< stands for this window in the module
@@ -73,6 +91,11 @@ class MainWindow : public QMainWindow {
     std::optional<HostSession> m_session;  ///< until the window is closed
     QMenu* m_recentMenu = nullptr;
     QLineEdit* m_search = nullptr;
+    QPointer<QMenu> m_viewMenu;
+    QList<QPointer<QMenu>> m_pageMenus;  ///< of the page in front
+    QList<QAction*> m_sheetActions;      ///< that need a sheet in front
+    QAction* m_saveAction = nullptr;
+    int m_newSheets = 0;
     QFileSystemWatcher m_watcher;
     QTimer m_refreshSoon;
     bool m_isGone = false;  ///< the library folder was told to be missing

@@ -26,6 +26,7 @@ extern const std::span<const TextRow> cutstockTexts;
 extern const std::span<const TextRow> frameTexts;
 extern const std::span<const TextRow> workbenchTexts;
 extern const std::span<const TextRow> startersTexts;
+extern const std::span<const TextRow> sheetWindowTexts;
 
 /// One a line, so that tables can be added side by side.
 inline auto allTables() {
@@ -41,6 +42,7 @@ inline auto allTables() {
         cutstockTexts,     //
         frameTexts,        //
         workbenchTexts,    //
+        sheetWindowTexts,  //
         startersTexts,
     };
 }

@@ -13,8 +13,10 @@ namespace printing {
 using control::CellKind;
 using control::Grid;
 using control::headerIndex;
+using control::Look;
 using control::Reading;
 using control::Span;
+using control::ValueType;
 
 namespace {
 
@@ -80,6 +82,24 @@ class CellPlacer {
         return cell;
     }
 
+    // What its value decides on a screen is decided here, as only texts are printed.
+    Look alignedLook(int col, int row) const {
+        Look look = m_grid.look(col, row);
+        if (look.alignment != 0) return look;
+        switch (m_grid.sheet().value(col, row).type()) {
+            case ValueType::number:
+                look.alignment = 2;
+                break;
+            case ValueType::boolean:
+            case ValueType::error:
+                look.alignment = 3;
+                break;
+            default:
+                break;
+        }
+        return look;
+    }
+
     // A merged cell is placed once, at the first of its cells that the page shows.
     void placeCell(size_t c, size_t r, std::vector<PrintedCell>& cells) const {
         int col = m_page.cols[c], row = m_page.rows[r];
@@ -99,7 +119,7 @@ class CellPlacer {
         }
         cells.push_back({rect(m_x[c], m_y[r], m_x[lastCol + 1], m_y[lastRow + 1]),
                          m_grid.text(col, row, Reading::data),
-                         m_grid.look(col, row),
+                         alignedLook(col, row),
                          m_pixel,
                          false,
                          {}});

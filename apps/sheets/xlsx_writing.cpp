@@ -12,10 +12,9 @@
 #include <unordered_map>
 
 #include "platform/encodings.h"
-#include "sheets/eval_record.h"
-#include "sheets/sheet_file.h"
+#include "sheets/sheet_writing.h"
 
-namespace cli {
+namespace sheets {
 
 namespace {
 
@@ -308,4 +307,4 @@ std::optional<std::string> sheetAsXlsx(const control::Grid& grid, std::string& e
     return std::nullopt;
 }
 
-}  // namespace cli
+}  // namespace sheets

@@ -1,0 +1,158 @@
+#include "sheet/frozen_panes.h"
+
+#include <QCoreApplication>
+#include <QHeaderView>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QScrollBar>
+
+#include "grid/grid_header.h"
+
+class FrozenPane : public QTableView {
+  public:
+    FrozenPane(TSpread& spread, QTableView& view)
+        : QTableView(&view),
+          m_spread(spread),
+          m_model(spread.grid(), nullptr),
+          m_painter(spread.grid(), nullptr),
+          m_layout(spread.grid(), *this) {
+        setHorizontalHeader(new GridHeader(spread.grid(), Qt::Horizontal, this));
+        setVerticalHeader(new GridHeader(spread.grid(), Qt::Vertical, this));
+        for (QHeaderView* header : {horizontalHeader(), verticalHeader()})
+            header->setSectionResizeMode(QHeaderView::Fixed);
+        setItemDelegate(&m_painter);
+        setFrameShape(QFrame::NoFrame);
+        setFocusPolicy(Qt::NoFocus);
+        setSelectionMode(QAbstractItemView::NoSelection);
+        setEditTriggers(QAbstractItemView::NoEditTriggers);
+        setShowGrid(false);
+        setWordWrap(false);
+        setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
+        setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
+        setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+        setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+        setModel(&m_model);
+        hide();
+    }
+
+    void setZoom(int percent) {
+        m_painter.setZoom(percent);
+        m_layout.setZoom(percent);
+        for (QHeaderView* header : {horizontalHeader(), verticalHeader()})
+            static_cast<GridHeader*>(header)->setZoom(percent);
+    }
+    void follow(bool hasColHeader, bool hasRowHeader) {
+        m_model.follow();
+        m_layout.follow();
+        const control::SideTables& sides = m_spread.grid().sides();
+        horizontalHeader()->setVisible(hasColHeader && sides.columnHeaders);
+        verticalHeader()->setVisible(hasRowHeader && sides.rowHeaders);
+        viewport()->update();
+        horizontalHeader()->viewport()->update();
+        verticalHeader()->viewport()->update();
+    }
+
+  protected:
+    void mousePressEvent(QMouseEvent* event) override {
+        const QModelIndex index = indexAt(event->position().toPoint());
+        if (!index.isValid()) return;
+        parentWidget()->setFocus(Qt::MouseFocusReason);
+        m_spread.userMoves(index.column() + 1, index.row() + 1);
+    }
+    void mouseMoveEvent(QMouseEvent* event) override {
+        const QModelIndex index = indexAt(event->position().toPoint());
+        const auto [col, row] = m_spread.grid().active();
+        if (!index.isValid() || !(event->buttons() & Qt::LeftButton)) return;
+        m_spread.userSelects({std::min(col, index.column() + 1), std::min(row, index.row() + 1),
+                              std::max(col, index.column() + 1), std::max(row, index.row() + 1)});
+    }
+    void mouseDoubleClickEvent(QMouseEvent*) override {
+        QKeyEvent edit(QEvent::KeyPress, Qt::Key_F2, Qt::NoModifier);
+        QCoreApplication::sendEvent(parentWidget(), &edit);
+    }
+    void paintEvent(QPaintEvent* event) override {
+        QTableView::paintEvent(event);
+        const auto [col, row] = m_spread.grid().active();
+        QPainter painter(viewport());
+        painter.setPen(QPen(palette().color(QPalette::Highlight), 2));
+        const QRect active = visualRect(m_model.index(row - 1, col - 1));
+        if (!active.isEmpty()) painter.drawRect(active.adjusted(1, 1, -2, -2));
+    }
+
+  private:
+    TSpread& m_spread;
+    GridModel m_model;
+    CellPainter m_painter;
+    LayoutFollower m_layout;
+};
+
+FrozenPanes::FrozenPanes(TSpread& spread, QTableView& view)
+    : QObject(&view),
+      m_grid(spread.grid()),
+      m_view(view),
+      m_top(new FrozenPane(spread, view)),
+      m_left(new FrozenPane(spread, view)),
+      m_corner(new FrozenPane(spread, view)) {
+    connect(view.horizontalScrollBar(), &QScrollBar::valueChanged, m_top->horizontalScrollBar(),
+            &QScrollBar::setValue);
+    connect(view.verticalScrollBar(), &QScrollBar::valueChanged, m_left->verticalScrollBar(),
+            &QScrollBar::setValue);
+    view.installEventFilter(this);
+}
+
+void FrozenPanes::freeze(int cols, int rows) {
+    m_cols = std::clamp(cols, 0, m_grid.cols() - 1);
+    m_rows = std::clamp(rows, 0, m_grid.rows() - 1);
+    follow();
+}
+
+QSize FrozenPanes::covered() const {
+    const QHeaderView& cols = *m_view.horizontalHeader();
+    const QHeaderView& rows = *m_view.verticalHeader();
+    return {m_cols > 0 ? cols.sectionPosition(m_cols) : 0,
+            m_rows > 0 ? rows.sectionPosition(m_rows) : 0};
+}
+
+void FrozenPanes::setZoom(int percent) {
+    for (FrozenPane* pane : {m_top, m_left, m_corner}) pane->setZoom(percent);
+    follow();
+}
+
+void FrozenPanes::setShown(bool shown) {
+    m_isShown = shown;
+    place();
+}
+
+void FrozenPanes::follow() {
+    if (isFrozen()) {
+        m_top->follow(false, true);
+        m_left->follow(true, false);
+        m_corner->follow(true, true);
+    }
+    place();
+}
+
+void FrozenPanes::place() {
+    m_top->setVisible(m_isShown && m_rows > 0);
+    m_left->setVisible(m_isShown && m_cols > 0);
+    m_corner->setVisible(m_isShown && m_rows > 0 && m_cols > 0);
+    if (!isFrozen()) return;
+    const QRect cells = m_view.viewport()->geometry();
+    const int frame = m_view.frameWidth();
+    const QSize size = covered();
+    m_top->setGeometry(frame, cells.top(), cells.right() + 1 - frame, size.height());
+    m_left->setGeometry(cells.left(), frame, size.width(), cells.bottom() + 1 - frame);
+    m_corner->setGeometry(frame, frame, cells.left() - frame + size.width(),
+                          cells.top() - frame + size.height());
+    m_top->horizontalScrollBar()->setValue(m_view.horizontalScrollBar()->value());
+    m_left->verticalScrollBar()->setValue(m_view.verticalScrollBar()->value());
+    m_corner->raise();
+}
+
+bool FrozenPanes::eventFilter(QObject* watched, QEvent* event) {
+    const bool resizes = event->type() == QEvent::Resize || event->type() == QEvent::LayoutRequest;
+    if (watched == &m_view && resizes)
+        QMetaObject::invokeMethod(
+            this, [this] { place(); }, Qt::QueuedConnection);
+    return false;
+}

@@ -1,0 +1,45 @@
+// A sheet and the file it comes from: opening, saving, importing and exporting, and whether another
+// program changed the file meanwhile. Paths are the module's own (platform/paths.h); reasons are in
+// Windows-1252.
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "platform/files.h"
+#include "sheet/sheet_spread.h"
+
+class SheetFile {
+  public:
+    /// An empty sheet without a file.
+    void startNew();
+    /// A document, or a text file (".csv"), which stays without a file of its own: what is saved
+    /// becomes a document. False with the reason, and the sheet as it was.
+    bool open(const std::string& path, std::string& error);
+    /// Writes a document. False with the reason, and the old file whole.
+    bool save(const std::string& path, std::string& error);
+    /// By the extension: ".csv" or ".xlsx".
+    bool exportTo(const std::string& path, std::string& error) const;
+
+    /// Empty while the sheet has no file.
+    const std::string& path() const { return m_path; }
+    /// Another program wrote or removed the file since it was opened or saved.
+    bool isChangedOnDisk() const;
+    bool isStandard() const;
+
+    SheetSpread& spread() { return m_spread; }
+    editor::SheetEditor& editor() { return m_spread.editor(); }
+    bool isChanged() const { return !m_spread.editor().isSaved() || m_isImported; }
+
+  private:
+    bool import(const std::string& path, std::string& error);
+
+    SheetSpread m_spread;
+    std::string m_path;
+    std::optional<files::Stamp> m_stamp;
+    bool m_isImported = false;  ///< holds what no document has yet
+};
+
+/// Extensions, letter case aside: those of the control's documents, and of text files.
+bool isSheetPath(std::string_view path);
+bool isCsvPath(std::string_view path);

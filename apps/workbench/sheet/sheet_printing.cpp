@@ -1,0 +1,95 @@
+#include "sheet/sheet_printing.h"
+
+#include <QPainter>
+#include <QPdfWriter>
+#include <QPrintDialog>
+#include <QPrintPreviewDialog>
+#include <QPrinter>
+#include <QSaveFile>
+
+#include "sheet/page_painter.h"
+#include "spread/tw_sheet_settings.h"
+#include "window/dialog_font.h"
+
+namespace {
+
+constexpr double millimetresPerInch = 25.4;
+constexpr int pdfResolution = 300;
+
+TwSheetSettings settingsOf(const SheetSpread& spread) {
+    TwSheetSettings settings;
+    settings.readFromSheet(spread);
+    return settings;
+}
+
+printing::Paper paperOf(const QPageSize& size) {
+    const QSizeF millimetres = size.size(QPageSize::Millimeter);
+    return {millimetres.width(), millimetres.height()};
+}
+
+printing::PrintJob jobFor(SheetSpread& spread, const printing::Paper& paper) {
+    return printing::PrintJob(spread.grid(), settingsOf(spread), paper);
+}
+
+void setUp(QPagedPaintDevice& device, bool isLandscape) {
+    device.setPageOrientation(isLandscape ? QPageLayout::Landscape : QPageLayout::Portrait);
+    device.setPageMargins(QMarginsF(), QPageLayout::Millimeter);
+}
+
+}  // namespace
+
+bool printSheet(SheetSpread& spread, QPagedPaintDevice& device) {
+    const printing::PrintJob job = jobFor(spread, paperOf(device.pageLayout().pageSize()));
+    setUp(device, job.layout().isLandscape);
+    auto* printer = dynamic_cast<QPrinter*>(&device);
+    if (printer) printer->setFullPage(true);
+    int first = 0, last = job.pageCount() - 1;
+    if (printer && printer->fromPage() > 0) {
+        first = std::clamp(printer->fromPage() - 1, 0, last);
+        last = std::clamp(printer->toPage() - 1, first, last);
+    }
+    QPainter painter;
+    if (!painter.begin(&device)) return false;
+    const double dots = device.logicalDpiX() / millimetresPerInch;
+    for (int page = first; page <= last; ++page) {
+        if (page > first) device.newPage();
+        paintPage(painter, job.page(page), dots);
+    }
+    return painter.end();
+}
+
+bool writeSheetPdf(SheetSpread& spread, const QString& path, QString& error) {
+    QSaveFile file(path);
+    bool isDone = file.open(QIODevice::WriteOnly);
+    if (isDone) {
+        QPdfWriter writer(&file);
+        writer.setResolution(pdfResolution);
+        writer.setPageSize(QPageSize(QPageSize::A4));
+        isDone = printSheet(spread, writer);
+    }
+    if (isDone && file.commit()) return true;
+    error = path + ": " + file.errorString();
+    return false;
+}
+
+void askAndPrint(SheetSpread& spread, QWidget* parent) {
+    QPrinter printer(QPrinter::HighResolution);
+    QPrintDialog dialog(&printer, parent);
+    if (dialog.exec() == QDialog::Accepted) printSheet(spread, printer);
+}
+
+void previewSheet(SheetSpread& spread, QWidget* parent) {
+    QPrinter printer(QPrinter::HighResolution);
+    QPrintPreviewDialog dialog(&printer, parent);
+    dialog.resize(900, 700);
+    QObject::connect(&dialog, &QPrintPreviewDialog::paintRequested, &dialog,
+                     [&](QPrinter* device) { printSheet(spread, *device); });
+    dialog.exec();
+}
+
+QString printProblems(SheetSpread& spread) {
+    QString lines;
+    const printing::PrintJob job = jobFor(spread, {});
+    for (const std::string& problem : job.problems()) lines += toQt(problem) + "\n";
+    return lines.trimmed();
+}

@@ -1,0 +1,20 @@
+// Sheets on paper: printers, their preview and PDF files.
+#pragma once
+
+#include <QString>
+
+#include "sheet/sheet_spread.h"
+
+class QPagedPaintDevice;
+class QWidget;
+
+/// Every page of the sheet on `device`, whose paper is taken and turned as the sheet needs it; its
+/// margins are set to none, those of the sheet count. False when the device cannot begin.
+bool printSheet(SheetSpread& spread, QPagedPaintDevice& device);
+/// A4. False, with why, when the file cannot be written; the old one is kept then.
+bool writeSheetPdf(SheetSpread& spread, const QString& path, QString& error);
+/// Asks for a printer, or shows the pages first.
+void askAndPrint(SheetSpread& spread, QWidget* parent);
+void previewSheet(SheetSpread& spread, QWidget* parent);
+/// What is wrong with the header or footer files, a line each; the sheet is printed without them.
+QString printProblems(SheetSpread& spread);

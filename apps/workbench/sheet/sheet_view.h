@@ -1,0 +1,43 @@
+// The cells of the sheet editor: a grid that also shows the references of a formula being typed,
+// takes references by the mouse, and marks what means something in a standard.
+#pragma once
+
+#include "grid/grid_view.h"
+#include "sheet/formula_typing.h"
+#include "sheet/frozen_panes.h"
+#include "sheet/standard_marks.h"
+
+class SheetView : public GridView {
+  public:
+    SheetView(TSpread& spread, QWidget* parent);
+
+    void setMarks(const FormulaTyping::Marks& marks);
+    /// Null takes the marks of standards away.
+    void setStandardMarks(std::shared_ptr<const StandardMarks> marks);
+    FormulaTyping* typing() const { return m_typing; }
+
+    FrozenPanes& frozen() { return *m_frozen; }
+    /// As the grid's view, with what is frozen.
+    void sync();
+    void setZoom(int percent);
+    void scrollTo(const QModelIndex& index, ScrollHint hint = EnsureVisible) override;
+
+  protected:
+    void paintEvent(QPaintEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
+
+  private:
+    QRect rectOf(const control::Block& block) const;
+    void drawStandard(QPainter& painter) const;
+    std::optional<control::CellAddress> cellAt(const QPointF& point) const;
+
+    const control::Grid& m_grid;
+    FrozenPanes* m_frozen;
+    FormulaTyping::Marks m_marks;
+    std::shared_ptr<const StandardMarks> m_standard;
+    QPointer<FormulaTyping> m_typing;
+    std::optional<control::CellAddress> m_pointedFrom;
+};

@@ -1,0 +1,168 @@
+// Sheets in the main window: their pages, what the File menu does with them, and files that are
+// dropped on the window.
+#include <QDragEnterEvent>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QMenuBar>
+#include <QMimeData>
+
+#include "core_api/text/text_helpers.h"
+#include "macro/macro_page.h"
+#include "platform/paths.h"
+#include "platform/window/file_question.h"
+#include "sheet/say.h"
+#include "sheet/sheet_commands.h"
+#include "sheet/sheet_page.h"
+#include "sheet/sheet_printing.h"
+#include "shell/main_window.h"
+
+namespace {
+
+QString machinePath(const std::string& path) {
+    return QString::fromStdString(paths::toMachine(path));
+}
+
+// The same file however it is written.
+bool isSameFile(const std::string& a, const std::string& b) {
+    if (a.empty() || b.empty()) return false;
+    const QFileInfo first(machinePath(a)), second(machinePath(b));
+    return first.exists() && first.canonicalFilePath() == second.canonicalFilePath();
+}
+
+}  // namespace
+
+void MainWindow::addSheetFileActions(QMenu& file) {
+    m_sheetActions.clear();  // those of another language
+    const auto add = [&](QMenu& menu, int word, const QKeySequence& keys, auto action) {
+        return menu.addAction(say(word), keys, this, action);
+    };
+    const auto addForSheet = [&](QMenu& menu, int word, const QKeySequence& keys, auto action) {
+        m_sheetActions += add(menu, word, keys, [this, action] {
+            if (SheetPage* page = currentSheet(); page && page->commitEdit()) action(*page);
+        });
+    };
+    add(file, sayNewSheet, Qt::CTRL | Qt::Key_N, [this] { newSheet(); });
+    add(file, sayOpenFile, Qt::CTRL | Qt::Key_O, [this] { askForFile(); });
+    file.addSeparator();
+    m_saveAction = add(file, saySave, Qt::CTRL | Qt::Key_S, [this] {
+        if (auto* macro = dynamic_cast<MacroPage*>(m_pages->currentWidget())) macro->save();
+        if (SheetPage* page = currentSheet()) page->save();
+    });
+    addForSheet(file, saySaveAs, Qt::CTRL | Qt::SHIFT | Qt::Key_S,
+                [](SheetPage& page) { page.saveAs(); });
+    QMenu& exports = *file.addMenu(say(sayExportAs));
+    const std::pair<const char*, int> formats[] = {
+        {"xlsx", sayXlsxFilter}, {"csv", sayCsvFilter}, {"pdf", sayPdfFilter}};
+    for (const auto& [extension, name] : formats)
+        m_sheetActions += exports.addAction(
+            say(name) + " (*." + extension + ")…", this,
+            [this, extension = extension, name = name] { exportSheet(extension, name); });
+    m_sheetActions += exports.menuAction();
+    file.addSeparator();
+    addForSheet(file, sayPrintPreview, {},
+                [](SheetPage& page) { previewSheet(page.spread(), &page); });
+    addForSheet(file, sayPrint, Qt::CTRL | Qt::Key_P,
+                [](SheetPage& page) { askAndPrint(page.spread(), &page); });
+}
+
+SheetPage* MainWindow::currentSheet() const {
+    return dynamic_cast<SheetPage*>(m_pages->currentWidget());
+}
+
+SheetPage* MainWindow::newSheet() {
+    auto file = std::make_unique<SheetFile>();
+    file->startNew();
+    return showSheet(new SheetPage(std::move(file), say(sayUntitled).arg(++m_newSheets)));
+}
+
+SheetPage* MainWindow::openSheet(const Vor_String& path) {
+    for (int i = 0; i < m_pages->count(); ++i) {
+        auto* page = dynamic_cast<SheetPage*>(m_pages->widget(i));
+        if (!page || !isSameFile(page->file().path(), path.str())) continue;
+        m_pages->setCurrentWidget(page);
+        return page;
+    }
+    auto file = std::make_unique<SheetFile>();
+    std::string failure;
+    if (!file->open(path.str(), failure)) {
+        complain(toQt(failure));
+        return nullptr;
+    }
+    const QString name = toQt(removeExtension(getFileName(path)));
+    return showSheet(new SheetPage(std::move(file), name));
+}
+
+// The key is never asked for: a sheet may get another file, and is found by that.
+SheetPage* MainWindow::showSheet(SheetPage* page) {
+    showPage(page, {}, {}, "sheet");
+    showTitle(*page);
+    connect(page, &SheetPage::stateChanged, this, [this, page] { showTitle(*page); });
+    page->view().setFocus();
+    return page;
+}
+
+void MainWindow::showTitle(SheetPage& page) {
+    const int index = m_pages->indexOf(&page);
+    if (index < 0) return;
+    const QString title = page.title().replace("&", "&&") + (page.isChanged() ? " *" : "");
+    if (m_pages->tabText(index) != title) m_pages->setTabText(index, title);
+    m_pages->setTabToolTip(index, machinePath(page.file().path()));
+}
+
+// The menu bar has the menus of the page in front.
+void MainWindow::followPage() {
+    for (const QPointer<QMenu>& menu : m_pageMenus)
+        if (menu) menuBar()->removeAction(menu->menuAction());
+    m_pageMenus.clear();
+    SheetPage* page = currentSheet();
+    for (QAction* action : m_sheetActions) action->setEnabled(page != nullptr);
+    if (m_saveAction)
+        m_saveAction->setEnabled(page || dynamic_cast<MacroPage*>(m_pages->currentWidget()));
+    if (!page || !m_viewMenu) return;
+    for (QMenu* menu : page->commands().menus()) {
+        menuBar()->insertMenu(m_viewMenu->menuAction(), menu);
+        m_pageMenus += menu;
+    }
+}
+
+void MainWindow::askForFile() {
+    const QString chosen = QFileDialog::getOpenFileName(
+        this, sayTitle(sayOpenFile), QString::fromStdString(m_settings.library),
+        say(sayAllFilter) + " (*.sss *.tws *.csv *.txt *.macro)");
+    if (chosen.isEmpty()) return;
+    const auto inside = paths::toInside(chosen.toStdString());
+    // A standard is opened to be edited here; the library's tree opens it to be run.
+    if (inside && isSheetPath(*inside) && QFileInfo::exists(chosen))
+        openSheet(Vor_String(*inside));
+    else
+        openFile(chosen);
+}
+
+void MainWindow::exportSheet(const char* extension, int filterName) {
+    SheetPage* page = currentSheet();
+    if (!page || !page->commitEdit()) return;
+    const Vor_String path(page->file().path());
+    FileQuestion question;
+    question.kind = FileQuestion::Kind::save;
+    question.title = fromQt(sayTitle(sayExportAs));
+    question.filterName = fromQt(say(filterName));
+    question.extension = extension;
+    question.folder = getPath(path).str();
+    question.preset = fromQt(QFileInfo(page->title()).completeBaseName() + "." + extension);
+    const auto chosen = chooseFiles(question, nullptr);
+    if (!chosen.empty()) page->exportTo(chosen.front());
+}
+
+// --- files dropped on the window
+// ------------------------------------------------------------------
+
+void MainWindow::dragEnterEvent(QDragEnterEvent* event) {
+    for (const QUrl& url : event->mimeData()->urls())
+        if (url.isLocalFile()) return event->acceptProposedAction();
+}
+
+void MainWindow::dropEvent(QDropEvent* event) {
+    event->acceptProposedAction();
+    for (const QUrl& url : event->mimeData()->urls())
+        if (url.isLocalFile()) openFile(url.toLocalFile());
+}
