@@ -49,19 +49,6 @@ void drawArrow(QPainter& painter, bool backwards) {
     painter.drawLine(4, 8, 8, 12);
 }
 
-void drawSave(QPainter& painter) {
-    painter.drawRect(3, 3, 14, 14);
-    painter.fillRect(6, 3, 8, 5, painter.pen().color());
-    painter.drawRect(6, 11, 8, 6);
-}
-
-void drawPrint(QPainter& painter) {
-    painter.drawRect(6, 2, 8, 5);
-    painter.drawRect(3, 7, 14, 6);
-    painter.drawRect(6, 11, 8, 7);
-    painter.fillRect(14, 9, 2, 2, accent);
-}
-
 void drawBorders(QPainter& painter) {
     painter.drawRect(3, 3, 14, 14);
     painter.drawLine(10, 3, 10, 17);
@@ -80,10 +67,6 @@ void drawMerge(QPainter& painter) {
 
 void draw(QPainter& painter, SheetPicture picture) {
     switch (picture) {
-        case SheetPicture::save:
-            return drawSave(painter);
-        case SheetPicture::print:
-            return drawPrint(painter);
         case SheetPicture::undo:
             return drawArrow(painter, true);
         case SheetPicture::redo:

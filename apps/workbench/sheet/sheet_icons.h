@@ -6,8 +6,6 @@
 #include <QPalette>
 
 enum class SheetPicture {
-    save,
-    print,
     undo,
     redo,
     bold,

@@ -6,7 +6,6 @@ enum SheetWord {
     sayMenuInsert,
     sayMenuFormat,
     sayMenuData,
-    sayMenuSheet,
     sayNewSheet,
     sayOpenFile,
     saySave,
@@ -99,7 +98,6 @@ enum SheetWord {
     sayZoomNormal,
     sayFunctions,
     sayAllFamilies,
-    sayFamily,
     sayInsertIt,
     sayNameBoxTip,
     sayNoSuchCell,
@@ -140,5 +138,4 @@ enum SheetWord {
     sayCheckClean,
     saySize,
     sayFontName,
-    saySettingsStep,
 };
