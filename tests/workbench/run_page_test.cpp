@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <QApplication>
 #include <QComboBox>
 #include <QElapsedTimer>
 #include <QFile>
@@ -131,6 +132,17 @@ TEST_F(Workbench, SpeaksAnotherLanguageAtOnce) {
     settings.language = Language::english;
     m_window.take(settings);
     EXPECT_EQ(m_window.menuBar()->actions().size(), menus.size());
+
+    // The menus of a sheet in front come back with the others.
+    ASSERT_TRUE(m_window.openSheet(gSettings.libDir() + "Connection Standards\\EndPlate.tws"));
+    const auto withSheet = m_window.menuBar()->actions().size();
+    EXPECT_GT(withSheet, menus.size());
+    settings.language = Language::french;
+    m_window.take(settings);
+    m_window.pages().setCurrentIndex(0);
+    m_window.pages().setCurrentIndex(m_window.pages().count() - 1);
+    QApplication::processEvents();
+    EXPECT_GE(m_window.menuBar()->actions().size(), menus.size());
 }
 
 TEST_F(Workbench, ComplainsOfFilesThatAreNoneAndGoesOn) {

@@ -228,9 +228,11 @@ void MainWindow::take(WorkbenchSettings changed) {
 
 // Pages that are open keep their words until they are opened again.
 void MainWindow::retranslate() {
-    qDeleteAll(menuBar()->findChildren<QMenu*>(QString(), Qt::FindDirectChildrenOnly));
     menuBar()->clear();
+    m_sheetActions.clear();
+    qDeleteAll(menuBar()->findChildren<QMenu*>(QString(), Qt::FindDirectChildrenOnly));
     makeMenus();
+    followPage();
     for (QDockWidget* dock : findChildren<QDockWidget*>())
         dock->setWindowTitle(word(dock->objectName().toInt()));
     m_search->setPlaceholderText(word(wordSearch));
