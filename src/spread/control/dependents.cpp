@@ -54,8 +54,8 @@ void Dependents::add(uint32_t formula, int col, int row, const formula::Program&
             if (const auto place = formula::cellOf(instruction, col, row))
                 addCell(formula, place->col, place->row);
         } else if (instruction.op == Op::area) {
-            if (const auto area = formula::areaOf(instruction, code[i + 1], col, row))
-                addArea(formula, *area);
+            const auto corners = formula::cornersOf(instruction, code[i + 1], col, row);
+            if (corners.areInside()) addArea(formula, corners.area());
         }
     }
 }

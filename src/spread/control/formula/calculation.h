@@ -139,8 +139,15 @@ class Calculation {
     int m_hostCol = 1;
     int m_hostRow = 1;
 
+    /// Whether the cell's formula, if it has one, may have to be calculated first.
+    bool mayBeOld(const control::Cell& cell) const {
+        return cell.formula && (cell.dirty || m_unsettled);
+    }
+    bool isPlainNumber(const control::Cell& cell) const {
+        return cell.type == ValueType::number && !mayBeOld(cell);
+    }
     Value valueOf(const control::Cell& cell, int col, int row) const {
-        if (cell.formula && (cell.dirty || m_unsettled)) [[unlikely]]
+        if (mayBeOld(cell)) [[unlikely]]
             noteDirty(col, row);
         return cell.value();
     }

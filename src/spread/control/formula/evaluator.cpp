@@ -81,10 +81,11 @@ Value Evaluator::run(const Program& program, int col, int row, bool& blocked) {
 }
 
 inline Value Evaluator::area(const Instruction& first, const Instruction& second) const {
-    const auto area = areaOf(first, second, m_calculation.m_hostCol, m_calculation.m_hostRow);
-    if (!area) [[unlikely]]
+    const Corners corners =
+        cornersOf(first, second, m_calculation.m_hostCol, m_calculation.m_hostRow);
+    if (!corners.areInside()) [[unlikely]]
         return ErrorCode::ref;
-    return Value::area(*area);
+    return Value::area(corners.area());
 }
 
 // A cell that holds no plain number, or a formula's.
@@ -154,7 +155,7 @@ const Value* Evaluator::execute(std::span<const Instruction> code) {
                 const int row = rowOf(*i, hostRow);
                 const int col = colOf(*i, hostCol);
                 const control::Cell* cell = cells.find(col, row);
-                if (cell && cell->type == ValueType::number && !cell->formula) [[likely]] {
+                if (cell && m_calculation.isPlainNumber(*cell)) [[likely]] {
                     *top++ = cell->number;
                     break;
                 }

@@ -27,17 +27,25 @@ inline std::optional<control::CellAddress> cellOf(const Instruction& i, int host
     return control::CellAddress{col, row};
 }
 
-/// The area between two corners, in whichever order they were written.
-inline std::optional<Area> areaOf(const Instruction& first, const Instruction& second, int hostCol,
-                                  int hostRow) {
-    const int row1 = first.flags & Instruction::wholeCol ? 1 : rowOf(first, hostRow);
-    const int row2 = first.flags & Instruction::wholeCol ? maxRows : rowOf(second, hostRow);
-    const int col1 = first.flags & Instruction::wholeRow ? 1 : colOf(first, hostCol);
-    const int col2 = first.flags & Instruction::wholeRow ? maxCols : colOf(second, hostCol);
-    if (!isInside(col1, row1) || !isInside(col2, row2)) return std::nullopt;
-    return Area{std::min(row1, row2), std::max(row1, row2),
+/// The two corners of an area as they were written.
+struct Corners {
+    int row1, row2, col1, col2;
+
+    bool areInside() const { return isInside(col1, row1) && isInside(col2, row2); }
+    /// The area between them, in whichever order they were written.
+    Area area() const {
+        return {std::min(row1, row2), std::max(row1, row2),
                 static_cast<uint16_t>(std::min(col1, col2)),
                 static_cast<uint16_t>(std::max(col1, col2))};
+    }
+};
+
+inline Corners cornersOf(const Instruction& first, const Instruction& second, int hostCol,
+                         int hostRow) {
+    const bool isWholeCol = first.flags & Instruction::wholeCol;
+    const bool isWholeRow = first.flags & Instruction::wholeRow;
+    return {isWholeCol ? 1 : rowOf(first, hostRow), isWholeCol ? maxRows : rowOf(second, hostRow),
+            isWholeRow ? 1 : colOf(first, hostCol), isWholeRow ? maxCols : colOf(second, hostCol)};
 }
 
 }  // namespace formula
