@@ -18,6 +18,7 @@ class VORMANT_API TwVarCells {
     int length() const { return m_cells.length(); }
     TwVarCell& operator[](int index) { return m_cells[index]; }
     const TwVarCell& operator[](int index) const { return m_cells[index]; }
+    void reserve(int count) { m_cells.reserve(count); }
     void append(TwVarCell cell) { m_cells.append(std::move(cell)); }
     bool removeAt(int index) { return m_cells.removeAt(index); }
     /// Removes the cells at `indexes`, which ascend.

@@ -51,8 +51,9 @@ Stamp stampOf(const struct stat& status) {
 }
 
 // Reads to the end, which may lie elsewhere than the size said: another program may be writing.
-// 0 or an errno; EFBIG beyond the limit.
-int readAll(int descriptor, std::size_t sizeLimit, std::string& content) {
+// `content` comes with room for more than the `size` that was said, so that a read that gives less
+// than it could and ends there needs no second one. 0 or an errno; EFBIG beyond the limit.
+int readAll(int descriptor, std::size_t size, std::size_t sizeLimit, std::string& content) {
     std::size_t used = 0;
     for (;;) {
         if (used == content.size()) content.resize(content.size() + 4096);
@@ -62,6 +63,7 @@ int readAll(int descriptor, std::size_t sizeLimit, std::string& content) {
         if (got == 0) break;
         used += static_cast<std::size_t>(got);
         if (used > sizeLimit) return EFBIG;
+        if (used == size && used < content.size()) break;
     }
     content.resize(used);
     return 0;
@@ -101,7 +103,7 @@ bool isFolder(std::string_view path) {
 }
 
 std::optional<std::string> readWhole(std::string_view path, std::string& error,
-                                     std::size_t sizeLimit) {
+                                     std::size_t sizeLimit, Stamp* opened) {
     const auto fail = [&](int code) {
         error = errorText("read", path, code);
         return std::nullopt;
@@ -116,11 +118,12 @@ std::optional<std::string> readWhole(std::string_view path, std::string& error,
         error = notOrdinaryText("read", path);
         return std::nullopt;
     }
+    if (opened) *opened = stampOf(status);
     const auto size = static_cast<std::size_t>(status.st_size);
     std::string content;
     if (size <= sizeLimit) {
-        content.resize(size + 1);  // one more, so that the first read can meet the end
-        const int code = readAll(file.get(), sizeLimit, content);
+        content.resize(size + 1);
+        const int code = readAll(file.get(), size, sizeLimit, content);
         if (code == 0) return content;
         if (code != EFBIG) return fail(code);
     }

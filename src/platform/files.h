@@ -37,9 +37,11 @@ VORMANT_API bool isFolder(std::string_view path);
 inline constexpr std::size_t usualSizeLimit = 256u << 20;
 
 /// The bytes of the file. Nothing, with `error` set, when it cannot be read, is larger than
-/// `sizeLimit` bytes or is no ordinary file (a pipe could block for ever).
+/// `sizeLimit` bytes or is no ordinary file (a pipe could block for ever). `opened`, unless null,
+/// becomes the stamp that the file had before it was read.
 VORMANT_API std::optional<std::string> readWhole(std::string_view path, std::string& error,
-                                                 std::size_t sizeLimit = usualSizeLimit);
+                                                 std::size_t sizeLimit = usualSizeLimit,
+                                                 Stamp* opened = nullptr);
 
 /// Replaces the file by `content`, or creates it. False, with `error` set and the old file
 /// untouched, on any failure. A link is followed, the file's permissions are kept.

@@ -3,6 +3,7 @@
 // times is prepared once.
 #pragma once
 
+#include <cstdint>
 #include <memory>
 
 #include "mapping/tw_var_cells.h"
@@ -11,7 +12,7 @@
 #include "standards/shared_text.h"
 
 struct PreparedEquation {
-    enum class Kind {
+    enum class Kind : std::uint8_t {
         ordinary,   ///< a formula whose result goes to a variable
         childCall,  ///< contains a native function's name, anywhere
         irregular,  ///< neither: no "=", or the name is not declared
@@ -19,11 +20,11 @@ struct PreparedEquation {
     };
 
     control::CellAddress cell;
-    SharedText text;  ///< what the cell showed
-    Kind kind = Kind::irregular;
+    SharedText text;              ///< what the cell showed
     std::string_view name;        ///< before the "="; empty without one
     std::string_view expression;  ///< after the "=", or the whole text
     int target = -1;              ///< the variable of that name, or -1
+    Kind kind = Kind::irregular;
     /// The target is a String: the equation cell shows text.
     bool givesText = false;
     formula::ProgramRef program;  ///< ordinary

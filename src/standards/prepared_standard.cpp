@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "core_api/text/text_helpers.h"
+#include "core_api/text/text_index.h"
 #include "platform/encodings.h"
 #include "spread/control/formula/places.h"
 
@@ -10,6 +10,15 @@ namespace {
 
 bool comesBefore(control::CellAddress a, control::CellAddress b) {
     return a.row != b.row ? a.row < b.row : a.col < b.col;
+}
+
+/// Those of `filled` (as filledCells gives them) that lie in `rows`.
+std::span<const control::CellAddress> cellsIn(const std::vector<control::CellAddress>& filled,
+                                              RowRange rows) {
+    if (rows.first > rows.last) return {};
+    const auto isAbove = [](control::CellAddress cell, int row) { return cell.row < row; };
+    const auto first = std::lower_bound(filled.begin(), filled.end(), rows.first, isAbove);
+    return {first, std::lower_bound(first, filled.end(), rows.last + 1, isAbove)};
 }
 
 /// True when it is plain to see that `program` reads nothing in or below `firstRow`.
@@ -51,29 +60,31 @@ control::TextBlock* textOf(const control::Grid& grid, control::CellAddress cell)
 PreparedStandard::PreparedStandard(Vor_Spread& spread) {
     const auto filled = filledCells(spread.grid());
     m_layout = StandardLayout(spread.grid(), filled);
-    declare(spread, filled, Marker::input, TwCellType::input);
-    declare(spread, filled, Marker::output, TwCellType::output);
-    declare(spread, filled, Marker::local, TwCellType::local);
+    const auto inputs = cellsIn(filled, m_layout.declarationRows(Marker::input));
+    const auto outputs = cellsIn(filled, m_layout.declarationRows(Marker::output));
+    const auto locals = cellsIn(filled, m_layout.declarationRows(Marker::local));
+    m_declarations.reserve(static_cast<int>(inputs.size() + outputs.size() + locals.size()));
+    declare(spread, inputs, TwCellType::input);
+    declare(spread, outputs, TwCellType::output);
+    declare(spread, locals, TwCellType::local);
 
-    Vor_StringArray names;
-    for (const TwVarCell& variable : m_declarations) {
-        names.append(variable.name());
+    TextIndex names(m_declarations.length());
+    for (int i = 0; i < m_declarations.length(); ++i) {
+        const TwVarCell& variable = m_declarations[i];
+        if (names.add(variable.name(), i) >= 0) {
+            m_duplicates.append(i);
+            m_duplicateNames.append(variable.name());
+        }
         const control::CellAddress cell{variable.column(), variable.row()};
         const bool isBefore =
             !m_layout.has(Marker::calc) || comesBefore(cell, m_layout.cell(Marker::calc));
         if (variable.valueType() == TwValueType::String && isBefore)
             m_textsBeforeCalc.push_back(cell);
     }
-    m_duplicates = getDuplicateIndexes(names);
-    for (const int index : m_duplicates) m_duplicateNames.append(names[index]);
 
-    const RowRange rows = m_layout.equationRows();
-    const auto first =
-        std::lower_bound(filled.begin(), filled.end(), rows.first,
-                         [](control::CellAddress cell, int row) { return cell.row < row; });
-    if (rows.first > rows.last) return;
-    m_equations.reserve(static_cast<size_t>(filled.end() - first));
-    for (auto cell = first; cell != filled.end(); ++cell) m_equations.emplace_back().cell = *cell;
+    const auto equations = cellsIn(filled, m_layout.equationRows());
+    m_equations.reserve(equations.size());
+    for (const control::CellAddress cell : equations) m_equations.emplace_back().cell = cell;
 }
 
 TwVarCells PreparedStandard::variables() const {
@@ -88,11 +99,9 @@ std::shared_ptr<PreparedStandard> PreparedStandard::ofDocument(Vor_Spread& sprea
     return std::static_pointer_cast<PreparedStandard>(attachment);
 }
 
-void PreparedStandard::declare(Vor_Spread& spread, const std::vector<control::CellAddress>& filled,
-                               Marker marker, TwCellType type) {
-    const RowRange rows = m_layout.declarationRows(marker);
-    for (const control::CellAddress cell : filled) {
-        if (cell.row < rows.first || cell.row > rows.last) continue;
+void PreparedStandard::declare(Vor_Spread& spread, std::span<const control::CellAddress> cells,
+                               TwCellType type) {
+    for (const control::CellAddress cell : cells) {
         TwVarCell variable;
         if (variable.initialize(spread, cell.col, cell.row, type) == Acad::eOk)
             m_declarations.append(std::move(variable));

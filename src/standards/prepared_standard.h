@@ -4,6 +4,7 @@
 #pragma once
 
 #include <memory>
+#include <span>
 #include <vector>
 
 #include "mapping/tw_var_cells.h"
@@ -53,8 +54,7 @@ class PreparedStandard {
 
   private:
     bool knowsAllTexts(const TwVarCells& variables, const control::Grid& grid);
-    void declare(Vor_Spread& spread, const std::vector<control::CellAddress>& filled, Marker marker,
-                 TwCellType type);
+    void declare(Vor_Spread& spread, std::span<const control::CellAddress> cells, TwCellType type);
 
     StandardLayout m_layout;
     TwVarCells m_declarations;

@@ -78,7 +78,10 @@ VariableReferences::VariableReferences(Vor_StringArray names, Vor_StringArray re
         m_chains = m_chains || m_index.find(reference) >= 0;
         m_longestReference = std::max(m_longestReference, static_cast<size_t>(reference.length()));
     }
-    if (m_onePass) noteCells();
+    if (m_onePass)
+        noteCells();
+    else
+        for (const Vor_String& name : m_names) m_words.push_back(wordSet(name));
 }
 
 void VariableReferences::noteCells() {
@@ -136,7 +139,6 @@ std::string_view VariableReferences::replaceOneByOne(std::string_view text,
 }
 
 void VariableReferences::noteShape(const Vor_String& name) {
-    m_words.push_back(wordSet(name));
     if (name.isEmpty()) return;
     m_firsts.set(static_cast<unsigned char>(encodings::toLower(name[0])));
     m_firsts.set(static_cast<unsigned char>(encodings::toUpper(name[0])));

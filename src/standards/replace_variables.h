@@ -65,5 +65,5 @@ class VariableReferences : public formula::CellNames {
     // every name needs no look into the index.
     std::bitset<256> m_firsts;
     std::bitset<256> m_lengths;
-    std::vector<std::uint64_t> m_words;  // of each name, as wordSet gives them
+    std::vector<std::uint64_t> m_words;  // without m_onePass: of each name, as wordSet gives them
 };

@@ -12,9 +12,10 @@ std::vector<control::CellAddress> filledCells(const control::Grid& grid) {
         if (cell.type != control::ValueType::empty || cell.formula != 0)
             filled.push_back({col, row});
     });
-    std::sort(filled.begin(), filled.end(), [](const auto& a, const auto& b) {
-        return a.row != b.row ? a.row < b.row : a.col < b.col;
-    });
+    const auto place = [](control::CellAddress cell) {
+        return static_cast<int64_t>(cell.row) << 32 | cell.col;
+    };
+    std::sort(filled.begin(), filled.end(), [&](auto a, auto b) { return place(a) < place(b); });
     return filled;
 }
 

@@ -62,8 +62,10 @@ DocumentStore& store() {
     return instance;
 }
 
-std::shared_ptr<Document> readFile(std::string_view path, std::string& error) {
-    const std::optional<std::string> text = files::readWhole(path, error);
+std::shared_ptr<Document> readFile(std::string_view path, std::string& error,
+                                   files::Stamp* opened = nullptr) {
+    const std::optional<std::string> text =
+        files::readWhole(path, error, files::usualSizeLimit, opened);
     return text ? readDocument(*text, path, error) : nullptr;
 }
 
@@ -74,8 +76,10 @@ std::shared_ptr<const Document> loadStamped(std::string_view path,
     if (stamp)
         if (auto known = store().find(path, *stamp)) return known;
     const bool isSettled = stamp && files::isSettled(*stamp);
-    std::shared_ptr<const Document> document = readFile(path, error);
-    if (document && isSettled && stamp->size <= mostBytesOfOne && files::stampOf(path) == stamp)
+    // A change while it is being read gives the file another stamp: what was read is not found then.
+    files::Stamp opened;
+    std::shared_ptr<const Document> document = readFile(path, error, &opened);
+    if (document && isSettled && stamp->size <= mostBytesOfOne && opened == *stamp)
         store().keep(path, *stamp, document);
     return document;
 }

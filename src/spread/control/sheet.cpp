@@ -46,6 +46,7 @@ Sheet& Sheet::operator=(const Sheet& other) {
     m_unknown = other.m_unknown;
     m_changed = other.m_changed;
     m_custom = other.m_custom;
+    m_customNames = other.m_customNames;
     m_style = other.m_style;
     m_liveFormulas = other.m_liveFormulas;
     m_automatic = other.m_automatic;
@@ -264,7 +265,11 @@ void Sheet::setReferenceStyle(ReferenceStyle style) {
 }
 
 void Sheet::addCustomFunction(const formula::CustomFunction* function) {
-    m_custom.insert_or_assign(std::string_view(function->name), function);
+    const int known = m_customNames.add(function->name, static_cast<int>(m_custom.size()));
+    if (known < 0)
+        m_custom.push_back(function);
+    else
+        m_custom[static_cast<size_t>(known)] = function;
     if (!m_unknown.empty()) compileUnknown();
 }
 
@@ -288,8 +293,8 @@ void Sheet::compileUnknown() {
 }
 
 const formula::CustomFunction* Sheet::customFunction(std::string_view upperName) const {
-    const auto place = m_custom.find(upperName);
-    return place == m_custom.end() ? nullptr : place->second;
+    const int index = m_customNames.find(upperName);
+    return index < 0 ? nullptr : m_custom[static_cast<size_t>(index)];
 }
 
 size_t Sheet::formulaBytes() const {

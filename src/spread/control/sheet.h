@@ -10,9 +10,9 @@
 #include <optional>
 #include <string>
 #include <string_view>
-#include <unordered_map>
 #include <vector>
 
+#include "core_api/text/text_index.h"
 #include "spread/control/cells.h"
 #include "spread/control/dependents.h"
 #include "spread/control/formula/calculation.h"
@@ -177,7 +177,8 @@ class Sheet {
     std::vector<uint32_t> m_path;     // formulas being calculated, each waiting for those above
     std::vector<uint32_t> m_met;
     Dependents m_dependents;
-    std::unordered_map<std::string_view, const formula::CustomFunction*> m_custom;
+    std::vector<const formula::CustomFunction*> m_custom;
+    TextIndex m_customNames;  // into m_custom; functions are never destroyed
     formula::Calculation m_calculation;
     formula::Evaluator m_evaluator;
     formula::ReferenceStyle m_style = formula::ReferenceStyle::a1;

@@ -5,16 +5,6 @@ namespace formula {
 
 namespace {
 
-/// Aggregates and tests give one value whatever they are given; the others might give areas.
-bool returnsSingle(std::string_view name) {
-    return name == "SUM" || name == "MIN" || name == "MAX" || name == "AND" || name == "OR" ||
-           name == "COUNT" || name == "AVERAGE";
-}
-
-bool isLazy(std::string_view name) {
-    return name == "IF" || name == "IFERROR" || name == "IFNA" || name == "CHOOSE";
-}
-
 Kind joined(Kind a, Kind b) {
     return a == Kind::single && b == Kind::single ? Kind::single : Kind::open;
 }
@@ -40,7 +30,7 @@ bool Parser::call(const std::string& upper, const Token& nameToken, Want want, K
         return failAt(nameToken,
                       "unknown function '" + std::string(m_lexer.textOf(nameToken)) + "'");
     advance();  // the parenthesis
-    if (spec && isLazy(upper)) return lazyCall(*spec, nameToken, want, kind);
+    if (spec && (spec->flags & isLazy)) return lazyCall(*spec, nameToken, want, kind);
     int count = 0;
     if (isSymbol(Symbol::close))
         advance();
@@ -68,8 +58,10 @@ bool Parser::emitCall(const FunctionSpec& spec, int count, const Token& nameToke
     i.argc = static_cast<uint8_t>(count);
     i.function = &spec;
     m_code.isVolatile |= (spec.flags & formula::isVolatile) != 0;
-    const bool takesPlain = spec.params.find_first_not_of('v') == std::string_view::npos;
-    kind = returnsSingle(spec.name) || (takesPlain && !m_code.inArray) ? Kind::single : Kind::open;
+    const auto takesPlain = [&] {
+        return spec.params.find_first_not_of('v') == std::string_view::npos;
+    };
+    kind = (spec.flags & givesOne) || (!m_code.inArray && takesPlain()) ? Kind::single : Kind::open;
     return true;
 }
 

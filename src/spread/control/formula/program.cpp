@@ -8,10 +8,12 @@ namespace formula {
 
 using control::TextBlock;
 
-Program* Program::make(std::span<const Instruction> code) {
+Program* Program::make(std::span<const Instruction> code, int stackDepth, bool isVolatile) {
     void* memory = ::operator new(sizeof(Program) + code.size_bytes());
     auto* program = new (memory) Program;
-    program->m_size = code.size();
+    program->m_size = static_cast<uint32_t>(code.size());
+    program->m_stackDepth = static_cast<uint32_t>(stackDepth) & 0x3FFFFFFFU;
+    program->m_isVolatile = isVolatile;
     std::uninitialized_copy(code.begin(), code.end(), reinterpret_cast<Instruction*>(program + 1));
     return program;
 }
@@ -32,16 +34,14 @@ class ProgramPool {
     }
 
     ProgramRef intern(std::span<const Instruction> code, int stackDepth, bool isVolatile) {
-        const size_t hash = hashOf(code);
+        const uint32_t hash = hashOf(code);
         size_t at = hash & mask();
         for (; m_slots[at].program; at = (at + 1) & mask()) {
             if (m_slots[at].hash != hash || !same(code, m_slots[at].program->code())) continue;
             releaseTexts(code);
             return ProgramRef(m_slots[at].program);
         }
-        Program* program = Program::make(code);
-        program->m_stackDepth = stackDepth;
-        program->m_isVolatile = isVolatile;
+        Program* program = Program::make(code, stackDepth, isVolatile);
         program->m_hash = hash;
         program->m_isPooled = true;
         m_slots[at] = {hash, program};
@@ -65,7 +65,7 @@ class ProgramPool {
 
   private:
     struct Slot {
-        size_t hash = 0;
+        uint32_t hash = 0;
         Program* program = nullptr;  // null: free
     };
 
@@ -89,7 +89,7 @@ class ProgramPool {
                               return x == y;
                           });
     }
-    static size_t hashOf(std::span<const Instruction> code) {
+    static uint32_t hashOf(std::span<const Instruction> code) {
         size_t hash = code.size();
         for (const Instruction& i : code) {
             const size_t payload =
@@ -100,7 +100,7 @@ class ProgramPool {
             hash = (hash ^ head) * 0x9E3779B97F4A7C15ULL;
             hash = (hash ^ payload ^ hash >> 29) * 0xBF58476D1CE4E5B9ULL;
         }
-        return hash ^ hash >> 32;
+        return static_cast<uint32_t>(hash ^ hash >> 32);
     }
     static void releaseTexts(std::span<const Instruction> code) {
         for (const Instruction& i : code)
@@ -119,10 +119,7 @@ void ProgramRef::destroy(Program* program) {
 }
 
 ProgramRef makeOwn(std::span<const Instruction> code, int stackDepth, bool isVolatile) {
-    Program* program = Program::make(code);
-    program->m_stackDepth = stackDepth;
-    program->m_isVolatile = isVolatile;
-    return ProgramRef(program);
+    return ProgramRef(Program::make(code, stackDepth, isVolatile));
 }
 
 ProgramRef intern(std::span<const Instruction> code, int stackDepth, bool isVolatile) {

@@ -104,25 +104,26 @@ class Program {
     std::span<const Instruction> code() const {
         return {reinterpret_cast<const Instruction*>(this + 1), m_size};
     }
-    int stackDepth() const { return m_stackDepth; }
+    int stackDepth() const { return static_cast<int>(m_stackDepth); }
     bool isVolatile() const { return m_isVolatile; }
 
   private:
     friend class ProgramPool;
     friend class ProgramRef;
     friend ProgramRef makeOwn(std::span<const Instruction> code, int stackDepth, bool isVolatile);
-    static Program* make(std::span<const Instruction> code);
+    static Program* make(std::span<const Instruction> code, int stackDepth, bool isVolatile);
     static void release(Program* program);
     Program() = default;
 
-    size_t m_size = 0;
-    size_t m_hash = 0;
-    int m_stackDepth = 0;
+    // Kept small: a document has hundreds of programs.
+    uint32_t m_size = 0;
     uint32_t m_references = 0;
-    bool m_isVolatile = false;
-    bool m_isPooled = false;
+    uint32_t m_hash = 0;
+    uint32_t m_stackDepth : 30 = 0;
+    bool m_isVolatile : 1 = false;
+    bool m_isPooled : 1 = false;
 };
-static_assert(sizeof(Program) % alignof(Instruction) == 0);
+static_assert(sizeof(Program) == 16 && sizeof(Program) % alignof(Instruction) == 0);
 
 /// Shares a program. Counted without locks: everything runs on one thread.
 class ProgramRef {

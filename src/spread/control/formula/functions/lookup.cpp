@@ -10,7 +10,7 @@ constexpr std::array<FunctionSpec, 17> rowsOfTable{{
     {"ADDRESS", 2, 5, "v", address, plain, "row, column, [kind], [a1], [sheet]",
      "The address of a cell as text; kind 1 is $A$1, 2 A$1, 3 $A1, 4 A1."},
     {"AREAS", 1, 1, "p", areas, plain, "reference", "The number of areas in a reference."},
-    {"CHOOSE", 2, anyCount, "v", choose, plain, "number, value1, [value2], …",
+    {"CHOOSE", 2, anyCount, "v", choose, isLazy, "number, value1, [value2], …",
      "The value with that number, counted from 1."},
     {"COLUMN", 0, 1, "p", column, plain, "[reference]",
      "The column number of a reference, or of the formula's own cell."},

@@ -76,7 +76,7 @@ Value seriesSum(Calculation& c, std::span<const Value> args) {
 }
 
 constexpr FunctionSpec rows[] = {
-    {"SUM", 1, anyCount, "a", sum, plain, "number1, [number2], …",
+    {"SUM", 1, anyCount, "a", sum, givesOne, "number1, [number2], …",
      "The sum of all numbers; texts, booleans and empty cells in areas are left out."},
     {"SUMSQ", 1, anyCount, "a", sumOfSquares, plain, "number1, [number2], …",
      "The sum of the squares of all numbers."},

@@ -137,7 +137,7 @@ constexpr std::string_view numbers = "number1, [number2], …";
 constexpr std::string_view values = "value1, [value2], …";
 
 constexpr FunctionSpec rows[] = {
-    {"AVERAGE", 1, anyCount, "a", average<NonNumbers::ignored>, plain, numbers,
+    {"AVERAGE", 1, anyCount, "a", average<NonNumbers::ignored>, givesOne, numbers,
      "The average of all numbers."},
     {"AVERAGEA", 1, anyCount, "a", average<counted>, plain, values,
      "The average of all values; texts count as 0, TRUE as 1."},

@@ -31,7 +31,8 @@ Value countBlank(Calculation& c, std::span<const Value> args) {
 }
 
 constexpr FunctionSpec rows[] = {
-    {"COUNT", 1, anyCount, "a", count, plain, "value1, [value2], …", "How many numbers there are."},
+    {"COUNT", 1, anyCount, "a", count, givesOne, "value1, [value2], …",
+     "How many numbers there are."},
     {"COUNTA", 1, anyCount, "a", countFilled, plain, "value1, [value2], …",
      "How many values there are; only empty cells are left out."},
     {"COUNTBLANK", 1, 1, "r", countBlank, plain, "area",

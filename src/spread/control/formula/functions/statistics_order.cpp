@@ -201,9 +201,9 @@ constexpr std::string_view numbers = "number1, [number2], …";
 constexpr std::string_view values = "value1, [value2], …";
 
 constexpr FunctionSpec rows[] = {
-    {"MIN", 1, anyCount, "a", least<ignored>, plain, numbers,
+    {"MIN", 1, anyCount, "a", least<ignored>, givesOne, numbers,
      "The least number, 0 when there is none."},
-    {"MAX", 1, anyCount, "a", greatest<ignored>, plain, numbers,
+    {"MAX", 1, anyCount, "a", greatest<ignored>, givesOne, numbers,
      "The greatest number, 0 when there is none."},
     {"MINA", 1, anyCount, "a", least<counted>, plain, values,
      "The least value; texts count as 0, TRUE as 1."},
