@@ -77,6 +77,10 @@ VORMANT_API bool StartDlgSelectMacro(const Vor_String& title, const Vor_StringAr
                                      Vor_String& macro, bool& isAlternative, bool explains);
 
 VORMANT_API bool StartDlgDesigner(const Vor_String& path);
+/// The variables that the edit fields of a designed dialog stand for, in the order of its file.
+/// `dialog` is the path of its template, or its name below the folder of templates. False, with
+/// `names` as they were and the reason printed, when it cannot be read.
+VORMANT_API bool GetImageDlgCtrlNames(const Vor_String& dialog, Vor_StringArray& names);
 VORMANT_API bool StartDlgGenVars(TwAutoStandardsData& data);
 
 // --- tables -------------------------------------------------------------------------------------

@@ -1,0 +1,20 @@
+// What other modules ask of a designed dialog without opening it.
+#include "core_api/files.h"
+#include "designer/designer_templates.h"
+#include "frame/starters.h"
+#include "platform/host/host.h"
+
+bool GetImageDlgCtrlNames(const Vor_String& dialog, Vor_StringArray& names) {
+    const bool isFile = ObjectExportFileExists(dialog);
+    const Vor_String path = isFile ? dialog : getDesignerRootFolder() + dialog + ".txt";
+    Vor_Array<Vor_DesignerControl> controls;
+    Vor_String message;
+    if (readDesignerTemplate(path, controls, message) != Acad::eOk) {
+        acutPrint(message.str() + "\n");
+        return false;
+    }
+    names = Vor_StringArray();
+    for (const Vor_DesignerControl& control : controls)
+        if (control.type == ctVarEdit) names.append(control.contents);
+    return true;
+}
