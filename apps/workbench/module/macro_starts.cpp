@@ -1,9 +1,13 @@
+#include "core_api/dialogs/file_dialogs.h"
 #include "core_api/files.h"
 #include "core_api/macros/vor_bolt_module.h"
 #include "core_api/settings.h"
+#include "core_api/text/text_helpers.h"
 #include "core_api/texts/texts.h"
+#include "designer/designer_templates.h"
 #include "module/module_data.h"
 #include "module/starts.h"
+#include "platform/host/host.h"
 
 namespace starts {
 
@@ -251,8 +255,20 @@ Outcome generalVariables(ModuleData& data) {
     return changedIf(StartDlgGenVars(*edited));
 }
 
+Outcome imageDialogNames(ModuleData& data) {
+    Vor_String& path = data.objects.templateFile;
+    if (path.isEmpty()) path = getDesignerRootFolder();
+    if (!DlgOpenSave(Host::current().mainWindow(), true, dialString(841), dialString(840), "txt",
+                     path))
+        return Outcome::cancelled;
+    Vor_StringArray names;
+    if (!GetImageDlgCtrlNames(path, names)) return Outcome::failed;
+    acutPrint(arrToStr(names, ", ") + "\n");
+    return Outcome::succeeded;
+}
+
 Outcome designer(ModuleData&) {
-    return changedIf(StartDlgDesigner(gSettings.libDir() + "Dialog Templates\\Dialog Design\\"));
+    return changedIf(StartDlgDesigner(getDesignerRootFolder()));
 }
 
 }  // namespace starts

@@ -34,6 +34,7 @@ struct ModuleObjects {
     bool forAllObjects = true;
     Vor_String chosenMacro;
     Vor_String sheetFile;
+    Vor_String templateFile;
 };
 
 class ModuleData {

@@ -23,6 +23,7 @@ Outcome selectMacro(ModuleData& data);
 Outcome selectMacroWithStandards(ModuleData& data);
 Outcome generalVariables(ModuleData& data);
 Outcome designer(ModuleData& data);
+Outcome imageDialogNames(ModuleData& data);
 
 // Tables and standards: table_starts.cpp.
 Outcome grid(ModuleData& data);

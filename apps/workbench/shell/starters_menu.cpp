@@ -33,6 +33,7 @@ constexpr Starter all[] = {
     {Group::macros, 24043, starts::selectMacroWithStandards},
     {Group::macros, 24044, starts::generalVariables},
     {Group::macros, 24045, starts::designer},
+    {Group::macros, 24046, starts::imageDialogNames},
     {Group::tables, 24050, starts::grid},
     {Group::tables, 24051, starts::readSheetFile},
     {Group::tables, 24052, starts::formulas},
