@@ -213,6 +213,7 @@ void RunPage::update() {
 
 void RunPage::showMessages() {
     QStringList lines;
+    if (m_session->isStale()) lines += word(wordFileChanged);
     for (const auto& [name, refusal] : m_refusals) lines += name + ": " + refusal;
     const runs::Calculation& calculation = m_session->calculation();
     if (!calculation.failure.empty()) lines += toQt(calculation.failure);

@@ -47,9 +47,8 @@ std::vector<const runs::DeclaredVariable*> RunSession::outputs() const {
     return found;
 }
 
-std::string RunSession::value(std::string_view input) const {
-    // findVarCell and the cells' texts are made on demand; the session stays what it is.
-    TwVarCells& cells = const_cast<runs::NamedRequest&>(m_request).cells();
+std::string RunSession::value(std::string_view input) {
+    TwVarCells& cells = m_request.cells();
     int index = 0;
     if (cells.findVarCell(Vor_String(input), index) != Acad::eOk) return {};
     return cells[index].value().str();

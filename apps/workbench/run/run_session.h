@@ -19,7 +19,7 @@ class RunSession {
     std::vector<const runs::DeclaredVariable*> inputs() const;
     std::vector<const runs::DeclaredVariable*> outputs() const;
 
-    std::string value(std::string_view input) const;
+    std::string value(std::string_view input);
     /// Windows-1252. False, with the old value kept, when the variable takes no such value; why is
     /// in `refusal`.
     bool setValue(std::string_view input, std::string_view value, std::string& refusal);

@@ -14,6 +14,7 @@
 #include "core_api/sections/section_tables.h"
 #include "core_api/text/text_helpers.h"
 #include "core_api/texts/texts.h"
+#include "frame/starters.h"
 #include "grid/show_grids.h"
 #include "macro/macro_page.h"
 #include "platform/paths.h"
@@ -151,7 +152,6 @@ void MainWindow::fillRecentMenu() {
     for (const std::string& folder : m_settings.recent)
         m_recentMenu->addAction(QString::fromStdString(folder), this,
                                 [this, folder] { openLibrary(folder); });
-    m_recentMenu->setEnabled(true);
 }
 
 // --- the library --------------------------------------------------------------------------------
@@ -229,10 +229,8 @@ void MainWindow::take(WorkbenchSettings changed) {
 // Pages that are open keep their words until they are opened again.
 void MainWindow::retranslate() {
     menuBar()->clear();
-    m_sheetActions.clear();
     qDeleteAll(menuBar()->findChildren<QMenu*>(QString(), Qt::FindDirectChildrenOnly));
     makeMenus();
-    followPage();
     for (QDockWidget* dock : findChildren<QDockWidget*>())
         dock->setWindowTitle(word(dock->objectName().toInt()));
     m_search->setPlaceholderText(word(wordSearch));
@@ -254,6 +252,12 @@ QWidget* MainWindow::pageOf(const QString& key) const {
     return nullptr;
 }
 
+QWidget* MainWindow::bringForward(const QString& key) {
+    QWidget* there = pageOf(key);
+    if (there) m_pages->setCurrentWidget(there);
+    return there;
+}
+
 void MainWindow::showPage(QWidget* page, const QString& title, const QString& tip,
                           const QString& key) {
     page->setProperty(keyProperty, key.isEmpty() ? tip : key);
@@ -264,10 +268,7 @@ void MainWindow::showPage(QWidget* page, const QString& title, const QString& ti
 
 void MainWindow::showStartPage() {
     const QString key = word(wordStart);
-    if (QWidget* there = pageOf(key)) {
-        m_pages->setCurrentWidget(there);
-        return;
-    }
+    if (bringForward(key)) return;
     auto* page = new StartPage(m_settings.recent, [this](const std::string& folder) {
         if (folder.empty())
             askForLibrary();
@@ -313,9 +314,14 @@ QWidget* MainWindow::open(LibraryKind kind, const Vor_String& path) {
             return openMacro(path);
         case LibraryKind::sectionTable:
             return openSectionTable(path);
-        default:
+        case LibraryKind::dialogTemplate:
+            StartDlgDesigner(path);
+            return nullptr;
+        case LibraryKind::cuttingStock:
+            complain(toQt(path) + ": " + word(wordNoEditor));
             return nullptr;
     }
+    return nullptr;
 }
 
 QWidget* MainWindow::openFile(const QString& path) {
@@ -332,10 +338,7 @@ QWidget* MainWindow::openFile(const QString& path) {
 
 QWidget* MainWindow::openMacro(const Vor_String& path) {
     const QString key = toQt(path);
-    if (QWidget* there = pageOf(key)) {
-        m_pages->setCurrentWidget(there);
-        return there;
-    }
+    if (QWidget* there = bringForward(key)) return there;
     Vor_String failure;
     auto macro = runs::MacroRun::open(path, failure);
     if (!macro) {
@@ -349,10 +352,7 @@ QWidget* MainWindow::openMacro(const Vor_String& path) {
 
 QWidget* MainWindow::openSectionTable(const Vor_String& path) {
     const QString key = toQt(path);
-    if (QWidget* there = pageOf(key)) {
-        m_pages->setCurrentWidget(there);
-        return there;
-    }
+    if (QWidget* there = bringForward(key)) return there;
     int index = 0;
     const Vor_String name = removeExtension(getFileName(path));
     const SectionTable* table =
@@ -368,10 +368,7 @@ QWidget* MainWindow::openSectionTable(const Vor_String& path) {
 
 RunPage* MainWindow::openStandard(const Vor_String& path) {
     const QString key = toQt(path);
-    if (auto* there = dynamic_cast<RunPage*>(pageOf(key))) {
-        m_pages->setCurrentWidget(there);
-        return there;
-    }
+    if (auto* there = dynamic_cast<RunPage*>(bringForward(key))) return there;
     Vor_String failure;
     auto session = RunSession::open(path, failure);
     if (!session) {

@@ -65,6 +65,8 @@ class MainWindow : public QMainWindow {
     /// `key` finds the page again; empty for the tip.
     void showPage(QWidget* page, const QString& title, const QString& tip, const QString& key = {});
     QWidget* pageOf(const QString& key) const;
+    /// Null when there is no such page.
+    QWidget* bringForward(const QString& key);
     void watchLibrary();
     void libraryChanged();
     void complain(const QString& text);
