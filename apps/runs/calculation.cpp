@@ -116,10 +116,12 @@ std::string shownValue(const std::string& value, const std::string& unit) {
     return unit.empty() || value.empty() ? shown : shown + " " + unit;
 }
 
-Calculation makeCalculation(const RunReport& report) {
+Calculation makeCalculation(const RunReport& report, const DeclaredStandard* known) {
     Calculation calculation;
     Vor_String failure;
-    if (auto declared = readDeclared(Vor_String(report.path), failure))
+    if (known)
+        calculation.standard = *known;
+    else if (auto declared = readDeclared(Vor_String(report.path), failure))
         calculation.standard = std::move(*declared);
     calculation.standard.path = report.path;
     calculation.inputs = report.inputs;

@@ -39,6 +39,7 @@ struct Calculation {
 /// A value as people read it: numbers with six figures, never an exponent; the unit behind.
 std::string shownValue(const std::string& value, const std::string& unit);
 
-Calculation makeCalculation(const RunReport& report);
+/// `known`, when given, is what the sheet of the report says about itself; else its file is read.
+Calculation makeCalculation(const RunReport& report, const DeclaredStandard* known = nullptr);
 
 }  // namespace runs

@@ -84,7 +84,7 @@ void RunSession::run() {
         runs::RunRecorder recorder(report);
         m_request.start();
     }
-    m_calculation = runs::makeCalculation(report);
+    m_calculation = runs::makeCalculation(report, &m_standard);
 }
 
 bool RunSession::isStale() const {
