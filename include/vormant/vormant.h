@@ -5,5 +5,6 @@
 #include <vormant/frame.h>
 #include <vormant/macros.h>
 #include <vormant/mapping.h>
+#include <vormant/sections.h>
 #include <vormant/spread.h>
 #include <vormant/standards.h>

@@ -19,15 +19,6 @@ bool hasSections() {
     return gSectionTables.table(0) != nullptr;
 }
 
-Vor_ProfValuesTable tableOf(const SectionTable& table) {
-    Vor_ProfValuesTable made;
-    made.tableName = table.name();
-    made.drawnAs = table.drawnAs();
-    made.columnNames = table.header();
-    made.rows = table.rows();
-    return made;
-}
-
 /// The first size of a table, or an empty text.
 Vor_String firstSection(std::string_view table) {
     const Vor_StringArray names = ModuleData::sections(table);
@@ -50,7 +41,10 @@ Outcome sectionLibrary(ModuleData& data) {
 Outcome sectionSize(ModuleData& data) {
     if (!hasSections()) return Outcome::noSections;
     auto& edited = data.objects.sectionTable;
-    if (!edited) edited = tableOf(*gSectionTables.table(0));
+    if (!edited) {
+        edited.emplace();
+        edited->readFromFile(gSectionTables.table(0)->name());
+    }
     return changedIf(StartDlgEditLibSimple(edited->tableName, *edited, data.objects.sectionRow));
 }
 
