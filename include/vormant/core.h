@@ -8,6 +8,7 @@
 #include "core_api/numbers.h"
 #include "core_api/property_list.h"
 #include "core_api/sections/section_tables.h"
+#include "core_api/sections/section_translation.h"
 #include "core_api/settings.h"
 #include "core_api/text/text_helpers.h"
 #include "core_api/texts/dial_text.h"

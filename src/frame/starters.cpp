@@ -5,6 +5,7 @@
 
 #include "core_api/text/text_helpers.h"
 #include "core_api/texts/texts.h"
+#include "frame/cis2_section_names.h"
 #include "frame/select_image_dialog.h"
 #include "frame/starter_dialogs.h"
 #include "frame/starting.h"
@@ -31,7 +32,13 @@ bool StartDlgCladdingSettings(TwCladdingDlgData& data) {
 }
 
 bool StartDlgCis2Info(TwDlgCis2Data& data) {
-    return startDialog<Cis2Dialog>(data);
+    TwDlgCis2Data edited = data;
+    const bool isKnown = readCis2SectionNames(edited);
+    const SectionTranslation before = edited.sectionNames;
+    if (!startDialog<Cis2Dialog>(edited)) return false;
+    data = edited;
+    if (isKnown && edited.sectionNames != before) writeCis2SectionNames(edited.sectionNames);
+    return true;
 }
 
 bool StartDlgBracing(TwBracingDlgData& data) {

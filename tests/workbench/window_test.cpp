@@ -102,6 +102,29 @@ TEST_F(ModelessSample, ButtonsAndBoxesFollowTheirWindow) {
     EXPECT_THAT(dialog.told, IsEmpty());
 }
 
+TEST_F(ModelessSample, APictureOnAButtonKeepsItsColoursAndLeavesOneOut) {
+    constexpr CBitmap::Pixel red = 0xFF0000, grey = 0xC0C0C0;
+    CBitmap picture(12, 8, grey);
+    for (int x = 0; x < 6; ++x)
+        for (int y = 0; y < 8; ++y) picture.set(x, y, red);
+    auto& button = dialog.at<CButton>(sample::moreButton);
+    const auto& shown = at<QPushButton>(sample::moreButton);
+    button.setPicture(picture, grey);
+    button.enable(false);
+    EXPECT_TRUE(shown.text().isEmpty());
+    EXPECT_TRUE(shown.isFlat());
+    const QImage drawn = shown.icon()
+                             .pixmap(shown.iconSize(), QIcon::Disabled)
+                             .toImage()
+                             .convertToFormat(QImage::Format_ARGB32);
+    ASSERT_EQ(drawn.size(), QSize(12, 8));
+    EXPECT_EQ(drawn.pixel(2, 4), qRgb(255, 0, 0));
+    EXPECT_EQ(qAlpha(drawn.pixel(9, 4)), 0);
+    button.setPicture({}, grey);
+    EXPECT_EQ(shown.text(), "&More...");
+    EXPECT_FALSE(shown.isFlat());
+}
+
 TEST_F(ModelessSample, ListsAndCombosTakeWhatIsPicked) {
     clickItem(at<QAbstractItemView>(sample::list), 1);
     EXPECT_EQ(dialog.at<CListBox>(sample::list).selectedText(), "M20");

@@ -47,11 +47,23 @@ class PressView : public ViewOf<CButton, Widget> {
     }
     // Icons are drawn for 16 pixels and look best at whole multiples.
     void showImage() {
+        if (!this->model().picture().isEmpty()) return showPicture();
         const int number = this->model().image();
         this->shown().setIcon(number ? iconOf(number) : QIcon());
         const int side = std::min(this->shown().width(), this->shown().height()) - iconMargin;
         const int icon = std::max(side / smallIcon, 1) * smallIcon;
         this->shown().setIconSize({icon, icon});
+        showText();
+    }
+    // A picture is as large as it is, unless the button is smaller.
+    void showPicture() {
+        const CButton& button = this->model();
+        const QPixmap picture =
+            QPixmap::fromImage(imageOf(button.picture(), button.pictureWithout()));
+        QIcon icon(picture);
+        icon.addPixmap(picture, QIcon::Disabled);
+        this->shown().setIcon(icon);
+        this->shown().setIconSize(picture.size().boundedTo(this->shown().size()));
         showText();
     }
 };
@@ -66,6 +78,7 @@ class PushView : public PressView<QPushButton> {
             shown().setCheckable(model().isCheckable());
             shown().setDefault(isDefault());
         }
+        if (change == WindowChange::content) shown().setFlat(!model().picture().isEmpty());
         PressView::apply(change);
     }
     void showCheck() override { shown().setChecked(model().isCheckable() && model().check() != 0); }

@@ -1,6 +1,7 @@
 // What a member is called when it is exchanged in the CIS/2 format.
 #pragma once
 
+#include "core_api/sections/section_translation.h"
 #include "core_api/text/vor_string.h"
 
 class VORMANT_API TwDlgCis2Data {
@@ -14,4 +15,7 @@ class VORMANT_API TwDlgCis2Data {
     Vor_String pieceMark;
     int phase = 1;
     bool isExported = true;
+    /// What sections are called in that format. The library keeps them for all members; the dialog
+    /// reads and writes them.
+    SectionTranslation sectionNames;
 };

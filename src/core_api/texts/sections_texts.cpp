@@ -119,6 +119,9 @@ constexpr TextRow rows[] = {
     {1686, {"Edge length", "Randlengte", "Randlänge", "Longueur de bord"}},
     {1687, {"Edge angle", "Randhoek", "Randwinkel", "Angle de bord"}},
     {1740, {"CIS/2 name", "CIS/2-naam", "CIS/2-Name", "Nom CIS/2"}},
+    {25000,
+     {"CIS/2 names of sections", "CIS/2-namen van profielen", "CIS/2-Namen der Profile",
+      "Noms CIS/2 des profilés"}},
 };
 
 }  // namespace

@@ -55,8 +55,12 @@ NamedValues describe(DstvPoints& data) {
 
 NamedValues describe(TwDlgCis2Data& data) {
     constexpr int highestPhase = 9999;
-    return {textValue(21065, data.memberName),   textValue(21063, data.sectionName),
-            textValue(21064, data.materialName), textValue(21093, data.assemblyMark),
-            textValue(21094, data.pieceMark),    wholeValue(21095, data.phase, 0, highestPhase),
-            yesNoValue(21096, data.isExported)};
+    NamedValues values{
+        textValue(21065, data.memberName),   textValue(21063, data.sectionName),
+        textValue(21064, data.materialName), textValue(21093, data.assemblyMark),
+        textValue(21094, data.pieceMark),    wholeValue(21095, data.phase, 0, highestPhase),
+        yesNoValue(21096, data.isExported)};
+    for (SectionTranslation::Pair& pair : data.sectionNames.pairs)
+        values.push_back(textValue(1740, pair.otherName).of(pair.section));
+    return values;
 }

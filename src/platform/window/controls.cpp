@@ -27,6 +27,12 @@ void CButton::setImage(int number) {
     tell(WindowChange::content);
 }
 
+void CButton::setPicture(CBitmap picture, CBitmap::Pixel without) {
+    m_picture = std::move(picture);
+    m_pictureWithout = without;
+    tell(WindowChange::content);
+}
+
 bool CButton::userPresses() {
     if (!isCreated() || !isEnabled() || m_kind == Control::group) return false;
     if (m_kind == Control::radioButton) {

@@ -46,6 +46,11 @@ class VORMANT_API CButton : public CWnd {
     /// Number of the bitmap resource it shows, 0 for its text.
     int image() const { return m_image; }
     void setImage(int number);
+    /// A picture in place of its text and border; pixels of the colour `without` are left out. It
+    /// keeps its colours while the button is disabled. An empty picture takes it away.
+    void setPicture(CBitmap picture, CBitmap::Pixel without);
+    const CBitmap& picture() const { return m_picture; }
+    CBitmap::Pixel pictureWithout() const { return m_pictureWithout; }
 
     /// Of a radio button: those that one press unchecks but for one, in order, with itself.
     std::vector<CButton*> group();
@@ -57,6 +62,8 @@ class VORMANT_API CButton : public CWnd {
     Control m_kind;
     int m_check = 0;
     int m_image = 0;
+    CBitmap m_picture;
+    CBitmap::Pixel m_pictureWithout = CBitmap::white;
 };
 
 class VORMANT_API CEdit : public CWnd {

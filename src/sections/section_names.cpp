@@ -1,0 +1,17 @@
+#include "sections/section_names.h"
+
+#include "core_api/text/text_helpers.h"
+
+bool isUserSection(const Vor_String& section) {
+    return section.beginsWith(userSectionsFolder);
+}
+
+Vor_String userSectionName(const Vor_String& section) {
+    const int folder =
+        isUserSection(section) ? static_cast<int>(std::string_view(userSectionsFolder).size()) : 0;
+    return removeExtension(section.getSubStringAt(folder));
+}
+
+Vor_String sectionTableOf(const Vor_String& section) {
+    return getSubstrBefore(section, "-");
+}

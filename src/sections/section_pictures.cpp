@@ -1,0 +1,75 @@
+#include "sections/section_pictures.h"
+
+#include <utility>
+
+#include "core_api/files.h"
+#include "core_api/settings.h"
+#include "core_api/text/text_helpers.h"
+#include "platform/files.h"
+#include "platform/window/controls.h"
+#include "sections/section_names.h"
+#include "sections/section_types.h"
+
+namespace {
+
+/// What the picture files of a section begin with.
+Vor_String pictureName(const Vor_String& drawnAs, const Vor_String& section) {
+    if (drawnAs.isEmpty()) return userSectionName(section);
+    if (isDrawnTemplate(drawnAs)) return removeExtension(drawnAs);
+    return sectionTypePicture(sectionTypeNumber(drawnAs));
+}
+
+/// Names come out of drawings: one that leads out of its folder must not be written to.
+bool staysInFolder(const Vor_String& name) {
+    return !splitStringAtSymbol(name, '\\', false).contains("..");
+}
+
+bool isOutOfDate(const Vor_String& copy, std::int64_t sourceTime) {
+    std::int64_t time = 0;
+    return ObjectExportGetFileTime(copy, time) != Acad::eOk || time < sourceTime;
+}
+
+bool copyFile(const Vor_String& from, const Vor_String& to) {
+    std::string error;
+    const auto bytes = files::readWhole(from, error);
+    return bytes && files::createFolder(getPath(to), error) && files::writeWhole(to, *bytes, error);
+}
+
+}  // namespace
+
+Vor_String iconPath(const Vor_String& file) {
+    return gSettings.vorDir() + "icons\\" + file;
+}
+
+Vor_String sectionPicture(const Vor_String& drawnAs, const Vor_String& section, PictureSize size) {
+    const char* const ending = size == PictureSize::big ? "-big.bmp" : "-small.bmp";
+    const Vor_String name = pictureName(drawnAs, section);
+    Vor_String file = name + ending;
+    if (ObjectExportFileExists(iconPath(file))) return file;
+    const bool mayBeMade = drawnAs.isEmpty() && size == PictureSize::small;
+    if (mayBeMade && makeUserSectionPicture(name, file)) return file;
+    return Vor_String("Unknown") + ending;
+}
+
+bool makeUserSectionPicture(const Vor_String& name, Vor_String& file) {
+    const Vor_String source = gSettings.libDir() + userSectionsFolder + name + ".bmp";
+    const Vor_String made = name + "-automated.bmp";
+    std::int64_t sourceTime = 0;
+    if (!staysInFolder(name) || ObjectExportGetFileTime(source, sourceTime) != Acad::eOk)
+        return false;
+    if (isOutOfDate(iconPath(made), sourceTime) && !copyFile(source, iconPath(made))) return false;
+    file = made;
+    return true;
+}
+
+bool showIcon(CButton& button, const Vor_String& file, CBitmap::Pixel without) {
+    return showPictureFile(button, iconPath(file), without);
+}
+
+bool showPictureFile(CButton& button, const Vor_String& path, CBitmap::Pixel without) {
+    std::string error;
+    auto picture = readBitmap(path, error);
+    if (!picture) return false;
+    button.setPicture(std::move(*picture), without);
+    return true;
+}
