@@ -172,8 +172,6 @@ TEST_F(Desktop, GridsLookAfterEveryActionAndAreNotAskedOnceTheyAreGone) {
 
 // --- files and the clipboard --------------------------------------------------------------------
 
-// --- files and the clipboard --------------------------------------------------------------------
-
 class FileChooser : public Desktop {
   protected:
     /// Types a name and confirms, answers what is asked then by these keys, and at last gives up.
@@ -184,7 +182,7 @@ class FileChooser : public Desktop {
             saveGrab(*chooser, "files");
             chooser->findChild<QLineEdit*>("fileNameEdit")->setText(name);
             if (!answers.empty()) answersNext(answers);
-            static_cast<Confirmable*>(chooser)->accept();
+            static_cast<QDialog*>(chooser)->accept();  // hidden by the chooser's own
         });
     }
     static void answersNext(std::vector<Qt::Key> answers) {
@@ -202,11 +200,6 @@ class FileChooser : public Desktop {
                                   nullptr);
     }
     TemporaryFolder folder;
-
-  private:
-    struct Confirmable : QFileDialog {
-        using QFileDialog::accept;
-    };
 };
 
 TEST_F(FileChooser, AddsTheExtensionAndAsksBeforeItReplaces) {

@@ -123,7 +123,10 @@ class Dialog : public CDialog {
 
     void onCommand(int id, int code) override {
         told.push_back({id, code});
-        if (id == moreButton && code == clicked && whenMore) whenMore();
+        if (id == moreButton && code == clicked && whenMore) {
+            const auto more = whenMore;  // it may delete this dialog
+            return more();
+        }
         if (id == tabs && code == selectionChanged) showPage();
         CDialog::onCommand(id, code);
     }

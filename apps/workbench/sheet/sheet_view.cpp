@@ -24,7 +24,10 @@ SheetView::SheetView(TSpread& spread, QWidget* parent)
         if (m_frozen->isFrozen() && m_frozen->holds(m_grid.active())) {
             m_frozen->setShown(false);
             GridView::scrollTo(currentIndex());
-            connect(field, &QObject::destroyed, m_frozen, [this] { m_frozen->setShown(true); });
+            // Later, since the field may go together with the view.
+            connect(
+                field, &QObject::destroyed, m_frozen, [this] { m_frozen->setShown(true); },
+                Qt::QueuedConnection);
         }
         m_typing = new FormulaTyping(
             *field, m_grid, [this](const FormulaTyping::Marks& marks) { setMarks(marks); });
