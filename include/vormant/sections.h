@@ -1,6 +1,8 @@
-// The section library: tables of sizes, the built-in section types, pictures and lists of sizes.
+// The section library: tables of sizes, the built-in section types, areas, pictures and
+// lists of sizes.
 #pragma once
 
+#include "sections/section_area.h"
 #include "sections/section_names.h"
 #include "sections/section_pictures.h"
 #include "sections/section_size_list.h"

@@ -1,5 +1,5 @@
-// Section tables and data files against geometry and against each other: a slipped column or a
-// mistyped size shows as an area that its dimensions cannot have.
+// Section tables and data files against each other. What the dimensions of sections give is
+// compared with published areas in tests/sections.
 #include <cmath>
 #include <numbers>
 #include <set>
@@ -11,75 +11,24 @@
 
 namespace {
 
-class SectionTables : public SampleLibrary {
-  protected:
-    /// Calls visit(name, values) for every size of the table; the values from number 1.
-    template <class Visit>
-    static void each(const char* tableName, Visit&& visit) {
-        int index = 0;
-        ASSERT_TRUE(gSectionTables.hasTable(tableName, index)) << tableName;
-        const SectionTable* table = gSectionTables.table(index);
-        ASSERT_NE(table, nullptr) << tableName;
-        EXPECT_GT(table->rows().length(), 10) << tableName;
-        for (int row = 0; row < table->rows().length(); ++row) {
-            std::vector<double> values{0};
-            for (int i = 0; i < table->valueColumns().length(); ++i)
-                values.push_back(textToDouble(valueOf(*table, row, i)));
-            visit(table->fullName(row).str(), values);
-        }
-    }
-    static std::string_view valueOf(const SectionTable& table, int row, int index) {
-        const Vor_String* text = table.value(row, index);
-        return text ? text->view() : "missing";
-    }
-    /// `massAt` is the number of the value in kg/m; the area in cm2 follows it.
-    static void expectArea(const std::string& name, const std::vector<double>& v, size_t massAt,
-                           double mm2) {
-        const double area = v[massAt + 1] * 100;
-        EXPECT_NEAR(area, mm2, 0.002 * mm2) << name;
-        EXPECT_NEAR(v[massAt], area * 7.85e-3, 0.0125 * v[massAt]) << name;
-    }
-    static constexpr double corners = 4 - std::numbers::pi;
-};
-
-TEST_F(SectionTables, AreasFollowFromTheDimensions) {
-    for (const char* table : {"IPE", "HEA", "HEB", "HEM"})
-        each(table, [](const std::string& name, const std::vector<double>& v) {
-            const double h = v[1], b = v[2], tw = v[3], tf = v[4], r = v[5];
-            expectArea(name, v, 6, 2 * b * tf + (h - 2 * tf) * tw + corners * r * r);
-        });
-    // The taper of a channel takes as much at the edge as it adds at the web.
-    for (const char* table : {"UPN", "UPE"})
-        each(table, [](const std::string& name, const std::vector<double>& v) {
-            const double h = v[1], b = v[2], tw = v[3], tf = v[4];
-            EXPECT_NEAR(v[10] * 100, 2 * b * tf + (h - 2 * tf) * tw, 0.06 * v[10] * 100) << name;
-            EXPECT_NEAR(v[9], v[10] * 0.785, 0.01 * v[9]) << name;
-        });
-    each("L", [](const std::string& name, const std::vector<double>& v) {
-        const double h = v[1], b = v[2], t = v[3], root = v[5], toe = v[6];
-        EXPECT_EQ(t, v[4]) << name;
-        expectArea(name, v, 7, t * (h + b - t) + corners / 4 * (root * root - 2 * toe * toe));
-    });
-    for (const char* table : {"RHS", "SHS", "RHSC", "SHSC"})
-        each(table, [](const std::string& name, const std::vector<double>& v) {
-            const double h = v[1], b = v[2], t = v[3], ro = v[4], ri = v[5];
-            expectArea(name, v, 6, 2 * t * (h + b - 2 * t) - corners * (ro * ro - ri * ri));
-        });
-    for (const char* table : {"CHS", "CHSC"})
-        each(table, [](const std::string& name, const std::vector<double>& v) {
-            expectArea(name, v, 3, std::numbers::pi * v[2] * (v[1] - v[2]));
-        });
-}
+class SectionTables : public SampleLibrary {};
 
 TEST_F(SectionTables, EverySizeIsFoundByItsTwoNames) {
-    for (const Vor_String& tableName : gSectionTables.tableNames())
-        each(tableName.c_str(), [](const std::string& name, const std::vector<double>&) {
+    const Vor_StringArray names = gSectionTables.tableNames();
+    EXPECT_GE(names.length(), 20);
+    for (int i = 0; i < names.length(); ++i) {
+        const SectionTable* table = gSectionTables.table(i);
+        ASSERT_NE(table, nullptr) << names[i].view();
+        EXPECT_FALSE(table->rows().isEmpty()) << names[i].view();
+        for (int row = 0; row < table->rows().length(); ++row) {
+            const Vor_String name = table->fullName(row);
             Vor_String userName;
             Vor_String found;
-            ASSERT_TRUE(gSectionTables.getUserName(name, userName)) << name;
-            ASSERT_TRUE(gSectionTables.getSystemName(userName.view(), found)) << name;
-            EXPECT_EQ(found.str(), name);
-        });
+            ASSERT_TRUE(gSectionTables.getUserName(name, userName)) << name.view();
+            ASSERT_TRUE(gSectionTables.getSystemName(userName.view(), found)) << name.view();
+            EXPECT_EQ(found, name);
+        }
+    }
 }
 
 /// The value of a key in a look-up table of the library; NaN when it is not there.

@@ -7,6 +7,7 @@
 #include "core_api/settings.h"
 #include "core_api/text/text_helpers.h"
 #include "platform/window/controls.h"
+#include "support/printed.h"
 #include "support/temporary_folder.h"
 
 namespace {
@@ -22,6 +23,8 @@ TEST(SectionSizeList, OffersTheActiveSizesByTheirNames) {
     folder.write("prof/BAD.pr", "1\nSysName\t\\x\n");
     gSettings.setLibDir(folder.inside());
     gSectionTables.reload();
+    Printed host;  // hears of the damaged table
+    const HostScope scope(host);
     const struct {
         const char* section;
         Language language;

@@ -2,7 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include "core_api/files.h"
 #include "core_api/text/text_helpers.h"
+#include "core_api/texts/texts.h"
+#include "sections/vor_prof_values_table.h"
 
 namespace {
 
@@ -58,6 +61,28 @@ TEST(SectionTypes, ATableNamesATypeByItsNumberAlone) {
         EXPECT_EQ(sectionTypeNumber(c.drawnAs), c.type) << c.drawnAs;
         EXPECT_EQ(isDrawnTemplate(c.drawnAs), c.isDrawn) << c.drawnAs;
     }
+}
+
+TEST(SectionTypes, TablesOfTheSampleLibraryBeginWithTheirColumnsAndNameEverySize) {
+    gSettings.setLibDir(VORMANT_SOURCE_DIR "/library/");
+    for (const Vor_String& path : ObjectExportFindFiles(gSettings.libDir() + "prof\\", "*.pr")) {
+        SCOPED_TRACE(path.view());
+        Vor_ProfValuesTable table;
+        ASSERT_TRUE(table.readFromPath(path));
+        const int type = sectionTypeNumber(table.drawnAs);
+        Vor_StringArray header{"SysName", "I/O"};
+        header.appendAll(gMacroLangs.GetAllLanguages());
+        header.appendAll(sectionTypeColumns(type, Language::english));
+        ASSERT_GE(type, 1);
+        ASSERT_GE(table.columnNames.length(), header.length());
+        for (int i = 0; i < header.length(); ++i) EXPECT_EQ(table.columnNames[i], header[i]);
+        for (const Vor_StringArray& row : table.rows) {
+            ASSERT_EQ(row.length(), table.columnNames.length()) << row[0].view();
+            EXPECT_EQ(row[Vor_ProfValuesTable::activeColumn].view(), "1");
+            for (const Vor_String& cell : row) EXPECT_FALSE(cell.isEmpty()) << row[0].view();
+        }
+    }
+    gSettings = Vor_Settings();
 }
 
 }  // namespace

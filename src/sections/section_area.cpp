@@ -1,0 +1,194 @@
+#include "sections/section_area.h"
+
+#include <algorithm>
+#include <cmath>
+#include <numbers>
+#include <vector>
+
+#include "core_api/sections/section_tables.h"
+#include "core_api/text/text_helpers.h"
+#include "sections/section_types.h"
+
+namespace {
+
+using Values = std::span<const double>;  // in the order of the type's value columns
+constexpr double pi = std::numbers::pi;
+constexpr double rightAngle = 90;
+
+double cotOfHalf(double degrees) {
+    return 1 / std::tan(degrees * pi / 360);
+}
+
+/// What a radius fills in, or takes off, at a corner of `degrees`.
+double rounding(double radius, double degrees = rightAngle) {
+    return radius * radius * (cotOfHalf(degrees) - (180 - degrees) * pi / 360);
+}
+
+/// What two strips of this thickness have in common where they meet at an angle.
+double overlap(double thickness, double degrees = rightAngle) {
+    return thickness * thickness * cotOfHalf(degrees);
+}
+
+// --- rolled sections: h, b, tw, tf, then radii --------------------------------------------------
+
+// 2 b tf + (h - 2 tf) tw + 4 fillets
+double iSection(Values v) {
+    return 2 * v[1] * v[3] + (v[0] - 2 * v[3]) * v[2] + 4 * rounding(v[4]);
+}
+
+// h tw + (b - tw) tf + fillet - 2 toes
+double angleSection(Values v) {
+    return v[0] * v[2] + (v[1] - v[2]) * v[3] + rounding(v[4]) - 2 * rounding(v[5]);
+}
+
+// b tf + (h - tf) tw + 2 fillets
+double tSection(Values v) {
+    return v[1] * v[3] + (v[0] - v[3]) * v[2] + 2 * rounding(v[4]);
+}
+
+/// The parts of a flange beside the web, `width` wide: tf thick at the slope position and thicker
+/// by the slope towards the web; a fillet at the web and a rounded toe at the edge.
+double taperedOutstand(Values v, double width) {
+    const double slope = v[6] / 100;
+    const double meanThickness = v[3] + slope * (width / 2 - v[7]);
+    const double corner = rightAngle + std::atan(slope) * 180 / pi;
+    return width * meanThickness + rounding(v[4], corner) - rounding(v[5], corner);
+}
+
+// h tw + 4 outstands of (b - tw) / 2
+double taperedI(Values v) {
+    return v[0] * v[2] + 4 * taperedOutstand(v, (v[1] - v[2]) / 2);
+}
+
+// h tw + 2 outstands of b - tw
+double taperedChannel(Values v) {
+    return v[0] * v[2] + 2 * taperedOutstand(v, v[1] - v[2]);
+}
+
+// --- bars and tubes -----------------------------------------------------------------------------
+
+double flat(Values v) {
+    return v[0] * v[1];
+}
+
+double roundBar(Values v) {
+    return pi / 4 * v[0] * v[0];
+}
+
+/// Of the inside of a tube with this radius outside. EN 10210-2 and EN 10219-2 give the pair for
+/// calculation: 1.0 t inside 1.5 t (no common centre), and one less by t from 2.0 t on.
+double innerRadius(double outer, double thickness) {
+    return std::max(outer - thickness, std::min(thickness, outer * 2 / 3));
+}
+
+// 2 t (h + b - 2 t) - 4 corners outside + 4 corners inside
+double rectangularTube(Values v) {
+    const double inner = innerRadius(v[3], v[2]);
+    return 2 * v[2] * (v[0] + v[1] - 2 * v[2]) - 4 * rounding(v[3]) + 4 * rounding(inner);
+}
+
+double roundTube(Values v) {
+    return pi * v[1] * (v[0] - v[1]);
+}
+
+// --- cold formed sections: a strip with sharp bends, measured outside ---------------------------
+
+// h tw + (b - tw) tf
+double coldAngle(Values v) {
+    return v[0] * v[2] + (v[1] - v[2]) * v[3];
+}
+
+/// A part that is bent off another one; none when it is no longer than the other is thick.
+double bentPart(double length, double thickness, double degrees = rightAngle) {
+    return std::max(length * thickness - overlap(thickness, degrees), 0.0);
+}
+
+// Web h, flanges 1 and 2.
+double coldChannel(Values v) {
+    return v[0] * v[3] + bentPart(v[1], v[3]) + bentPart(v[2], v[3]);
+}
+
+double lippedChannel(double height, double width, double lip1, double lip2, double thickness,
+                     double lipAngle) {
+    return height * thickness + 2 * bentPart(width, thickness) +
+           bentPart(lip1, thickness, lipAngle) + bentPart(lip2, thickness, lipAngle);
+}
+
+double cSection(Values v) {
+    return lippedChannel(v[0], v[1], v[2], v[2], v[3], rightAngle);
+}
+
+double unequalC(Values v) {
+    return lippedChannel(v[0], v[1], v[2], v[4], v[3], v[5]);
+}
+
+double cSleeve(Values v) {
+    return lippedChannel(v[0], v[2], v[1], v[1], v[3], rightAngle);
+}
+
+// Web h, flanges 1 and 2 to either side, a lip at each.
+double zSection(Values v) {
+    const double t = v[5];
+    return v[0] * t + bentPart(v[1], t) + bentPart(v[2], t) + bentPart(v[3], t) + bentPart(v[4], t);
+}
+
+// Two legs at an angle.
+double vSection(Values v) {
+    return 2 * v[0] * v[1] - overlap(v[1], v[2]);
+}
+
+// Top b, two webs below it, two feet outside the webs.
+double hat(Values v) {
+    return v[2] * (v[1] + 2 * (v[0] - v[2]) + 2 * v[3]);
+}
+
+using Formula = double (*)(Values);
+constexpr Formula formulas[sectionTypeCount] = {
+    iSection,       coldAngle, angleSection, coldChannel,     tSection,  taperedI,
+    taperedChannel, flat,      roundBar,     rectangularTube, roundTube, cSection,
+    zSection,       vSection,  hat,          nullptr,         tSection,  nullptr,
+    nullptr,        nullptr,   unequalC,     cSleeve,         nullptr,   nullptr,
+};
+
+/// The number at a value column of a size.
+std::optional<double> valueAt(const SectionTable& table, int row, int column) {
+    const Vor_String* text = table.value(row, column);
+    if (!text || !isNumber(*text)) return std::nullopt;
+    return textToDouble(*text);
+}
+
+}  // namespace
+
+std::optional<double> sectionArea(int type, std::span<const double> values) {
+    if (type < 1 || type > sectionTypeCount) return std::nullopt;
+    const Formula formula = formulas[type - 1];
+    const auto needed = static_cast<size_t>(sectionTypeColumns(type).length());
+    const auto isBad = [](double value) { return !std::isfinite(value) || value < 0; };
+    if (!formula || values.size() < needed || std::ranges::any_of(values.first(needed), isBad))
+        return std::nullopt;
+    const double area = formula(values.first(needed));
+    if (!std::isfinite(area) || area <= 0) return std::nullopt;
+    return area;
+}
+
+std::optional<double> sectionMass(int type, std::span<const double> values) {
+    constexpr double mm2PerM2 = 1e6;
+    const auto area = sectionArea(type, values);
+    if (!area) return std::nullopt;
+    return *area / mm2PerM2 * steelDensity;
+}
+
+std::optional<double> sectionMass(std::string_view section) {
+    const auto place = gSectionTables.find(section);
+    if (!place) return std::nullopt;
+    const SectionTable& table = *place.table;
+    const Vor_StringArray columns = table.valueColumns();
+    if (const auto mass = valueAt(table, place.row, columns.find("Mass kg/m"))) return mass;
+    std::vector<double> values;
+    for (int i = 0; i < columns.length(); ++i) {
+        const auto value = valueAt(table, place.row, i);
+        if (!value) break;
+        values.push_back(*value);
+    }
+    return sectionMass(sectionTypeNumber(table.drawnAs()), values);
+}

@@ -1,0 +1,24 @@
+// What a section of a built-in type weighs: its area from the values of its table, and the mass
+// that follows. Fillets, toe radii and flange slopes count where the type has them; bends of cold
+// formed sections are taken as sharp, since their types have no radius for them.
+#pragma once
+
+#include <optional>
+#include <span>
+#include <string_view>
+
+#include "platform/export.h"
+
+inline constexpr double steelDensity = 7850;  // kg/m3, EN 1991-1-1 table A.4
+
+/// In mm2, from the values in the order of the type's value columns (mm, degrees, percent); more
+/// of them are left out. Nothing when a value is missing or the values give no shape (a wall
+/// thicker than its tube), or when those of the type do not say how its parts lie: 16, 18 to 20,
+/// 23 and 24. The formulas stand in section_area.cpp.
+VORMANT_API std::optional<double> sectionArea(int type, std::span<const double> values);
+
+/// kg for a metre of steel.
+VORMANT_API std::optional<double> sectionMass(int type, std::span<const double> values);
+/// The same of a section by its full or user name: what its table says in a column "Mass kg/m",
+/// else from its values. Nothing for an unknown section and for drawn ones without such a column.
+VORMANT_API std::optional<double> sectionMass(std::string_view section);
