@@ -217,23 +217,24 @@ bool SheetPage::saveTo(const std::string& path) {
 bool SheetPage::exportTo(const std::string& path) {
     if (!commitEdit()) return false;
     const QString shown = machinePath(path);
+    const bool isPdf = shown.endsWith(".pdf", Qt::CaseInsensitive);
     QString failure;
-    bool isDone = false;
-    if (shown.endsWith(".pdf", Qt::CaseInsensitive)) {
-        isDone = writeSheetPdf(spread(), shown, failure);
-    } else {
-        std::string error;
-        isDone = m_file->exportTo(path, error);
+    if (std::string error; isPdf)
+        writeSheetPdf(spread(), shown, failure);
+    else if (!m_file->exportTo(path, error))
         failure = toQt(error);
-    }
-    const QString problems = isDone ? printProblems(spread()) : QString();
-    if (!isDone) {
+    if (failure.isEmpty()) tell(say(sayExported).arg(shown));
+    if (isPdf || !failure.isEmpty()) tellPrinted(failure);
+    return failure.isEmpty();
+}
+
+void SheetPage::tellPrinted(const QString& failure) {
+    if (!failure.isEmpty()) {
         tell(failure, true);
         showWarning("Vormant", fromQt(failure));
-    } else {
-        tell(problems.isEmpty() ? say(sayExported).arg(shown) : problems, !problems.isEmpty());
+    } else if (const QString problems = printProblems(spread()); !problems.isEmpty()) {
+        tell(problems, true);
     }
-    return isDone;
 }
 
 // What is checked is the file, so it is saved first.

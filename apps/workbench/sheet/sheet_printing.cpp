@@ -1,5 +1,6 @@
 #include "sheet/sheet_printing.h"
 
+#include <QAction>
 #include <QPainter>
 #include <QPdfWriter>
 #include <QPrintDialog>
@@ -8,6 +9,7 @@
 #include <QSaveFile>
 
 #include "sheet/page_painter.h"
+#include "sheet/say.h"
 #include "spread/tw_sheet_settings.h"
 #include "window/dialog_font.h"
 
@@ -34,6 +36,19 @@ printing::PrintJob jobFor(SheetSpread& spread, const printing::Paper& paper) {
 void setUp(QPagedPaintDevice& device, bool isLandscape) {
     device.setPageOrientation(isLandscape ? QPageLayout::Landscape : QPageLayout::Portrait);
     device.setPageMargins(QMarginsF(), QPageLayout::Millimeter);
+}
+
+QString notPrinted(const QPrinter& printer) {
+    const QString file = printer.outputFileName();
+    return say(sayNotPrinted).arg(file.isEmpty() ? printer.printerName() : file);
+}
+
+// The sheet itself decides how its paper lies.
+void hideTurning(QPrintPreviewDialog& dialog) {
+    for (QAction* action : dialog.findChildren<QAction*>())
+        if (action->text() == QPrintPreviewDialog::tr("Portrait") ||
+            action->text() == QPrintPreviewDialog::tr("Landscape"))
+            action->setVisible(false);
 }
 
 }  // namespace
@@ -72,19 +87,24 @@ bool writeSheetPdf(SheetSpread& spread, const QString& path, QString& error) {
     return false;
 }
 
-void askAndPrint(SheetSpread& spread, QWidget* parent) {
+QString askAndPrint(SheetSpread& spread, QWidget* parent) {
     QPrinter printer(QPrinter::HighResolution);
     QPrintDialog dialog(&printer, parent);
-    if (dialog.exec() == QDialog::Accepted) printSheet(spread, printer);
+    if (dialog.exec() != QDialog::Accepted || printSheet(spread, printer)) return {};
+    return notPrinted(printer);
 }
 
-void previewSheet(SheetSpread& spread, QWidget* parent) {
+QString previewSheet(SheetSpread& spread, QWidget* parent) {
     QPrinter printer(QPrinter::HighResolution);
     QPrintPreviewDialog dialog(&printer, parent);
     dialog.resize(900, 700);
-    QObject::connect(&dialog, &QPrintPreviewDialog::paintRequested, &dialog,
-                     [&](QPrinter* device) { printSheet(spread, *device); });
+    hideTurning(dialog);
+    QString failure;
+    QObject::connect(&dialog, &QPrintPreviewDialog::paintRequested, &dialog, [&](QPrinter* device) {
+        failure = printSheet(spread, *device) ? QString() : notPrinted(*device);
+    });
     dialog.exec();
+    return failure;
 }
 
 QString printProblems(SheetSpread& spread) {

@@ -13,8 +13,9 @@ class QWidget;
 bool printSheet(SheetSpread& spread, QPagedPaintDevice& device);
 /// A4. False, with why, when the file cannot be written; the old one is kept then.
 bool writeSheetPdf(SheetSpread& spread, const QString& path, QString& error);
-/// Asks for a printer, or shows the pages first.
-void askAndPrint(SheetSpread& spread, QWidget* parent);
-void previewSheet(SheetSpread& spread, QWidget* parent);
+/// Ask for a printer; previewSheet shows the pages first. They give why nothing was printed, an
+/// empty text when it was, or when the user did not want to.
+QString askAndPrint(SheetSpread& spread, QWidget* parent);
+QString previewSheet(SheetSpread& spread, QWidget* parent);
 /// What is wrong with the header or footer files, a line each; the sheet is printed without them.
 QString printProblems(SheetSpread& spread);

@@ -138,4 +138,6 @@ enum SheetWord {
     sayCheckClean,
     saySize,
     sayFontName,
+
+    sayNotPrinted = 26050,
 };

@@ -60,9 +60,9 @@ void MainWindow::addSheetFileActions(QMenu& file) {
     m_sheetActions += exports.menuAction();
     file.addSeparator();
     addForSheet(file, sayPrintPreview, {},
-                [](SheetPage& page) { previewSheet(page.spread(), &page); });
+                [](SheetPage& page) { page.tellPrinted(previewSheet(page.spread(), &page)); });
     addForSheet(file, sayPrint, Qt::CTRL | Qt::Key_P,
-                [](SheetPage& page) { askAndPrint(page.spread(), &page); });
+                [](SheetPage& page) { page.tellPrinted(askAndPrint(page.spread(), &page)); });
 }
 
 SheetPage* MainWindow::currentSheet() const {

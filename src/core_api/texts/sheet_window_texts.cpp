@@ -216,6 +216,11 @@ constexpr TextRow rows[] = {
       "Rien n'a été trouvé."}},
     {23134, {"Text height", "Teksthoogte", "Schrifthöhe", "Hauteur du texte"}},
     {23135, {"Font", "Lettertype", "Schriftart", "Police"}},
+    {26050,
+     {"%1: nothing was printed; choose another printer or file.",
+      "%1: er is niets afgedrukt; kies een andere printer of een ander bestand.",
+      "%1: Es wurde nichts gedruckt; wählen Sie einen anderen Drucker oder eine andere Datei.",
+      "%1 : rien n'a été imprimé ; choisissez une autre imprimante ou un autre fichier."}},
 };
 
 }  // namespace
