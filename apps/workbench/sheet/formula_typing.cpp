@@ -11,11 +11,6 @@ namespace {
 constexpr int mostShown = 8;
 constexpr int padding = 4;
 
-QColor colourOf(const editor::ReferenceMark& mark) {
-    const size_t count = std::size(editor::markColours);
-    return toQt(editor::markColours[static_cast<size_t>(mark.colour) % count], Qt::black);
-}
-
 /// "ROUND(number, decimals)" with the argument being typed in bold.
 QString hintText(const editor::ArgumentHint& hint) {
     QString text = toQt(hint.function->name).toHtmlEscaped() + "(";
@@ -38,6 +33,11 @@ void placeBelow(QWidget& widget, QPoint point) {
 }
 
 }  // namespace
+
+QColor colourOf(const editor::ReferenceMark& mark) {
+    const size_t count = std::size(editor::markColours);
+    return toQt(editor::markColours[static_cast<size_t>(mark.colour) % count], Qt::black);
+}
 
 class FormulaColours : public QSyntaxHighlighter {
   public:
@@ -106,7 +106,8 @@ editor::FormulaPlace FormulaTyping::place() const {
 
 QPoint FormulaTyping::under() const {
     const QRect line = m_field.cursorRect();
-    return m_field.viewport()->mapTo(m_names->parentWidget(), QPoint(line.left(), m_field.height() + 2));
+    return m_field.viewport()->mapTo(m_names->parentWidget(),
+                                     QPoint(line.left(), m_field.height() + 2));
 }
 
 void FormulaTyping::help() {

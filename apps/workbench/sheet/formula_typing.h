@@ -13,6 +13,9 @@
 
 class FormulaColours;
 
+/// The same in the text and round the cells.
+QColor colourOf(const editor::ReferenceMark& mark);
+
 class FormulaTyping : public QObject {
   public:
     using Marks = std::vector<editor::ReferenceMark>;

@@ -6,13 +6,18 @@
 #include <QPainter>
 #include <QScrollBar>
 
+#include "grid/cell_painter.h"
 #include "grid/grid_header.h"
+#include "grid/grid_model.h"
+#include "grid/layout_follower.h"
+#include "sheet/sheet_view.h"
 
 class FrozenPane : public QTableView {
   public:
-    FrozenPane(TSpread& spread, QTableView& view)
+    FrozenPane(TSpread& spread, SheetView& view)
         : QTableView(&view),
           m_spread(spread),
+          m_view(view),
           m_model(spread.grid(), nullptr),
           m_painter(spread.grid(), nullptr),
           m_layout(spread.grid(), *this) {
@@ -54,39 +59,68 @@ class FrozenPane : public QTableView {
 
   protected:
     void mousePressEvent(QMouseEvent* event) override {
-        const QModelIndex index = indexAt(event->position().toPoint());
-        if (!index.isValid()) return;
-        parentWidget()->setFocus(Qt::MouseFocusReason);
-        m_spread.userMoves(index.column() + 1, index.row() + 1);
+        const auto cell = cellAt(event->pos());
+        const bool isLeft = event->button() == Qt::LeftButton;
+        if (!cell || !isLeft || m_view.point(*cell) || !m_view.commitEdit()) return;
+        m_view.setFocus(Qt::MouseFocusReason);
+        m_spread.userMoves(cell->col, cell->row);
     }
     void mouseMoveEvent(QMouseEvent* event) override {
-        const QModelIndex index = indexAt(event->position().toPoint());
+        const auto cell = cellAt(event->pos());
+        if (!cell || !(event->buttons() & Qt::LeftButton) || m_view.pointOn(*cell) ||
+            m_view.isEditing())
+            return;
         const auto [col, row] = m_spread.grid().active();
-        if (!index.isValid() || !(event->buttons() & Qt::LeftButton)) return;
-        m_spread.userSelects({std::min(col, index.column() + 1), std::min(row, index.row() + 1),
-                              std::max(col, index.column() + 1), std::max(row, index.row() + 1)});
+        m_spread.userSelects({std::min(col, cell->col), std::min(row, cell->row),
+                              std::max(col, cell->col), std::max(row, cell->row)});
+    }
+    void mouseReleaseEvent(QMouseEvent*) override { m_view.endPointing(); }
+    void contextMenuEvent(QContextMenuEvent* event) override {
+        const auto cell = cellAt(event->pos());
+        if (!cell || !m_view.commitEdit()) return;
+        if (!isSelected(*cell)) m_spread.userMoves(cell->col, cell->row);
+        m_spread.showContextMenu();
+    }
+    // What is frozen stays; the cells beside it scroll.
+    void wheelEvent(QWheelEvent* event) override {
+        QCoreApplication::sendEvent(m_view.viewport(), event);
     }
     void mouseDoubleClickEvent(QMouseEvent*) override {
         QKeyEvent edit(QEvent::KeyPress, Qt::Key_F2, Qt::NoModifier);
-        QCoreApplication::sendEvent(parentWidget(), &edit);
+        QCoreApplication::sendEvent(&m_view, &edit);
     }
     void paintEvent(QPaintEvent* event) override {
         QTableView::paintEvent(event);
         const auto [col, row] = m_spread.grid().active();
         QPainter painter(viewport());
+        m_view.marks().draw(painter, *this, m_spread.grid());
         painter.setPen(QPen(palette().color(QPalette::Highlight), 2));
         const QRect active = visualRect(m_model.index(row - 1, col - 1));
         if (!active.isEmpty()) painter.drawRect(active.adjusted(1, 1, -2, -2));
     }
 
   private:
+    std::optional<control::CellAddress> cellAt(const QPoint& point) const {
+        const QModelIndex index = indexAt(point);
+        if (!index.isValid()) return std::nullopt;
+        return control::CellAddress{index.column() + 1, index.row() + 1};
+    }
+
+    bool isSelected(control::CellAddress cell) const {
+        const control::Grid& grid = m_spread.grid();
+        const auto block = grid.selection() ? grid.resolved(*grid.selection()) : std::nullopt;
+        return block && cell.col >= block->col1 && cell.col <= block->col2 &&
+               cell.row >= block->row1 && cell.row <= block->row2;
+    }
+
     TSpread& m_spread;
+    SheetView& m_view;
     GridModel m_model;
     CellPainter m_painter;
     LayoutFollower m_layout;
 };
 
-FrozenPanes::FrozenPanes(TSpread& spread, QTableView& view)
+FrozenPanes::FrozenPanes(TSpread& spread, SheetView& view)
     : QObject(&view),
       m_grid(spread.grid()),
       m_view(view),
@@ -116,6 +150,10 @@ QSize FrozenPanes::covered() const {
 void FrozenPanes::setZoom(int percent) {
     for (FrozenPane* pane : {m_top, m_left, m_corner}) pane->setZoom(percent);
     follow();
+}
+
+void FrozenPanes::update() {
+    for (FrozenPane* pane : {m_top, m_left, m_corner}) pane->viewport()->update();
 }
 
 void FrozenPanes::setShown(bool shown) {

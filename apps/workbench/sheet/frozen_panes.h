@@ -3,18 +3,15 @@
 #pragma once
 
 #include <QTableView>
-#include <memory>
 
-#include "grid/cell_painter.h"
-#include "grid/grid_model.h"
-#include "grid/layout_follower.h"
 #include "spread/t_spread.h"
 
 class FrozenPane;
+class SheetView;
 
 class FrozenPanes : public QObject {
   public:
-    FrozenPanes(TSpread& spread, QTableView& view);
+    FrozenPanes(TSpread& spread, SheetView& view);
 
     /// The first `cols` and `rows` stay; none for 0.
     void freeze(int cols, int rows);
@@ -28,6 +25,8 @@ class FrozenPanes : public QObject {
     void setZoom(int percent);
     /// Shows what the grid is now.
     void follow();
+    /// Draws the marks of the sheet again.
+    void update();
     /// They make room while one of their cells is typed into.
     void setShown(bool shown);
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -36,7 +35,7 @@ class FrozenPanes : public QObject {
     void place();
 
     const control::Grid& m_grid;
-    QTableView& m_view;
+    SheetView& m_view;
     FrozenPane* m_top;
     FrozenPane* m_left;
     FrozenPane* m_corner;

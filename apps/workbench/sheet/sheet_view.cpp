@@ -5,16 +5,12 @@
 #include <QScrollBar>
 #include <QWheelEvent>
 
-using control::Block;
 using control::CellAddress;
 
 namespace {
 
 constexpr int zoomStep = 10;
 constexpr int leastZoom = 50, mostZoom = 200;
-
-const QColor markerColour(255, 190, 60, 110);
-const QColor variableColour(90, 160, 255, 60);
 
 }  // namespace
 
@@ -63,54 +59,26 @@ void SheetView::scrollTo(const QModelIndex& index, ScrollHint hint) {
 }
 
 void SheetView::setMarks(const FormulaTyping::Marks& marks) {
-    if (marks.empty() && m_marks.empty()) return;
-    m_marks = marks;
-    viewport()->update();
+    if (marks.empty() && m_marks.references.empty()) return;
+    m_marks.references = marks;
+    drawMarks();
 }
 
 void SheetView::setStandardMarks(std::shared_ptr<const StandardMarks> marks) {
-    m_standard = std::move(marks);
-    viewport()->update();
+    m_marks.standard = std::move(marks);
+    drawMarks();
 }
 
-QRect SheetView::rectOf(const Block& block) const {
-    const auto rect = [&](int col, int row) {
-        return visualRect(model()->index(row - 1, col - 1));
-    };
-    const auto inside = m_grid.resolved(block);
-    if (!inside) return {};
-    return rect(inside->col1, inside->row1).united(rect(inside->col2, inside->row2));
+void SheetView::drawMarks() {
+    viewport()->update();
+    m_frozen->update();
 }
 
 void SheetView::paintEvent(QPaintEvent* event) {
     GridView::paintEvent(event);
     if (!model()) return;
     QPainter painter(viewport());
-    if (m_standard) drawStandard(painter);
-    for (const editor::ReferenceMark& mark : m_marks) {
-        const size_t count = std::size(editor::markColours);
-        const QColor colour =
-            toQt(editor::markColours[static_cast<size_t>(mark.colour) % count], Qt::black);
-        const QRect rect = rectOf(mark.block).adjusted(0, 0, -1, -1);
-        painter.setPen(QPen(colour, 2));
-        painter.drawRect(rect.adjusted(1, 1, -1, -1));
-        QColor tint = colour;
-        tint.setAlpha(25);
-        painter.fillRect(rect, tint);
-    }
-}
-
-void SheetView::drawStandard(QPainter& painter) const {
-    const int first = std::max(rowAt(0), 0);
-    int last = rowAt(viewport()->height() - 1);
-    if (last < 0) last = m_grid.rows() - 1;
-    const auto fill = [&](const std::vector<CellAddress>& cells, const QColor& colour) {
-        for (const CellAddress& cell : cells)
-            if (cell.row - 1 >= first && cell.row - 1 <= last)
-                painter.fillRect(rectOf({cell.col, cell.row, cell.col, cell.row}), colour);
-    };
-    fill(m_standard->markers, markerColour);
-    fill(m_standard->variables, variableColour);
+    m_marks.draw(painter, *this, m_grid);
 }
 
 // --- pointing -----------------------------------------------------------------------------------
@@ -121,27 +89,37 @@ std::optional<CellAddress> SheetView::cellAt(const QPointF& point) const {
     return CellAddress{index.column() + 1, index.row() + 1};
 }
 
+bool SheetView::point(CellAddress cell) {
+    m_pointedFrom.reset();
+    if (field() && m_typing && m_typing->point({cell.col, cell.row, cell.col, cell.row}))
+        m_pointedFrom = cell;
+    return m_pointedFrom.has_value();
+}
+
+bool SheetView::pointOn(CellAddress cell) {
+    if (!m_pointedFrom || !m_typing) return false;
+    const CellAddress from = *m_pointedFrom;
+    return m_typing->point({std::min(cell.col, from.col), std::min(cell.row, from.row),
+                            std::max(cell.col, from.col), std::max(cell.row, from.row)});
+}
+
+bool SheetView::endPointing() {
+    return std::exchange(m_pointedFrom, std::nullopt).has_value();
+}
+
 void SheetView::mousePressEvent(QMouseEvent* event) {
     const auto cell = cellAt(event->position());
-    if (cell && field() && m_typing && event->button() == Qt::LeftButton &&
-        m_typing->point({cell->col, cell->row, cell->col, cell->row})) {
-        m_pointedFrom = cell;
-        return;
-    }
-    GridView::mousePressEvent(event);
+    if (!cell || event->button() != Qt::LeftButton || !point(*cell))
+        GridView::mousePressEvent(event);
 }
 
 void SheetView::mouseMoveEvent(QMouseEvent* event) {
     if (!m_pointedFrom) return GridView::mouseMoveEvent(event);
-    const auto cell = cellAt(event->position());
-    if (!cell || !m_typing) return;
-    m_typing->point(
-        {std::min(cell->col, m_pointedFrom->col), std::min(cell->row, m_pointedFrom->row),
-         std::max(cell->col, m_pointedFrom->col), std::max(cell->row, m_pointedFrom->row)});
+    if (const auto cell = cellAt(event->position())) pointOn(*cell);
 }
 
 void SheetView::mouseReleaseEvent(QMouseEvent* event) {
-    if (!std::exchange(m_pointedFrom, std::nullopt)) GridView::mouseReleaseEvent(event);
+    if (!endPointing()) GridView::mouseReleaseEvent(event);
 }
 
 void SheetView::wheelEvent(QWheelEvent* event) {

@@ -3,9 +3,8 @@
 #pragma once
 
 #include "grid/grid_view.h"
-#include "sheet/formula_typing.h"
 #include "sheet/frozen_panes.h"
-#include "sheet/standard_marks.h"
+#include "sheet/sheet_marks.h"
 
 class SheetView : public GridView {
   public:
@@ -14,7 +13,14 @@ class SheetView : public GridView {
     void setMarks(const FormulaTyping::Marks& marks);
     /// Null takes the marks of standards away.
     void setStandardMarks(std::shared_ptr<const StandardMarks> marks);
+    const SheetMarks& marks() const { return m_marks; }
     FormulaTyping* typing() const { return m_typing; }
+
+    /// Puts `cell` into the formula being typed, where one can stand; pointOn makes a block of it.
+    /// False when nothing was pointed at.
+    bool point(control::CellAddress cell);
+    bool pointOn(control::CellAddress cell);
+    bool endPointing();
 
     FrozenPanes& frozen() { return *m_frozen; }
     /// As the grid's view, with what is frozen.
@@ -30,14 +36,12 @@ class SheetView : public GridView {
     void wheelEvent(QWheelEvent* event) override;
 
   private:
-    QRect rectOf(const control::Block& block) const;
-    void drawStandard(QPainter& painter) const;
+    void drawMarks();
     std::optional<control::CellAddress> cellAt(const QPointF& point) const;
 
     const control::Grid& m_grid;
     FrozenPanes* m_frozen;
-    FormulaTyping::Marks m_marks;
-    std::shared_ptr<const StandardMarks> m_standard;
+    SheetMarks m_marks;
     QPointer<FormulaTyping> m_typing;
     std::optional<control::CellAddress> m_pointedFrom;
 };
