@@ -4,8 +4,12 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <set>
+
+#include "core_api/text/text_helpers.h"
 #include "spread/control/formula/function.h"
 #include "spread/editor/block_statistics.h"
+#include "spread/editor/function_words/function_words.h"
 
 namespace {
 
@@ -31,6 +35,76 @@ TEST(FunctionList, HasEveryFunctionOnceInOrder) {
     }
     EXPECT_EQ(editor::functionHelp("fixed")->syntax(), "FIXED(number, [decimals], [no_commas])");
     EXPECT_EQ(editor::functionHelp("nothing"), nullptr);
+}
+
+/// The working language for the length of a test.
+class Speaking {
+  public:
+    explicit Speaking(Language language) { gSettings.current().language = language; }
+    ~Speaking() { gSettings.current().language = Language::english; }
+};
+
+TEST(FunctionList, SpeaksEveryLanguageWithTheSameArguments) {
+    const auto& english = editor::functionList();
+    const auto inDigits = [](const std::string& text) { return text.find_first_of("0123456789"); };
+    for (const Language language : {Language::dutch, Language::german, Language::french}) {
+        const Speaking speaking(language);
+        const auto& list = editor::functionList();
+        ASSERT_EQ(list.size(), english.size());
+        for (size_t i = 0; i < list.size(); ++i) {
+            const std::string where =
+                std::string(list[i].name) + " in language " + std::to_string(int(language));
+            EXPECT_EQ(list[i].name, english[i].name);
+            EXPECT_NE(list[i].summary, english[i].summary) << where;
+            EXPECT_TRUE(list[i].summary.ends_with('.')) << where;
+            EXPECT_EQ(list[i].summary.find("\xC3"), std::string::npos) << where << ": no UTF-8";
+            ASSERT_EQ(list[i].arguments.size(), english[i].arguments.size()) << where;
+            for (size_t a = 0; a < list[i].arguments.size(); ++a) {
+                const std::string& own = list[i].arguments[a];
+                const std::string& other = english[i].arguments[a];
+                EXPECT_EQ(own.front() == '[', other.front() == '[') << where << ": " << own;
+                EXPECT_EQ(own.back() == ']', other.back() == ']') << where << ": " << own;
+                EXPECT_EQ(inDigits(own) == own.npos, inDigits(other) == other.npos) << where;
+                EXPECT_EQ(own.find(','), own.npos) << where;
+            }
+        }
+    }
+    const Speaking german(Language::german);
+    EXPECT_EQ(editor::functionHelp("ROUND")->syntax(), "ROUND(Zahl, [Dezimalstellen])");
+    EXPECT_EQ(editor::functionHelp("SUM")->syntax(), "SUM(Zahl1, [Zahl2], \x85)");
+}
+
+TEST(FunctionList, EveryRowOfWordsBelongsToSomething) {
+    std::set<std::string, std::less<>> arguments, used;
+    for (const editor::FunctionWords& row : editor::argumentWords()) {
+        EXPECT_TRUE(arguments.insert(std::string(row.names)).second) << row.names << " twice";
+        for (const std::string_view word : row.words) EXPECT_FALSE(word.empty()) << row.names;
+    }
+    for (const formula::FunctionSpec* spec : formula::allFunctions()) {
+        for (const Vor_String& part : splitStringAtSymbol(spec->arguments, ',', true)) {
+            if (part.isEmpty() || part == "\xE2\x80\xA6") continue;
+            std::string name = part.str();
+            std::erase_if(name, [](char c) { return c == '[' || c == ']'; });
+            if (!arguments.contains(name)) name.erase(name.find_last_not_of("0123456789") + 1);
+            EXPECT_TRUE(arguments.contains(name)) << spec->name << ": " << part.str();
+            used.insert(name);
+        }
+    }
+    EXPECT_EQ(used, arguments);
+    using Words = std::span<const editor::FunctionWords> (*)();
+    size_t count = 0;
+    for (const Words family :
+         {editor::mathWords, editor::trigonometryWords, editor::statisticsWords,
+          editor::matrixWords, editor::logicWords, editor::lookupWords, editor::textWords,
+          editor::informationWords, editor::dateWords, editor::engineeringWords}) {
+        for (const editor::FunctionWords& row : family()) {
+            for (const Vor_String& name : splitStringAtSymbol(row.names, ',', true)) {
+                EXPECT_TRUE(formula::findFunction(name)) << name.str();
+                ++count;
+            }
+        }
+    }
+    EXPECT_EQ(count, formula::allFunctions().size());
 }
 
 TEST(ArgumentHint, KnowsFunctionAndArgument) {

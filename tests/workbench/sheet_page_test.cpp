@@ -113,6 +113,11 @@ TEST_F(SheetWindow, FunctionsAreFoundByNameAndPurpose) {
     FunctionDialog dialog(page);
     dialog.search().setText("vlook");
     EXPECT_EQ(dialog.chosen(), "VLOOKUP");
+    gSettings.current().language = Language::german;
+    FunctionDialog german(page);
+    german.search().setText("Summe aller Zahlen");
+    EXPECT_EQ(german.chosen(), "SUM");
+    gSettings.current().language = Language::english;
     dialog.search().setText("no such function at all");
     EXPECT_EQ(dialog.chosen(), "");
 }

@@ -1,12 +1,14 @@
 #include "spread/editor/formula_help.h"
 
 #include <algorithm>
+#include <array>
 
 #include "core_api/text/text_helpers.h"
 #include "core_api/texts/sheet_text_numbers.h"
 #include "platform/encodings.h"
 #include "spread/control/formula/function.h"
 #include "spread/control/formula/lexer.h"
+#include "spread/editor/function_words/function_words.h"
 
 namespace editor {
 
@@ -22,18 +24,19 @@ namespace {
 struct Family {
     int name;
     std::span<const formula::FunctionSpec> (*functions)();
+    std::span<const FunctionWords> (*words)();
 };
 constexpr Family families[] = {
-    {texts::familyMaths, formula::mathFunctions},
-    {texts::familyTrigonometry, formula::trigonometryFunctions},
-    {texts::familyStatistics, formula::statisticsFunctions},
-    {texts::familyMatrices, formula::matrixFunctions},
-    {texts::familyLogic, formula::logicFunctions},
-    {texts::familyLookUp, formula::lookupFunctions},
-    {texts::familyTexts, formula::textFunctions},
-    {texts::familyInformation, formula::informationFunctions},
-    {texts::familyDates, formula::dateFunctions},
-    {texts::familyEngineering, formula::engineeringFunctions},
+    {texts::familyMaths, formula::mathFunctions, mathWords},
+    {texts::familyTrigonometry, formula::trigonometryFunctions, trigonometryWords},
+    {texts::familyStatistics, formula::statisticsFunctions, statisticsWords},
+    {texts::familyMatrices, formula::matrixFunctions, matrixWords},
+    {texts::familyLogic, formula::logicFunctions, logicWords},
+    {texts::familyLookUp, formula::lookupFunctions, lookupWords},
+    {texts::familyTexts, formula::textFunctions, textWords},
+    {texts::familyInformation, formula::informationFunctions, informationWords},
+    {texts::familyDates, formula::dateFunctions, dateWords},
+    {texts::familyEngineering, formula::engineeringFunctions, engineeringWords},
 };
 
 /// The help texts of the tables are UTF-8.
@@ -41,19 +44,24 @@ std::string inside(std::string_view utf8) {
     return encodings::fromUtf8(utf8).value_or(std::string(utf8));
 }
 
-std::vector<std::string> argumentsOf(const formula::FunctionSpec& spec) {
+std::vector<std::string> argumentsIn(Language language, const formula::FunctionSpec& spec) {
     std::vector<std::string> arguments;
     if (spec.arguments.empty()) return arguments;
-    for (const Vor_String& part : splitStringAtSymbol(inside(spec.arguments), ',', true))
-        arguments.push_back(part.str());
+    for (const Vor_String& part : splitStringAtSymbol(spec.arguments, ',', true))
+        arguments.push_back(inside(argumentIn(language, part)));
     return arguments;
 }
 
-std::vector<FunctionHelp> makeList() {
+/// English stands where a table has no words.
+std::vector<FunctionHelp> makeList(Language language) {
     std::vector<FunctionHelp> list;
-    for (const Family& family : families)
-        for (const formula::FunctionSpec& spec : family.functions())
-            list.push_back({spec.name, family.name, argumentsOf(spec), inside(spec.summary)});
+    for (const Family& family : families) {
+        for (const formula::FunctionSpec& spec : family.functions()) {
+            const std::string_view words = wordsIn(language, family.words(), spec.name);
+            list.push_back({spec.name, family.name, argumentsIn(language, spec),
+                            inside(words.empty() ? spec.summary : words)});
+        }
+    }
     std::sort(list.begin(), list.end(),
               [](const FunctionHelp& a, const FunctionHelp& b) { return a.name < b.name; });
     return list;
@@ -75,8 +83,9 @@ std::string FunctionHelp::syntax() const {
 }
 
 const std::vector<FunctionHelp>& functionList() {
-    static const std::vector<FunctionHelp> list = makeList();
-    return list;
+    static const std::array lists{makeList(Language::english), makeList(Language::dutch),
+                                  makeList(Language::german), makeList(Language::french)};
+    return lists[static_cast<size_t>(gSettings.current().language)];
 }
 
 const FunctionHelp* functionHelp(std::string_view name) {

@@ -21,7 +21,8 @@ struct FunctionHelp {
     std::string syntax() const;          ///< "ROUND(number, decimals)"
 };
 
-/// All functions of the engine, in the order of their names.
+/// All functions of the engine, in the order of their names, with help in the working language.
+/// The lists stay for good.
 VORMANT_API const std::vector<FunctionHelp>& functionList();
 /// Null for an unknown name; letter case does not matter.
 VORMANT_API const FunctionHelp* functionHelp(std::string_view name);

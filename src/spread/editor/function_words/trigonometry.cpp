@@ -1,0 +1,85 @@
+#include "spread/editor/function_words/function_words.h"
+
+namespace editor {
+
+namespace {
+
+constexpr FunctionWords rows[] = {
+    {"SIN",
+     {"De sinus van een hoek in radialen.", "Der Sinus eines Winkels im Bogenmaß.",
+      "Le sinus d'un angle en radians."}},
+    {"COS",
+     {"De cosinus van een hoek in radialen.", "Der Kosinus eines Winkels im Bogenmaß.",
+      "Le cosinus d'un angle en radians."}},
+    {"TAN",
+     {"De tangens van een hoek in radialen.", "Der Tangens eines Winkels im Bogenmaß.",
+      "La tangente d'un angle en radians."}},
+    {"COT",
+     {"De cotangens van een hoek in radialen.", "Der Kotangens eines Winkels im Bogenmaß.",
+      "La cotangente d'un angle en radians."}},
+    {"SEC",
+     {"De secans van een hoek in radialen.", "Der Sekans eines Winkels im Bogenmaß.",
+      "La sécante d'un angle en radians."}},
+    {"CSC",
+     {"De cosecans van een hoek in radialen.", "Der Kosekans eines Winkels im Bogenmaß.",
+      "La cosécante d'un angle en radians."}},
+    {"ASIN",
+     {"De hoek in radialen, van -pi/2 tot pi/2, waarvan het getal de sinus is.",
+      "Der Winkel im Bogenmaß, von -Pi/2 bis Pi/2, dessen Sinus die Zahl ist.",
+      "L'angle en radians, de -pi/2 à pi/2, dont le nombre est le sinus."}},
+    {"ACOS",
+     {"De hoek in radialen, van 0 tot pi, waarvan het getal de cosinus is.",
+      "Der Winkel im Bogenmaß, von 0 bis Pi, dessen Kosinus die Zahl ist.",
+      "L'angle en radians, de 0 à pi, dont le nombre est le cosinus."}},
+    {"ATAN",
+     {"De hoek in radialen, tussen -pi/2 en pi/2, waarvan het getal de tangens is.",
+      "Der Winkel im Bogenmaß, zwischen -Pi/2 und Pi/2, dessen Tangens die Zahl ist.",
+      "L'angle en radians, entre -pi/2 et pi/2, dont le nombre est la tangente."}},
+    {"ATAN2",
+     {"De hoek in radialen, groter dan -pi tot en met pi, van de x-as naar het punt (x, y).",
+      "Der Winkel im Bogenmaß, über -Pi bis Pi, von der x-Achse zum Punkt (x, y).",
+      "L'angle en radians, au-dessus de -pi jusqu'à pi, de l'axe x au point (x, y)."}},
+    {"ACOT",
+     {"De hoek in radialen, tussen 0 en pi, waarvan het getal de cotangens is.",
+      "Der Winkel im Bogenmaß, zwischen 0 und Pi, dessen Kotangens die Zahl ist.",
+      "L'angle en radians, entre 0 et pi, dont le nombre est la cotangente."}},
+    {"SINH", {"De sinus hyperbolicus.", "Der Sinus hyperbolicus.", "Le sinus hyperbolique."}},
+    {"COSH", {"De cosinus hyperbolicus.", "Der Kosinus hyperbolicus.", "Le cosinus hyperbolique."}},
+    {"TANH",
+     {"De tangens hyperbolicus.", "Der Tangens hyperbolicus.", "La tangente hyperbolique."}},
+    {"COTH",
+     {"De cotangens hyperbolicus.", "Der Kotangens hyperbolicus.", "La cotangente hyperbolique."}},
+    {"SECH", {"De secans hyperbolicus.", "Der Sekans hyperbolicus.", "La sécante hyperbolique."}},
+    {"CSCH",
+     {"De cosecans hyperbolicus.", "Der Kosekans hyperbolicus.", "La cosécante hyperbolique."}},
+    {"ASINH",
+     {"Het getal waarvan de sinus hyperbolicus gegeven is.",
+      "Die Zahl, deren Sinus hyperbolicus gegeben ist.",
+      "Le nombre dont le sinus hyperbolique est donné."}},
+    {"ACOSH",
+     {"Het getal, minstens 0, waarvan de cosinus hyperbolicus gegeven is.",
+      "Die Zahl, mindestens 0, deren Kosinus hyperbolicus gegeben ist.",
+      "Le nombre, au moins 0, dont le cosinus hyperbolique est donné."}},
+    {"ATANH",
+     {"Het getal waarvan de tangens hyperbolicus gegeven is.",
+      "Die Zahl, deren Tangens hyperbolicus gegeben ist.",
+      "Le nombre dont la tangente hyperbolique est donnée."}},
+    {"ACOTH",
+     {"Het getal waarvan de cotangens hyperbolicus gegeven is.",
+      "Die Zahl, deren Kotangens hyperbolicus gegeben ist.",
+      "Le nombre dont la cotangente hyperbolique est donnée."}},
+    {"DEGREES",
+     {"Een hoek in radialen als graden.", "Ein Winkel im Bogenmaß in Grad.",
+      "Un angle en radians converti en degrés."}},
+    {"RADIANS",
+     {"Een hoek in graden als radialen.", "Ein Winkel in Grad im Bogenmaß.",
+      "Un angle en degrés converti en radians."}},
+};
+
+}  // namespace
+
+std::span<const FunctionWords> trigonometryWords() {
+    return rows;
+}
+
+}  // namespace editor
