@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QComboBox>
+#include <QDateTime>
 #include <QElapsedTimer>
 #include <QFile>
 #include <QLineEdit>
@@ -75,6 +76,43 @@ TEST_F(Workbench, ResultsFollowWhatIsTyped) {
     RecordProperty("milliseconds_per_change", std::to_string(each));
     std::printf("one change of an input: %.2f ms\n", each);
     EXPECT_LT(each, 100);  // a frame is 16; sanitizers and busy machines are slower
+}
+
+TEST_F(Workbench, TellsThatAStandardWasChangedMeanwhile) {
+    QTemporaryDir folder;
+    const QString path = folder.filePath("Own.tws");
+    ASSERT_TRUE(QFile::copy(VORMANT_SOURCE_DIR "/library/Connection Standards/FinPlate.tws", path));
+    QFile file(path);
+    file.setPermissions(QFile::ReadOwner | QFile::WriteOwner);
+    ASSERT_TRUE(m_window.openLibrary(VORMANT_SOURCE_DIR "/library"));
+    const auto openPage = [&] { return dynamic_cast<RunPage*>(m_window.openFile(path)); };
+    RunPage* page = openPage();
+    ASSERT_TRUE(page);
+    const auto isTold = [](const RunPage* page) {
+        return page->message().contains("changed meanwhile");
+    };
+    const auto touch = [&](int seconds) {
+        ASSERT_TRUE(file.open(QIODevice::ReadWrite));
+        ASSERT_TRUE(file.setFileTime(QDateTime::currentDateTime().addSecs(seconds),
+                                     QFileDevice::FileModificationTime));
+        file.close();
+    };
+    EXPECT_FALSE(isTold(page));
+    touch(60);
+
+    // While it is in front, the next input tells; else coming back does.
+    auto* force = dynamic_cast<QLineEdit*>(page->editor("ShearForce"));
+    ASSERT_TRUE(force);
+    QTest::keyClicks(force, "1");
+    EXPECT_TRUE(isTold(page));
+    m_window.pages().tabCloseRequested(m_window.pages().indexOf(page));
+    page = openPage();
+    ASSERT_TRUE(page);
+    EXPECT_FALSE(isTold(page));
+    m_window.pages().setCurrentIndex(0);
+    touch(120);
+    m_window.pages().setCurrentWidget(page);
+    EXPECT_TRUE(isTold(page));
 }
 
 TEST_F(Workbench, ReportsAreWrittenWholeOrNotAtAll) {

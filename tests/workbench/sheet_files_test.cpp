@@ -71,6 +71,22 @@ TEST_F(SheetWindow, AsksBeforeItClosesOrOverwrites) {
     EXPECT_TRUE(content(path("b.sss")).contains("A1 2"));
 }
 
+TEST_F(SheetWindow, AsksBeforeItOverwritesWhatAnotherPageSaved) {
+    TestUser user;
+    type("A1", "first");
+    ASSERT_TRUE(page->saveTo(inside("c.sss")));
+    SheetPage* first = page;
+    open(*window->newSheet());
+    type("A1", "second");
+    ASSERT_TRUE(page->saveTo(inside("c.sss")));
+    window->pages().setCurrentWidget(first);
+    open(*first);
+    type("A2", "more");
+    user.whenTold("another program").presses(IDNO);
+    EXPECT_FALSE(page->save());
+    EXPECT_TRUE(content(path("c.sss")).contains("second"));
+}
+
 TEST_F(SheetWindow, FailedFilesChangeNothing) {
     TestUser user;
     type("A1", "1");

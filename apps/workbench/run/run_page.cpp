@@ -230,6 +230,12 @@ void RunPage::showMessages() {
     m_message->setVisible(!lines.isEmpty());
 }
 
+// The sheet may have been edited in another page.
+void RunPage::showEvent(QShowEvent* event) {
+    QWidget::showEvent(event);
+    if (m_session->isStale()) showMessages();
+}
+
 QWidget* RunPage::editor(const QString& input) const {
     const auto found = m_editors.find(input);
     return found == m_editors.end() ? nullptr : found->second;

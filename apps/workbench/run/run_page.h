@@ -33,6 +33,9 @@ class RunPage : public QWidget {
         m_sheetOpener = std::move(opener);
     }
 
+  protected:
+    void showEvent(QShowEvent* event) override;
+
   private:
     QWidget* makeHeading();
     QWidget* makeForm();
