@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <vector>
 
+#include "core_api/text/delimited_text.h"
 #include "fed_lines.h"
 #include "io/csv.h"
 #include "standards/batch_input.h"
@@ -34,7 +35,7 @@ std::string written(const Records& records) {
     for (const auto& fields : records) {
         for (const auto& field : fields) {
             if (&field != &fields.front()) text += ',';
-            cli::appendCsvField(text, field);
+            appendField(text, field, ',');
         }
         text += '\n';
     }

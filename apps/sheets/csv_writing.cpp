@@ -1,6 +1,6 @@
 // CSV of a sheet's used area, UTF-8.
+#include "core_api/text/delimited_text.h"
 #include "core_api/text/text_helpers.h"
-#include "io/csv.h"
 #include "io/texts.h"
 #include "sheets/sheet_writing.h"
 
@@ -8,7 +8,6 @@ namespace sheets {
 
 namespace {
 
-using cli::appendCsvField;
 using cli::appendNumber;
 using cli::appendUtf8;
 using formula::Value;
@@ -19,7 +18,7 @@ void appendCell(std::string& line, const control::Grid& grid, int col, int row) 
     if (const auto formulaText = grid.sheet().formula(col, row)) {
         text = "=";
         appendUtf8(text, *formulaText);
-        appendCsvField(line, text);
+        appendField(line, text, ',');
     } else if (value.isNumber()) {
         appendNumber(line, value.number());
     } else if (value.isBoolean()) {
@@ -28,7 +27,7 @@ void appendCell(std::string& line, const control::Grid& grid, int col, int row) 
         line += formula::errorText(value.error());
     } else if (value.isText()) {
         appendUtf8(text, value.text());
-        appendCsvField(line, text);
+        appendField(line, text, ',');
     }
 }
 

@@ -4,6 +4,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "core_api/text/delimited_text.h"
 #include "program.h"
 
 namespace {
@@ -115,7 +116,7 @@ TEST(Csv, WhatIsWrittenReadsBack) {
     for (const std::string field :
          {"plain", "a,b", "say \"x\"", "two\nlines", "", " b ", "cr\rlf\r\n", "\"", "\"\""}) {
         if (!line.empty()) line += ',';
-        cli::appendCsvField(line, field);
+        appendField(line, field, ',');
         expected += field + "|";
     }
     expected.pop_back();

@@ -124,17 +124,4 @@ CsvReader::Got CsvReader::bad(std::string_view message) {
     return Got::bad;
 }
 
-void appendCsvField(std::string& line, std::string_view field) {
-    if (field.find_first_of(",\"\r\n") == field.npos) {
-        line += field;
-        return;
-    }
-    line += '"';
-    for (const char c : field) {
-        if (c == '"') line += '"';
-        line += c;
-    }
-    line += '"';
-}
-
 }  // namespace cli

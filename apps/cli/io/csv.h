@@ -1,6 +1,9 @@
 // Comma-separated values as spreadsheets exchange them: fields may stand in double quotes, a quote
 // inside is doubled, a quoted field may run over several lines. Fields are
 // UTF-8 and come back as they were written.
+//
+// Not DelimitedText: records come one by one from a stream, and one that is no CSV is told with its
+// line, as nobody looks at what a program makes of it.
 #pragma once
 
 #include <optional>
@@ -45,8 +48,5 @@ class CsvReader {
     std::string m_error;
     std::string m_unquoted;
 };
-
-/// Appends `field` to `line`, in quotes where it would not read back otherwise.
-void appendCsvField(std::string& line, std::string_view field);
 
 }  // namespace cli

@@ -1,7 +1,7 @@
 #include "standards/batch_output.h"
 
+#include "core_api/text/delimited_text.h"
 #include "core_api/text/text_helpers.h"
-#include "io/csv.h"
 #include "io/texts.h"
 #include "platform/encodings.h"
 
@@ -23,7 +23,7 @@ void BatchOutput::writeHeader(const TwVarCells& cells) {
     if (m_jsonLines) return;
     for (const auto& cell : cells) {
         if (!cell.isOutput()) continue;
-        appendCsvField(m_text, encodings::toUtf8(cell.name()));
+        appendField(m_text, encodings::toUtf8(cell.name()), ',');
         m_text += ',';
     }
     m_text += "error\n";
@@ -57,7 +57,7 @@ void BatchOutput::writeError(const TwVarCells& cells, std::string_view message) 
     }
     for (const auto& cell : cells)
         if (cell.isOutput()) m_text += ',';
-    appendCsvField(m_text, message);
+    appendField(m_text, message, ',');
     m_text += '\n';
 }
 
@@ -65,7 +65,7 @@ void BatchOutput::appendCsvValue(const TwVarCell& cell) {
     if (const auto number = numberOf(cell))
         appendNumber(m_text, *number);
     else
-        appendCsvField(m_text, encodings::toUtf8(cell.value()));
+        appendField(m_text, encodings::toUtf8(cell.value()), ',');
 }
 
 void BatchOutput::appendJsonValue(const TwVarCell& cell) {

@@ -48,3 +48,17 @@ bool DelimitedText::takeField(std::string& field) {
     ++m_line;
     return false;
 }
+
+void appendField(std::string& row, std::string_view field, char separator) {
+    const char special[] = {separator, '"', '\r', '\n'};
+    if (field.find_first_of({special, sizeof special}) == field.npos) {
+        row += field;
+        return;
+    }
+    row += '"';
+    for (const char c : field) {
+        if (c == '"') row += '"';
+        row += c;
+    }
+    row += '"';
+}

@@ -1,6 +1,10 @@
 // Rows of fields parted by one character, as spreadsheets exchange them (comma-separated values,
 // the clipboard): a field may stand in double quotes, a quote inside is doubled, a quoted field may
 // run over several lines.
+//
+// Programs that read records one by one, from files without end, and must say where one is wrong
+// have a reader of their own (apps/cli/io/csv.h): here a person looks at what came of it, so that
+// nothing is refused.
 #pragma once
 
 #include <string>
@@ -28,3 +32,6 @@ class VORMANT_API DelimitedText {
     int m_line = 1;
     int m_rowLine = 0;
 };
+
+/// Appends a field to a row, in quotes where it would not read back otherwise.
+VORMANT_API void appendField(std::string& row, std::string_view field, char separator);

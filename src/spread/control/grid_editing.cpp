@@ -8,20 +8,6 @@
 namespace control {
 namespace {
 
-// Fields of a copied block that hold a separator or a quote are wrapped in quotes.
-void appendField(std::string& out, std::string_view field) {
-    if (field.find_first_of("\t\r\n\"") == std::string_view::npos) {
-        out += field;
-        return;
-    }
-    out += '"';
-    for (const char c : field) {
-        if (c == '"') out += '"';
-        out += c;
-    }
-    out += '"';
-}
-
 bool isItem(std::string_view items, std::string_view text) {
     for (size_t at = 0; at <= items.size();) {
         const size_t end = std::min(items.find('\t', at), items.size());
@@ -135,7 +121,7 @@ std::string Grid::copyText(const Block& given) const {
         if (row > block->row1) copied += '\n';
         for (int col = block->col1; col <= block->col2; ++col) {
             if (col > block->col1) copied += '\t';
-            appendField(copied, text(col, row, Reading::data, buffer));
+            appendField(copied, text(col, row, Reading::data, buffer), '\t');
         }
     }
     return copied;
