@@ -116,7 +116,7 @@ void CellPainter::paint(QPainter* painter, const QStyleOptionViewItem& option,
                     option.rect,
                     cell,
                     m_grid.look(cell.col, cell.row),
-                    isSelected(cell),
+                    cell != m_grid.active() && isSelected(m_grid, cell),
                     m_grid.active() == cell};
     painter->save();
     painter->setClipRect(d.rect);
@@ -127,9 +127,9 @@ void CellPainter::paint(QPainter* painter, const QStyleOptionViewItem& option,
     painter->restore();
 }
 
-bool CellPainter::isSelected(CellAddress cell) const {
-    if (!m_grid.selection() || cell == m_grid.active()) return false;
-    const std::optional<control::Block> block = m_grid.resolved(*m_grid.selection());
+bool isSelected(const control::Grid& grid, CellAddress cell) {
+    if (!grid.selection()) return false;
+    const std::optional<control::Block> block = grid.resolved(*grid.selection());
     return block && cell.col >= block->col1 && cell.col <= block->col2 && cell.row >= block->row1 &&
            cell.row <= block->row2;
 }

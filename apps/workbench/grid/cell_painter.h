@@ -14,6 +14,9 @@ QColor toQt(control::Colour colour, const QColor& fallback);
 QRect checkBoxIn(const QRect& cell);
 QRect comboArrowIn(const QRect& cell);
 
+/// In the selected block.
+bool isSelected(const control::Grid& grid, control::CellAddress cell);
+
 class CellPainter : public QStyledItemDelegate {
   public:
     CellPainter(const control::Grid& grid, QObject* parent);
@@ -45,7 +48,6 @@ class CellPainter : public QStyledItemDelegate {
 
     const CellFont& fontOf(const control::Look& look) const { return cellFont(look.font, m_zoom); }
     QColor textColour(const Drawing& d, control::CellAddress cell) const;
-    bool isSelected(control::CellAddress cell) const;
     bool mayOverflow(control::CellAddress cell) const;
     bool isRoom(int col, int row) const;
     struct Reach;

@@ -165,10 +165,8 @@ void GridView::contextMenuEvent(QContextMenuEvent* event) {
     const QPointer<GridView> self(this);
     if (event->reason() == QContextMenuEvent::Mouse) {
         const std::optional<CellAddress> cell = cellAt(event->pos());
-        const std::optional<Block> block = grid().resolved(chosen());
-        const bool isChosen = cell && block && cell->col >= block->col1 &&
-                              cell->col <= block->col2 && cell->row >= block->row1 &&
-                              cell->row <= block->row2;
+        const bool isChosen =
+            cell && (grid().selection() ? isSelected(grid(), *cell) : *cell == grid().active());
         if (cell && !isChosen) go(*cell);
     }
     if (!isAlive(self)) return;

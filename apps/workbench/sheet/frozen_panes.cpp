@@ -78,7 +78,7 @@ class FrozenPane : public QTableView {
     void contextMenuEvent(QContextMenuEvent* event) override {
         const auto cell = cellAt(event->pos());
         if (!cell || !m_view.commitEdit()) return;
-        if (!isSelected(*cell)) m_spread.userMoves(cell->col, cell->row);
+        if (!isSelected(m_spread.grid(), *cell)) m_spread.userMoves(cell->col, cell->row);
         m_spread.showContextMenu();
     }
     // What is frozen stays; the cells beside it scroll.
@@ -104,13 +104,6 @@ class FrozenPane : public QTableView {
         const QModelIndex index = indexAt(point);
         if (!index.isValid()) return std::nullopt;
         return control::CellAddress{index.column() + 1, index.row() + 1};
-    }
-
-    bool isSelected(control::CellAddress cell) const {
-        const control::Grid& grid = m_spread.grid();
-        const auto block = grid.selection() ? grid.resolved(*grid.selection()) : std::nullopt;
-        return block && cell.col >= block->col1 && cell.col <= block->col2 &&
-               cell.row >= block->row1 && cell.row <= block->row2;
     }
 
     TSpread& m_spread;

@@ -2,14 +2,13 @@
 
 #include <QDialogButtonBox>
 #include <QKeyEvent>
-#include <QPushButton>
 #include <QVBoxLayout>
 #include <set>
 
 #include "sheet/say.h"
 #include "shell/words.h"
 #include "spread/editor/formula_help.h"
-#include "window/desktop_texts.h"
+#include "window/dialog_buttons.h"
 
 FunctionDialog::FunctionDialog(QWidget* parent)
     : QDialog(parent),
@@ -36,9 +35,7 @@ FunctionDialog::FunctionDialog(QWidget* parent)
     m_summary->setTextFormat(Qt::PlainText);
     m_summary->setWordWrap(true);
     m_summary->setMinimumHeight(2 * fontMetrics().lineSpacing());
-    auto* buttons = new QDialogButtonBox;
-    buttons->addButton(say(sayInsertIt), QDialogButtonBox::AcceptRole)->setDefault(true);
-    buttons->addButton(desktopText(DesktopText::cancel), QDialogButtonBox::RejectRole);
+    auto* buttons = dialogButtons(*this, say(sayInsertIt));
     auto* layout = new QVBoxLayout(this);
     for (QWidget* widget :
          std::initializer_list<QWidget*>{m_search, m_family, m_names, m_syntax, m_summary, buttons})
@@ -47,12 +44,12 @@ FunctionDialog::FunctionDialog(QWidget* parent)
     connect(m_search, &QLineEdit::textChanged, this, [this] { fill(); });
     connect(m_family, &QComboBox::currentIndexChanged, this, [this] { fill(); });
     connect(m_names, &QListWidget::currentRowChanged, this, [this] { explain(); });
-    connect(m_names, &QListWidget::itemActivated, this, [this] { accept(); });
-    connect(buttons, &QDialogButtonBox::accepted, this, [this] {
-        if (!chosen().isEmpty()) accept();
-    });
-    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    connect(m_names, &QListWidget::itemActivated, this, &QDialog::accept);
     fill();
+}
+
+void FunctionDialog::accept() {
+    if (!chosen().isEmpty()) QDialog::accept();
 }
 
 QString FunctionDialog::chosen() const {

@@ -16,6 +16,7 @@ class FunctionDialog : public QDialog {
     QString chosen() const;
     QLineEdit& search() const { return *m_search; }
     QListWidget& names() const { return *m_names; }
+    void accept() override;
 
   protected:
     bool eventFilter(QObject* watched, QEvent* event) override;

@@ -6,8 +6,8 @@
 
 #include "grid/cell_font.h"
 #include "grid/cell_painter.h"
-#include "platform/paths.h"
 #include "window/dialog_font.h"
+#include "window/machine_path.h"
 
 using printing::PrintedCell;
 
@@ -69,7 +69,7 @@ class PagePainter {
         m_painter.restore();
     }
     void drawPicture(const PrintedCell& cell, const QRectF& place) {
-        const QImage image(QString::fromStdString(paths::toMachine(cell.picture)));
+        const QImage image(machinePath(cell.picture));
         if (image.isNull()) return;
         const QSizeF size = QSizeF(image.size()).scaled(place.size(), Qt::KeepAspectRatio);
         m_painter.drawImage(QRectF(place.topLeft(), size), image);

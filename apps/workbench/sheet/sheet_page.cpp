@@ -6,23 +6,19 @@
 #include <QVBoxLayout>
 
 #include "core_api/text/text_helpers.h"
-#include "platform/paths.h"
 #include "platform/window/file_question.h"
 #include "platform/window/message_box.h"
 #include "sheet/say.h"
 #include "sheet/sheet_commands.h"
 #include "sheet/sheet_printing.h"
 #include "spread/editor/block_statistics.h"
+#include "window/machine_path.h"
 #include "window/typed_text.h"
 
 namespace {
 
 constexpr int summaryDelay = 30;  // milliseconds; dragging selects many blocks in a row
 constexpr int figures = 10;
-
-QString machinePath(const std::string& path) {
-    return QString::fromStdString(paths::toMachine(path));
-}
 
 }  // namespace
 

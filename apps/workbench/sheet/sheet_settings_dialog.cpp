@@ -15,7 +15,7 @@
 #include "platform/window/message_box.h"
 #include "sheet/say.h"
 #include "shell/words.h"
-#include "window/desktop_texts.h"
+#include "window/dialog_buttons.h"
 #include "window/typed_text.h"
 
 namespace {
@@ -36,17 +36,11 @@ SheetSettingsDialog::SheetSettingsDialog(const TwSheetSettings& settings, QWidge
     : QDialog(parent), m_settings(settings) {
     setWindowTitle(sayTitle(saySheetSettings));
     resize(560, 560);
-    auto* buttons = new QDialogButtonBox;
-    buttons->addButton(desktopText(DesktopText::ok), QDialogButtonBox::AcceptRole)
-        ->setDefault(true);
-    buttons->addButton(desktopText(DesktopText::cancel), QDialogButtonBox::RejectRole);
-    connect(buttons, &QDialogButtonBox::accepted, this, &SheetSettingsDialog::accept);
-    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(makeFiles());
     layout->addWidget(makePrinting());
     layout->addWidget(makeVariables(), 1);
-    layout->addWidget(buttons);
+    layout->addWidget(dialogButtons(*this));
 }
 
 QLineEdit* SheetSettingsDialog::addFile(QFormLayout& form, int title, const Vor_String& path) {

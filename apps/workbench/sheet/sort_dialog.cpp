@@ -3,11 +3,10 @@
 #include <QDialogButtonBox>
 #include <QGridLayout>
 #include <QLabel>
-#include <QPushButton>
 
 #include "core_api/text/text_helpers.h"
 #include "sheet/say.h"
-#include "window/desktop_texts.h"
+#include "window/dialog_buttons.h"
 
 SortDialog::SortDialog(const control::Grid& grid, const control::Block& block, QWidget* parent)
     : QDialog(parent), m_grid(grid), m_block(block), m_hasTitles(new QCheckBox(say(sayHasTitles))) {
@@ -26,13 +25,7 @@ SortDialog::SortDialog(const control::Grid& grid, const control::Block& block, Q
     }
     nameColumns();
     connect(m_hasTitles, &QCheckBox::toggled, this, [this] { nameColumns(); });
-    auto* buttons = new QDialogButtonBox;
-    buttons->addButton(desktopText(DesktopText::ok), QDialogButtonBox::AcceptRole)
-        ->setDefault(true);
-    buttons->addButton(desktopText(DesktopText::cancel), QDialogButtonBox::RejectRole);
-    connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
-    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
-    layout->addWidget(buttons, 4, 0, 1, 3);
+    layout->addWidget(dialogButtons(*this), 4, 0, 1, 3);
 }
 
 // With titles the columns are known by them.

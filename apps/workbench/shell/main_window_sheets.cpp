@@ -15,12 +15,9 @@
 #include "sheet/sheet_page.h"
 #include "sheet/sheet_printing.h"
 #include "shell/main_window.h"
+#include "window/machine_path.h"
 
 namespace {
-
-QString machinePath(const std::string& path) {
-    return QString::fromStdString(paths::toMachine(path));
-}
 
 // The same file however it is written.
 bool isSameFile(const std::string& a, const std::string& b) {
