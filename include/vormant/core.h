@@ -4,6 +4,8 @@
 #include "core_api/dialog_state.h"
 #include "core_api/dialogs/file_dialogs.h"
 #include "core_api/dialogs/info_dialog.h"
+#include "core_api/drawing/canvas.h"
+#include "core_api/drawing/part_picture.h"
 #include "core_api/files.h"
 #include "core_api/numbers.h"
 #include "core_api/property_list.h"

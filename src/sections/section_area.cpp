@@ -5,6 +5,7 @@
 #include <numbers>
 #include <vector>
 
+#include "core_api/drawing/section_outline.h"
 #include "core_api/sections/section_tables.h"
 #include "core_api/text/text_helpers.h"
 #include "sections/section_types.h"
@@ -75,15 +76,9 @@ double roundBar(Values v) {
     return pi / 4 * v[0] * v[0];
 }
 
-/// Of the inside of a tube with this radius outside. EN 10210-2 and EN 10219-2 give the pair for
-/// calculation: 1.0 t inside 1.5 t (no common centre), and one less by t from 2.0 t on.
-double innerRadius(double outer, double thickness) {
-    return std::max(outer - thickness, std::min(thickness, outer * 2 / 3));
-}
-
 // 2 t (h + b - 2 t) - 4 corners outside + 4 corners inside
 double rectangularTube(Values v) {
-    const double inner = innerRadius(v[3], v[2]);
+    const double inner = drawing::innerTubeRadius(v[3], v[2]);
     return 2 * v[2] * (v[0] + v[1] - 2 * v[2]) - 4 * rounding(v[3]) + 4 * rounding(inner);
 }
 

@@ -27,6 +27,7 @@ extern const std::span<const TextRow> frameTexts;
 extern const std::span<const TextRow> workbenchTexts;
 extern const std::span<const TextRow> startersTexts;
 extern const std::span<const TextRow> sheetWindowTexts;
+extern const std::span<const TextRow> drawingTexts;
 
 /// One a line, so that tables can be added side by side.
 inline auto allTables() {
@@ -43,6 +44,7 @@ inline auto allTables() {
         frameTexts,        //
         workbenchTexts,    //
         sheetWindowTexts,  //
+        drawingTexts,      //
         startersTexts,
     };
 }
