@@ -10,6 +10,20 @@ using control::Reading;
 
 using GridEditing = GridWindow;
 
+TEST_F(GridEditing, KeysThatWriteNothingAreLeftAlone) {
+    open();
+    keys("a");
+    ASSERT_TRUE(view->field());
+    // A real keyboard tells of Shift before the capital; a field uses neither it nor these.
+    for (const Qt::Key each : {Qt::Key_Shift, Qt::Key_Control, Qt::Key_CapsLock, Qt::Key_F12}) {
+        QTest::keyPress(view->field(), each);
+        QTest::keyPress(view.get(), each);
+        ASSERT_TRUE(view->field()) << each;
+    }
+    keys("B");
+    EXPECT_EQ(view->field()->toPlainText(), "aB");
+}
+
 TEST_F(GridEditing, TypingEntersATextAndEnterGoesOnAsTheGridSays) {
     struct Row {
         int action;

@@ -90,6 +90,7 @@ class GridView : public QTableView {
     QString tipAt(const QPoint& point) const;
 
     // grid_view_keys.cpp
+    void handOn(QKeyEvent& key);
     bool runsAction(const QKeyEvent& key);
     bool moves(const QKeyEvent& key);
     bool selects(const QKeyEvent& key);
@@ -136,4 +137,5 @@ class GridView : public QTableView {
     Cell m_shownActive;    ///< that was scrolled to
     Cell m_pressed;        ///< where the left button went down
     bool m_isDragging = false;
+    bool m_isHandingOn = false;
 };

@@ -72,15 +72,22 @@ bool GridView::event(QEvent* event) {
 }
 
 void GridView::keyPressEvent(QKeyEvent* event) {
-    if (m_editor.isOpen()) {
-        QApplication::sendEvent(m_editor.field(), event);
-        return;
-    }
+    if (m_editor.isOpen()) return handOn(*event);
     m_bubble->hide();
     const bool isUsed =
         model() && activeCell() &&
         (runsAction(*event) || selects(*event) || moves(*event) || acts(*event) || types(*event));
     event->setAccepted(isUsed);
+}
+
+// To the field of the cell. What that does not use, as Shift alone, comes back here, as to every
+// parent.
+void GridView::handOn(QKeyEvent& key) {
+    if (m_isHandingOn || m_editor.field()->hasFocus()) return key.ignore();
+    const QPointer<GridView> self(this);
+    m_isHandingOn = true;
+    QApplication::sendEvent(m_editor.field(), &key);
+    if (self) m_isHandingOn = false;
 }
 
 // Keys in the field of a cell, before the field has them.
