@@ -83,7 +83,7 @@ void GridView::keyPressEvent(QKeyEvent* event) {
 // To the field of the cell. What that does not use, as Shift alone, comes back here, as to every
 // parent.
 void GridView::handOn(QKeyEvent& key) {
-    if (m_isHandingOn || m_editor.field()->hasFocus()) return key.ignore();
+    if (m_isHandingOn) return key.ignore();
     const QPointer<GridView> self(this);
     m_isHandingOn = true;
     QApplication::sendEvent(m_editor.field(), &key);
