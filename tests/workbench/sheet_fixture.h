@@ -9,6 +9,8 @@
 #include <QTabWidget>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTimer>
+#include <functional>
 
 #include "platform/paths.h"
 #include "sheet/sheet_commands.h"
@@ -69,6 +71,21 @@ class SheetWindow : public testing::Test {
         box.setText(block);
         QTest::keyClick(&box, Qt::Key_Return);
     }
+    /// What a user does in a modal `Dialog` once it waits; isWaited tells whether one still has to.
+    template <class Dialog>
+    void whenOpens(std::function<void(Dialog&)> steps) {
+        isWaited = true;
+        auto* look = new QTimer(window.get());
+        look->callOnTimeout([this, look, steps = std::move(steps)] {
+            auto* dialog = dynamic_cast<Dialog*>(QApplication::activeModalWidget());
+            if (!dialog || !dialog->isVisible()) return;
+            isWaited = false;
+            look->stop();
+            look->deleteLater();
+            steps(*dialog);
+        });
+        look->start(10);
+    }
     void run(int word) const { page->commands().action(word).trigger(); }
     std::string text(int col, int row) const {
         return page->grid().text(col, row, control::Reading::data);
@@ -82,4 +99,5 @@ class SheetWindow : public testing::Test {
     QTemporaryDir m_folder;
     std::unique_ptr<MainWindow> window;
     SheetPage* page = nullptr;
+    bool isWaited = false;
 };

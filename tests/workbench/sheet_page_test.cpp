@@ -1,5 +1,6 @@
 // What a user does in a sheet, step by step, back and forth.
 #include <QHeaderView>
+#include <QInputDialog>
 #include <QTimer>
 
 #include "sheet/cell_reference.h"
@@ -93,9 +94,6 @@ TEST_F(SheetWindow, FormulasAreHelpedWhileTheyAreTyped) {
         EXPECT_EQ(view.field()->toPlainText(), expected);
     }
     // Cells are pointed at where a reference can stand.
-    QTextCursor end = view.field()->textCursor();
-    end.movePosition(QTextCursor::End);
-    view.field()->setTextCursor(end);
     keys("+");
     const auto place = [&](int col, int row) {
         return view.visualRect(view.model()->index(row - 1, col - 1)).center();
@@ -181,6 +179,68 @@ TEST_F(SheetWindow, LooksAreSwitchedAndShownOnTheToolBar) {
     EXPECT_FALSE(look(1, 1).locked);
     EXPECT_EQ(text(1, 1), "2.5");
     EXPECT_FALSE(page->commands().action(sayBold).isChecked());
+}
+
+TEST_F(SheetWindow, KeysDoWhatTheManualSays) {
+    const Qt::KeyboardModifiers ctrl = Qt::ControlModifier, shift = Qt::ShiftModifier,
+                                alt = Qt::AltModifier;
+    type("A1", "1");
+    type("B1", "=A1+1");
+    const struct {
+        const char* block;
+        Qt::Key key;
+        Qt::KeyboardModifiers with;
+        const char* probe;  // a cell, and what it holds then
+        const char* holds;
+    } cases[] = {
+        {"B1:D1", Qt::Key_R, ctrl, "D1", "=C1+1"},
+        {"B1:B3", Qt::Key_D, ctrl, "B3", "=A3+1"},
+        {"A1", Qt::Key_Delete, {}, "A1", ""},
+        {"A1", Qt::Key_Down, alt | shift, "B2", "=A2+1"},
+        {"A1", Qt::Key_Right, alt | shift, "A1", "=B1+1"},
+        {"B1", Qt::Key_Left, alt | shift, "A1", "=B1+1"},
+    };
+    for (const auto& each : cases) {
+        SCOPED_TRACE(testing::Message() << each.block << " " << each.key);
+        select(each.block);
+        key(each.key, each.with);
+        select(each.probe);
+        EXPECT_EQ(page->formulaBar().field().toPlainText(), each.holds);
+        key(Qt::Key_Z, ctrl);
+    }
+    select("A1:B1");
+    key(Qt::Key_C, ctrl);
+    select("A5");
+    key(Qt::Key_V, ctrl | shift);
+    EXPECT_EQ(formula(2, 5), "");
+    EXPECT_EQ(text(2, 5), "2");
+    key(Qt::Key_I, ctrl);
+    key(Qt::Key_U, ctrl);
+    EXPECT_TRUE(look(1, 5).font.italic && look(1, 5).font.underlined);
+    key(Qt::Key_Plus, ctrl);
+    EXPECT_EQ(page->view().zoom(), 110);
+    key(Qt::Key_0, ctrl);
+    key(Qt::Key_Minus, ctrl);
+    EXPECT_EQ(page->view().zoom(), 90);
+    select("C3");
+    key(Qt::Key_Space, ctrl);
+    EXPECT_EQ(page->formulaBar().nameBox().text(), "C:C");
+    select("C3");
+    key(Qt::Key_Space, shift);
+    EXPECT_EQ(page->formulaBar().nameBox().text(), "3:3");
+    select("C3");
+    keys("one");
+    key(Qt::Key_Return, alt);
+    keys("two");
+    key(Qt::Key_Return);
+    EXPECT_EQ(text(3, 3), "one\ntwo");
+    whenOpens<QInputDialog>([](QInputDialog& note) { QTest::keyClick(&note, Qt::Key_Escape); });
+    key(Qt::Key_F2, shift);
+    window->activateWindow();  // no window manager does
+    ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
+    whenOpens<FunctionDialog>([](FunctionDialog& list) { QTest::keyClick(&list, Qt::Key_Escape); });
+    key(Qt::Key_F3, shift);
+    EXPECT_FALSE(isWaited);
 }
 
 TEST_F(SheetWindow, CopiesKeepFormulasAndOtherProgramsGetTexts) {

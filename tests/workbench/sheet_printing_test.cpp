@@ -9,7 +9,6 @@
 #include <QPrintPreviewWidget>
 #include <QProcess>
 #include <QRegularExpression>
-#include <QTimer>
 #include <QToolButton>
 
 #include "sheet/say.h"
@@ -18,20 +17,6 @@
 #include "spread/tw_sheet_settings.h"
 
 namespace {
-
-/// What a user does in a modal `Dialog` once it waits.
-template <class Dialog>
-void whenOpens(std::function<void(Dialog&)> steps) {
-    auto* look = new QTimer(qApp);
-    look->callOnTimeout([look, steps = std::move(steps)] {
-        auto* dialog = qobject_cast<Dialog*>(QApplication::activeModalWidget());
-        if (!dialog || !dialog->isVisible()) return;
-        look->stop();
-        look->deleteLater();
-        steps(*dialog);
-    });
-    look->start(10);
-}
 
 void press(const QDialog& dialog, const char* name) {
     for (QToolButton* button : dialog.findChildren<QToolButton*>())

@@ -216,8 +216,8 @@ void FormulaTyping::cycle() {
     QTextCursor at(m_field.document());
     at.select(QTextCursor::Document);
     at.insertText(toQt(changed->text));
-    at.setPosition(static_cast<int>(changed->start));
-    at.setPosition(static_cast<int>(changed->start + changed->length), QTextCursor::KeepAnchor);
+    // Behind the reference, where typing goes on.
+    at.setPosition(static_cast<int>(changed->start + changed->length));
     m_field.setTextCursor(at);
 }
 
