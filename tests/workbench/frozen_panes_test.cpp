@@ -76,6 +76,21 @@ TEST_F(FrozenSheet, FramesOfReferencesAndMarksOfStandardsShowInEveryPane) {
     EXPECT_NE(colour(1, 1, false), colour(1, 2, false));
 }
 
+TEST_F(FrozenSheet, ALineTellsWhereTheScrolledCellsBegin) {
+    select("Y150");
+    SheetView& view = page->view();
+    const QImage shown = view.grab().toImage();
+    const QPoint cells = view.viewport()->pos();
+    const QSize covered = view.frozen().covered();
+    const QRgb line = view.palette().color(QPalette::Dark).rgb();
+    const QRect frozen(cells, covered);
+    for (const QPoint& at :
+         {QPoint(frozen.right(), frozen.bottom()), QPoint(frozen.right(), frozen.bottom() + 100),
+          QPoint(frozen.right() + 100, frozen.bottom())})
+        EXPECT_EQ(shown.pixel(at), line) << at.x() << "," << at.y();
+    EXPECT_NE(shown.pixel(frozen.bottomRight() + QPoint(100, 100)), line);
+}
+
 TEST_F(FrozenSheet, ReferencesAreTakenFromPanesByTheMouse) {
     select("C120");
     keys("=");

@@ -14,8 +14,10 @@
 
 class FrozenPane : public QTableView {
   public:
-    FrozenPane(TSpread& spread, SheetView& view)
+    /// A line at its `ends` tells where the other cells begin.
+    FrozenPane(TSpread& spread, SheetView& view, Qt::Edges ends)
         : QTableView(&view),
+          m_ends(ends),
           m_spread(spread),
           m_view(view),
           m_model(spread.grid(), nullptr),
@@ -97,6 +99,11 @@ class FrozenPane : public QTableView {
         painter.setPen(QPen(palette().color(QPalette::Highlight), 2));
         const QRect active = visualRect(m_model.index(row - 1, col - 1));
         if (!active.isEmpty()) painter.drawRect(active.adjusted(1, 1, -2, -2));
+        painter.setPen(palette().color(QPalette::Dark));
+        const QRect cells = viewport()->rect();
+        if (m_ends.testFlag(Qt::RightEdge)) painter.drawLine(cells.topRight(), cells.bottomRight());
+        if (m_ends.testFlag(Qt::BottomEdge))
+            painter.drawLine(cells.bottomLeft(), cells.bottomRight());
     }
 
   private:
@@ -106,6 +113,7 @@ class FrozenPane : public QTableView {
         return control::CellAddress{index.column() + 1, index.row() + 1};
     }
 
+    Qt::Edges m_ends;
     TSpread& m_spread;
     SheetView& m_view;
     GridModel m_model;
@@ -117,9 +125,9 @@ FrozenPanes::FrozenPanes(TSpread& spread, SheetView& view)
     : QObject(&view),
       m_grid(spread.grid()),
       m_view(view),
-      m_top(new FrozenPane(spread, view)),
-      m_left(new FrozenPane(spread, view)),
-      m_corner(new FrozenPane(spread, view)) {
+      m_top(new FrozenPane(spread, view, Qt::BottomEdge)),
+      m_left(new FrozenPane(spread, view, Qt::RightEdge)),
+      m_corner(new FrozenPane(spread, view, Qt::RightEdge | Qt::BottomEdge)) {
     connect(view.horizontalScrollBar(), &QScrollBar::valueChanged, m_top->horizontalScrollBar(),
             &QScrollBar::setValue);
     connect(view.verticalScrollBar(), &QScrollBar::valueChanged, m_left->verticalScrollBar(),
