@@ -9,6 +9,7 @@
 #include "core_api/files.h"
 #include "core_api/numbers.h"
 #include "core_api/property_list.h"
+#include "core_api/sections/section_catalogue.h"
 #include "core_api/sections/section_tables.h"
 #include "core_api/sections/section_translation.h"
 #include "core_api/settings.h"

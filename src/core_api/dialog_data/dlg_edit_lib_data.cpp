@@ -5,7 +5,23 @@
 #include "core_api/text/text_helpers.h"
 
 void DlgEditLibData::GetAvailableFiles() {
+    const Vor_String folder = gSettings.libDir() + "prof\\";
     tableNames.clear();
-    for (const Vor_String& path : ObjectExportFindFiles(gSettings.libDir() + "prof\\", "*.pr"))
+    for (const Vor_String& path : ObjectExportFindFiles(folder, "*.pr"))
         tableNames.append(removeExtension(getFileName(path)));
+    templateNames.clear();
+    for (const Vor_String& path : ObjectExportFindFiles(folder, "*.dwg"))
+        templateNames.append(getFileName(path));
+}
+
+bool DlgEditLibData::readCatalogue() {
+    m_problem.clear();
+    catalogue = {};
+    return readSectionCatalogue(catalogue, &m_problem);
+}
+
+bool DlgEditLibData::writeCatalogue(Vor_String* message) {
+    if (!writeSectionCatalogue(catalogue, message)) return false;
+    m_problem.clear();
+    return true;
 }

@@ -12,6 +12,9 @@ VORMANT_API Vor_String dialString(int number, Language language);
 /// The text in every language, in the order of MacroLangs.
 VORMANT_API Vor_StringArray dialStringAllLangs(int number);
 
+/// Of a name in every language: that in the working language, else the first that is not empty.
+VORMANT_API Vor_String nameToShow(const Vor_StringArray& names);
+
 /// The languages by name, as they stand in section tables.
 class VORMANT_API MacroLangs {
   public:
@@ -19,6 +22,10 @@ class VORMANT_API MacroLangs {
     Vor_StringArray GetAllLanguages() const;
     /// The working language.
     Vor_String GetCurLanguage() const;
+    /// A word that a library's files have in any language, in the working one. `section` says what
+    /// the words are about: "Prof" knows the values of sections ("Height", "Lip2"). Words that it
+    /// does not know come back as they are.
+    Vor_String GetString(std::string_view section, const Vor_String& word) const;
 };
 
 extern VORMANT_API MacroLangs gMacroLangs;
