@@ -4,6 +4,8 @@
 
 #include "frame/editor/data_dialog.h"
 #include "frame/editor/editor_kinds.h"
+#include "sections/dialogs/library_dialog.h"
+#include "sections/dialogs/size_dialog.h"
 
 using EditConstrDialog = DataDialog<EditConstrData, constraintsEditor>;
 using MacroCutsDialog = DataDialog<DlgMacroCutsData, cutsEditor>;
@@ -12,8 +14,8 @@ using ObjectProfileDialog = DataDialog<ObjectProfile, objectProfileEditor>;
 using ProfCutsDialog = DataDialog<ProfCuts, profCutsEditor>;
 using ArrayDialog = DataDialog<DynArrayData, arrayEditor>;
 using SelectMacroDialog = DataDialog<MacroChoice, macroChoiceEditor>;
-using EditLibSectionsDialog = DataDialog<DlgEditLibData, libraryEditor>;
-using EditLibSimpleDialog = DataDialog<SectionSize, sectionSizeEditor>;
+using EditLibSectionsDialog = LibraryDialog;
+using EditLibSimpleDialog = SizeDialog;
 using CSP2Dialog = DataDialog<DlgCSP2Data, cuttingStockEditor>;
 using ProfFeaturesDialog = DataDialog<DlgProfFeaturesData, featuresEditor>;
 using GridDialog = DataDialog<TwGridDlgData, gridEditor>;

@@ -121,13 +121,13 @@ bool StartDlgSelectMacro(const Vor_String& title, const Vor_StringArray& macros,
 bool StartDlgEditLibSections(DlgEditLibData& data, const Vor_String& section) {
     const ResourceOverrideScope resources;
     EditLibSectionsDialog dialog;
-    if (!section.isEmpty()) dialog.setTitle(dialString(21016) + " - " + section);
+    dialog.setSection(section);
     return runDialog(dialog, data);
 }
 
-bool StartDlgEditLibSimple(const Vor_String& title, Vor_ProfValuesTable& table, int& row) {
+bool StartDlgEditLibSimple(const Vor_String& section, Vor_ProfValuesTable& table, int& row) {
     EditLibSimpleDialog dialog;
-    dialog.setTitle(title);
+    dialog.setSection(section);
     SectionSize size{table, row};
     const bool isOk = runDialog(dialog, size);
     if (isOk) table = size.table;

@@ -95,10 +95,13 @@ VORMANT_API bool startGridDialog(const Vor_StringArray& columns, const Vor_Strin
 
 // --- sections and members -----------------------------------------------------------------------
 
-/// Opens on the table of `section` (a full section name) when there is one.
+/// Opens on the table of `section` (a full section name) when there is one. Tables are saved while
+/// the dialog is open; the catalogue in `data` is written to the library when it ends with OK.
 VORMANT_API bool StartDlgEditLibSections(DlgEditLibData& data, const Vor_String& section);
-/// `row` is taken in, and set whatever the result.
-VORMANT_API bool StartDlgEditLibSimple(const Vor_String& title, Vor_ProfValuesTable& table,
+/// Adds a size to `table`, made from row `row`. `section` is a user section whose picture is shown
+/// when the table does not say how it is drawn. `row` is set whatever the result: after OK to the
+/// place of the new size among the active ones (-1 when none could be made), else as it was.
+VORMANT_API bool StartDlgEditLibSimple(const Vor_String& section, Vor_ProfValuesTable& table,
                                        int& row);
 VORMANT_API bool StartDlgCSP2(DlgCSP2Data& data);
 VORMANT_API bool StartDlgProfFeatures(DlgProfFeaturesData& data);

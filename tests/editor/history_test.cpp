@@ -4,6 +4,7 @@
 
 #include <random>
 
+#include "core_api/texts/sheet_text_numbers.h"
 #include "spread/control/document.h"
 #include "spread/editor/sheet_editor.h"
 
@@ -35,7 +36,7 @@ class RandomSteps {
     SheetEditor& editor() { return m_editor; }
 
     void step() {
-        switch (pick(26)) {
+        switch (pick(27)) {
             case 0:
             case 1:
                 m_editor.type(col(), row(), content());
@@ -118,6 +119,11 @@ class RandomSteps {
             case 25:
                 m_editor.setRowsHidden(row(), row(), pick(2) != 0);
                 break;
+            case 26: {
+                const SheetEditor::OneStep joined(m_editor, texts::stepPaste);
+                for (int i = pick(4); i > 0; --i) step();
+                break;
+            }
         }
     }
 
@@ -233,6 +239,28 @@ TEST(History, RefusedStepsLeaveNothingBehind) {
     EXPECT_EQ(editor.redoTitle(), "Redo");
     ASSERT_TRUE(editor.undo());
     EXPECT_FALSE(editor.isSaved()) << "the saved sheet had a lock";
+}
+
+TEST(History, JoinedStepsAreOneStep) {
+    Grid grid;
+    grid.setCols(2);
+    grid.setRows(2);
+    SheetEditor editor(grid);
+    editor.type(1, 1, "kept");
+    editor.markSaved();
+    {
+        const SheetEditor::OneStep joined(editor, texts::stepPaste);
+        editor.type(1, 1, "a");
+        editor.insertRows(1, 1);
+        editor.type(2, 3, "b");
+    }
+    { const SheetEditor::OneStep nothing(editor, texts::stepPaste); }
+    EXPECT_EQ(editor.undoTitle(), "Undo pasting");
+    EXPECT_FALSE(editor.isSaved());
+    EXPECT_TRUE(editor.undo());
+    EXPECT_EQ(grid.text(1, 1, control::Reading::value), "kept");
+    EXPECT_EQ(grid.rows(), 2);
+    EXPECT_TRUE(editor.isSaved());
 }
 
 }  // namespace

@@ -7,6 +7,8 @@
 #include "frame/select_image_dialog.h"
 #include "frame/starters.h"
 #include "macros/sample_macro.h"
+#include "sections/dialogs/library_dialog.h"
+#include "sections/dialogs/size_dialog.h"
 
 namespace {
 
@@ -92,12 +94,6 @@ DlgCSP2Data sampleStock() {
     return data;
 }
 
-DlgEditLibData sampleLibrary() {
-    DlgEditLibData data;
-    data.templateNames = {"a.dwg"};
-    return data;
-}
-
 Outcome macroModal() {
     MacroData macro = makeMacroData(sampleMacro());
     int bolts = 0;
@@ -146,21 +142,6 @@ Outcome array() {
     return {result, data.entries[0].str()};
 }
 
-Outcome sectionSize() {
-    Vor_ProfValuesTable table;
-    table.columnNames = {"SysName", "I/O"};
-    table.rows = {{"200", "1"}};
-    int row = 0;
-    const bool result = StartDlgEditLibSimple("", table, row);
-    return {result, table.rows[0][0].str()};
-}
-
-Outcome library() {
-    DlgEditLibData data = sampleLibrary();
-    const bool result = StartDlgEditLibSections(data, "IPE-200");
-    return {result, data.templateNames[0].str()};
-}
-
 std::vector<Case> cases() {
     return {
         {"macro", 8131, 1, "24", "16", macroModal, Resources::asTheyAre, Copies::always},
@@ -177,8 +158,6 @@ std::vector<Case> cases() {
                                [](auto& d) { return Vor_String(d.gap, 3); }),
          Resources::override, Copies::never},
         {"array", 8720, 7, "300", "250", array},
-        {"library", 8722, 1, "b.dwg", "a.dwg", library},
-        {"section size", 8723, 1, "220", "200", sectionSize, Resources::asTheyAre},
         {"cutting stock", 8724, 1, "6000", "12000",
          over<DlgCSP2Data>(StartDlgCSP2, sampleStock(),
                            [](auto& d) { return d.tables[1].rows[0][0]; })},
@@ -273,6 +252,45 @@ TEST_F(Starters, ConstraintsAndProfileCutsHandTheirEditsToTheDatasOwnCall) {
         .presses(IDOK);
     EXPECT_TRUE(StartDlgEditConstrModal(constraints));
     EXPECT_EQ(gap, 4);
+}
+
+TEST_F(Starters, TheSectionLibraryComesBackAfterOkOnly) {
+    for (const int button : {IDCANCEL, IDOK}) {
+        DlgEditLibData data;
+        data.catalogue.groups.appendNewGrp();
+        user.whenOpens(LibraryDialog::resourceNumber)
+            .does([&](CDialog&) { EXPECT_TRUE(isOverridden()); })
+            .selects(LibraryDialog::pageTabs, LibraryDialog::groups)
+            .presses(CataloguePage::addButton)
+            .presses(button);
+        EXPECT_EQ(StartDlgEditLibSections(data, ""), button == IDOK);
+        EXPECT_EQ(data.catalogue.groups.length(), button == IDOK ? 2 : 1);
+    }
+    EXPECT_EQ(gResourceOverride.current(), nullptr);
+    CWnd neverMade;
+    host.window = &neverMade;
+    DlgEditLibData data;
+    EXPECT_FALSE(StartDlgEditLibSections(data, ""));
+}
+
+TEST_F(Starters, AddingASizeGivesItsRowWithTheResourcesAsTheyAre) {
+    Vor_ProfValuesTable table;
+    table.columnNames = {"SysName", "I/O", "English", "Dutch", "German", "French", "Width"};
+    table.rows = {{"200", "1", "A 200", "", "", "", "200"}};
+    int row = 0;
+    for (const int button : {IDCANCEL, IDOK}) {
+        user.whenOpens(SizeDialog::resourceNumber)
+            .does([&](CDialog&) { EXPECT_FALSE(isOverridden()); })
+            .types(SizeDialog::firstValueField, "220")
+            .presses(button);
+        EXPECT_EQ(StartDlgEditLibSimple("", table, row), button == IDOK);
+        EXPECT_EQ(row, button == IDOK ? 1 : 0);
+        EXPECT_EQ(table.rows.length(), button == IDOK ? 2 : 1);
+    }
+    CWnd neverMade;
+    host.window = &neverMade;
+    EXPECT_FALSE(StartDlgEditLibSimple("", table, row));
+    EXPECT_EQ(row, 1);
 }
 
 TEST_F(Starters, ProfileCutsRememberTheirOptionAfterOkOnly) {

@@ -1,30 +1,9 @@
-// A spreadsheet whose user works through the editor's steps: whatever is typed, pasted, cleared,
-// ticked or pulled wider can be undone.
+// The spreadsheet of a sheet's page.
 #pragma once
 
-#include "spread/editor/sheet_editor.h"
-#include "spread/vor_spread.h"
+#include "spread/editor/edited_spread.h"
 
-class SheetSpread : public Vor_Spread {
+class SheetSpread : public EditedSpread {
   public:
     SheetSpread();
-
-    editor::SheetEditor& editor() { return m_editor; }
-    const editor::SheetEditor& editor() const { return m_editor; }
-    /// The selected cells, or the active one; cut to the sheet.
-    control::Block chosen() const;
-
-    bool userEnters(int col, int row, std::string_view text) override;
-    bool userClears(const control::Block& block) override;
-    bool userPastes(int col, int row, std::string_view text) override;
-    bool userClicks(int col, int row) override;
-    bool userSizesCol(int col, int pixels) override;
-    bool userSizesRow(int row, int pixels) override;
-    bool showContextMenu() override;
-
-    void setMenuOpener(std::function<void()> opener) { m_menuOpener = std::move(opener); }
-
-  private:
-    editor::SheetEditor m_editor;
-    std::function<void()> m_menuOpener;
 };

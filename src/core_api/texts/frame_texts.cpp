@@ -101,7 +101,6 @@ constexpr TextRow rows[] = {
     {21083, {"On", "Aan", "Ein", "Actif"}},
     {21084, {"Position", "Positie", "Lage", "Position"}},
     {21085, {"Size", "Maat", "Größe", "Taille"}},
-    {21086, {"Drawn section", "Getekend profiel", "Gezeichnetes Profil", "Profilé dessiné"}},
     {21087, {"Marking", "Markering", "Markierung", "Marquage"}},
     {21088, {"Centre punch", "Centerpunt", "Körner", "Pointeau"}},
     {21089, {"Powder", "Poeder", "Pulver", "Poudre"}},

@@ -22,6 +22,7 @@ extern const std::span<const TextRow> mappingTexts;
 extern const std::span<const TextRow> designerTexts;
 extern const std::span<const TextRow> macrodlgTexts;
 extern const std::span<const TextRow> sectionsTexts;
+extern const std::span<const TextRow> sectionDialogsTexts;
 extern const std::span<const TextRow> cutstockTexts;
 extern const std::span<const TextRow> frameTexts;
 extern const std::span<const TextRow> workbenchTexts;
@@ -40,6 +41,7 @@ inline auto allTables() {
         designerTexts,     //
         macrodlgTexts,     //
         sectionsTexts,     //
+        sectionDialogsTexts,
         cutstockTexts,     //
         frameTexts,        //
         workbenchTexts,    //

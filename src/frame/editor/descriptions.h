@@ -2,7 +2,6 @@
 #pragma once
 
 #include "core_api/dialog_data/dlg_csp2_data.h"
-#include "core_api/dialog_data/dlg_edit_lib_data.h"
 #include "core_api/dialog_data/dlg_macro_cuts_data.h"
 #include "core_api/dialog_data/dlg_prof_cuts_data.h"
 #include "core_api/dialog_data/dlg_prof_features_data.h"
@@ -32,8 +31,6 @@ NamedValues describe(TwAutoStandardsData& data);
 // Members and sections: member_descriptions.cpp.
 NamedValues describe(ProfCuts& data);
 NamedValues describe(DlgProfFeaturesData& data);
-NamedValues describe(DlgEditLibData& data);
-NamedValues describe(SectionSize& data);
 NamedValues describe(DlgCSP2Data& data);
 NamedValues describe(DstvPoints& data);
 NamedValues describe(TwDlgCis2Data& data);

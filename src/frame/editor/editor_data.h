@@ -5,7 +5,6 @@
 #include "core_api/dialog_data/dlg_prof_cuts_data.h"
 #include "core_api/dialog_data/tw_ma_call_back.h"
 #include "core_api/macros/macro_data.h"
-#include "sections/vor_prof_values_table.h"
 
 /// The member properties of one tab of a macro; those of all tabs when `tab` is empty, of all
 /// groups when `group` is.
@@ -33,12 +32,6 @@ struct MacroChoice {
     int chosen = -1;
     bool hasAlternative = false;
     bool isAlternative = false;
-};
-
-/// One row of a section table.
-struct SectionSize {
-    Vor_ProfValuesTable table;
-    int row = 0;
 };
 
 /// How points are marked in the output for machines; lasts as long as the module is loaded.

@@ -16,23 +16,6 @@ NamedValues describe(DlgProfFeaturesData& data) {
     return values;
 }
 
-NamedValues describe(DlgEditLibData& data) {
-    NamedValues values;
-    for (int i = 0; i < data.templateNames.length(); ++i)
-        values.push_back(
-            textValue(dialString(21086) + " " + Vor_String(i + 1, 0), data.templateNames[i]));
-    return values;
-}
-
-NamedValues describe(SectionSize& data) {
-    NamedValues values;
-    if (!data.table.rows.isIndex(data.row)) return values;
-    Vor_StringArray& cells = data.table.rows[data.row];
-    for (int i = 0; i < cells.length() && i < data.table.columnNames.length(); ++i)
-        values.push_back(textValue(data.table.columnNames[i], cells[i]));
-    return values;
-}
-
 NamedValues describe(DlgCSP2Data& data) {
     NamedValues values;
     for (Csp2Table& table : data.tables) {

@@ -30,4 +30,7 @@ enum Image {
     imageClash = 247,
     imageReapply = 248,
     imageFromStandards = 249,
+    imageUndo = 250,
+    imageRedo = 251,
+    imageFind = 252,
 };

@@ -29,6 +29,23 @@ void SheetEditor::pushStep() {
     m_step.reset();
 }
 
+SheetEditor::OneStep::OneStep(SheetEditor& editor, int title)
+    : m_editor(editor), m_title(title), m_first(editor.m_undo.size()) {}
+
+SheetEditor::OneStep::~OneStep() {
+    m_editor.joinSteps(m_first, m_title);
+}
+
+void SheetEditor::joinSteps(size_t first, int title) {
+    if (m_undo.size() <= first) return;
+    Step& joined = m_undo[first];
+    joined.title = title;
+    for (size_t i = first + 1; i < m_undo.size(); ++i)
+        for (auto& change : m_undo[i].changes) joined.changes.push_back(std::move(change));
+    m_undo.erase(m_undo.begin() + static_cast<std::ptrdiff_t>(first) + 1, m_undo.end());
+    if (m_savedDepth > first) m_savedDepth = static_cast<size_t>(-1);
+}
+
 void SheetEditor::exchange(Step& step, Direction direction) {
     const auto exchangeOne = [&](const auto& change) { change->exchange(m_grid, direction); };
     if (direction == Direction::redo)

@@ -49,6 +49,20 @@ class VORMANT_API SheetEditor : public CellChangeObserver {
     bool isSaved() const { return m_undo.size() == m_savedDepth; }
     void markSaved() { m_savedDepth = m_undo.size(); }
 
+    /// The steps taken during its scope become one, whose name is the text `title`.
+    class VORMANT_API OneStep {
+      public:
+        OneStep(SheetEditor& editor, int title);
+        ~OneStep();
+        OneStep(const OneStep&) = delete;
+        OneStep& operator=(const OneStep&) = delete;
+
+      private:
+        SheetEditor& m_editor;
+        int m_title;
+        size_t m_first;
+    };
+
     // --- contents ---------------------------------------------------------------------------
     /// As typed: "=" begins a formula, what the cell does not take is refused.
     bool type(int col, int row, std::string_view text);
@@ -153,6 +167,7 @@ class VORMANT_API SheetEditor : public CellChangeObserver {
     void growTo(int col, int row);
     bool enter(int col, int row, std::string_view text);
     void pushStep();
+    void joinSteps(size_t first, int title);
     void exchange(Step& step, Direction direction);
     void rollBack();
     bool step(std::vector<Step>& from, std::vector<Step>& to, Direction direction);

@@ -1,0 +1,184 @@
+#include "sections/dialogs/size_dialog.h"
+
+#include <algorithm>
+#include <array>
+
+#include "core_api/text/text_helpers.h"
+#include "core_api/texts/dial_text.h"
+#include "platform/host/host.h"
+#include "platform/window/message_box.h"
+#include "sections/dialogs/section_dialog_words.h"
+#include "sections/dialogs/section_picture_control.h"
+#include "sections/section_types.h"
+
+namespace {
+
+using Dlg = SizeDialog;
+
+constexpr int valuesTop = 7, valueHeight = 17;
+
+constexpr auto makeControls() {
+    std::array<ControlTemplate, 2 * Dlg::mostValues + 9> made{};
+    size_t at = 0;
+    for (int i = 0; i < Dlg::mostValues; ++i) {
+        const int top = valuesTop + i * valueHeight;
+        made[at++] = {Control::label, Dlg::firstValueLabel + i, {}, {7, top + 2, 118, 10}};
+        made[at++] = {Control::edit, Dlg::firstValueField + i, {}, {130, top, 60, 13}};
+    }
+    made[at++] = {Control::picture, Dlg::sectionPictureItem, {}, {202, 7, 170, 104}};
+    made[at++] = {Control::group, Dlg::nameFrame, dialText(wordSizeName), {202, 116, 170, 64}};
+    made[at++] = {Control::radioButton,
+                  Dlg::fromValues,
+                  dialText(wordNameFromValues),
+                  {210, 129, 154, 10},
+                  styleNewGroup};
+    made[at++] = {Control::radioButton, Dlg::ownName, dialText(wordOwnName), {210, 143, 154, 10}};
+    made[at++] = {Control::label, Dlg::nameLabel, {}, {210, 161, 40, 10}};
+    made[at++] = {Control::edit, Dlg::nameField, {}, {254, 159, 110, 13}};
+    made[at++] = {Control::label, Dlg::furtherLabel, {}, {7, 198, 225, 22}};
+    made[at++] = {Control::button, IDOK, dialText(wordOk), {246, 203, 60, 14}, styleDefault};
+    made[at++] = {Control::button, IDCANCEL, dialText(wordCancel), {312, 203, 60, 14}};
+    return made;
+}
+constexpr auto controls = makeControls();
+constexpr DialogResource resource{
+    Dlg::resourceNumber, dialText(wordNewSize), {0, 0, 379, 224}, controls};
+
+}  // namespace
+
+SizeDialog::SizeDialog() : CDialog(resource, Host::current().mainWindow()) {}
+
+void SizeDialog::onInit() {
+    m_naming = findSizeNaming(m_data.table, m_data.row);
+    item(nameLabel)->setText(dialString(wordSizeName) + ":");
+    const bool hasNaming = !m_naming.values.isEmpty();
+    itemAs<CButton>(hasNaming ? fromValues : ownName)->setCheck(1);
+    item(fromValues)->enable(hasNaming);
+    item(nameField)->enable(!hasNaming);
+    showSectionPicture(*itemAs<CStatic>(sectionPictureItem), m_data.table.drawnAs, m_section,
+                       PictureSize::big);
+    showValues();
+    showFurtherValues();
+    const Vor_StringArray row = pattern();
+    const int column = currentNameColumn();
+    if (row.isIndex(column)) item(nameField)->setText(row[column]);
+    if (shownValues() > 0) item(firstValueField)->focus();
+}
+
+// --- the pattern --------------------------------------------------------------------------------
+
+Vor_StringArray SizeDialog::pattern() const {
+    Vor_StringArray row;
+    m_data.table.getRow(m_data.row, row);
+    return row;
+}
+
+/// Of the values that the pattern has, those that the form has room for.
+int SizeDialog::shownValues() const {
+    return std::clamp(pattern().length() - m_data.table.firstValueColumn(), 0, mostValues);
+}
+
+int SizeDialog::currentNameColumn() const {
+    return m_data.table.columnNames.find(gMacroLangs.GetCurLanguage());
+}
+
+void SizeDialog::showValues() {
+    const Vor_ProfValuesTable& table = m_data.table;
+    const Vor_StringArray row = pattern();
+    const bool isType = !isDrawnTemplate(table.drawnAs);
+    for (int i = 0; i < mostValues; ++i) {
+        const int column = table.firstValueColumn() + i;
+        const bool isThere = i < shownValues();
+        item(firstValueLabel + i)->show(isThere);
+        item(firstValueField + i)->show(isThere);
+        if (!isThere) continue;
+        Vor_String name = table.columnNames.isIndex(column) ? table.columnNames[column] : "";
+        if (isType) name = gMacroLangs.GetString("Prof", name);
+        item(firstValueLabel + i)->setText(getAlfabet(i + 1) + ". " + name + ":");
+        item(firstValueField + i)->setText(row[column]);
+    }
+}
+
+/// A table may have more values than the form; the new size then has those of the pattern.
+void SizeDialog::showFurtherValues() {
+    const Vor_StringArray row = pattern();
+    const int further = row.length() - m_data.table.firstValueColumn() - mostValues;
+    if (further <= 0) return;
+    Vor_String text = dialString(wordFurtherValues);
+    text.replaceSubString("%1", std::to_string(further));
+    text.replaceSubString("%2", m_data.table.tableName + "-" + row[0]);
+    item(furtherLabel)->setText(text);
+}
+
+// --- what is typed ------------------------------------------------------------------------------
+
+bool SizeDialog::isNamedByValues() const {
+    return itemAs<CButton>(fromValues)->isChecked();
+}
+
+Vor_StringArray SizeDialog::typedValues() const {
+    Vor_StringArray values;
+    for (int i = 0; i < shownValues(); ++i) values.append(item(firstValueField + i)->text());
+    return values;
+}
+
+void SizeDialog::showName() {
+    if (!isNamedByValues()) return;
+    const int language = currentNameColumn() - Vor_ProfValuesTable::firstNameColumn;
+    const Vor_String prefix =
+        m_naming.prefixes.isIndex(language) ? m_naming.prefixes[language] : Vor_String();
+    item(nameField)->setText(prefix + m_naming.nameOf(typedValues()));
+}
+
+NewSize SizeDialog::typedSize() const {
+    NewSize size{m_data.row, item(nameField)->text(), {}, typedValues()};
+    if (isNamedByValues()) size.name = m_naming.nameOf(size.values);
+    for (int i = 0; i < m_data.table.getNrLanguages(); ++i) {
+        const bool hasPrefix = isNamedByValues() && m_naming.prefixes.isIndex(i);
+        size.userNames.append((hasPrefix ? m_naming.prefixes[i] : Vor_String()) + size.name);
+    }
+    return size;
+}
+
+void SizeDialog::onCommand(int id, int code) {
+    const bool isValue = id >= firstValueField && id < firstValueField + mostValues;
+    if (isValue && code == textChanged) return showName();
+    if ((id == fromValues || id == ownName) && code == clicked) {
+        item(nameField)->enable(!isNamedByValues());
+        return showName();
+    }
+    CDialog::onCommand(id, code);
+}
+
+// --- adding it ----------------------------------------------------------------------------------
+
+bool SizeDialog::refuse(int text, const Vor_String& what, int field) {
+    Vor_String message = dialString(text);
+    message.replaceSubString("%1", what);
+    showWarning(dialString(wordNewSize), message);
+    if (CWnd* wrong = item(field)) wrong->focus();
+    return false;
+}
+
+/// Where the pattern has a number, the new size has one.
+bool SizeDialog::isGood(const NewSize& size) {
+    const Vor_StringArray row = pattern();
+    for (int i = 0; i < size.values.length(); ++i)
+        if (isNumber(row[m_data.table.firstValueColumn() + i]) && !isNumber(size.values[i]))
+            return refuse(wordNoNumber, size.values[i], firstValueField + i);
+    if (trimmed(size.name).empty()) return refuse(wordNoSizeName, {}, nameField);
+    int taken = -1;
+    if (m_data.table.findSysName(size.name, taken))
+        return refuse(wordSizeTaken, size.name, isNamedByValues() ? firstValueField : nameField);
+    return true;
+}
+
+void SizeDialog::onOK() {
+    const NewSize size = typedSize();
+    if (!isWholeRow(m_data.table, m_data.row))
+        refuse(wordIncomplete, {}, 0);
+    else if (!isGood(size))
+        return;
+    m_data.row = addSize(m_data.table, size);
+    CDialog::onOK();
+}

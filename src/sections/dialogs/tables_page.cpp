@@ -1,0 +1,322 @@
+#include "sections/dialogs/tables_page.h"
+
+#include "core_api/text/text_helpers.h"
+#include "core_api/texts/dial_text.h"
+#include "platform/window/images.h"
+#include "platform/window/message_box.h"
+#include "platform/window/window_system.h"
+#include "sections/dialogs/section_dialog_words.h"
+#include "sections/dialogs/section_picture_control.h"
+#include "sections/section_types.h"
+
+namespace {
+
+using Page = TablesPage;
+
+constexpr ControlTemplate picture(int id, int left, int image, int tip) {
+    return {Control::imageButton, id,    {},           {left, 0, 18, 16}, 0,
+            anchorTopLeft,        image, dialText(tip)};
+}
+
+constexpr ControlTemplate controls[] = {
+    {Control::list, Page::tableList, {}, {0, 0, 112, 176}, 0, anchorTall},
+    {Control::button,
+     Page::newButton,
+     dialText(wordNewTable),
+     {0, 180, 112, 14},
+     0,
+     anchorBottomLeft},
+    {Control::button,
+     Page::deleteButton,
+     dialText(wordDeleteTable),
+     {0, 197, 112, 14},
+     0,
+     anchorBottomLeft},
+    {Control::button,
+     Page::renameButton,
+     dialText(wordRename),
+     {0, 214, 112, 14},
+     0,
+     anchorBottomLeft},
+    {Control::button,
+     Page::rowNamesButton,
+     dialText(wordRowNames),
+     {0, 231, 112, 14},
+     0,
+     anchorBottomLeft},
+    picture(Page::saveButton, 118, imageSave, wordSaveTable),
+    picture(Page::undoButton, 144, imageUndo, wordUndo),
+    picture(Page::redoButton, 164, imageRedo, wordRedo),
+    picture(Page::copyButton, 190, imageCopy, wordCopyCells),
+    picture(Page::pasteButton, 210, imagePaste, wordPasteCells),
+    picture(Page::insertRowButton, 236, imageInsertRow, wordInsertRow),
+    picture(Page::deleteRowButton, 256, imageDeleteRow, wordDeleteRow),
+    picture(Page::rowUpButton, 276, imageUp, wordRowUp),
+    picture(Page::rowDownButton, 296, imageDown, wordRowDown),
+    picture(Page::findButton, 322, imageFind, wordFindReplace),
+    {Control::placeholder, Page::sheetItem, {}, {118, 20, 346, 150}, 0, anchorAll},
+    {Control::group,
+     Page::templateFrame,
+     dialText(wordSectionType),
+     {118, 174, 346, 71},
+     0,
+     anchorWideBelow},
+    {Control::combo, Page::templateList, {}, {126, 187, 170, 13}, 0, anchorBottomLeft},
+    {Control::label, Page::problemLabel, {}, {126, 203, 240, 38}, 0, anchorWideBelow},
+    {Control::picture, Page::templatePicture, {}, {370, 184, 88, 57}, 0, anchorBottomRight},
+};
+constexpr DialogResource resource{Page::resourceNumber, {}, {0, 0, 464, 245}, controls};
+
+}  // namespace
+
+TablesPage::TablesPage(CWnd* parent, DlgEditLibData& data)
+    : CDialog(resource, parent), m_data(data) {}
+
+TablesPage::~TablesPage() {
+    destroy();  // before the sheet, which is one of the children
+}
+
+void TablesPage::onInit() {
+    constexpr int typedLook = 1;
+    m_sheet.attach(this, sheetItem, true);
+    m_sheet.setStandardLook(typedLook);
+    m_sheet.setListener([this](const GridNotice&) { showWhatCanBeDone(); });
+    m_sheet.setMenuOpener([this] { showMenu(); });
+    fillTemplates();
+    fillTables();
+    showWhatCanBeDone();
+}
+
+Vor_String TablesPage::tableName() const {
+    return m_data.tableNames.isIndex(m_index) ? m_data.tableNames[m_index] : Vor_String();
+}
+
+// --- what is shown ------------------------------------------------------------------------------
+
+void TablesPage::start(const Vor_String& section) {
+    const Vor_String table = getSubstrBefore(section, "-");
+    const int found = m_data.tableNames.find(table);
+    showTable(found >= 0 ? found : m_data.tableNames.isEmpty() ? -1 : 0);
+    if (found >= 0) m_sheet.goToSize(tableName(), section);
+    showWhatCanBeDone();
+}
+
+void TablesPage::fillTemplates() {
+    auto* list = itemAs<CComboBox>(templateList);
+    list->clear();
+    for (int type = 1; type <= sectionTypeCount; ++type) list->add(sectionTypeDisplay(type));
+    for (const Vor_String& drawn : m_data.templateNames) list->add(drawn);
+}
+
+void TablesPage::fillTables() {
+    auto* list = itemAs<CListBox>(tableList);
+    list->clear();
+    for (const Vor_String& name : m_data.tableNames) list->add(name);
+    list->select(m_index);
+}
+
+void TablesPage::showTable(int index) {
+    read(index);
+    const Vor_String display = displayOfDrawnAs(m_table.drawnAs);
+    m_sheet.show(m_table, display);
+    selectTemplate(display);
+    itemAs<CListBox>(tableList)->select(index);
+    const Vor_String problem =
+        isReadable() ? Vor_String() : dialString(wordUnreadable) + "\n" + m_problem;
+    item(problemLabel)->setText(problem);
+    showWhatCanBeDone();
+}
+
+// A template that is not in the library is still what the table names.
+void TablesPage::selectTemplate(const Vor_String& display) {
+    auto* list = itemAs<CComboBox>(templateList);
+    int found = list->find(display);
+    if (found < 0 && !display.isEmpty()) found = list->add(display);
+    list->select(found);
+    showPicture();
+}
+
+void TablesPage::showPicture() {
+    const Vor_String display = itemAs<CComboBox>(templateList)->selectedText();
+    const Vor_String drawnAs = drawnAsOfDisplay(display);
+    showSectionPicture(*itemAs<CStatic>(templatePicture), drawnAs, {}, PictureSize::big);
+}
+
+void TablesPage::showWhatCanBeDone() {
+    const int rows = m_sheet.nrRows();
+    const int row = rows > 0 ? m_sheet.currentRow() : 0;
+    const bool isTable = m_index >= 0;
+    const bool isSheet = isTable && isReadable() && rows > 0;
+    item(deleteButton)->enable(isTable);
+    item(renameButton)->enable(isSheet);
+    item(rowNamesButton)->enable(isSheet);
+    item(saveButton)->enable(isSheet && m_sheet.isChanged());
+    item(undoButton)->enable(m_sheet.editor().canUndo());
+    item(redoButton)->enable(m_sheet.editor().canRedo());
+    item(insertRowButton)->enable(isTable && isReadable());
+    for (const int id : {copyButton, pasteButton, deleteRowButton, findButton})
+        item(id)->enable(isSheet);
+    item(rowUpButton)->enable(row > 1);
+    item(rowDownButton)->enable(row > 0 && row < rows);
+    item(templateList)->enable(isSheet);
+}
+
+// --- what the user chooses ----------------------------------------------------------------------
+
+void TablesPage::onTableChosen() {
+    const int chosen = itemAs<CListBox>(tableList)->selected();
+    if (chosen == m_index || chosen < 0) return;
+    const Vor_String name = m_data.tableNames[chosen];
+    if (!mayLeave()) {
+        itemAs<CListBox>(tableList)->select(m_index);
+        return;
+    }
+    // A new table that was not saved is gone from the list by now.
+    showTable(m_data.tableNames.find(name, true));
+}
+
+void TablesPage::onTemplateChosen() {
+    applyTemplate(true);
+    showPicture();
+    m_sheet.setBool(static_cast<int>(control::Option::changed), true);
+    showWhatCanBeDone();
+}
+
+void TablesPage::applyTemplate(bool byUser) {
+    const Vor_String display = itemAs<CComboBox>(templateList)->selectedText();
+    Vor_StringArray header = m_sheet.languageHeader();
+    if (!isDrawnTemplate(display)) header.appendAll(sectionTypeColumns(findSectionType(display)));
+    const bool isWider = m_sheet.nrCols() > header.length();
+    const bool narrows = byUser && isWider && asksToDropColumns(display);
+    if (!m_sheet.setTemplate(display, header, narrows)) did(false);
+}
+
+bool TablesPage::asksToDropColumns(const Vor_String& display) {
+    const Vor_String text = dialString(wordTemplateBefore) + " " + display + " " +
+                            dialString(wordTemplateAfter) + "\n" + dialString(wordDropColumns);
+    return showMessage({dialString(wordTemplateTitle).str(), text.str(), MessageIcon::question,
+                        MessageButtons::yesNo}) == IDYES;
+}
+
+void TablesPage::nameRows() {
+    m_sheet.nameRows(tableName());
+    applyTemplate(false);
+    m_sheet.autoSize();
+    showWhatCanBeDone();
+}
+
+// A file may have columns and no size yet.
+void TablesPage::insertRow() {
+    if (m_sheet.nrRows() > 0) return did(m_sheet.addRow(m_sheet.currentRow()));
+    Vor_StringArray first;
+    first.setLength(m_table.columnNames.length());
+    if (first.isIndex(Vor_ProfValuesTable::activeColumn))
+        first[Vor_ProfValuesTable::activeColumn] = "1";
+    m_table.rows.append(first);
+    m_sheet.show(m_table, displayOfDrawnAs(m_table.drawnAs));
+    m_sheet.setUnsaved();
+    showWhatCanBeDone();
+}
+
+/// After a step of the sheet, which says itself why it could not be taken.
+void TablesPage::did(bool isDone) {
+    if (!isDone && !m_sheet.lastError().empty())
+        showWarning(dialString(wordLibraryTitle), m_sheet.lastError());
+    m_sheet.invalidate();
+    showWhatCanBeDone();
+}
+
+void TablesPage::onCommand(int id, int code) {
+    if (id == tableList && code == selectionChanged) return onTableChosen();
+    if (id == templateList && code == selectionChanged) return onTemplateChosen();
+    if (code != clicked) return;
+    switch (id) {
+        case newButton:
+            return newTable();
+        case deleteButton:
+            return deleteTable();
+        case renameButton:
+            return renameTable();
+        case rowNamesButton:
+            return nameRows();
+        case saveButton:
+            save();
+            return showWhatCanBeDone();
+        case undoButton:
+        case redoButton:
+            did(id == undoButton ? m_sheet.undo() : m_sheet.redo());
+            return selectTemplate(m_sheet.drawnAs());
+        case copyButton:
+            return did(m_sheet.clipboardCopy());
+        case pasteButton:
+            return did(m_sheet.paste());
+        case insertRowButton:
+            return insertRow();
+        case deleteRowButton:
+            return did(m_sheet.removeRows());
+        case rowUpButton:
+            return did(m_sheet.moveRow(-1));
+        case rowDownButton:
+            return did(m_sheet.moveRow(1));
+        case findButton:
+            m_sheet.showFindReplace();
+            return;
+        default:
+            return;
+    }
+}
+
+void TablesPage::showMenu() {
+    struct Entry {
+        int button, word;
+    };
+    constexpr Entry offered[] = {{copyButton, wordCopyCells},
+                                 {pasteButton, wordPasteCells},
+                                 {},
+                                 {insertRowButton, wordInsertRow},
+                                 {deleteRowButton, wordDeleteRow},
+                                 {rowUpButton, wordRowUp},
+                                 {rowDownButton, wordRowDown}};
+    std::vector<MenuEntry> entries;
+    for (const auto& [button, word] : offered) {
+        if (button == 0)
+            entries.push_back({});
+        else
+            entries.push_back({button, dialString(word).str(), item(button)->isEnabled()});
+    }
+    if (const int picked = WindowSystem::current().popupMenu(m_sheet, entries)) press(picked);
+}
+
+/// Insert and Delete make and remove tables in the list, and with Ctrl rows in the sheet.
+bool TablesPage::preTranslateKey(const KeyMessage& key) {
+    if (!key.isDown) return false;
+    struct Shortcut {
+        bool inSheet;
+        int key;
+        bool ctrl, alt;
+        int button;
+    };
+    constexpr Shortcut shortcuts[] = {
+        {false, keyInsert, false, false, newButton},
+        {false, keyDelete, false, false, deleteButton},
+        {false, keyF2, false, false, renameButton},
+        {true, keyInsert, false, false, insertRowButton},
+        {true, keyInsert, true, false, insertRowButton},
+        {true, keyDelete, true, false, deleteRowButton},
+        {true, keyUp, false, true, rowUpButton},
+        {true, keyDown, false, true, rowDownButton},
+        {true, 'Z', true, false, undoButton},
+        {true, 'Y', true, false, redoButton},
+        {true, 'C', true, false, copyButton},
+        {true, 'V', true, false, pasteButton},
+        {true, 'F', true, false, findButton},
+        {true, 'S', true, false, saveButton},
+    };
+    const bool inSheet = m_sheet.hasFocus() && !m_sheet.grid().isEditing();
+    const bool inList = item(tableList)->hasFocus();
+    for (const Shortcut& each : shortcuts)
+        if (each.key == key.key && each.ctrl == key.ctrl && each.alt == key.alt &&
+            (each.inSheet ? inSheet : inList))
+            return press(each.button);
+    return false;
+}
