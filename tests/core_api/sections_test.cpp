@@ -84,6 +84,21 @@ TEST_F(SectionTables, RegisteredTablesReplaceThoseOfFiles) {
     gSectionTables.removeTable(index);
 }
 
+TEST_F(SectionTables, RegisteredTablesOfFilesGoWithTheirLibrary) {
+    const Vor_StringArray header{"SysName", "English", "Dutch", "German", "French", "h"};
+    const Vor_Array<Vor_StringArray> rows{{"200", "new", "", "", "", "201"}};
+    int index = -1;
+    ASSERT_TRUE(gSectionTables.hasTable("IPE", index));
+    gSectionTables.removeTable(index);
+    ASSERT_EQ(gSectionTables.addSectionTable("IPE.pr", "1", header, rows), Acad::eOk);
+    ASSERT_EQ(gSectionTables.addSectionTable("HOST.pr", "1", header, rows), Acad::eOk);
+    const TemporaryFolder other;
+    gSettings.setLibDir(other.inside());
+    EXPECT_FALSE(gSectionTables.hasTable("IPE", index)) << "of another library";
+    ASSERT_TRUE(gSectionTables.hasTable("HOST", index)) << "a host's own";
+    gSectionTables.removeTable(index);
+}
+
 TEST_F(SectionTables, FollowTheLibraryAndTellOfDamageOnce) {
     const TemporaryFolder other;
     other.write("prof/BAD.pr", "1\nSysName\t\\x\n");

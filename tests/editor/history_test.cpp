@@ -255,7 +255,7 @@ TEST(History, JoinedStepsAreOneStep) {
         editor.type(2, 3, "b");
     }
     { const SheetEditor::OneStep nothing(editor, texts::stepPaste); }
-    EXPECT_EQ(editor.undoTitle(), "Undo pasting");
+    EXPECT_EQ(editor.undoTitle(), "Undo paste");
     EXPECT_FALSE(editor.isSaved());
     EXPECT_TRUE(editor.undo());
     EXPECT_EQ(grid.text(1, 1, control::Reading::value), "kept");

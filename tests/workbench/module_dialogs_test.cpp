@@ -11,6 +11,9 @@
 #include "frame/starter_dialogs.h"
 #include "frame/string_array_dialog.h"
 #include "mapping/dialog/mapping_dialog.h"
+#include "platform/paths.h"
+#include "sections/dialogs/library_dialog.h"
+#include "sections/dialogs/size_dialog.h"
 #include "spread/formulas/formulas_dialog.h"
 #include "support/temporary_folder.h"
 #include "window/qt_window_system.h"
@@ -18,6 +21,53 @@
 namespace {
 
 const TwSSMapping noObjects;
+
+/// The section library on one of its pages.
+class LibraryOn : public LibraryDialog {
+  public:
+    explicit LibraryOn(Page page) : m_page(page) {
+        gSettings.setLibDir(*paths::toInside(VORMANT_SOURCE_DIR "/library"));
+        data().catalogue.groups.appendNewGrp();
+        data().catalogue.types.append({});
+        data().catalogue.types[0].group = 1;
+        setSection("L-50x50x5");
+    }
+
+  protected:
+    void onInit() override {
+        LibraryDialog::onInit();
+        pick(pageTabs, m_page);
+    }
+
+  private:
+    Page m_page;
+};
+
+/// With a table that cannot be read.
+class DamagedLibrary : public LibraryDialog {
+  public:
+    DamagedLibrary() {
+        m_library.write("prof/A series of wide flange sections.pr", "1\nSysName\tI/O\n200\t\\x\n");
+        gSettings.setLibDir(m_library.inside());
+    }
+
+  private:
+    TemporaryFolder m_library;
+};
+
+/// A table with more values than the form has fields.
+class ManyValues : public SizeDialog {
+  public:
+    ManyValues() {
+        gSettings.setLibDir(*paths::toInside(VORMANT_SOURCE_DIR "/library"));
+        EXPECT_TRUE(data().table.readFromFile("IPE"));
+    }
+};
+
+template <class Dialog, class... Arguments>
+std::unique_ptr<CDialog> make(Arguments... arguments) {
+    return std::make_unique<Dialog>(arguments...);
+}
 
 struct Row {
     const char* name;
@@ -35,6 +85,11 @@ const Row rows[] = {
          const StringTable table{{"Name", "Size"}, {}, false, "DLG_TABLE", ""};
          return std::unique_ptr<CDialog>(new StringArrayDialog(table));
      }},
+    {"library-tables", [] { return make<LibraryOn>(LibraryDialog::tables); }},
+    {"library-groups", [] { return make<LibraryOn>(LibraryDialog::groups); }},
+    {"library-types", [] { return make<LibraryOn>(LibraryDialog::types); }},
+    {"library-damaged", [] { return make<DamagedLibrary>(); }},
+    {"size", [] { return make<ManyValues>(); }},
     {"image", [] { return std::unique_ptr<CDialog>(new SelectImageDialog); }},
 };
 
@@ -65,7 +120,10 @@ TEST_P(ModuleDialogs, LookWellInEveryLanguage) {
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(All, ModuleDialogs, testing::ValuesIn(rows),
-                         [](const auto& row) { return std::string(row.param.name); });
+INSTANTIATE_TEST_SUITE_P(All, ModuleDialogs, testing::ValuesIn(rows), [](const auto& row) {
+    std::string name = row.param.name;
+    std::erase(name, '-');
+    return name;
+});
 
 }  // namespace

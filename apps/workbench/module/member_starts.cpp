@@ -6,6 +6,7 @@
 #include "core_api/texts/texts.h"
 #include "module/module_data.h"
 #include "module/starts.h"
+#include "sections/section_editing.h"
 
 namespace starts {
 
@@ -28,24 +29,16 @@ Vor_String firstSection(std::string_view table) {
 }  // namespace
 
 Outcome sectionLibrary(ModuleData& data) {
-    auto& edited = data.objects.sectionLibrary;
-    if (!edited) {
-        edited.emplace();
-        edited->GetAvailableFiles();
-        for (const Vor_String& path : ObjectExportFindFiles(gSettings.libDir() + "prof\\", "*.dwg"))
-            edited->templateNames.append(getFileName(path));
-    }
-    return changedIf(StartDlgEditLibSections(*edited, data.member().sectionName));
+    return changedIf(editSectionLibrary(data.section()));
 }
 
 Outcome sectionSize(ModuleData& data) {
     if (!hasSections()) return Outcome::noSections;
-    auto& edited = data.objects.sectionTable;
-    if (!edited) {
-        edited.emplace();
-        edited->readFromFile(gSectionTables.table(0)->name());
-    }
-    return changedIf(StartDlgEditLibSimple(edited->tableName, *edited, data.objects.sectionRow));
+    Vor_String section = data.section();
+    int index = 0;
+    if (!gSectionTables.hasTable(getSubstrBefore(section, "-"), index))
+        section = firstSection(gSectionTables.table(0)->name());
+    return changedIf(addSectionSize(section).has_value());
 }
 
 // --- members ------------------------------------------------------------------------------------

@@ -53,6 +53,11 @@ Vor_PrPl ModuleData::member() {
     return first ? *first : Vor_PrPl();
 }
 
+Vor_String ModuleData::section() {
+    const Vor_String inFront = m_sectionInFront ? m_sectionInFront() : Vor_String();
+    return inFront.isEmpty() ? member().sectionName : inFront;
+}
+
 Vor_StringArray ModuleData::sections(std::string_view table) {
     Vor_StringArray names;
     int index = 0;

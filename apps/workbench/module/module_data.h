@@ -18,9 +18,6 @@ struct ModuleObjects {
     std::optional<DynArrayData> array;
     std::optional<TwAutoStandardsData> generalVariables;
     std::optional<Vor_Array<Vor_StringArray>> rows;
-    std::optional<DlgEditLibData> sectionLibrary;
-    std::optional<Vor_ProfValuesTable> sectionTable;
-    int sectionRow = 0;
     DlgProfCutsData memberCuts;
     std::optional<DlgProfFeaturesData> memberFeatures;
     std::optional<DlgCSP2Data> cuttingStock;
@@ -52,6 +49,12 @@ class ModuleData {
 
     /// The first member of the macro, or one without texts.
     Vor_PrPl member();
+    /// The full name of the section selected on the page in front; that of the member when the page
+    /// shows no sections.
+    Vor_String section();
+    void setSectionInFront(std::function<Vor_String()> section) {
+        m_sectionInFront = std::move(section);
+    }
     /// The full names of a section table of the library; of the first one when there is none of
     /// that name.
     static Vor_StringArray sections(std::string_view table);
@@ -66,5 +69,6 @@ class ModuleData {
     runs::MacroRun* macroOf(const Vor_String& path);
 
     PageOf m_pageOf;
+    std::function<Vor_String()> m_sectionInFront;
     std::unique_ptr<runs::MacroRun> m_ofLibrary;
 };

@@ -3,13 +3,17 @@
 #include <QCollator>
 #include <QHeaderView>
 #include <QLabel>
+#include <QPushButton>
 #include <QVBoxLayout>
 
 #include "core_api/text/text_helpers.h"
+#include "core_api/texts/texts.h"
 #include "platform/paths.h"
 #include "window/dialog_font.h"
 
 namespace {
+
+constexpr int wordEditLibrary = 25330, wordAddSize = 25331;
 
 bool isNumeric(const QString& text) {
     return isNumber(fromQt(text));
@@ -31,17 +35,10 @@ class ValueItem : public QStandardItem {
     }
 };
 
-QLabel* headingOf(const Vor_String& path) {
-    auto* heading = new QLabel(QString::fromStdString(paths::asWritten(path)));
-    heading->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    heading->setContentsMargins(4, 4, 4, 4);
-    return heading;
-}
-
 }  // namespace
 
 TablePage::TablePage(const Vor_String& path, const SectionTable& table, QWidget* parent)
-    : QWidget(parent), m_view(new QTableView) {
+    : QWidget(parent), m_view(new QTableView), m_name(table.name()) {
     fill(table);
     m_view->setModel(&m_model);
     m_view->setEditTriggers(QAbstractItemView::NoEditTriggers);
@@ -55,8 +52,58 @@ TablePage::TablePage(const Vor_String& path, const SectionTable& table, QWidget*
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
-    layout->addWidget(headingOf(path));
+    layout->addWidget(makeHeading(path));
     layout->addWidget(m_view, 1);
+}
+
+QWidget* TablePage::makeHeading(const Vor_String& path) {
+    auto* heading = new QWidget;
+    auto* line = new QHBoxLayout(heading);
+    line->setContentsMargins(4, 2, 4, 2);
+    auto* file = new QLabel(QString::fromStdString(paths::asWritten(path)));
+    file->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    line->addWidget(file, 1);
+    const auto add = [&](int word, std::function<void()> Commands::*command) {
+        auto* button = new QPushButton(toQt(dialString(word)));
+        button->setObjectName(QString::number(word));
+        connect(button, &QPushButton::clicked, this, [this, command] {
+            if (m_commands.*command) (m_commands.*command)();
+        });
+        line->addWidget(button);
+    };
+    add(wordAddSize, &Commands::addSize);
+    add(wordEditLibrary, &Commands::editLibrary);
+    return heading;
+}
+
+Vor_String TablePage::section() const {
+    const QModelIndex current = m_view->currentIndex();
+    const int row = current.isValid() ? current.row() : 0;
+    return m_name + "-" + fromQt(m_model.index(row, 0).data().toString());
+}
+
+bool TablePage::select(const Vor_String& section) {
+    for (int row = 0; row < m_model.rowCount(); ++row) {
+        const QModelIndex index = m_model.index(row, 0);
+        if (!(m_name + "-" + fromQt(index.data().toString())).equal(section)) continue;
+        m_view->setCurrentIndex(index);
+        m_view->scrollTo(index);
+        return true;
+    }
+    return false;
+}
+
+void TablePage::show(const SectionTable& table) {
+    const Vor_String selected = m_view->currentIndex().isValid() ? section() : Vor_String();
+    const QHeaderView& header = *m_view->horizontalHeader();
+    const int sorted = header.sortIndicatorSection();
+    const Qt::SortOrder order = header.sortIndicatorOrder();
+    m_model.setRowCount(0);
+    m_view->setSortingEnabled(false);
+    fill(table);
+    m_view->horizontalHeader()->setSortIndicator(sorted, order);
+    m_view->setSortingEnabled(true);
+    select(selected);
 }
 
 void TablePage::fill(const SectionTable& table) {

@@ -3,6 +3,7 @@
 
 #include <QStandardItemModel>
 #include <QTableView>
+#include <functional>
 
 #include "core_api/sections/section_table.h"
 
@@ -13,9 +14,27 @@ class TablePage : public QWidget {
 
     QTableView& table() { return *m_view; }
 
+    /// What the buttons above the table do.
+    struct Commands {
+        std::function<void()> editLibrary;
+        std::function<void()> addSize;
+    };
+    void setCommands(Commands commands) { m_commands = std::move(commands); }
+
+    const Vor_String& tableName() const { return m_name; }
+    /// The full name of the size that is selected, else of the first.
+    Vor_String section() const;
+    /// False when the table has no such size.
+    bool select(const Vor_String& section);
+    /// Shows the table as it is now, in the same order, with the same size selected.
+    void show(const SectionTable& table);
+
   private:
     void fill(const SectionTable& table);
+    QWidget* makeHeading(const Vor_String& path);
 
     QStandardItemModel m_model;
     QTableView* m_view;
+    Vor_String m_name;
+    Commands m_commands;
 };

@@ -11,7 +11,6 @@
 #include <QMessageBox>
 #include <QVBoxLayout>
 
-#include "core_api/sections/section_tables.h"
 #include "core_api/text/text_helpers.h"
 #include "core_api/texts/texts.h"
 #include "frame/starters.h"
@@ -21,7 +20,6 @@
 #include "platform/window/message_box.h"
 #include "run/example_values.h"
 #include "run/run_page.h"
-#include "sections/table_page.h"
 #include "sheet/sheet_page.h"
 #include "shell/help_window.h"
 #include "shell/settings_dialog.h"
@@ -67,6 +65,7 @@ MainWindow::MainWindow(WorkbenchSettings settings)
     connect(m_pages, &QTabWidget::currentChanged, this, [this] { followPage(); });
     connect(m_pages, &QTabWidget::tabCloseRequested, this, [this](int index) { closePage(index); });
     setCentralWidget(m_pages);
+    m_moduleData.setSectionInFront([this] { return sectionInFront(); });
     m_tree->setOpener([this](LibraryKind kind, const Vor_String& path) { open(kind, path); });
     makeDocks();
     makeMenus();
@@ -198,6 +197,7 @@ void MainWindow::libraryChanged() {
         watchLibrary();
     }
     m_tree->refresh();
+    refreshSectionTables();
 }
 
 void MainWindow::askForLibrary() {
@@ -347,22 +347,6 @@ QWidget* MainWindow::openMacro(const Vor_String& path) {
     }
     auto* page = new MacroPage(std::move(macro));
     showPage(page, toQt(removeExtension(getFileName(path))), key);
-    return page;
-}
-
-QWidget* MainWindow::openSectionTable(const Vor_String& path) {
-    const QString key = toQt(path);
-    if (QWidget* there = bringForward(key)) return there;
-    int index = 0;
-    const Vor_String name = removeExtension(getFileName(path));
-    const SectionTable* table =
-        gSectionTables.hasTable(name, index) ? gSectionTables.table(index) : nullptr;
-    if (!table) {
-        complain(key + ": " + word(wordNoSuchFile));
-        return nullptr;
-    }
-    auto* page = new TablePage(path, *table);
-    showPage(page, toQt(name), key);
     return page;
 }
 

@@ -18,6 +18,7 @@
 class QLineEdit;
 class RunPage;
 class SheetPage;
+class TablePage;
 
 class MainWindow : public QMainWindow {
   public:
@@ -33,7 +34,7 @@ class MainWindow : public QMainWindow {
     QWidget* openFile(const QString& path);
     RunPage* openStandard(const Vor_String& path);
     QWidget* openMacro(const Vor_String& path);
-    QWidget* openSectionTable(const Vor_String& path);
+    QWidget* openSectionTable(const Vor_String& path);  // main_window_sections.cpp
 
     /// As if the user had confirmed them in the dialog of the settings.
     void take(WorkbenchSettings changed);
@@ -71,6 +72,11 @@ class MainWindow : public QMainWindow {
     void libraryChanged();
     void complain(const QString& text);
     void save();
+
+    // main_window_sections.cpp
+    void addSize(TablePage& page);
+    void refreshSectionTables();
+    Vor_String sectionInFront() const;
 
     // main_window_sheets.cpp
     void addSheetFileActions(QMenu& file);

@@ -64,6 +64,10 @@ void Vor_SectionTableManager::Entry::load() {
 Vor_SectionTableManager::Vor_SectionTableManager() = default;
 Vor_SectionTableManager::~Vor_SectionTableManager() = default;
 
+Vor_String Vor_SectionTableManager::tablesFolder() const {
+    return m_library + "prof\\";
+}
+
 void Vor_SectionTableManager::tablesChanged() {
     m_names.reset();
     m_userNames.reset();
@@ -83,7 +87,7 @@ void Vor_SectionTableManager::listLibrary() {
     m_library = library;
     if (library.isEmpty()) return;
     std::vector<std::unique_ptr<Entry>> listed;
-    for (const Vor_String& path : ObjectExportFindFiles(library + "prof\\", "*.pr")) {
+    for (const Vor_String& path : ObjectExportFindFiles(tablesFolder(), "*.pr")) {
         auto entry = std::make_unique<Entry>();
         entry->name = removeExtension(getFileName(path));
         entry->path = path;
@@ -120,6 +124,8 @@ ErrorStatus Vor_SectionTableManager::addSectionTable(const Vor_String& fileName,
     auto entry = std::make_unique<Entry>();
     entry->name = name;
     entry->table = std::make_unique<SectionTable>(name, drawnAs, header, rows);
+    const Vor_String file = tablesFolder() + name + ".pr";
+    if (!m_library.isEmpty() && ObjectExportFileExists(file)) entry->path = file;
     m_entries.push_back(std::move(entry));
     tablesChanged();
     return Acad::eOk;

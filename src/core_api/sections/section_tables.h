@@ -20,7 +20,8 @@ class VORMANT_API Vor_SectionTableManager {
     bool hasTable(std::string_view name, int& index);
     /// Registers a table under the base name of `fileName` ("IPE.pr"). `header` and `rows` come
     /// without the active flag. eInvalidInput when there is a table of that name already, or when
-    /// the name is empty.
+    /// the name is empty. One that has a file in the library is what that file holds: it is
+    /// forgotten with the others that came from files.
     ErrorStatus addSectionTable(const Vor_String& fileName, const Vor_String& drawnAs,
                                 const Vor_StringArray& header,
                                 const Vor_Array<Vor_StringArray>& rows);
@@ -51,6 +52,7 @@ class VORMANT_API Vor_SectionTableManager {
     struct Entry;
 
     void listLibrary();
+    Vor_String tablesFolder() const;
     int indexOf(std::string_view name);
     Place findUserName(std::string_view name);
     void tablesChanged();

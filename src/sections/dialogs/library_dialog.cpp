@@ -12,12 +12,12 @@ using Dlg = LibraryDialog;
 
 constexpr const char* sizeName = "DLG_EDITLIB";
 constexpr ControlTemplate controls[] = {
-    {Control::tabs, Dlg::pageTabs, {}, {7, 7, 480, 276}, 0, anchorAll},
-    {Control::button, IDOK, dialText(wordOk), {361, 290, 60, 14}, styleDefault, anchorBottomRight},
-    {Control::button, IDCANCEL, dialText(wordCancel), {427, 290, 60, 14}, 0, anchorBottomRight},
+    {Control::tabs, Dlg::pageTabs, {}, {7, 7, 440, 276}, 0, anchorAll},
+    {Control::button, IDOK, dialText(wordOk), {321, 290, 60, 14}, styleDefault, anchorBottomRight},
+    {Control::button, IDCANCEL, dialText(wordCancel), {387, 290, 60, 14}, 0, anchorBottomRight},
 };
 constexpr DialogResource resource{
-    Dlg::resourceNumber, dialText(wordLibraryTitle), {0, 0, 494, 311}, controls, true};
+    Dlg::resourceNumber, dialText(wordLibraryTitle), {0, 0, 454, 311}, controls, true};
 
 }  // namespace
 

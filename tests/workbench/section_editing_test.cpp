@@ -1,0 +1,151 @@
+// Editing the sections of the library from the page of a table, as a user does.
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPushButton>
+#include <fstream>
+#include <iterator>
+
+#include "core_api/sections/section_tables.h"
+#include "dialog_problems.h"
+#include "grid/grid_view.h"
+#include "platform/paths.h"
+#include "sections/dialogs/library_dialog.h"
+#include "sections/dialogs/size_dialog.h"
+#include "sections/table_page.h"
+#include "starters_fixture.h"
+#include "window/dialog_font.h"
+
+namespace {
+
+using testing::HasSubstr;
+
+class SectionEditing : public StartersTest {
+  protected:
+    void SetUp() override {
+        openProgram();
+        page = dynamic_cast<TablePage*>(
+            window->open(LibraryKind::sectionTable, gSettings.libDir() + "prof\\HEA.pr"));
+        ASSERT_TRUE(page);
+        QTest::qWait(20);
+    }
+    ~SectionEditing() override { gSectionTables.reload(); }
+
+    /// Presses a button of the page and works with the windows that open.
+    void press(int button, const std::vector<Visit>& visits) {
+        size_t next = 0;
+        std::set<QWidget*> seen;
+        QTimer look;
+        look.callOnTimeout([&] {
+            QWidget* asked = QApplication::activeModalWidget();
+            if (!asked || !asked->isActiveWindow() || !seen.insert(asked).second) return;
+            if (next < visits.size()) return visits[next++](*asked);
+            ADD_FAILURE() << "an unexpected window: " << asked->windowTitle().toStdString();
+            escape(*asked);
+        });
+        look.start(10);
+        auto* pressed = page->findChild<QPushButton*>(QString::number(button));
+        ASSERT_TRUE(pressed);
+        QTest::mouseClick(pressed, Qt::LeftButton);
+        EXPECT_EQ(next, visits.size());
+    }
+    static void fill(QWidget& dialog, int id, const char* text) {
+        auto* field = dialog.findChild<QLineEdit*>(QString::number(id));
+        field->selectAll();
+        QTest::keyClicks(field, text);
+    }
+    QStringList sizes() const {
+        QStringList all;
+        const QAbstractItemModel& model = *page->table().model();
+        for (int row = 0; row < model.rowCount(); ++row)
+            all += model.index(row, 0).data().toString();
+        return all;
+    }
+    std::string file() const {
+        std::ifstream in(paths::toMachine(gSettings.libDir() + "prof\\HEA.pr"), std::ios::binary);
+        return {std::istreambuf_iterator<char>(in), {}};
+    }
+
+    static constexpr int editLibrary = 25330, addSize = 25331;
+    TablePage* page = nullptr;
+};
+
+TEST_F(SectionEditing, AddsASizeThatIsThereTheNextDay) {
+    EXPECT_TRUE(page->select("HEA-220"));
+    press(addSize, {[&](QWidget& dialog) {
+              fill(dialog, SizeDialog::firstValueField, "215");
+              fill(dialog, SizeDialog::firstValueField + 1, "225");
+              auto* name = dialog.findChild<QLineEdit*>(QString::number(SizeDialog::nameField));
+              EXPECT_TRUE(name->text().contains("225")) << name->text().toStdString();
+              saveGrab(dialog, "add-size");
+              QTest::keyClick(&dialog, Qt::Key_Return);
+          }});
+    EXPECT_EQ(page->section(), "HEA-225") << "it is selected";
+    EXPECT_EQ(sizes().mid(sizes().indexOf("220"), 3), (QStringList{"220", "225", "240"}));
+    saveGrab(*window, "added-size");
+    Vor_String width;
+    EXPECT_EQ(getSectionValue("HEA-225", 1, width), Acad::eOk);
+    EXPECT_EQ(width, "225");
+    EXPECT_TRUE(ModuleData::sections("HEA").contains("HEA-225")) << "for those who choose one";
+
+    window.reset();
+    gSectionTables.reload();  // as a program that starts afresh
+    EXPECT_EQ(getSectionValue("HEA-225", 0, width), Acad::eOk);
+    EXPECT_EQ(width, "215");
+}
+
+TEST_F(SectionEditing, CancelAddsNothing) {
+    const std::string before = file();
+    press(addSize, {[&](QWidget& dialog) {
+              fill(dialog, SizeDialog::firstValueField + 1, "225");
+              escape(dialog);
+          }});
+    EXPECT_FALSE(sizes().contains("225"));
+    EXPECT_EQ(file(), before);
+}
+
+TEST_F(SectionEditing, EditsTheTableOfThePageInTheLibrary) {
+    EXPECT_TRUE(page->select("HEA-240"));
+    press(editLibrary, {[&](QWidget& dialog) {
+              auto& library = dynamic_cast<LibraryDialog&>(*dialogOf(dialog));
+              TableSheet& sheet = library.tablesPage()->sheet();
+              EXPECT_EQ(sheet.grid().text(1, sheet.currentRow(), control::Reading::data), "240");
+              auto* grid = dynamic_cast<GridView*>(system().widgetOf(sheet));
+              ASSERT_TRUE(grid);
+              grid->setFocus();
+              ASSERT_TRUE(grid->hasFocus());
+              const auto key = [](Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
+                  QTest::keyClick(QApplication::focusWidget(), key, modifiers);
+              };
+              QTest::keyClicks(QApplication::focusWidget(), "245");
+              key(Qt::Key_Return);
+              key(Qt::Key_Insert, Qt::ControlModifier);
+              key(Qt::Key_Z, Qt::ControlModifier);
+              saveGrab(dialog, "edit-library");
+              key(Qt::Key_S, Qt::ControlModifier);
+              EXPECT_FALSE(sheet.isChanged());
+              StartersTest::press(dialog, IDOK);
+          }});
+    EXPECT_TRUE(sizes().contains("245"));
+    EXPECT_FALSE(sizes().contains("240"));
+    EXPECT_THAT(file(), HasSubstr("\n245\t1\t"));
+}
+
+TEST_F(SectionEditing, TheMenuWorksOnTheSizeThatIsSelected) {
+    EXPECT_TRUE(page->select("HEA-300"));
+    const Outcome outcome = run(24061, [&](QWidget& dialog) {
+        EXPECT_EQ(
+            dialog.findChild<QLineEdit*>(QString::number(SizeDialog::firstValueField))->text(),
+            "290");
+        fill(dialog, SizeDialog::firstValueField, "292");
+        auto* own = dialog.findChild<QWidget*>(QString::number(SizeDialog::ownName));
+        QTest::mouseClick(own, Qt::LeftButton, {}, QPoint(8, own->height() / 2));
+        fill(dialog, SizeDialog::nameField, "305");
+        StartersTest::press(dialog, IDOK);
+    });
+    EXPECT_EQ(outcome, Outcome::changed);
+    EXPECT_TRUE(gSectionTables.find("HEA-305"));
+    QTest::qWait(400);  // the page hears of it from the folder
+    EXPECT_TRUE(sizes().contains("305"));
+}
+
+}  // namespace
