@@ -12,22 +12,22 @@ using Page = CataloguePage;
 constexpr int namesColumn = 1;
 
 constexpr ControlTemplate list{Control::list,    Page::entryList, {},
-                               {0, 0, 130, 205}, styleCheckList,  anchorTall};
+                               {0, 0, 110, 205}, styleCheckList,  anchorTall};
 constexpr ControlTemplate button(int id, int word, int top) {
-    return {Control::button, id, dialText(word), {0, top, 130, 14}, 0, anchorBottomLeft};
+    return {Control::button, id, dialText(word), {0, top, 110, 14}, 0, anchorBottomLeft};
 }
 constexpr ControlTemplate frame(int height) {
     return {
-        Control::group, Page::propertiesFrame, dialText(wordProperties), {138, 0, 286, height}, 0,
+        Control::group, Page::propertiesFrame, dialText(wordProperties), {118, 0, 306, height}, 0,
         anchorWide};
 }
 constexpr ControlTemplate enabled{
-    Control::checkBox, Page::enabledBox, dialText(wordInUse), {146, 14, 260, 10}};
+    Control::checkBox, Page::enabledBox, dialText(wordInUse), {126, 14, 120, 10}};
 constexpr ControlTemplate label(int id, int word, int top) {
-    return {Control::label, id, dialText(word), {146, top + 2, 66, 10}};
+    return {Control::label, id, dialText(word), {126, top + 2, 54, 10}};
 }
 constexpr ControlTemplate field(int id, int top) {
-    return {Control::edit, id, {}, {216, top, 200, 13}, 0, anchorWide};
+    return {Control::edit, id, {}, {182, top, 234, 13}, 0, anchorWide};
 }
 
 constexpr ControlTemplate groupControls[] = {
@@ -38,8 +38,8 @@ constexpr ControlTemplate groupControls[] = {
     enabled,
     label(Page::pictureLabel, wordPicture, 30),
     field(Page::pictureField, 30),
-    {Control::group, Page::namesFrame, dialText(wordGroupNames), {138, 58, 286, 187}, 0, anchorAll},
-    {Control::placeholder, Page::namesSheet, {}, {146, 72, 270, 165}, 0, anchorAll},
+    {Control::group, Page::namesFrame, dialText(wordGroupNames), {118, 58, 306, 187}, 0, anchorAll},
+    {Control::placeholder, Page::namesSheet, {}, {126, 72, 290, 165}, 0, anchorAll},
 };
 constexpr DialogResource groupsResource{
     GroupsPage::resourceNumber, {}, {0, 0, 424, 245}, groupControls};
@@ -53,11 +53,11 @@ constexpr ControlTemplate typeControls[] = {
     label(Page::pictureLabel, wordPicture, 30),
     field(Page::pictureField, 30),
     label(Page::groupLabel, wordGroup, 47),
-    {Control::combo, Page::groupList, {}, {216, 47, 200, 13}, 0, anchorWide},
+    {Control::combo, Page::groupList, {}, {182, 47, 234, 13}, 0, anchorWide},
     label(Page::remarkLabel, wordRemark, 64),
     field(Page::remarkField, 64),
-    {Control::group, Page::namesFrame, dialText(wordTypeNames), {138, 92, 286, 153}, 0, anchorAll},
-    {Control::placeholder, Page::namesSheet, {}, {146, 106, 270, 131}, 0, anchorAll},
+    {Control::group, Page::namesFrame, dialText(wordTypeNames), {118, 92, 306, 153}, 0, anchorAll},
+    {Control::placeholder, Page::namesSheet, {}, {126, 106, 290, 131}, 0, anchorAll},
 };
 constexpr DialogResource typesResource{
     TypesPage::resourceNumber, {}, {0, 0, 424, 245}, typeControls};

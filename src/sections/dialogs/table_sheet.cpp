@@ -26,7 +26,7 @@ int fieldsOf(std::string_view text) {
 
 }  // namespace
 
-void TableSheet::show(const Vor_ProfValuesTable& table, const Vor_String& drawnAs) {
+void TableSheet::showTable(const Vor_ProfValuesTable& table, const Vor_String& drawnAs) {
     table.setToSS(*this);
     keepTexts();
     grid().setTag(corner, corner, drawnAs);

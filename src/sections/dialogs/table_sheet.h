@@ -12,7 +12,7 @@ class TableSheet : public EditedSpread {
 
     /// Fills the sheet; nothing is changed then and nothing can be undone. A table without rows or
     /// columns empties it. `drawnAs` as the template list shows it.
-    void show(const Vor_ProfValuesTable& table, const Vor_String& drawnAs);
+    void showTable(const Vor_ProfValuesTable& table, const Vor_String& drawnAs);
     void setUnsaved();
     void setSaved();
     bool isChanged() const;

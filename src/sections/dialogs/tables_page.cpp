@@ -22,32 +22,34 @@ constexpr ControlTemplate below(int id, int word, int top) {
     return {Control::button, id, dialText(word), {0, top, 102, 14}, 0, anchorBottomLeft};
 }
 
+// The buttons above lie close together, as the dialog may have to go on a small screen.
+constexpr CRect sheetPlace{108, 20, 316, 140};
 constexpr ControlTemplate controls[] = {
-    {Control::list, Page::tableList, {}, {0, 0, 102, 176}, 0, anchorTall},
+    picture(Page::saveButton, 0, imageSave, wordSaveTable),
+    picture(Page::undoButton, 24, imageUndo, wordUndo),
+    picture(Page::redoButton, 44, imageRedo, wordRedo),
+    picture(Page::copyButton, 68, imageCopy, wordCopyCells),
+    picture(Page::pasteButton, 88, imagePaste, wordPasteCells),
+    picture(Page::insertRowButton, 112, imageInsertRow, wordInsertRow),
+    picture(Page::deleteRowButton, 132, imageDeleteRow, wordDeleteRow),
+    picture(Page::rowUpButton, 152, imageUp, wordRowUp),
+    picture(Page::rowDownButton, 172, imageDown, wordRowDown),
+    picture(Page::findButton, 196, imageFind, wordFindReplace),
+    {Control::list, Page::tableList, {}, {0, 20, 102, 156}, 0, anchorTall},
     below(Page::newButton, wordNewTable, 180),
     below(Page::deleteButton, wordDeleteTable, 197),
     below(Page::renameButton, wordRename, 214),
     below(Page::rowNamesButton, wordRowNames, 231),
-    picture(Page::saveButton, 108, imageSave, wordSaveTable),
-    picture(Page::undoButton, 134, imageUndo, wordUndo),
-    picture(Page::redoButton, 154, imageRedo, wordRedo),
-    picture(Page::copyButton, 180, imageCopy, wordCopyCells),
-    picture(Page::pasteButton, 200, imagePaste, wordPasteCells),
-    picture(Page::insertRowButton, 226, imageInsertRow, wordInsertRow),
-    picture(Page::deleteRowButton, 246, imageDeleteRow, wordDeleteRow),
-    picture(Page::rowUpButton, 266, imageUp, wordRowUp),
-    picture(Page::rowDownButton, 286, imageDown, wordRowDown),
-    picture(Page::findButton, 312, imageFind, wordFindReplace),
-    {Control::placeholder, Page::sheetItem, {}, {108, 20, 316, 150}, 0, anchorAll},
+    {Control::placeholder, Page::sheetItem, {}, sheetPlace, 0, anchorAll},
+    {Control::label, Page::problemLabel, {}, sheetPlace, styleHidden, anchorAll},
     {Control::group,
      Page::templateFrame,
      dialText(wordSectionType),
-     {108, 174, 316, 71},
+     {108, 164, 316, 81},
      0,
      anchorWideBelow},
-    {Control::combo, Page::templateList, {}, {116, 187, 186, 13}, 0, anchorBottomLeft},
-    {Control::label, Page::problemLabel, {}, {116, 203, 204, 39}, 0, anchorWideBelow},
-    {Control::picture, Page::templatePicture, {}, {326, 184, 92, 57}, 0, anchorBottomRight},
+    {Control::combo, Page::templateList, {}, {116, 177, 300, 13}, 0, anchorWideBelow},
+    {Control::picture, Page::templatePicture, {}, {116, 194, 300, 47}, 0, anchorWideBelow},
 };
 constexpr DialogResource resource{Page::resourceNumber, {}, {0, 0, 424, 245}, controls};
 
@@ -102,13 +104,20 @@ void TablesPage::fillTables() {
 void TablesPage::showTable(int index) {
     read(index);
     const Vor_String display = displayOfDrawnAs(m_table.drawnAs);
-    m_sheet.show(m_table, display);
+    m_sheet.showTable(m_table, display);
     selectTemplate(display);
     itemAs<CListBox>(tableList)->select(index);
-    const Vor_String problem =
-        isReadable() ? Vor_String() : dialString(wordUnreadable) + "\n" + m_problem;
-    item(problemLabel)->setText(problem);
+    showProblem();
     showWhatCanBeDone();
+}
+
+/// In place of the sheet, why the table cannot be read.
+void TablesPage::showProblem() {
+    const Vor_String problem =
+        isReadable() ? Vor_String() : dialString(wordUnreadable) + "\n\n" + m_problem;
+    item(problemLabel)->setText(problem);
+    item(problemLabel)->show(!isReadable());
+    m_sheet.show(isReadable());
 }
 
 // A template that is not in the library is still what the table names.
@@ -197,7 +206,7 @@ void TablesPage::insertRow() {
     if (first.isIndex(Vor_ProfValuesTable::activeColumn))
         first[Vor_ProfValuesTable::activeColumn] = "1";
     m_table.rows.append(first);
-    m_sheet.show(m_table, displayOfDrawnAs(m_table.drawnAs));
+    m_sheet.showTable(m_table, displayOfDrawnAs(m_table.drawnAs));
     m_sheet.setUnsaved();
     showWhatCanBeDone();
 }

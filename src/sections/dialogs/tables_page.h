@@ -62,6 +62,7 @@ class TablesPage : public CDialog {
     void fillTables();
     void fillTemplates();
     void showTable(int index);
+    void showProblem();
     void selectTemplate(const Vor_String& display);
     void showPicture();
     void showWhatCanBeDone();

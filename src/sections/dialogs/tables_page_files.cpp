@@ -128,9 +128,9 @@ void TablesPage::newTable() {
         row.append("0");
     }
     m_table.rows.append(row);
-    m_sheet.show(m_table, {});
+    m_sheet.showTable(m_table, {});
     m_sheet.setUnsaved();
-    item(problemLabel)->setText({});
+    showProblem();
     selectTemplate({});
     fillTables();
     showWhatCanBeDone();
