@@ -1,8 +1,7 @@
 #include "window/desktop_texts.h"
 
-#include "core_api/texts/texts.h"
-#include "window/dialog_font.h"
+#include "window/say.h"
 
 QString desktopText(DesktopText text) {
-    return toQt(dialString(static_cast<int>(text)).str());
+    return say(static_cast<int>(text));
 }

@@ -12,11 +12,6 @@ enum class DesktopText {
     fileExists,        ///< "%1" exists: replace it?
     nameNotKept,       ///< a file name with the character "%1"
     characterNotKept,  ///< "%1"
-    lookIn,
-    fileName,
-    fileType,
-    open,
-    save,
 };
 
 /// In the working language.

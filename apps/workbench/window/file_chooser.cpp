@@ -57,20 +57,8 @@ class Chooser : public QFileDialog {
     const FileQuestion& m_question;
 };
 
-/// Qt's own words are those of the desktop's language, if that is installed.
-void setWords(QFileDialog& chooser, Kind kind) {
-    DesktopText accept = kind == Kind::save ? DesktopText::save : DesktopText::open;
-    if (kind == Kind::folder) accept = DesktopText::ok;
-    chooser.setLabelText(QFileDialog::LookIn, desktopText(DesktopText::lookIn));
-    chooser.setLabelText(QFileDialog::FileName, desktopText(DesktopText::fileName));
-    chooser.setLabelText(QFileDialog::FileType, desktopText(DesktopText::fileType));
-    chooser.setLabelText(QFileDialog::Accept, desktopText(accept));
-    chooser.setLabelText(QFileDialog::Reject, desktopText(DesktopText::cancel));
-}
-
 void setUp(QFileDialog& chooser, const FileQuestion& question) {
     chooser.setWindowTitle(toQt(question.title));
-    setWords(chooser, question.kind);
     // Asked after the extension was added, in the words of the module.
     chooser.setOption(QFileDialog::DontConfirmOverwrite);
     chooser.setAcceptMode(question.kind == Kind::save ? QFileDialog::AcceptSave

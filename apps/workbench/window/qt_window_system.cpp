@@ -45,6 +45,7 @@ QtWindowSystem::QtWindowSystem() : m_keyRoute(std::make_unique<KeyRoute>(*this))
     // The icons are drawn for a light ground.
     QApplication::setPalette(QApplication::style()->standardPalette());
     QApplication::setFont(dialogFont());
+    QCoreApplication::installTranslator(&m_words);
     const QFontMetrics metrics(dialogFont());
     const QString letters = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz";
     m_character = {metrics.horizontalAdvance(letters) / static_cast<int>(letters.size()),

@@ -15,6 +15,7 @@
 #include <vector>
 
 #include "platform/window/window_system.h"
+#include "window/qt_words.h"
 #include "window/timers.h"
 
 class KeyRoute;
@@ -94,6 +95,7 @@ class QtWindowSystem : public WindowSystem {
     std::vector<ModalRun> m_modalRuns;
     std::unique_ptr<KeyRoute> m_keyRoute;
     Timers m_timers;
+    QtWords m_words;
     CSize m_character;  // the average letter, and a line with a pixel above it
     GridMaker m_makeGrid;
     GridSync m_syncGrid;

@@ -29,6 +29,7 @@ extern const std::span<const TextRow> workbenchTexts;
 extern const std::span<const TextRow> startersTexts;
 extern const std::span<const TextRow> sheetWindowTexts;
 extern const std::span<const TextRow> drawingTexts;
+extern const std::span<const TextRow> desktopTexts;
 
 /// One a line, so that tables can be added side by side.
 inline auto allTables() {
@@ -47,6 +48,7 @@ inline auto allTables() {
         workbenchTexts,    //
         sheetWindowTexts,  //
         drawingTexts,      //
+        desktopTexts,      //
         startersTexts,
     };
 }
