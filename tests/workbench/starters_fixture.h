@@ -65,8 +65,8 @@ class StartersTest : public testing::Test, public StarterTitles {
             if (each.title == title) return each;
         throw std::runtime_error("no such starter");
     }
-    /// Starts it; every window that opens meanwhile is visited once.
-    Outcome run(int title, Visit visit) {
+    /// Every window that opens meanwhile is visited once.
+    void whileVisiting(const std::function<void()>& action, const Visit& visit) {
         std::vector<QPointer<QWidget>> seen;
         for (QWidget* each : shownWindows()) seen.emplace_back(each);
         QTimer look;
@@ -81,8 +81,12 @@ class StartersTest : public testing::Test, public StarterTitles {
             }
         });
         look.start(10);
-        const Outcome outcome = start(starter(title), data());
+        action();
         QTest::qWait(40);
+    }
+    Outcome run(int title, const Visit& visit) {
+        Outcome outcome = Outcome::failed;
+        whileVisiting([&] { outcome = start(starter(title), data()); }, visit);
         return outcome;
     }
     /// The windows of the module that are on the screen, and questions.

@@ -1,8 +1,8 @@
 #include "grid/refusal.h"
 
-#include "core_api/texts/texts.h"
 #include "grid/grid_steps.h"
 #include "window/dialog_font.h"
+#include "window/say.h"
 
 using control::CellKind;
 using control::CellType;
@@ -21,22 +21,18 @@ enum Words {
     isNoCheck = 9209,
 };
 
-QString words(Words number) {
-    return toQt(dialString(number));
-}
-
 QString rangeOf(const CellType& type) {
-    return words(isOutOfRange)
+    return say(isOutOfRange)
         .arg(QString::number(type.least, 'g', 15), QString::number(type.most, 'g', 15));
 }
 
 }  // namespace
 
 QString whyClosed(const control::Grid& grid, int col, int row) {
-    if (grid.look(col, row).locked) return words(isLocked);
+    if (grid.look(col, row).locked) return say(isLocked);
     const CellKind kind = grid.look(col, row).type.kind;
     const bool isTyped = isOpen(grid, {col, row}) && kind != CellKind::button;
-    return isTyped ? QString() : words(isNotTyped);
+    return isTyped ? QString() : say(isNotTyped);
 }
 
 QString whyRefused(control::Grid& grid, int col, int row, std::string_view typed) {
@@ -44,28 +40,28 @@ QString whyRefused(control::Grid& grid, int col, int row, std::string_view typed
     if (typed.starts_with('=') && grid.option(control::Option::userFormulas)) {
         formula::ParseError error;
         grid.setFormula(col, row, typed.substr(1), &error);
-        return words(isNoFormula).arg(toQt(error.message));
+        return say(isNoFormula).arg(toQt(error.message));
     }
     const CellType& type = grid.look(col, row).type;
     switch (type.kind) {
         case CellKind::edit:
             return whyTooLong(type.maxLength);
         case CellKind::comboBox:
-            return words(isNotListed).arg(toQt(typed));
+            return say(isNotListed).arg(toQt(typed));
         case CellKind::checkBox:
-            return words(isNoCheck);
+            return say(isNoCheck);
         default: {
             bool isNumber = false;
             toQt(typed).toDouble(&isNumber);
-            return isNumber ? rangeOf(type) : words(isNoNumber).arg(toQt(typed));
+            return isNumber ? rangeOf(type) : say(isNoNumber).arg(toQt(typed));
         }
     }
 }
 
 QString whyTooLong(int maxLength) {
-    return words(isTooLong).arg(maxLength);
+    return say(isTooLong).arg(maxLength);
 }
 
 QString whySomeRefused() {
-    return words(someRefused);
+    return say(someRefused);
 }

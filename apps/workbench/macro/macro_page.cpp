@@ -7,18 +7,15 @@
 
 #include "core_api/files.h"
 #include "core_api/text/text_helpers.h"
-#include "core_api/texts/texts.h"
 #include "mapping/mapping_file.h"
 #include "mapping/start_mapping_dialog.h"
 #include "mapping/tw_ss_mapping.h"
+#include "run/calculation_view.h"
 #include "shell/words.h"
 #include "window/dialog_font.h"
+#include "window/say.h"
 
 namespace {
-
-QString word(int number) {
-    return toQt(dialString(number));
-}
 
 enum ObjectColumn { objectColumn, kindColumn, valueColumn, objectColumns };
 
@@ -47,20 +44,16 @@ MacroPage::MacroPage(std::unique_ptr<runs::MacroRun> macro, QWidget* parent)
     m_message->hide();
     m_objects = new QTableWidget(0, objectColumns);
     m_objects->setObjectName("macroObjects");
-    m_objects->setHorizontalHeaderLabels({word(wordObject), word(wordKind), word(wordValue)});
+    m_objects->setHorizontalHeaderLabels({say(wordObject), say(wordKind), say(wordValue)});
     m_objects->verticalHeader()->hide();
     m_objects->verticalHeader()->setDefaultSectionSize(22);
     m_objects->setEditTriggers(QAbstractItemView::NoEditTriggers);
     m_objects->setSelectionBehavior(QAbstractItemView::SelectRows);
     m_objects->horizontalHeader()->setStretchLastSection(true);
-    m_trace = new QTreeView;
-    m_trace->setModel(&m_model);
-    m_trace->setUniformRowHeights(true);
-    m_trace->setAlternatingRowColors(true);
 
     auto* both = new QSplitter(Qt::Horizontal);
     both->addWidget(m_objects);
-    both->addWidget(m_trace);
+    both->addWidget(makeCalculationView(m_model));
     both->setStretchFactor(0, 2);
     both->setStretchFactor(1, 3);
     auto* layout = new QVBoxLayout(this);
@@ -82,11 +75,11 @@ QWidget* MacroPage::makeHeading() {
     font.setBold(true);
     name->setFont(font);
     layout->addWidget(name, 1);
-    auto* attach = new QPushButton(word(wordMap));
+    auto* attach = new QPushButton(say(wordMap));
     attach->setObjectName("attachStandards");
     connect(attach, &QPushButton::clicked, this, [this] { attachStandards(); });
     layout->addWidget(attach);
-    m_save = new QPushButton(word(wordSaveMacro));
+    m_save = new QPushButton(say(wordSaveMacro));
     m_save->setEnabled(false);
     connect(m_save, &QPushButton::clicked, this, [this] { save(); });
     layout->addWidget(m_save);
@@ -103,12 +96,12 @@ QWidget* MacroPage::makeRunBar() {
     m_key->setEditable(true);
     m_key->setMinimumWidth(240);
     connect(m_standard, &QComboBox::currentTextChanged, this, [this] { fillKeys(); });
-    auto* run = new QPushButton(word(wordRun));
+    auto* run = new QPushButton(say(wordRun));
     run->setObjectName("runOnMacro");
     connect(run, &QPushButton::clicked, this, [this] { this->run(); });
-    layout->addWidget(new QLabel(word(wordStandard)));
+    layout->addWidget(new QLabel(say(wordStandard)));
     layout->addWidget(m_standard);
-    layout->addWidget(new QLabel(word(wordMapsTo)));
+    layout->addWidget(new QLabel(say(wordMapsTo)));
     layout->addWidget(m_key, 1);
     layout->addWidget(run);
     return bar;
@@ -187,7 +180,6 @@ bool MacroPage::run() {
     const bool isBegun = m_macro->run(standard, fromQt(m_key->currentText()), {}, {}, m_report);
     m_calculation = runs::makeCalculation(m_report);
     m_model.show(&m_calculation);
-    m_trace->header()->resizeSections(QHeaderView::ResizeToContents);
     fillObjects();
     setChanged(isBegun && m_report.allWell());
     showReport();
@@ -202,7 +194,7 @@ void MacroPage::showReport() {
             if (!line.empty()) lines += toQt(line);
     lines.removeDuplicates();
     const bool isWell = lines.isEmpty() && m_report.allWell();
-    show(isWell ? word(wordAllWell) : lines.join("\n"), !isWell);
+    show(isWell ? say(wordAllWell) : lines.join("\n"), !isWell);
 }
 
 void MacroPage::show(const QString& text, bool isFailure) {

@@ -6,7 +6,6 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QTableWidget>
-#include <QTreeView>
 #include <memory>
 
 #include "run/calculation_model.h"
@@ -49,7 +48,6 @@ class MacroPage : public QWidget {
     QComboBox* m_key = nullptr;
     QPushButton* m_save = nullptr;
     QTableWidget* m_objects = nullptr;
-    QTreeView* m_trace = nullptr;
     QLabel* m_message = nullptr;
     bool m_isChanged = false;
 };

@@ -4,9 +4,9 @@
 #include <QFont>
 
 #include "core_api/text/text_helpers.h"
-#include "core_api/texts/texts.h"
 #include "shell/words.h"
 #include "window/dialog_font.h"
+#include "window/say.h"
 
 using runs::Calculation;
 using runs::CalculationLine;
@@ -90,7 +90,7 @@ QString textOf(const CalculationLine& line, int column) {
         case CalculationModel::numbersColumn:
             return toQt(line.numbers == line.symbols ? std::string() : line.numbers);
         case CalculationModel::resultColumn:
-            if (!line.ok) return toQt(dialString(wordFailed));
+            if (!line.ok) return say(wordFailed);
             return toQt(runs::shownValue(line.result, line.unit));
         default:
             return toQt(line.ok || line.message.empty() ? line.rule : line.message);
@@ -127,5 +127,5 @@ QVariant CalculationModel::data(const QModelIndex& index, int role) const {
 QVariant CalculationModel::headerData(int section, Qt::Orientation orientation, int role) const {
     if (orientation != Qt::Horizontal || role != Qt::DisplayRole) return {};
     constexpr int words[columns] = {wordCell, wordEquation, wordValue, wordWithNumbers, wordRule};
-    return section >= 0 && section < columns ? toQt(dialString(words[section])) : QString();
+    return section >= 0 && section < columns ? say(words[section]) : QString();
 }

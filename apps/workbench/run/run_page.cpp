@@ -11,19 +11,16 @@
 #include <QVBoxLayout>
 
 #include "core_api/text/text_helpers.h"
-#include "core_api/texts/texts.h"
+#include "run/calculation_view.h"
 #include "run/report_export.h"
 #include "run/section_names.h"
 #include "run/section_picker.h"
 #include "shell/words.h"
 #include "window/dialog_font.h"
+#include "window/say.h"
 #include "window/typed_text.h"
 
 namespace {
-
-QString word(int number) {
-    return toQt(dialString(number));
-}
 
 QLabel* quietLabel(const std::string& text) {
     auto* label = new QLabel(toQt(text));
@@ -50,7 +47,7 @@ RunPage::RunPage(std::unique_ptr<RunSession> session, QWidget* parent)
     left->setStretchFactor(1, 1);
     auto* both = new QSplitter(Qt::Horizontal);
     both->addWidget(left);
-    both->addWidget(makeTrace());
+    both->addWidget(makeCalculationView(m_model));
     both->setStretchFactor(0, 2);
     both->setStretchFactor(1, 3);
 
@@ -59,9 +56,7 @@ RunPage::RunPage(std::unique_ptr<RunSession> session, QWidget* parent)
     layout->addWidget(m_message);
     layout->addWidget(both, 1);
     update();
-    constexpr int widths[CalculationModel::columns] = {70, 230, 110, 230, 160};
-    for (int column = 0; column < CalculationModel::columns; ++column)
-        m_trace->setColumnWidth(column, widths[column]);
+    m_results->resizeColumnToContents(nameColumn);
 }
 
 QWidget* RunPage::makeHeading() {
@@ -80,11 +75,11 @@ QWidget* RunPage::makeHeading() {
     for (size_t i = 0; i < std::min(title.size(), mostLines); ++i)
         texts->addWidget(quietLabel(title[i]));
     layout->addLayout(texts, 1);
-    auto* openSheet = new QPushButton(word(wordOpenSheet));
+    auto* openSheet = new QPushButton(say(wordOpenSheet));
     connect(openSheet, &QPushButton::clicked, this, [this] {
         if (m_sheetOpener) m_sheetOpener(m_session->standard().path);
     });
-    auto* report = new QPushButton(word(wordExportReport));
+    auto* report = new QPushButton(say(wordExportReport));
     report->setObjectName("exportReport");
     connect(report, &QPushButton::clicked, this, [this] { askForExport(); });
     layout->addWidget(openSheet, 0, Qt::AlignTop);
@@ -106,7 +101,7 @@ QWidget* RunPage::makeForm() {
         grid->addWidget(editor, row, 1);
         if (RunSession::namesSection(*input)) {
             auto* pick = new QPushButton("…");
-            pick->setToolTip(word(wordChooseSection));
+            pick->setToolTip(say(wordChooseSection));
             pick->setFixedWidth(28);
             connect(pick, &QPushButton::clicked, this, [this, input] { pickSection(*input); });
             grid->addWidget(pick, row, 2);
@@ -149,7 +144,7 @@ QWidget* RunPage::makeResults() {
     const auto outputs = m_session->outputs();
     m_results = new QTableWidget(static_cast<int>(outputs.size()), resultColumns);
     m_results->setObjectName("results");
-    m_results->setHorizontalHeaderLabels({word(wordResults), word(wordValue), word(wordMeaning)});
+    m_results->setHorizontalHeaderLabels({say(wordResults), say(wordValue), say(wordMeaning)});
     m_results->verticalHeader()->hide();
     m_results->setEditTriggers(QAbstractItemView::NoEditTriggers);
     m_results->setSelectionBehavior(QAbstractItemView::SelectRows);
@@ -165,16 +160,6 @@ QWidget* RunPage::makeResults() {
                                                      rule + (rule.empty() ? "" : ")"))));
     }
     return m_results;
-}
-
-QWidget* RunPage::makeTrace() {
-    m_trace = new QTreeView;
-    m_trace->setObjectName("trace");
-    m_trace->setModel(&m_model);
-    m_trace->setUniformRowHeights(true);
-    m_trace->setAlternatingRowColors(true);
-    m_trace->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    return m_trace;
 }
 
 void RunPage::take(const runs::DeclaredVariable& input, QWidget& editor, const QString& text) {
@@ -213,7 +198,7 @@ void RunPage::update() {
 
 void RunPage::showMessages() {
     QStringList lines;
-    if (m_session->isStale()) lines += word(wordFileChanged);
+    if (m_session->isStale()) lines += say(wordFileChanged);
     for (const auto& [name, refusal] : m_refusals) lines += name + ": " + refusal;
     const runs::Calculation& calculation = m_session->calculation();
     if (!calculation.failure.empty()) lines += toQt(calculation.failure);
@@ -256,7 +241,7 @@ void RunPage::pickSection(const runs::DeclaredVariable& input) {
 
 void RunPage::askForExport() {
     const QString name = toQt(removeExtension(getFileName(m_session->standard().path)));
-    const QString path = QFileDialog::getSaveFileName(this, word(wordExportReport), name + ".pdf",
+    const QString path = QFileDialog::getSaveFileName(this, say(wordExportReport), name + ".pdf",
                                                       "PDF (*.pdf);;HTML (*.html)");
     if (!path.isEmpty()) exportReport(path, m_author);
 }

@@ -5,7 +5,6 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QTableWidget>
-#include <QTreeView>
 #include <functional>
 #include <map>
 #include <memory>
@@ -41,7 +40,6 @@ class RunPage : public QWidget {
     QWidget* makeForm();
     QWidget* makeEditor(const runs::DeclaredVariable& input);
     QWidget* makeResults();
-    QWidget* makeTrace();
     void take(const runs::DeclaredVariable& input, QWidget& editor, const QString& text);
     void update();
     void showMessages();
@@ -51,7 +49,6 @@ class RunPage : public QWidget {
     std::unique_ptr<RunSession> m_session;
     std::map<QString, QWidget*> m_editors;
     QTableWidget* m_results = nullptr;
-    QTreeView* m_trace = nullptr;
     QLabel* m_message = nullptr;
     CalculationModel m_model;
     std::map<QString, QString> m_refusals;  // by input

@@ -7,20 +7,12 @@
 #include <QVBoxLayout>
 
 #include "core_api/sections/section_tables.h"
-#include "core_api/texts/texts.h"
 #include "shell/words.h"
 #include "window/dialog_font.h"
-
-namespace {
-
-QString word(int number) {
-    return toQt(dialString(number));
-}
-
-}  // namespace
+#include "window/say.h"
 
 SectionPicker::SectionPicker(const QString& present, QWidget* parent) : QDialog(parent) {
-    setWindowTitle(word(wordChooseSection));
+    setWindowTitle(say(wordChooseSection));
     resize(640, 420);
     m_tables = new QListWidget;
     m_tables->setObjectName("sectionTables");
@@ -32,12 +24,13 @@ SectionPicker::SectionPicker(const QString& present, QWidget* parent) : QDialog(
     m_sizes->setSelectionMode(QAbstractItemView::SingleSelection);
     m_sizes->setEditTriggers(QAbstractItemView::NoEditTriggers);
     m_sizes->verticalHeader()->hide();
+    m_sizes->verticalHeader()->setDefaultSectionSize(22);
     connect(m_tables, &QListWidget::currentRowChanged, this, [this](int row) { showTable(row); });
     connect(m_sizes, &QTableWidget::itemDoubleClicked, this, [this] { accept(); });
 
     auto* buttons = new QDialogButtonBox;
-    buttons->addButton(word(1), QDialogButtonBox::AcceptRole);
-    buttons->addButton(word(2), QDialogButtonBox::RejectRole);
+    buttons->addButton(say(1), QDialogButtonBox::AcceptRole);
+    buttons->addButton(say(2), QDialogButtonBox::RejectRole);
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
 
@@ -56,7 +49,7 @@ void SectionPicker::showTable(int index) {
     m_sizes->setRowCount(0);
     const SectionTable* table = gSectionTables.table(index);
     if (!table) return;
-    QStringList header{word(wordSize)};
+    QStringList header{say(wordSize)};
     for (const Vor_String& column : table->valueColumns()) header += toQt(column);
     m_sizes->setColumnCount(static_cast<int>(header.size()));
     m_sizes->setHorizontalHeaderLabels(header);

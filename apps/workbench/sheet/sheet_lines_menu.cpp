@@ -98,10 +98,11 @@ void SheetCommands::askSize(bool isRow) {
     dialog.setLabelText(say(sayPixels));
     dialog.setOkButtonText(desktopText(DesktopText::ok));
     dialog.setCancelButtonText(desktopText(DesktopText::cancel));
-    dialog.setInputMode(QInputDialog::IntInput);
+    // Before the mode: it would take the limits on their way for a bad number and disable OK.
     dialog.setIntRange(1, largestSize);
     dialog.setIntValue(isRow ? m_page.grid().rowHeight(block.row1)
                              : m_page.grid().colWidth(block.col1));
+    dialog.setInputMode(QInputDialog::IntInput);
     if (dialog.exec() != QDialog::Accepted) return;
     step([&](SheetEditor& editor, const Block& chosen) {
         return isRow ? editor.setRowHeights(chosen.row1, chosen.row2, dialog.intValue())

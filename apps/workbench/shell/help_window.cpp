@@ -4,14 +4,13 @@
 #include <QPointer>
 #include <QUrl>
 
-#include "core_api/texts/texts.h"
 #include "shell/words.h"
-#include "window/dialog_font.h"
+#include "window/say.h"
 
 HelpWindow::HelpWindow(QWidget* parent) : QTextBrowser(parent) {
     setWindowFlag(Qt::Window);
     setAttribute(Qt::WA_DeleteOnClose);
-    setWindowTitle(toQt(dialString(wordManual)));
+    setWindowTitle(say(wordManual));
     resize(760, 640);
     setOpenExternalLinks(true);
 }

@@ -4,9 +4,9 @@
 
 #include "core_api/files.h"
 #include "core_api/settings.h"
-#include "core_api/texts/texts.h"
 #include "shell/words.h"
 #include "window/dialog_font.h"
+#include "window/say.h"
 
 namespace {
 
@@ -71,7 +71,7 @@ void LibraryTree::refresh() {
 
 void LibraryTree::add(LibraryKind kind, int title, const char* folder, const char* pattern) {
     const Vor_String whole = gSettings.libDir() + folder;
-    auto* root = new QTreeWidgetItem(this, {toQt(dialString(title))});
+    auto* root = new QTreeWidgetItem(this, {say(title)});
     root->setData(0, kindRole, static_cast<int>(kind));
     for (const Vor_String& path : ObjectExportFindFilesRecursive(whole, pattern)) {
         const QString relative = toQt(path.view().substr(whole.view().size()));

@@ -27,12 +27,9 @@
 #include "shell/starters_menu.h"
 #include "shell/words.h"
 #include "window/dialog_font.h"
+#include "window/say.h"
 
 namespace {
-
-QString word(int number) {
-    return toQt(dialString(number));
-}
 
 constexpr const char* keyProperty = "pageKey";
 
@@ -88,14 +85,14 @@ void MainWindow::makeDocks() {
     auto* layout = new QVBoxLayout(library);
     layout->setContentsMargins(0, 0, 0, 0);
     m_search = new QLineEdit;
-    m_search->setPlaceholderText(word(wordSearch));
+    m_search->setPlaceholderText(say(wordSearch));
     m_search->setClearButtonEnabled(true);
     connect(m_search, &QLineEdit::textChanged, this,
             [this](const QString& text) { m_tree->filter(text); });
     layout->addWidget(m_search);
     layout->addWidget(m_tree);
     const auto dock = [this](int title, QWidget* widget, Qt::DockWidgetArea area) {
-        auto* made = new QDockWidget(word(title), this);
+        auto* made = new QDockWidget(say(title), this);
         made->setObjectName(QString::number(title));
         made->setWidget(widget);
         addDockWidget(area, made);
@@ -109,47 +106,47 @@ void MainWindow::makeDocks() {
 
 void MainWindow::makeMenus() {
     makeFileMenu();
-    addStarters(*menuBar()->addMenu(word(wordModule)), m_moduleData);
-    QMenu* view = m_viewMenu = menuBar()->addMenu(word(wordView));
+    addStarters(*menuBar()->addMenu(say(wordModule)), m_moduleData);
+    QMenu* view = m_viewMenu = menuBar()->addMenu(say(wordView));
     for (QDockWidget* dock : findChildren<QDockWidget*>())
         view->addAction(dock->toggleViewAction());
     view->addSeparator();
-    view->addAction(word(wordReload), QKeySequence(Qt::Key_F5), this, [this] { libraryChanged(); });
-    view->addAction(word(wordStart), this, [this] { showStartPage(); });
+    view->addAction(say(wordReload), QKeySequence(Qt::Key_F5), this, [this] { libraryChanged(); });
+    view->addAction(say(wordStart), this, [this] { showStartPage(); });
     makeHelpMenu();
     followPage();
 }
 
 void MainWindow::makeFileMenu() {
-    QMenu* file = menuBar()->addMenu(word(wordFile));
+    QMenu* file = menuBar()->addMenu(say(wordFile));
     addSheetFileActions(*file);
     file->addSeparator();
-    file->addAction(word(wordOpenLibrary), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_O), this,
+    file->addAction(say(wordOpenLibrary), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_O), this,
                     [this] { askForLibrary(); });
-    m_recentMenu = file->addMenu(word(wordRecentLibraries));
+    m_recentMenu = file->addMenu(say(wordRecentLibraries));
     connect(m_recentMenu, &QMenu::aboutToShow, this, [this] { fillRecentMenu(); });
     file->addSeparator();
-    file->addAction(word(wordClosePage), QKeySequence::Close, this,
+    file->addAction(say(wordClosePage), QKeySequence::Close, this,
                     [this] { closePage(m_pages->currentIndex()); });
-    file->addAction(word(wordSettings), this, [this] { changeSettings(); });
+    file->addAction(say(wordSettings), this, [this] { changeSettings(); });
     file->addSeparator();
-    file->addAction(word(wordQuit), QKeySequence::Quit, this, [this] { close(); });
+    file->addAction(say(wordQuit), QKeySequence::Quit, this, [this] { close(); });
 }
 
 void MainWindow::makeHelpMenu() {
-    QMenu* help = menuBar()->addMenu(word(wordHelp));
-    help->addAction(word(wordManual), QKeySequence(Qt::Key_F1), this,
+    QMenu* help = menuBar()->addMenu(say(wordHelp));
+    help->addAction(say(wordManual), QKeySequence(Qt::Key_F1), this,
                     [this] { HelpWindow::open(this); });
-    help->addAction(word(wordAbout), this, [this] {
-        QMessageBox::about(this, word(wordAbout),
-                           word(wordAbout) + " " + VORMANT_VERSION + "\n\n" + word(wordAboutText));
+    help->addAction(say(wordAbout), this, [this] {
+        QMessageBox::about(this, say(wordAbout),
+                           say(wordAbout) + " " + VORMANT_VERSION + "\n\n" + say(wordAboutText));
     });
 }
 
 void MainWindow::fillRecentMenu() {
     m_recentMenu->clear();
     for (const std::string& folder : m_settings.recent)
-        m_recentMenu->addAction(QString::fromStdString(folder), this,
+        m_recentMenu->addAction(QString::fromStdString(folder).replace("&", "&&"), this,
                                 [this, folder] { openLibrary(folder); });
 }
 
@@ -159,12 +156,14 @@ bool MainWindow::openLibrary(const std::string& folder) {
     const QString shown = QString::fromStdString(folder);
     const auto inside = paths::toInside(folder);
     if (!QFileInfo(shown).isDir() || !inside) {
-        complain(shown + ": " + word(wordLibraryGone));
+        complain(shown + ": " + say(wordLibraryGone));
         return false;
     }
     gSettings.setLibDir(*inside);
     m_moduleData.clear();
     m_settings.noteLibrary(folder);
+    if (auto* page = dynamic_cast<StartPage*>(pageOf(say(wordStart))))
+        page->showRecent(m_settings.recent);
     m_isGone = false;
     save();
     m_tree->clear();
@@ -190,7 +189,7 @@ void MainWindow::libraryChanged() {
     if (m_settings.library.empty()) return;
     const QString shown = QString::fromStdString(m_settings.library);
     if (!QFileInfo(shown).isDir()) {
-        if (!m_isGone) complain(shown + ": " + word(wordLibraryGone));
+        if (!m_isGone) complain(shown + ": " + say(wordLibraryGone));
         m_isGone = true;
     } else {
         m_isGone = false;
@@ -202,7 +201,7 @@ void MainWindow::libraryChanged() {
 
 void MainWindow::askForLibrary() {
     const QString folder = QFileDialog::getExistingDirectory(
-        this, word(wordChooseLibrary), QString::fromStdString(m_settings.library));
+        this, say(wordChooseLibrary), QString::fromStdString(m_settings.library));
     if (!folder.isEmpty()) openLibrary(folder.toStdString());
 }
 
@@ -232,8 +231,8 @@ void MainWindow::retranslate() {
     qDeleteAll(menuBar()->findChildren<QMenu*>(QString(), Qt::FindDirectChildrenOnly));
     makeMenus();
     for (QDockWidget* dock : findChildren<QDockWidget*>())
-        dock->setWindowTitle(word(dock->objectName().toInt()));
-    m_search->setPlaceholderText(word(wordSearch));
+        dock->setWindowTitle(say(dock->objectName().toInt()));
+    m_search->setPlaceholderText(say(wordSearch));
     for (int i = m_pages->count(); i-- > 0;)
         if (dynamic_cast<StartPage*>(m_pages->widget(i))) closePage(i);
     showStartPage();
@@ -267,7 +266,7 @@ void MainWindow::showPage(QWidget* page, const QString& title, const QString& ti
 }
 
 void MainWindow::showStartPage() {
-    const QString key = word(wordStart);
+    const QString key = say(wordStart);
     if (bringForward(key)) return;
     auto* page = new StartPage(m_settings.recent, [this](const std::string& folder) {
         if (folder.empty())
@@ -318,7 +317,7 @@ QWidget* MainWindow::open(LibraryKind kind, const Vor_String& path) {
             StartDlgDesigner(path);
             return nullptr;
         case LibraryKind::cuttingStock:
-            complain(toQt(path) + ": " + word(wordNoEditor));
+            complain(toQt(path) + ": " + say(wordNoEditor));
             return nullptr;
     }
     return nullptr;
@@ -327,7 +326,7 @@ QWidget* MainWindow::open(LibraryKind kind, const Vor_String& path) {
 QWidget* MainWindow::openFile(const QString& path) {
     const auto inside = paths::toInside(path.toStdString());
     if (!inside || !QFileInfo::exists(path)) {
-        complain(path + ": " + word(wordNoSuchFile));
+        complain(path + ": " + say(wordNoSuchFile));
         return nullptr;
     }
     const bool isStandard = path.endsWith(".tws", Qt::CaseInsensitive);

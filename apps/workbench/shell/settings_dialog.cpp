@@ -12,12 +12,9 @@
 #include "core_api/texts/texts.h"
 #include "shell/words.h"
 #include "window/dialog_font.h"
+#include "window/say.h"
 
 namespace {
-
-QString word(int number) {
-    return toQt(dialString(number));
-}
 
 constexpr int scales[] = {100, 125, 150, 175, 200};
 
@@ -25,7 +22,7 @@ constexpr int scales[] = {100, 125, 150, 175, 200};
 
 SettingsDialog::SettingsDialog(const WorkbenchSettings& settings, QWidget* parent)
     : QDialog(parent), m_settings(settings) {
-    setWindowTitle(word(wordSettings));
+    setWindowTitle(say(wordSettings));
     auto* form = new QFormLayout(this);
 
     m_library = new QLineEdit(QString::fromStdString(settings.library));
@@ -36,31 +33,32 @@ SettingsDialog::SettingsDialog(const WorkbenchSettings& settings, QWidget* paren
     auto* folder = new QHBoxLayout;
     folder->addWidget(m_library);
     folder->addWidget(choose);
-    form->addRow(word(wordLibrary), folder);
+    form->addRow(say(wordLibrary), folder);
 
     m_language = new QComboBox;
-    for (const Vor_String& name : gMacroLangs.GetAllLanguages()) m_language->addItem(toQt(name));
+    for (int i = 0; i < languageCount; ++i)
+        m_language->addItem(toQt(dialString(wordOwnLanguage, static_cast<Language>(i))));
     m_language->setCurrentIndex(static_cast<int>(settings.language));
-    form->addRow(word(wordLanguage), m_language);
+    form->addRow(say(wordLanguage), m_language);
 
     m_author = new QLineEdit(QString::fromStdString(settings.author));
-    form->addRow(word(wordAuthor), m_author);
+    form->addRow(say(wordAuthor), m_author);
 
     m_scale = new QComboBox;
     for (const int scale : scales) {
         m_scale->addItem(QString::number(scale) + " %", scale);
         if (scale == settings.scalePercent) m_scale->setCurrentIndex(m_scale->count() - 1);
     }
-    m_scale->setToolTip(word(wordScaleFromNextStart));
-    form->addRow(word(wordScale), m_scale);
+    m_scale->setToolTip(say(wordScaleFromNextStart));
+    form->addRow(say(wordScale), m_scale);
 
-    m_diagnostics = new QCheckBox(word(wordDiagnostics));
+    m_diagnostics = new QCheckBox(say(wordDiagnostics));
     m_diagnostics->setChecked(settings.diagnostics);
     form->addRow(QString(), m_diagnostics);
 
     auto* buttons = new QDialogButtonBox;
-    buttons->addButton(word(1), QDialogButtonBox::AcceptRole);
-    buttons->addButton(word(2), QDialogButtonBox::RejectRole);
+    buttons->addButton(say(1), QDialogButtonBox::AcceptRole);
+    buttons->addButton(say(2), QDialogButtonBox::RejectRole);
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     form->addRow(buttons);
@@ -68,7 +66,7 @@ SettingsDialog::SettingsDialog(const WorkbenchSettings& settings, QWidget* paren
 
 void SettingsDialog::chooseFolder() {
     const QString chosen =
-        QFileDialog::getExistingDirectory(this, word(wordOpenLibrary), m_library->text());
+        QFileDialog::getExistingDirectory(this, say(wordOpenLibrary), m_library->text());
     if (!chosen.isEmpty()) m_library->setText(chosen);
 }
 

@@ -4,14 +4,14 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
-#include "core_api/texts/texts.h"
 #include "shell/words.h"
 #include "window/dialog_font.h"
+#include "window/say.h"
 
 namespace {
 
 QLabel* heading(int word, int pixels) {
-    auto* label = new QLabel(toQt(dialString(word)).remove('&'));
+    auto* label = new QLabel(sayTitle(word));
     QFont font = dialogFont();
     font.setPixelSize(pixels);
     font.setBold(true);
@@ -22,28 +22,41 @@ QLabel* heading(int word, int pixels) {
 }  // namespace
 
 StartPage::StartPage(const std::vector<std::string>& recent, Opener open, QWidget* parent)
-    : QWidget(parent) {
+    : QWidget(parent), m_open(std::move(open)), m_recent(new QVBoxLayout) {
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(40, 30, 40, 30);
     layout->addWidget(heading(wordAbout, 22));
-    auto* welcome = new QLabel(toQt(dialString(wordWelcome)));
+    auto* welcome = new QLabel(say(wordWelcome));
     welcome->setWordWrap(true);
     layout->addWidget(welcome);
     layout->addSpacing(20);
     layout->addWidget(heading(wordRecentLibraries, 14));
-    if (recent.empty()) layout->addWidget(new QLabel(toQt(dialString(wordNoLibrary))));
-    for (const std::string& folder : recent) {
-        auto* link = new QPushButton(QString::fromStdString(folder));
-        link->setFlat(true);
-        link->setStyleSheet("text-align: left; color: #204080");
-        link->setCursor(Qt::PointingHandCursor);
-        connect(link, &QPushButton::clicked, this, [open, folder] { open(folder); });
-        layout->addWidget(link);
-    }
+    layout->addLayout(m_recent);
     layout->addSpacing(10);
-    auto* other = new QPushButton(toQt(dialString(wordOpenLibrary)));
+    auto* other = new QPushButton(say(wordOpenLibrary));
     other->setObjectName("openLibrary");
-    connect(other, &QPushButton::clicked, this, [open] { open({}); });
+    connect(other, &QPushButton::clicked, this, [this] { m_open({}); });
     layout->addWidget(other, 0, Qt::AlignLeft);
     layout->addStretch(1);
+    showRecent(recent);
+}
+
+// The link that was clicked may be among those that go.
+void StartPage::showRecent(const std::vector<std::string>& recent) {
+    while (const QLayoutItem* item = m_recent->takeAt(0)) {
+        item->widget()->hide();
+        item->widget()->deleteLater();
+        delete item;
+    }
+    if (recent.empty()) m_recent->addWidget(new QLabel(say(wordNoLibrary)));
+    for (const std::string& folder : recent) m_recent->addWidget(linkTo(folder));
+}
+
+QWidget* StartPage::linkTo(const std::string& folder) const {
+    auto* link = new QPushButton(QString::fromStdString(folder).replace("&", "&&"));
+    link->setFlat(true);
+    link->setStyleSheet("text-align: left; color: #204080");
+    link->setCursor(Qt::PointingHandCursor);
+    connect(link, &QPushButton::clicked, this, [this, folder] { m_open(folder); });
+    return link;
 }

@@ -7,6 +7,7 @@
 #include "module/starts.h"
 #include "platform/host/host.h"
 #include "window/dialog_font.h"
+#include "window/say.h"
 
 namespace {
 
@@ -56,13 +57,6 @@ constexpr Starter all[] = {
     {Group::other, 24091, starts::selectImage},
 };
 
-/// A title without what only a menu shows.
-std::string plain(int title) {
-    QString text = toQt(dialString(title));
-    text.remove('&').remove(QChar(0x2026));
-    return fromQt(text);
-}
-
 }  // namespace
 
 std::span<const Starter> starters() {
@@ -71,17 +65,16 @@ std::span<const Starter> starters() {
 
 Outcome start(const Starter& starter, ModuleData& data) {
     const Outcome outcome = starter.start(data);
-    acutPrint(plain(starter.title) + ": " +
+    acutPrint(fromQt(sayTitle(starter.title)) + ": " +
               dialString(firstOutcomeText + static_cast<int>(outcome)).str() + "\n");
     return outcome;
 }
 
 void addStarters(QMenu& menu, ModuleData& data) {
     for (const Group group : groups) {
-        QMenu* sub = menu.addMenu(toQt(dialString(firstGroupText + static_cast<int>(group))));
+        QMenu* sub = menu.addMenu(say(firstGroupText + static_cast<int>(group)));
         for (const Starter& each : all)
             if (each.group == group)
-                sub->addAction(toQt(dialString(each.title)), sub,
-                               [&each, &data] { start(each, data); });
+                sub->addAction(say(each.title), sub, [&each, &data] { start(each, data); });
     }
 }

@@ -62,4 +62,6 @@ enum WorkbenchWord {
     wordSaveChanges = 22154,
     wordNoSuchFile = 22155,
     wordNoEditor = 22156,
+
+    wordOwnLanguage = 26000,  ///< each language's name for itself
 };

@@ -1,0 +1,142 @@
+// The program's own windows and pages look well, in every language: what the module's dialogs are
+// measured for, and what only layouts can get wrong.
+#include <QFileDialog>
+#include <QMenu>
+#include <QMenuBar>
+#include <QMessageBox>
+
+#include "dialog_problems.h"
+#include "run/run_page.h"
+#include "run/section_picker.h"
+#include "sheet/sheet_commands.h"
+#include "sheet/sheet_page.h"
+#include "sheet/sheet_words.h"
+#include "shell/words.h"
+#include "starters_fixture.h"
+#include "window/dialog_font.h"
+
+namespace {
+
+using testing::IsEmpty;
+
+class ProgramLooks : public StartersTest, public testing::WithParamInterface<Language> {
+  protected:
+    void SetUp() override {
+        openProgram(GetParam());
+        window->resize(1200, 800);
+    }
+    std::string name(const char* what) const {
+        return std::string(what) + "-" + std::to_string(static_cast<int>(GetParam()));
+    }
+    void look(QWidget& shown, const char* what) const {
+        QTest::qWait(30);
+        EXPECT_THAT(windowProblems(shown), IsEmpty()) << name(what);
+        saveGrab(*shown.window(), name(what));
+    }
+    static QAction* entry(const QList<QAction*>& actions, int word) {
+        for (QAction* each : actions) {
+            if (each->text() == toQt(dialString(word))) return each;
+            QAction* below = each->menu() ? entry(each->menu()->actions(), word) : nullptr;
+            if (below) return below;
+        }
+        return nullptr;
+    }
+    /// Picks an entry of the menu bar and looks at what opens.
+    void lookAtDialog(int word, const char* what) {
+        QAction* picked = entry(window->menuBar()->actions(), word);
+        ASSERT_TRUE(picked) << what;
+        lookAtWhatOpens([&] { picked->trigger(); }, what);
+    }
+    void lookAtWhatOpens(const std::function<void()>& action, const char* what) {
+        int seen = 0;
+        whileVisiting(action, [&](QWidget& shown) {
+            ++seen;
+            look(shown, what);
+            escape(shown);
+        });
+        EXPECT_EQ(seen, 1) << what;
+    }
+    SheetPage& openSheet() {
+        SheetPage* page =
+            window->openSheet(gSettings.libDir() + "Connection Standards\\EndPlate.tws");
+        if (!page) throw std::runtime_error("no sheet");
+        return *page;
+    }
+};
+
+TEST_P(ProgramLooks, Pages) {
+    look(*window->pages().currentWidget(), "page-start");
+    auto* run = dynamic_cast<RunPage*>(window->open(
+        LibraryKind::standard, gSettings.libDir() + "Connection Standards\\EndPlate.tws"));
+    ASSERT_TRUE(run);
+    look(*run, "page-run");
+    lookAtWhatOpens([&] { SectionPicker::ask(window.get(), "HEA-200"); }, "section-picker");
+    auto* macro = dynamic_cast<MacroPage*>(openMacro("EndPlate"));
+    ASSERT_TRUE(macro);
+    look(*macro, "page-macro");
+    macro->choose("EndPlate", "BeamToColumn");
+    EXPECT_TRUE(macro->run());
+    look(*macro, "page-macro-run");
+    QWidget* table = window->open(LibraryKind::sectionTable, gSettings.libDir() + "prof\\IPE.pr");
+    ASSERT_TRUE(table);
+    look(*table, "page-table");
+}
+
+TEST_P(ProgramLooks, SheetWithItsBars) {
+    SheetPage& page = openSheet();
+    look(page, "page-sheet");
+    page.commands().action(sayFind).trigger();
+    look(page.findBar(), "page-sheet-find");
+    page.check();
+    look(page.checkPanel(), "page-sheet-check");
+}
+
+TEST_P(ProgramLooks, Dialogs) {
+    lookAtDialog(wordSettings, "settings");
+    lookAtDialog(wordAbout, "about");
+    lookAtDialog(wordOpenLibrary, "open-library");
+    lookAtDialog(sayOpenFile, "open-file");
+    SheetPage& page = openSheet();
+    const std::pair<int, const char*> dialogs[] = {{saySheetSettings, "sheet-settings"},
+                                                   {sayPrintPreview, "sheet-preview"},
+                                                   {saySort, "sheet-sort"},
+                                                   {sayNote, "sheet-note"},
+                                                   {sayRowHeight, "sheet-height"},
+                                                   {sayKindCombo, "sheet-combo"},
+                                                   {sayTextColour, "sheet-colour"},
+                                                   {sayFunctions, "sheet-functions"},
+                                                   {saySaveAs, "sheet-save"}};
+    for (const auto& [word, what] : dialogs) {
+        page.goTo({1, 1, 1, 1});
+        lookAtDialog(word, what);
+    }
+}
+
+TEST_P(ProgramLooks, Menus) {
+    openSheet();
+    std::set<QChar> letters;
+    for (QAction* each : window->menuBar()->actions()) {
+        EXPECT_THAT(windowProblems(*each->menu()), IsEmpty()) << each->text().toStdString();
+        const qsizetype mark = each->text().indexOf('&');
+        ASSERT_GE(mark, 0) << each->text().toStdString();
+        EXPECT_TRUE(letters.insert(each->text()[mark + 1].toLower()).second)
+            << each->text().toStdString();
+        each->menu()->popup(window->mapToGlobal(QPoint(20, 20)));
+        QTest::qWait(20);
+        saveGrab(*each->menu(), name(("menu-" + std::to_string(letters.size())).c_str()));
+        each->menu()->close();
+    }
+}
+
+TEST_P(ProgramLooks, Help) {
+    entry(window->menuBar()->actions(), wordManual)->trigger();
+    for (QWidget* each : QApplication::topLevelWidgets())
+        if (each->isVisible() && each->windowTitle() == toQt(dialString(wordManual)).remove('&'))
+            look(*each, "help");
+}
+
+INSTANTIATE_TEST_SUITE_P(Languages, ProgramLooks,
+                         testing::Values(Language::english, Language::dutch, Language::german,
+                                         Language::french));
+
+}  // namespace
