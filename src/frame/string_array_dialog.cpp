@@ -14,13 +14,13 @@ constexpr int textLength = 4096;
 
 constexpr ControlTemplate controls[] = {
     {Control::placeholder, stringArrayGrid, {}, {7, 7, 246, 186}, 0, anchorAll},
-    {Control::button, stringArrayAdd, dialText(606), {259, 7, 84, 14}, 0, anchorTopRight},
-    {Control::button, stringArrayInsert, dialText(774), {259, 25, 84, 14}, 0, anchorTopRight},
-    {Control::button, stringArrayDelete, dialText(775), {259, 43, 84, 14}, 0, anchorTopRight},
-    {Control::button, stringArrayUp, dialText(173), {259, 67, 84, 14}, 0, anchorTopRight},
-    {Control::button, stringArrayDown, dialText(174), {259, 85, 84, 14}, 0, anchorTopRight},
-    {Control::button, stringArrayCopy, dialText(1154), {259, 109, 84, 14}, 0, anchorTopRight},
-    {Control::button, stringArrayPaste, dialText(1155), {259, 127, 84, 14}, 0, anchorTopRight},
+    {Control::button, stringArrayAdd, dialText(26001), {259, 7, 84, 14}, 0, anchorTopRight},
+    {Control::button, stringArrayInsert, dialText(26002), {259, 25, 84, 14}, 0, anchorTopRight},
+    {Control::button, stringArrayDelete, dialText(26003), {259, 43, 84, 14}, 0, anchorTopRight},
+    {Control::button, stringArrayUp, dialText(26004), {259, 67, 84, 14}, 0, anchorTopRight},
+    {Control::button, stringArrayDown, dialText(26005), {259, 85, 84, 14}, 0, anchorTopRight},
+    {Control::button, stringArrayCopy, dialText(26006), {259, 109, 84, 14}, 0, anchorTopRight},
+    {Control::button, stringArrayPaste, dialText(26007), {259, 127, 84, 14}, 0, anchorTopRight},
     {Control::button, IDOK, dialText(1), {193, 200, 72, 14}, styleDefault, anchorBottomRight},
     {Control::button, IDCANCEL, dialText(2), {271, 200, 72, 14}, 0, anchorBottomRight},
 };

@@ -1,13 +1,16 @@
 // Every starter of the module, reached through the program's menu on a real desktop.
+#include <QDragEnterEvent>
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
 #include <QMessageBox>
+#include <QMimeData>
 
 #include "core_api/macros/vor_bolt_module.h"
 #include "dialog_problems.h"
 #include "frame/open_macro_dialogs.h"
+#include "frame/string_array_dialog.h"
 #include "starters_fixture.h"
 #include "window/dialog_font.h"
 #include "window/dialog_navigation.h"
@@ -174,6 +177,43 @@ TEST_F(StartersTest, TypedValuesComeBackWithOK) {
     EXPECT_EQ(outcome, Outcome::changed);
     EXPECT_EQ(data().objects.constructionGrid->name, "Hall");
     EXPECT_TRUE(printed().contains("Construction grid: changed"));
+}
+
+TEST_F(StartersTest, LettersWithAltPressButtonsFromWithinTheGrid) {
+    openProgram();
+    const Outcome outcome = run(rowsOfTexts, [&](QWidget& shown) {
+        auto& rows = dynamic_cast<Vor_Spread&>(*dialogOf(shown)->item(stringArrayGrid));
+        const int before = rows.nrRows();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&shown) && rows.hasFocus());
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_A, Qt::AltModifier);
+        QTRY_COMPARE(rows.nrRows(), before + 1);  // the button shows that it is pressed first
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_D, Qt::AltModifier);
+        QTRY_COMPARE(rows.nrRows(), before);
+        escape(shown);
+    });
+    EXPECT_EQ(outcome, Outcome::cancelled);
+}
+
+TEST_F(StartersTest, FilesDroppedOnTheProgramOpen) {
+    openProgram();
+    QMimeData files;
+    files.setUrls({QUrl::fromLocalFile(VORMANT_SOURCE_DIR "/library/Macros/EndPlate.macro"),
+                   QUrl("https://example.org/IPE.pr")});
+    const int pages = window->pages().count();
+    QDragEnterEvent enter({50, 50}, Qt::CopyAction, &files, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(window.get(), &enter);
+    EXPECT_TRUE(enter.isAccepted());
+    QDropEvent drop({50, 50}, Qt::CopyAction, &files, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(window.get(), &drop);
+    EXPECT_EQ(window->pages().count(), pages + 1);
+    EXPECT_TRUE(dynamic_cast<MacroPage*>(window->pages().currentWidget()));
+
+    QMimeData text;
+    text.setText("IPE");
+    QDragEnterEvent other({50, 50}, Qt::CopyAction, &text, Qt::LeftButton, Qt::NoModifier);
+    other.ignore();
+    QApplication::sendEvent(window.get(), &other);
+    EXPECT_FALSE(other.isAccepted());
 }
 
 TEST_F(StartersTest, ChangesOfAMacroGoToItsPage) {

@@ -44,6 +44,17 @@ TEST_F(ModelessSample, LooksWell) {
     saveGrab(widget<QWidget>(dialog), "sample");
 }
 
+TEST_F(Desktop, SomeDialogsStayAboveOtherWindows) {
+    constexpr DialogResource above{702, "Above", {0, 0, 100, 40}, {}, false, true};
+    CDialog topmost(above, nullptr), usual(sample::pageResource, nullptr);
+    for (CDialog* each : {&topmost, &usual}) {
+        each->create();
+        each->show(true);
+        EXPECT_EQ(widget<QWidget>(*each).windowFlags().testFlag(Qt::WindowStaysOnTopHint),
+                  each == &topmost);
+    }
+}
+
 TEST_F(ModelessSample, FieldsTakeWhatIsTyped) {
     auto& line = at<QLineEdit>(sample::name);
     EXPECT_TRUE(line.hasFocus()) << "the first field has the keyboard";

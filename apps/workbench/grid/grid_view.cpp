@@ -12,6 +12,7 @@
 #include "grid/message_bubble.h"
 #include "grid/refusal.h"
 #include "window/dialog_font.h"
+#include "window/dialog_style.h"
 
 using control::CellAddress;
 using control::headerIndex;
@@ -89,6 +90,8 @@ void GridView::sync() {
     }
     followActive();
     m_editor.follow();
+    if (const int delay = grid().view().textTipDelay; delay > 0)
+        viewport()->setProperty(tipDelayProperty, delay);
     viewport()->update();
     horizontalHeader()->viewport()->update();
     verticalHeader()->viewport()->update();

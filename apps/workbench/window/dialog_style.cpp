@@ -12,3 +12,10 @@ int DialogStyle::pixelMetric(PixelMetric metric, const QStyleOption* option,
                         qobject_cast<const QAbstractScrollArea*>(widget) != nullptr;
     return isList ? 2 : QProxyStyle::pixelMetric(metric, option, widget);
 }
+
+int DialogStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                           QStyleHintReturn* returned) const {
+    const QVariant delay = widget ? widget->property(tipDelayProperty) : QVariant();
+    if (hint == SH_ToolTip_WakeUpDelay && delay.isValid()) return delay.toInt();
+    return QProxyStyle::styleHint(hint, option, widget, returned);
+}

@@ -3,9 +3,14 @@
 
 #include <QProxyStyle>
 
+/// A property of a widget: after how many milliseconds its tips show. Without it, the usual time.
+inline constexpr const char* tipDelayProperty = "tipDelay";
+
 class DialogStyle : public QProxyStyle {
   public:
     DialogStyle();
     int pixelMetric(PixelMetric metric, const QStyleOption* option,
                     const QWidget* widget) const override;
+    int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                  QStyleHintReturn* returned) const override;
 };

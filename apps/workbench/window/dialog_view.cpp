@@ -36,6 +36,7 @@ DialogView::DialogView(QtWindowSystem& system, CDialog& dialog, DialogWidget* wi
     Qt::WindowFlags flags = Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
                             Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint;
     if (dialog.madeFrom().isResizable) flags |= Qt::WindowMaximizeButtonHint;
+    if (dialog.madeFrom().isTopmost) flags |= Qt::WindowStaysOnTopHint;
     widget->setWindowFlags(flags);
     widget->setView(this);
 }
