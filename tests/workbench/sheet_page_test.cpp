@@ -295,6 +295,7 @@ TEST_F(SheetWindow, TextsAreFoundRoundTheEndAndReplacedAsOneStep) {
     find.replacement().setText("screw");
     EXPECT_EQ(find.replaceAll(), 2);
     EXPECT_EQ(text(2, 2), "screw M20");
+    EXPECT_EQ(find.message(), "2 cells changed.");
     find.wanted().setText("no such text");
     EXPECT_FALSE(find.findNext());
     key(Qt::Key_Escape);
@@ -302,6 +303,9 @@ TEST_F(SheetWindow, TextsAreFoundRoundTheEndAndReplacedAsOneStep) {
     key(Qt::Key_Z, Qt::ControlModifier);
     EXPECT_EQ(text(1, 1), "bolt M16");
     EXPECT_EQ(text(2, 2), "BOLT M20");
+    find.wanted().setText("M20");
+    EXPECT_EQ(find.replaceAll(), 1);
+    EXPECT_EQ(find.message(), "1 cell changed.");
 }
 
 TEST_F(SheetWindow, SizesByTheMouseAndSettingsAreStepsToo) {

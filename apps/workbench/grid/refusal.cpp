@@ -19,6 +19,7 @@ enum Words {
     isNoFormula = 9207,
     someRefused = 9208,
     isNoCheck = 9209,
+    isTooLongForOne = 26011,
 };
 
 QString rangeOf(const CellType& type) {
@@ -59,7 +60,7 @@ QString whyRefused(control::Grid& grid, int col, int row, std::string_view typed
 }
 
 QString whyTooLong(int maxLength) {
-    return say(isTooLong).arg(maxLength);
+    return maxLength == 1 ? say(isTooLongForOne) : say(isTooLong).arg(maxLength);
 }
 
 QString whySomeRefused() {

@@ -127,7 +127,8 @@ int FindBar::replaceAll() {
             if (replaceAt({col, row}, *from, *to)) ++count;
         }
     }
-    tell(sayCellsChanged, QString::number(count));
+    constexpr int sayOneCellChanged = 26010;
+    m_message->setText(count == 1 ? say(sayOneCellChanged) : say(sayCellsChanged).arg(count));
     m_changed();
     return count;
 }
