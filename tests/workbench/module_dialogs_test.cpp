@@ -10,6 +10,7 @@
 #include "frame/select_image_dialog.h"
 #include "frame/starter_dialogs.h"
 #include "frame/string_array_dialog.h"
+#include "grid/show_grids.h"
 #include "mapping/dialog/mapping_dialog.h"
 #include "platform/paths.h"
 #include "sections/dialogs/library_dialog.h"
@@ -95,7 +96,10 @@ const Row rows[] = {
 
 class ModuleDialogs : public testing::TestWithParam<Row> {
   protected:
-    ModuleDialogs() { ::setenv("XDG_CONFIG_HOME", config.path().c_str(), 1); }
+    ModuleDialogs() {
+        ::setenv("XDG_CONFIG_HOME", config.path().c_str(), 1);
+        showGrids(system);
+    }
     ~ModuleDialogs() override {
         gSettings = before;
         ::unsetenv("XDG_CONFIG_HOME");
@@ -116,6 +120,7 @@ TEST_P(ModuleDialogs, LookWellInEveryLanguage) {
         QWidget* widget = system.widgetOf(*dialog);
         ASSERT_TRUE(widget);
         EXPECT_THAT(dialogProblems(*widget), testing::IsEmpty()) << "language " << language;
+        EXPECT_THAT(windowProblems(*widget), testing::IsEmpty()) << "language " << language;
         saveGrab(*widget, GetParam().name + std::to_string(language));
     }
 }

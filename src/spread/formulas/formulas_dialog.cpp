@@ -15,10 +15,10 @@ constexpr unsigned besideFile = anchorTopRight;
 constexpr ControlTemplate controls[] = {
     {Control::edit, Dlg::fileNameBox, {}, {7, 7, 229, 14}, 0, anchorWide},
     {Control::button, Dlg::loadButton, dialText(21501), {243, 7, 90, 14}, styleDefault, besideFile},
-    {Control::button, Dlg::saveButton, dialText(21502), {243, 25, 90, 14}, 0, besideFile},
     {Control::radioButton, Dlg::defaultStyle, dialText(21503), {7, 27, 60, 10}, styleNewGroup},
     {Control::radioButton, Dlg::a1Style, dialText(21504), {71, 27, 40, 10}},
     {Control::radioButton, Dlg::r1c1Style, dialText(21505), {115, 27, 50, 10}},
+    {Control::button, Dlg::saveButton, dialText(21502), {243, 25, 90, 14}, 0, besideFile},
     {Control::checkBox, Dlg::autoCalculate, dialText(21506), {7, 45, 130, 10}},
     {Control::button, Dlg::recalculate, dialText(21507), {243, 43, 90, 14}, 0, besideFile},
     {Control::placeholder, Dlg::gridItem, {}, {7, 63, 326, 132}, 0, anchorAll},
