@@ -81,15 +81,14 @@ VariableReferences makeReferences(const TwVarCells& variables) {
         for (const TwVarCell& variable : variables) names.append(variable.name());
     }
     const Vor_FunctionTimer timer(gCalcCellGetVarCoords);
-    TextIndex firsts(names.length());
     Vor_StringArray references;
     references.reserve(names.length());
-    for (int i = 0; i < names.length(); ++i) {
+    for (const TwVarCell& variable : variables) {
         const Vor_FunctionTimer nameTimer(gCalcCellGetVarCoordName);
-        const int first = firsts.add(names[i], i);
-        references.append(coordinateName(variables[first < 0 ? i : first]));
+        references.append(coordinateName(variable));
     }
-    return VariableReferences(std::move(names), std::move(references));
+    return VariableReferences(std::move(names), std::move(references),
+                              VariableReferences::Namesakes::asFirst);
 }
 
 PreparedEquation prepareEquation(SharedText text, control::CellAddress cell,

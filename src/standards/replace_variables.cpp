@@ -67,15 +67,17 @@ bool replaceVariables(Vor_String& text, const Vor_StringArray& names, const Vor_
     return replaced;
 }
 
-VariableReferences::VariableReferences(Vor_StringArray names, Vor_StringArray references)
+VariableReferences::VariableReferences(Vor_StringArray names, Vor_StringArray references,
+                                       Namesakes namesakes)
     : m_names(std::move(names)), m_references(std::move(references)), m_index(m_names.length()) {
     for (int i = 0; i < m_names.length(); ++i) {
-        const bool isNew = m_index.add(m_names[i], i) < 0;
-        if (!isNew || !isPlainWord(m_names[i])) m_onePass = false;
+        const int first = m_index.add(m_names[i], i);
+        if (first >= 0 || !isPlainWord(m_names[i])) m_onePass = false;
+        if (first >= 0 && namesakes == Namesakes::asFirst) m_references[i] = m_references[first];
         noteShape(m_names[i]);
     }
     for (const Vor_String& reference : m_references) {
-        m_chains = m_chains || m_index.find(reference) >= 0;
+        m_chains = m_chains || isName(reference);
         m_longestReference = std::max(m_longestReference, static_cast<size_t>(reference.length()));
     }
     if (m_onePass)
@@ -84,10 +86,15 @@ VariableReferences::VariableReferences(Vor_StringArray names, Vor_StringArray re
         for (const Vor_String& name : m_names) m_words.push_back(wordSet(name));
 }
 
+bool VariableReferences::isName(std::string_view text) const {
+    const bool isOther = m_onePass && (text.empty() || !mayBeName(text));
+    return !isOther && m_index.find(text) >= 0;
+}
+
 void VariableReferences::noteCells() {
     m_cells.reserve(static_cast<size_t>(m_names.length()));
-    for (const Vor_String& name : m_names) {
-        std::string_view rest = translateWord(name);
+    for (int i = 0; i < m_names.length(); ++i) {
+        std::string_view rest = m_chains ? translateWord(m_names[i]) : m_references[i].view();
         const std::optional<control::CellAddress> cell = control::takeAddress(rest);
         if (!cell || cell->col < 1 || cell->row < 1 || !rest.empty()) return;
         m_cells.push_back(*cell);
@@ -140,8 +147,8 @@ std::string_view VariableReferences::replaceOneByOne(std::string_view text,
 
 void VariableReferences::noteShape(const Vor_String& name) {
     if (name.isEmpty()) return;
-    m_firsts.set(static_cast<unsigned char>(encodings::toLower(name[0])));
-    m_firsts.set(static_cast<unsigned char>(encodings::toUpper(name[0])));
+    m_starts.set(static_cast<unsigned char>(encodings::toLower(name[0])));
+    m_starts.set(static_cast<unsigned char>(encodings::toUpper(name[0])));
     if (static_cast<size_t>(name.length()) < m_lengths.size())
         m_lengths.set(static_cast<size_t>(name.length()));
     else

@@ -25,8 +25,12 @@ bool replaceVariables(Vor_String& text, const Vor_StringArray& names, const Vor_
 /// passing over those that cannot be in the text.
 class VariableReferences : public formula::CellNames {
   public:
+    /// What becomes of a name that was there before: its own reference, or that of the first.
+    enum class Namesakes { apart, asFirst };
+
     VariableReferences() = default;
-    VariableReferences(Vor_StringArray names, Vor_StringArray references);
+    VariableReferences(Vor_StringArray names, Vor_StringArray references,
+                       Namesakes namesakes = Namesakes::apart);
     // The index borrows the names.
     VariableReferences(const VariableReferences&) = delete;
     VariableReferences& operator=(const VariableReferences&) = delete;
@@ -45,11 +49,11 @@ class VariableReferences : public formula::CellNames {
 
   private:
     void noteShape(const Vor_String& name);
+    bool isName(std::string_view text) const;
     void noteCells();
     std::string_view replaceOneByOne(std::string_view text, std::string& buffer) const;
     bool mayBeName(std::string_view word) const {
-        return m_firsts[static_cast<unsigned char>(word[0])] && word.size() < m_lengths.size() &&
-               m_lengths[word.size()];
+        return mayStartWith(word[0]) && word.size() < m_lengths.size() && m_lengths[word.size()];
     }
     std::string_view translateWord(std::string_view word) const;
 
@@ -63,7 +67,6 @@ class VariableReferences : public formula::CellNames {
     bool m_chains = false;  // a reference that is put in may be a name
     // Most words are functions and numbers: what their first letter or length tells apart from
     // every name needs no look into the index.
-    std::bitset<256> m_firsts;
     std::bitset<256> m_lengths;
     std::vector<std::uint64_t> m_words;  // without m_onePass: of each name, as wordSet gives them
 };

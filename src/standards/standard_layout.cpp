@@ -4,19 +4,34 @@
 
 #include "platform/encodings.h"
 
+namespace {
+
+/// Cells that stand column by column, each column downwards, as they stand row by row.
+std::vector<control::CellAddress> byRows(const std::vector<control::CellAddress>& byColumns,
+                                         int lastRow) {
+    // Where each row's cells begin: counted first, so that every cell is moved once.
+    std::vector<size_t> next(static_cast<size_t>(lastRow) + 2);
+    for (const control::CellAddress& cell : byColumns) ++next[static_cast<size_t>(cell.row) + 1];
+    for (size_t row = 1; row < next.size(); ++row) next[row] += next[row - 1];
+    std::vector<control::CellAddress> sorted(byColumns.size());
+    for (const control::CellAddress& cell : byColumns)
+        sorted[next[static_cast<size_t>(cell.row)]++] = cell;
+    return sorted;
+}
+
+}  // namespace
+
 std::vector<control::CellAddress> filledCells(const control::Grid& grid) {
     std::vector<control::CellAddress> filled;
+    int lastRow = 0;
     const control::Area all{1, std::max(grid.rows(), 1), 1,
                             static_cast<uint16_t>(std::max(grid.cols(), 1))};
     grid.sheet().cells().each(all, [&](int row, int col, const control::Cell& cell) {
-        if (cell.type != control::ValueType::empty || cell.formula != 0)
-            filled.push_back({col, row});
+        if (cell.type == control::ValueType::empty && cell.formula == 0) return;
+        filled.push_back({col, row});
+        lastRow = std::max(lastRow, row);
     });
-    const auto place = [](control::CellAddress cell) {
-        return static_cast<int64_t>(cell.row) << 32 | cell.col;
-    };
-    std::sort(filled.begin(), filled.end(), [&](auto a, auto b) { return place(a) < place(b); });
-    return filled;
+    return byRows(filled, lastRow);
 }
 
 StandardLayout::StandardLayout(const control::Grid& grid,

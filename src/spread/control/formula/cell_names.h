@@ -2,6 +2,7 @@
 // the formula is parsed spares writing it anew with references first.
 #pragma once
 
+#include <bitset>
 #include <string_view>
 
 #include "spread/control/cells.h"
@@ -13,9 +14,13 @@ class CellNames {
   public:
     /// The cell that `word` (ASCII letters, digits and underscores) stands for, or null.
     virtual const control::CellAddress* cellOf(std::string_view word) const = 0;
+    /// False when no word stands for a cell that starts like this one: true of most functions and
+    /// of numbers, without looking for them.
+    bool mayStartWith(char c) const { return m_starts[static_cast<unsigned char>(c)]; }
 
   protected:
     ~CellNames() = default;
+    std::bitset<256> m_starts;  // every letter that a word starts with, in both cases
 };
 
 /// What parse() gives for `text` with the reference of its cell (A1) in place of every such word,
