@@ -4,6 +4,8 @@
 #include <cstdio>
 #include <cstring>
 
+#include "platform/short_text.h"
+
 namespace encodings {
 
 namespace {
@@ -95,30 +97,9 @@ int compareFolded(std::string_view a, std::string_view b) {
     return a.size() < b.size() ? -1 : 1;
 }
 
-namespace {
-
-template <class Number>
-std::uint64_t numberAt(const char* bytes) {
-    Number number = 0;
-    std::memcpy(&number, bytes, sizeof number);
-    return number;
-}
-
-/// The first bytes and the last ones of a text of at most 16; between them they hold it all.
-std::array<std::uint64_t, 2> endsOf(std::string_view text) {
-    const char* const start = text.data();
-    const char* const end = start + text.size();
-    if (text.size() >= 8) return {numberAt<std::uint64_t>(start), numberAt<std::uint64_t>(end - 8)};
-    if (text.size() >= 4) return {numberAt<std::uint32_t>(start), numberAt<std::uint32_t>(end - 4)};
-    if (text.size() >= 2) return {numberAt<std::uint16_t>(start), numberAt<std::uint16_t>(end - 2)};
-    return {text.empty() ? 0 : numberAt<std::uint8_t>(start), 0};
-}
-
-}  // namespace
-
 std::uint32_t hashFolded(std::string_view text) {
     constexpr std::uint64_t caseBits = 0x2020202020202020U, notAscii = 0x8080808080808080U;
-    if (text.size() <= 16) {
+    if (text.size() <= longestShortText) {
         const auto [first, last] = endsOf(text);
         if (((first | last) & notAscii) == 0) {
             const std::uint64_t mixed = ((first | caseBits) * 0x9E3779B97F4A7C15U) ^

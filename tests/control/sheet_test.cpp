@@ -181,6 +181,16 @@ TEST_F(SheetTest, NotationChangesKeepTheMeaning) {
     EXPECT_EQ(*sheet.formula(2, 4), "B3*2");
 }
 
+TEST_F(SheetTest, DistancesBeyondEverySheetLeadNowhere) {
+    number(1, 1, 3);
+    sheet.setReferenceStyle(formula::ReferenceStyle::r1c1);
+    for (const char* text : {"RC[65535]", "RC[-65537]", "RC[99999999]", "RC[-99999999]",
+                             "SUM(RC[65535]:RC[65535])", "R[-99999999]C[-1]"}) {
+        ASSERT_TRUE(formula(2, 1, text)) << text << ": " << error.message;
+        EXPECT_EQ(shown(2, 1), "#REF!") << text;
+    }
+}
+
 TEST_F(SheetTest, ACopyIsIndependent) {
     number(1, 1, 1);
     sheet.setValue(1, 2, Value::borrowedText("text"));

@@ -3,19 +3,30 @@
 #include <bit>
 
 #include "platform/encodings.h"
+#include "platform/short_text.h"
 
 TextIndex::TextIndex(int expected)
     : m_slots(std::bit_ceil(static_cast<size_t>(expected > 4 ? expected : 4) * 2)) {}
 
+namespace {
+
+inline bool isSame(std::string_view a, std::string_view b) {
+    if (a.size() != b.size()) return false;
+    const bool isShort = a.size() <= encodings::longestShortText;
+    return (isShort && encodings::endsOf(a) == encodings::endsOf(b)) ||
+           encodings::equalFolded(a, b);
+}
+
+}  // namespace
+
 // The slot that holds an equal text, or the free one where it belongs.
-size_t TextIndex::slotOf(std::string_view text, std::uint32_t hash) const {
+// Inline: it is asked for every word of a formula.
+inline size_t TextIndex::slotOf(std::string_view text, std::uint32_t hash) const {
     const size_t mask = m_slots.size() - 1;
     size_t at = hash & mask;
-    while (m_slots[at].number >= 0 &&
-           (m_slots[at].hash != hash ||
-            (m_slots[at].text != text && !encodings::equalFolded(m_slots[at].text, text)))) {
+    const Slot* const slots = m_slots.data();
+    while (slots[at].number >= 0 && (slots[at].hash != hash || !isSame(slots[at].text, text)))
         at = (at + 1) & mask;
-    }
     return at;
 }
 

@@ -4,7 +4,8 @@
 
 #include <algorithm>
 #include <cstdint>
-#include <vector>
+#include <memory>
+#include <span>
 
 #include "spread/control/formula/program.h"
 
@@ -18,17 +19,43 @@ enum class Kind {
     open,       ///< a value, an area or an array: only the calculation tells
 };
 
+/// A list that keeps its memory when it is emptied, and adds in few steps.
+template <class T>
+class Scratch {
+  public:
+    T& add(const T& item) {
+        if (m_size == m_room) [[unlikely]]
+            grow();
+        return m_items[m_size++] = item;
+    }
+    T& operator[](size_t index) { return m_items[index]; }
+    T& back() { return m_items[m_size - 1]; }
+    size_t size() const { return m_size; }
+    void clear() { m_size = 0; }
+    std::span<const T> items() const { return {m_items.get(), m_size}; }
+
+  private:
+    void grow() {
+        m_room = m_room * 2 + 64;
+        auto items = std::make_unique<T[]>(m_room);
+        std::copy_n(m_items.get(), m_size, items.get());
+        m_items = std::move(items);
+    }
+
+    std::unique_ptr<T[]> m_items;
+    size_t m_size = 0;
+    size_t m_room = 0;
+};
+
 class CodeBuilder {
   public:
-    CodeBuilder() { m_code.swap(spareMemory()); }
+    CodeBuilder() { swapWithSpare(); }
     CodeBuilder(const CodeBuilder&) = delete;
     CodeBuilder& operator=(const CodeBuilder&) = delete;
     ~CodeBuilder() {
-        for (const Instruction& i : m_code)
-            if (i.op == Op::text)
-                control::TextBlock::release(const_cast<control::TextBlock*>(i.text));
-        m_code.clear();
-        m_code.swap(spareMemory());
+        releaseTexts(m_code.items(), m_constants.items());
+        forgetCode();
+        swapWithSpare();
     }
 
     /// Whether areas stay areas: inside an argument that takes arrays, or an array formula.
@@ -37,14 +64,21 @@ class CodeBuilder {
 
     /// `depthChange`: how many values more there are on the stack afterwards.
     Instruction& emit(Op op, int depthChange) {
-        Instruction& i = m_code.emplace_back();
-        i.op = op;
-        if (inArray) i.flags |= Instruction::inArray;
         adjustDepth(depthChange);
+        Instruction i;
+        i.op = op;
+        i.flags = inArray ? Instruction::inArray : 0;
+        return m_code.add(i);
+    }
+    /// An instruction about a constant; owns it when it is a text.
+    Instruction& emit(Op op, int depthChange, Constant constant) {
+        Instruction& i = emit(op, depthChange);
+        i.a = static_cast<int32_t>(m_constants.size());
+        m_constants.add(constant);
         return i;
     }
     /// An instruction that is data of the one before.
-    void append(const Instruction& data) { m_code.push_back(data); }
+    void append(const Instruction& data) { m_code.add(data); }
     Instruction& operator[](size_t index) { return m_code[index]; }
     Instruction& back() { return m_code.back(); }
     size_t position() const { return m_code.size(); }
@@ -68,19 +102,27 @@ class CodeBuilder {
 
     /// The program; it owns the texts from now on.
     ProgramRef finish(bool isShared) {
-        ProgramRef program = (isShared ? intern : makeOwn)(m_code, m_maxDepth, isVolatile);
-        m_code.clear();
+        const Code code{m_code.items(), m_constants.items(), m_maxDepth, isVolatile};
+        ProgramRef program = isShared ? intern(code) : makeOwn(code);
+        forgetCode();
         return program;
     }
 
   private:
-    /// What the formula before used; thousands are parsed one after another.
-    static std::vector<Instruction>& spareMemory() {
-        static std::vector<Instruction> spare;
-        return spare;
+    /// The memory that the formula before used; thousands are parsed one after another.
+    void swapWithSpare() {
+        static Scratch<Instruction> spareCode;
+        static Scratch<Constant> spareConstants;
+        std::swap(m_code, spareCode);
+        std::swap(m_constants, spareConstants);
+    }
+    void forgetCode() {
+        m_code.clear();
+        m_constants.clear();
     }
 
-    std::vector<Instruction> m_code;
+    Scratch<Instruction> m_code;
+    Scratch<Constant> m_constants;
     int m_depth = 0;
     int m_maxDepth = 0;
 };

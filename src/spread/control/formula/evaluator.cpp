@@ -66,7 +66,7 @@ Value Evaluator::run(const Program& program, int col, int row, bool& blocked) {
     m_calculation.m_hostRow = row;
     m_calculation.m_dirtyAreas.clear();
     m_calculation.m_workLeft = Calculation::mostWork;
-    const Value* top = execute(program.code());
+    const Value* top = execute(program);
     if (top && m_calculation.m_workLeft < 0) [[unlikely]] {
         blocked = false;
         return ErrorCode::num;
@@ -126,21 +126,22 @@ inline bool Evaluator::compare(const Instruction& i, Value& a, const Value& b) {
 
 // The end of the stack, with the result below it; null when a cell was met that has to be
 // calculated first. The stack grows upwards from m_stack; `top` is one past its last value.
-const Value* Evaluator::execute(std::span<const Instruction> code) {
+const Value* Evaluator::execute(const Program& program) {
     const auto& dirty = m_calculation.m_dirtyAreas;
     const control::CellStore& cells = *m_calculation.m_cells;
     const int hostCol = m_calculation.m_hostCol;
     const int hostRow = m_calculation.m_hostRow;
-    const Instruction* const begin = code.data();
-    const Instruction* const end = begin + code.size();
+    const Constant* const constants = program.constants().data();
+    const Instruction* const begin = program.code().data();
+    const Instruction* const end = begin + program.code().size();
     Value* top = m_stack.data();
     for (const Instruction* i = begin; i != end;) {
         switch (i->op) {
             case Op::number:
-                *top++ = i->number;
+                *top++ = constants[i->a].number;
                 break;
             case Op::text:
-                *top++ = Value::borrowedText(i->text->view());
+                *top++ = Value::borrowedText(constants[i->a].text->view());
                 break;
             case Op::boolean:
                 *top++ = Value::boolean(i->a != 0);
@@ -174,7 +175,7 @@ const Value* Evaluator::execute(std::span<const Instruction> code) {
                 ++i;
                 break;
             case Op::matrix: {
-                Value* first = top - i->a * i->place.row;
+                Value* first = top - i->a * i->b;
                 *first = matrix(*i, first);
                 top = first + 1;
                 break;
@@ -242,8 +243,10 @@ const Value* Evaluator::execute(std::span<const Instruction> code) {
                 break;
             case Op::call:
             case Op::callCustom: {
-                Value* args = top - i->argc;
-                *args = i->op == Op::call ? call(*i, args) : callCustom(*i, args);
+                Value* args = top - i->b;
+                const Constant& callee = constants[i->a];
+                *args = i->op == Op::call ? call(*callee.function, *i, args)
+                                          : callCustom(*callee.custom, {args, top});
                 top = args + 1;
                 if (!dirty.empty()) return nullptr;
                 break;
@@ -259,7 +262,7 @@ const Value* Evaluator::execute(std::span<const Instruction> code) {
                     i = begin + i->a;
                 } else {
                     top[-1] = truth.error();
-                    i = begin + i->place.row;
+                    i = begin + begin[i->a - 1].a;
                 }
                 continue;
             }
@@ -272,7 +275,7 @@ const Value* Evaluator::execute(std::span<const Instruction> code) {
                 continue;
             case Op::choose: {
                 const auto index = toNumber(top[-1]);
-                if (index && *index >= 1 && *index < i->argc + 1) {
+                if (index && *index >= 1 && *index < i->b + 1) {
                     --top;
                     i += static_cast<int>(*index);
                 } else {
@@ -291,7 +294,7 @@ const Value* Evaluator::execute(std::span<const Instruction> code) {
 }
 
 Value Evaluator::matrix(const Instruction& i, const Value* values) {
-    const int cols = i.place.row;
+    const int cols = i.b;
     Array* array = m_calculation.newArray(i.a, cols);
     if (!array) return ErrorCode::num;
     std::copy(values, values + i.a * cols, array->cells);
@@ -360,42 +363,43 @@ Value Evaluator::eachElement(int rows, int cols, Make&& make) {
     return Value::array(result);
 }
 
-Value Evaluator::call(const Instruction& i, Value* args) {
-    if (i.flags & Instruction::inArray) return callLifted(i, args);
-    return i.function->call(m_calculation, Args(args, i.argc));
+inline Value Evaluator::call(const FunctionSpec& function, const Instruction& i, Value* args) {
+    const Args all(args, static_cast<size_t>(i.b));
+    if (i.flags & Instruction::inArray) return callLifted(function, all);
+    return function.call(m_calculation, all);
 }
 
 // In an array context a function of plain values is called once for each element.
-Value Evaluator::callLifted(const Instruction& i, Value* args) {
-    const std::string_view params = i.function->params;
+Value Evaluator::callLifted(const FunctionSpec& function, Args args) {
+    const std::string_view params = function.params;
     int rows = 1, cols = 1;
     bool isLifted = false;
     const auto takesPlain = [&](size_t n) { return parameterClass(params, n) == 'v'; };
-    for (size_t n = 0; n < i.argc; ++n) {
+    for (size_t n = 0; n < args.size(); ++n) {
         if (args[n].isSingle() || !takesPlain(n)) continue;
         isLifted = true;
         rows = std::max(rows, Calculation::rows(args[n]));
         cols = std::max(cols, Calculation::cols(args[n]));
     }
-    if (!isLifted) return i.function->call(m_calculation, Args(args, i.argc));
-    m_lifted.resize(i.argc);
+    if (!isLifted) return function.call(m_calculation, args);
+    m_lifted.resize(args.size());
     return eachElement(rows, cols, [&](int r, int c) {
         size_t work = 50;
-        for (size_t n = 0; n < i.argc; ++n) {
+        for (size_t n = 0; n < args.size(); ++n) {
             m_lifted[n] = args[n].isSingle() || !takesPlain(n)
                               ? args[n]
                               : m_calculation.element(args[n], r, c);
             if (m_lifted[n].isText()) work += m_lifted[n].text().size();
         }
         if (!m_calculation.spend(static_cast<int64_t>(work))) return Value();
-        return plainOf(i.function->call(m_calculation, Args(m_lifted.data(), i.argc)));
+        return plainOf(function.call(m_calculation, m_lifted));
     });
 }
 
-Value Evaluator::callCustom(const Instruction& i, Value* args) {
-    if (!i.custom->cellArguments)
-        for (int n = 0; n < i.argc; ++n) args[n] = plainOf(args[n]);
-    return i.custom->call(m_calculation, Args(args, i.argc));
+Value Evaluator::callCustom(const CustomFunction& function, std::span<Value> args) {
+    if (!function.cellArguments)
+        for (Value& arg : args) arg = plainOf(arg);
+    return function.call(m_calculation, args);
 }
 
 }  // namespace formula

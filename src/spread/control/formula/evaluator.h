@@ -20,7 +20,7 @@ class Evaluator {
 
   private:
     using Args = std::span<const Value>;
-    const Value* execute(std::span<const Instruction> code);
+    const Value* execute(const Program& program);
     // Rare ways are kept out of line, so that the loop of execute() stays small.
     [[gnu::noinline]] bool operate(const Instruction& i, Value& a, const Value& b);
     template <Op op>
@@ -37,9 +37,9 @@ class Evaluator {
     Value matrix(const Instruction& i, const Value* values);
     template <class Make>
     Value eachElement(int rows, int cols, Make&& make);
-    Value call(const Instruction& i, Value* args);
-    Value callLifted(const Instruction& i, Value* args);
-    Value callCustom(const Instruction& i, Value* args);
+    Value call(const FunctionSpec& function, const Instruction& i, Value* args);
+    Value callLifted(const FunctionSpec& function, Args args);
+    Value callCustom(const CustomFunction& function, std::span<Value> args);
 
     Calculation& m_calculation;
     std::vector<Value> m_stack;

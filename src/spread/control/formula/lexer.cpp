@@ -18,6 +18,8 @@ constexpr std::array<uint8_t, 256> makeClasses() {
     // Letters of Windows-1252 may stand in names.
     for (int c = 0xC0; c <= 0xFF; ++c) classes[static_cast<size_t>(c)] = 4;
     classes[0xD7] = classes[0xF7] = 0;
+    for (const char c : std::string_view(" \t\n\r\xA0"))
+        classes[static_cast<unsigned char>(c)] = 32;
     return classes;
 }
 constexpr auto classes = makeClasses();
@@ -66,14 +68,14 @@ bool startsName(char c) {
     return (classOf(c) & 5) != 0;
 }
 bool isInName(char c) {
-    return classOf(c) != 0;
+    return (classOf(c) & (1 | 2 | 4 | 8)) != 0;
 }
 /// A letter, a digit or "_".
 bool isInWord(char c) {
     return (classOf(c) & (1 | 2 | 16)) != 0;
 }
 bool isBlank(char c) {
-    return c == ' ' || c == '\t' || c == '\n' || c == '\r' || c == '\xA0';
+    return classOf(c) == 32;
 }
 char upper(char c) {
     return c >= 'a' && c <= 'z' ? static_cast<char>(c - 32) : c;
@@ -81,8 +83,7 @@ char upper(char c) {
 
 }  // namespace
 
-inline bool Lexer::takeSymbol(Token& token) {
-    const char c = m_text[m_position];
+inline bool Lexer::takeSymbol(Token& token, char c) {
     const Symbol symbol = symbolOf(c);
     if (symbol == Symbol::none) return false;
     token.kind = TokenKind::symbol;
@@ -100,22 +101,24 @@ inline bool Lexer::takeSymbol(Token& token) {
 }
 
 void Lexer::next(Token& token) {
-    const size_t before = m_position;
-    while (m_position < m_text.size() && isBlank(m_text[m_position])) ++m_position;
-    token.spaceBefore = m_position != before;
-    token.position = m_position;
-    token.length = 0;
-    token.symbol = Symbol::none;
-    if (m_position == m_text.size()) {
+    size_t position = m_position;
+    while (position < m_text.size() && isBlank(m_text[position])) ++position;
+    m_position = token.position = position;
+    if (position == m_text.size()) {
+        token.symbol = Symbol::none;
         token.kind = TokenKind::end;
+        token.length = 0;
         return;
     }
-    if (!takeSymbol(token) && !(m_names ? takeAmongNames(token) : take(token))) {
-        token.kind = TokenKind::invalid;
+    const char c = m_text[position];
+    if (!takeSymbol(token, c)) {
         token.symbol = Symbol::none;
-        token.length = 1;
+        if (!(m_names ? takeAmongNames(token, c) : take(token))) {
+            token.kind = TokenKind::invalid;
+            token.length = 1;
+        }
     }
-    m_position = token.position + token.length;
+    m_position = position + token.length;
 }
 
 bool Lexer::take(Token& token) {
@@ -134,8 +137,7 @@ bool Lexer::take(Token& token) {
 
 /// Names count wherever their word stands, be it in a text, in "#N/A" or behind the point of a
 /// number. Only words that are whole tokens are looked up here.
-bool Lexer::takeAmongNames(Token& token) {
-    const char c = m_text[m_position];
+inline bool Lexer::takeAmongNames(Token& token, char c) {
     if (isLetter(c) || c == '_') return takeWord(token);
     if (startsName(c) || c == '$' || c == '#') return false;
     return take(token) && !holdsName(textOf(token));
@@ -146,7 +148,9 @@ bool Lexer::takeWord(Token& token) {
     while (isInWord(at(end))) ++end;
     if (isInName(at(end))) return false;  // a longer name with a word of its own inside
     token.length = end - m_position;
-    if (const control::CellAddress* cell = m_names->cellOf(textOf(token))) {
+    const bool mayBeName = m_names->mayStartWith(m_text[m_position]);
+    const control::CellAddress* cell = mayBeName ? m_names->cellOf(textOf(token)) : nullptr;
+    if (cell) {
         token.reference.first = {cell->row, cell->col, true, true};
         token.reference.last = token.reference.first;
         token.reference.wholeCols = token.reference.wholeRows = false;
@@ -161,7 +165,9 @@ bool Lexer::holdsName(std::string_view text) const {
     for (size_t at = 0; at < text.size();) {
         const size_t start = at;
         while (at < text.size() && isInWord(text[at])) ++at;
-        if (at > start && m_names->cellOf(text.substr(start, at - start))) return true;
+        if (at > start && m_names->mayStartWith(text[start]) &&
+            m_names->cellOf(text.substr(start, at - start)))
+            return true;
         if (at == start) ++at;
     }
     return false;
@@ -348,8 +354,10 @@ std::string columnLetters(int col) {
 }
 
 std::string cellText(int col, int row, bool colAbsolute, bool rowAbsolute) {
-    return (colAbsolute ? "$" : "") + columnLetters(col) + (rowAbsolute ? "$" : "") +
-           std::to_string(row);
+    std::string text = columnLetters(col);
+    if (colAbsolute) text.insert(text.begin(), '$');
+    if (rowAbsolute) text += '$';
+    return text.append(std::to_string(row));
 }
 
 }  // namespace formula

@@ -67,7 +67,6 @@ struct Token {
     TokenKind kind = TokenKind::end;
     Symbol symbol = Symbol::none;
     ErrorCode error = ErrorCode::value;
-    bool spaceBefore = false;
     size_t position = 0;
     size_t length = 0;
     double number = 0;
@@ -88,7 +87,7 @@ class Lexer {
   private:
     char at(size_t position) const { return position < m_text.size() ? m_text[position] : '\0'; }
     bool take(Token& token);
-    bool takeAmongNames(Token& token);
+    bool takeAmongNames(Token& token, char c);
     bool takeWord(Token& token);
     bool holdsName(std::string_view text) const;
     bool takeNumber(Token& token);
@@ -97,7 +96,7 @@ class Lexer {
     bool takeReference(Token& token);
     bool takeR1C1(Token& token);
     bool takeName(Token& token);
-    bool takeSymbol(Token& token);
+    bool takeSymbol(Token& token, char c);
     bool finishReference(Token& token, size_t end);
     size_t columnAt(size_t position, Corner& corner) const;
     size_t rowAt(size_t position, Corner& corner) const;

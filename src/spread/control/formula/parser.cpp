@@ -8,58 +8,47 @@ namespace formula {
 
 namespace {
 
-int precedence(Symbol symbol) {
+/// What a symbol does between two values; level 0 when it does nothing there.
+struct BinaryOperator {
+    int level = 0;
+    Op op = Op::missing;
+};
+constexpr BinaryOperator binaryOperator(Symbol symbol) {
     switch (symbol) {
         case Symbol::equal:
+            return {1, Op::equal};
         case Symbol::notEqual:
+            return {1, Op::notEqual};
         case Symbol::less:
+            return {1, Op::less};
         case Symbol::lessEqual:
+            return {1, Op::lessEqual};
         case Symbol::greater:
+            return {1, Op::greater};
         case Symbol::greaterEqual:
-            return 1;
+            return {1, Op::greaterEqual};
         case Symbol::join:
-            return 2;
+            return {2, Op::concatenate};
         case Symbol::plus:
+            return {3, Op::add};
         case Symbol::minus:
-            return 3;
+            return {3, Op::subtract};
         case Symbol::times:
+            return {4, Op::multiply};
         case Symbol::divide:
-            return 4;
+            return {4, Op::divide};
         case Symbol::power:
-            return 5;
+            return {5, Op::power};
         default:
-            return 0;
+            return {};
     }
 }
-
-Op operation(Symbol symbol) {
-    switch (symbol) {
-        case Symbol::equal:
-            return Op::equal;
-        case Symbol::notEqual:
-            return Op::notEqual;
-        case Symbol::less:
-            return Op::less;
-        case Symbol::lessEqual:
-            return Op::lessEqual;
-        case Symbol::greater:
-            return Op::greater;
-        case Symbol::greaterEqual:
-            return Op::greaterEqual;
-        case Symbol::join:
-            return Op::concatenate;
-        case Symbol::plus:
-            return Op::add;
-        case Symbol::minus:
-            return Op::subtract;
-        case Symbol::times:
-            return Op::multiply;
-        case Symbol::divide:
-            return Op::divide;
-        default:
-            return Op::power;
-    }
-}
+/// As a table: every token of a formula is asked.
+constexpr auto binaryOperators = [] {
+    std::array<BinaryOperator, static_cast<size_t>(Symbol::at) + 1> table{};
+    for (size_t i = 0; i < table.size(); ++i) table[i] = binaryOperator(static_cast<Symbol>(i));
+    return table;
+}();
 
 std::string upperCase(std::string_view text) {
     std::string upper(text);
@@ -108,31 +97,34 @@ bool Parser::binary(int least, Want want, Kind& kind) {
     const Nested nested(m_nesting);
     if (!unary(want, kind)) return false;
     for (;;) {
-        const Symbol symbol = m_token.symbol;
-        const int level = precedence(symbol);
-        if (level < least || level == 0) return true;
+        const auto [level, op] = binaryOperators[static_cast<size_t>(m_token.symbol)];
+        if (level < least) return true;
         m_code.makeSingle(kind);
         const bool isPlain = kind == Kind::single;
         advance();
         Kind right;
         if (!binary(level + 1, Want::single, right)) return false;
         m_code.makeSingle(right);
-        m_code.emit(operation(symbol), -1);
+        m_code.emit(op, -1);
         kind = isPlain && right == Kind::single ? Kind::single : Kind::open;
     }
 }
 
 inline bool Parser::unary(Want want, Kind& kind) {
+    return isSign() ? signedValue(kind) : postfix(want, kind);
+}
+
+bool Parser::signedValue(Kind& kind) {
     std::array<Op, maxNesting> signs;
     size_t count = 0;
-    while (isSymbol(Symbol::plus) || isSymbol(Symbol::minus) || isSymbol(Symbol::at)) {
+    while (isSign()) {
         if (count == signs.size()) return fail("nested deeper than 256");
         signs[count++] = isSymbol(Symbol::minus)  ? Op::negate
                          : isSymbol(Symbol::plus) ? Op::plus
                                                   : Op::single;
         advance();
     }
-    if (!postfix(count ? Want::single : want, kind)) return false;
+    if (!postfix(Want::single, kind)) return false;
     while (count > 0) {
         m_code.makeSingle(kind);
         const Op sign = signs[--count];
@@ -179,11 +171,11 @@ bool Parser::primary(Want want, Kind& kind) {
     kind = Kind::single;
     switch (m_token.kind) {
         case TokenKind::number:
-            m_code.emit(Op::number, 1).number = m_token.number;
+            m_code.emit(Op::number, 1, {.number = m_token.number});
             break;
         case TokenKind::text:
-            m_code.emit(Op::text, 1).text =
-                control::TextBlock::make(unquote(m_lexer.textOf(m_token)));
+            m_code.emit(Op::text, 1,
+                        {.text = control::TextBlock::make(unquote(m_lexer.textOf(m_token)))});
             break;
         case TokenKind::error:
             m_code.emit(Op::error, 1).a = static_cast<int>(m_token.error);
@@ -206,15 +198,19 @@ bool Parser::primary(Want want, Kind& kind) {
 
 inline void Parser::setPlace(Instruction& i, const Corner& corner) const {
     const bool a1 = m_settings.style == ReferenceStyle::a1;
-    i.place = {corner.row, corner.col};
+    int row = corner.row;
+    int col = corner.col;
     if (corner.rowRelative) {
         i.flags |= Instruction::relativeRow;
-        if (a1) i.place.row -= m_settings.hostRow;
+        if (a1) row -= m_settings.hostRow;
     }
     if (corner.colRelative) {
         i.flags |= Instruction::relativeCol;
-        if (a1) i.place.col -= m_settings.hostCol;
+        if (a1) col -= m_settings.hostCol;
     }
+    // Further to the side is outside every sheet too.
+    i.a = row;
+    i.b = static_cast<int16_t>(std::clamp(col, -2 * maxCols + 1, 2 * maxCols - 1));
 }
 
 bool Parser::reference(Kind& kind) {
@@ -262,7 +258,7 @@ bool Parser::matrix(Kind& kind) {
     if (!expect(Symbol::closeBrace, "'}'")) return false;
     Instruction& i = m_code.emit(Op::matrix, 1 - count);
     i.a = rows;
-    i.place = {count / rows, 0};
+    i.b = static_cast<int16_t>(count / rows);
     kind = Kind::open;
     return true;
 }

@@ -13,6 +13,7 @@ Kind joined(Kind a, Kind b) {
 
 char parameterClass(std::string_view params, size_t index) {
     if (params.empty()) return 'v';
+    if (params.size() == 1) return params[0];
     const size_t open = params.find('(');
     if (open == std::string_view::npos) return params[std::min(index, params.size() - 1)];
     if (index < open) return params[index];
@@ -54,9 +55,7 @@ bool Parser::checkCount(std::string_view name, int count, int least, int most,
 
 bool Parser::emitCall(const FunctionSpec& spec, int count, const Token& nameToken, Kind& kind) {
     if (!checkCount(spec.name, count, spec.least, spec.most, nameToken)) return false;
-    Instruction& i = m_code.emit(Op::call, 1 - count);
-    i.argc = static_cast<uint8_t>(count);
-    i.function = &spec;
+    m_code.emit(Op::call, 1 - count, {.function = &spec}).b = static_cast<int16_t>(count);
     m_code.isVolatile |= (spec.flags & formula::isVolatile) != 0;
     const auto takesPlain = [&] {
         return spec.params.find_first_not_of('v') == std::string_view::npos;
@@ -67,9 +66,7 @@ bool Parser::emitCall(const FunctionSpec& spec, int count, const Token& nameToke
 
 bool Parser::emitCall(const CustomFunction& custom, int count, const Token& nameToken, Kind& kind) {
     if (!checkCount(custom.name, count, custom.least, custom.most, nameToken)) return false;
-    Instruction& i = m_code.emit(Op::callCustom, 1 - count);
-    i.argc = static_cast<uint8_t>(count);
-    i.custom = &custom;
+    m_code.emit(Op::callCustom, 1 - count, {.custom = &custom}).b = static_cast<int16_t>(count);
     kind = Kind::single;
     return true;
 }
@@ -135,7 +132,7 @@ bool Parser::lazyCall(const FunctionSpec& spec, const Token& nameToken, Want wan
 /// A branch of IF, IFERROR or CHOOSE, and what it leaves.
 bool Parser::branch(Want want, Kind& kind) {
     if (isSymbol(Symbol::comma) || isSymbol(Symbol::close)) {
-        m_code.emit(Op::number, 1).number = 0;
+        m_code.emit(Op::number, 1, {.number = 0});
         kind = Kind::single;
         return true;
     }
@@ -159,7 +156,6 @@ bool Parser::ifBranches(Want want, Kind& kind) {
         m_code.emit(Op::boolean, 1).a = 0;
     }
     m_code.jumpHere(skip);
-    m_code[test].place = {static_cast<int32_t>(m_code.position()), 0};
     kind = joined(kind, other);
     return expect(Symbol::close, "')'");
 }
@@ -181,7 +177,7 @@ bool Parser::chooseBranches(Want want, Kind& kind) {
     const size_t tableSize = countBranches();
     if (tableSize == 0) return fail("CHOOSE needs at least 2 arguments");
     if (tableSize > 254) return fail("more than 255 arguments");
-    m_code[choose].argc = static_cast<uint8_t>(tableSize);
+    m_code[choose].b = static_cast<int16_t>(tableSize);
     for (size_t n = 0; n < tableSize; ++n) m_code.emit(Op::jump, 0);
     std::vector<size_t> skips;
     kind = Kind::single;

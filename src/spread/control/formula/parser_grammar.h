@@ -29,6 +29,9 @@ class Parser {
 
     void advance() { m_lexer.next(m_token); }
     bool isSymbol(Symbol symbol) const { return m_token.symbol == symbol; }
+    bool isSign() const {
+        return isSymbol(Symbol::plus) || isSymbol(Symbol::minus) || isSymbol(Symbol::at);
+    }
     std::string here() const;
     bool fail(std::string message);
     bool failAt(const Token& token, std::string message);
@@ -38,6 +41,7 @@ class Parser {
     bool comparison(Want want, Kind& kind) { return binary(1, want, kind); }
     bool binary(int least, Want want, Kind& kind);
     bool unary(Want want, Kind& kind);
+    bool signedValue(Kind& kind);
     bool postfix(Want want, Kind& kind);
     bool range(Want want, Kind& kind);
     bool primary(Want want, Kind& kind);

@@ -10,10 +10,10 @@
 namespace formula {
 
 inline int rowOf(const Instruction& i, int hostRow) {
-    return i.place.row + (i.flags & Instruction::relativeRow ? hostRow : 0);
+    return i.a + (i.flags & Instruction::relativeRow ? hostRow : 0);
 }
 inline int colOf(const Instruction& i, int hostCol) {
-    return i.place.col + (i.flags & Instruction::relativeCol ? hostCol : 0);
+    return i.b + (i.flags & Instruction::relativeCol ? hostCol : 0);
 }
 inline bool isInside(int col, int row) {
     return static_cast<unsigned>(col - 1) < maxCols && static_cast<unsigned>(row - 1) < maxRows;

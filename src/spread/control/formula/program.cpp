@@ -1,6 +1,7 @@
 #include "spread/control/formula/program.h"
 
 #include <algorithm>
+#include <bit>
 #include <memory>
 #include <new>
 
@@ -8,13 +9,33 @@ namespace formula {
 
 using control::TextBlock;
 
-Program* Program::make(std::span<const Instruction> code, int stackDepth, bool isVolatile) {
-    void* memory = ::operator new(sizeof(Program) + code.size_bytes());
+namespace {
+
+bool hasConstant(Op op) {
+    return op == Op::number || op == Op::text || op == Op::call || op == Op::callCustom;
+}
+
+}  // namespace
+
+void releaseTexts(std::span<const Instruction> instructions, std::span<const Constant> constants) {
+    for (const Instruction& i : instructions)
+        if (i.op == Op::text)
+            TextBlock::release(const_cast<TextBlock*>(constants[static_cast<size_t>(i.a)].text));
+}
+
+Program* Program::make(const Code& code) {
+    void* memory = ::operator new(sizeof(Program) + code.instructions.size_bytes() +
+                                  code.constants.size_bytes());
     auto* program = new (memory) Program;
-    program->m_size = static_cast<uint32_t>(code.size());
-    program->m_stackDepth = static_cast<uint32_t>(stackDepth) & 0x3FFFFFFFU;
-    program->m_isVolatile = isVolatile;
-    std::uninitialized_copy(code.begin(), code.end(), reinterpret_cast<Instruction*>(program + 1));
+    program->m_size = static_cast<uint32_t>(code.instructions.size()) & 0x3FFFFFFFU;
+    program->m_constantCount = static_cast<uint16_t>(code.constants.size());
+    program->m_stackDepth = static_cast<uint16_t>(code.stackDepth);
+    program->m_isVolatile = code.isVolatile;
+    auto* instructions = reinterpret_cast<Instruction*>(program + 1);
+    instructions =
+        std::uninitialized_copy(code.instructions.begin(), code.instructions.end(), instructions);
+    std::uninitialized_copy(code.constants.begin(), code.constants.end(),
+                            reinterpret_cast<Constant*>(instructions));
     return program;
 }
 
@@ -33,15 +54,15 @@ class ProgramPool {
         return *pool;
     }
 
-    ProgramRef intern(std::span<const Instruction> code, int stackDepth, bool isVolatile) {
+    ProgramRef intern(const Code& code) {
         const uint32_t hash = hashOf(code);
         size_t at = hash & mask();
         for (; m_slots[at].program; at = (at + 1) & mask()) {
-            if (m_slots[at].hash != hash || !same(code, m_slots[at].program->code())) continue;
-            releaseTexts(code);
+            if (m_slots[at].hash != hash || !isSame(code, *m_slots[at].program)) continue;
+            releaseTexts(code.instructions, code.constants);
             return ProgramRef(m_slots[at].program);
         }
-        Program* program = Program::make(code, stackDepth, isVolatile);
+        Program* program = Program::make(code);
         program->m_hash = hash;
         program->m_isPooled = true;
         m_slots[at] = {hash, program};
@@ -81,30 +102,35 @@ class ProgramPool {
         }
     }
 
-    static bool same(std::span<const Instruction> a, std::span<const Instruction> b) {
-        return std::equal(a.begin(), a.end(), b.begin(), b.end(),
-                          [](const Instruction& x, const Instruction& y) {
-                              if (x.op == Op::text && y.op == Op::text)
-                                  return x.text->view() == y.text->view();
-                              return x == y;
-                          });
+    /// Constants stand in the order of their instructions, so equal code has equal numbers.
+    static bool isSame(const Code& code, const Program& program) {
+        const auto other = program.code();
+        if (!std::equal(code.instructions.begin(), code.instructions.end(), other.begin(),
+                        other.end()))
+            return false;
+        const auto isSameConstant = [&](const Instruction& i) {
+            if (!hasConstant(i.op)) return true;
+            const auto at = static_cast<size_t>(i.a);
+            const Constant& a = code.constants[at];
+            const Constant& b = program.constants()[at];
+            return i.op == Op::text ? a.text->view() == b.text->view() : a.bits == b.bits;
+        };
+        return std::all_of(other.begin(), other.end(), isSameConstant);
     }
-    static uint32_t hashOf(std::span<const Instruction> code) {
-        size_t hash = code.size();
-        for (const Instruction& i : code) {
-            const size_t payload =
-                i.op == Op::text ? std::hash<std::string_view>()(i.text->view()) : i.bits;
-            const size_t head = static_cast<size_t>(i.op) | static_cast<size_t>(i.flags) << 8 |
-                                static_cast<size_t>(i.argc) << 16 | static_cast<size_t>(i.b) << 24 |
-                                static_cast<size_t>(static_cast<uint32_t>(i.a)) << 32;
-            hash = (hash ^ head) * 0x9E3779B97F4A7C15ULL;
-            hash = (hash ^ payload ^ hash >> 29) * 0xBF58476D1CE4E5B9ULL;
+    static uint32_t hashOf(const Code& code) {
+        size_t hash = code.instructions.size();
+        const auto mix = [&hash](size_t bits) {
+            hash = (hash ^ bits) * 0x9E3779B97F4A7C15ULL;
+            hash ^= hash >> 29;
+        };
+        for (const Instruction& i : code.instructions) {
+            mix(std::bit_cast<uint64_t>(i));
+            if (!hasConstant(i.op)) continue;
+            const Constant& constant = code.constants[static_cast<size_t>(i.a)];
+            mix(i.op == Op::text ? std::hash<std::string_view>()(constant.text->view())
+                                 : constant.bits);
         }
         return static_cast<uint32_t>(hash ^ hash >> 32);
-    }
-    static void releaseTexts(std::span<const Instruction> code) {
-        for (const Instruction& i : code)
-            if (i.op == Op::text) TextBlock::release(const_cast<TextBlock*>(i.text));
     }
 
     std::vector<Slot> m_slots = std::vector<Slot>(1024);  // a power of two, half of it free
@@ -113,17 +139,16 @@ class ProgramPool {
 
 void ProgramRef::destroy(Program* program) {
     if (program->m_isPooled) ProgramPool::instance().remove(program);
-    for (const Instruction& i : program->code())
-        if (i.op == Op::text) TextBlock::release(const_cast<TextBlock*>(i.text));
+    releaseTexts(program->code(), program->constants());
     Program::release(program);
 }
 
-ProgramRef makeOwn(std::span<const Instruction> code, int stackDepth, bool isVolatile) {
-    return ProgramRef(Program::make(code, stackDepth, isVolatile));
+ProgramRef makeOwn(const Code& code) {
+    return ProgramRef(Program::make(code));
 }
 
-ProgramRef intern(std::span<const Instruction> code, int stackDepth, bool isVolatile) {
-    return ProgramPool::instance().intern(code, stackDepth, isVolatile);
+ProgramRef intern(const Code& code) {
+    return ProgramPool::instance().intern(code);
 }
 
 }  // namespace formula
