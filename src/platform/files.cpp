@@ -76,11 +76,19 @@ std::string tooLarge(std::string_view path, std::size_t sizeLimit) {
 
 }  // namespace
 
-bool isSettled(const Stamp& stamp) {
+std::int64_t now() {
+    timespec time{};
+    ::clock_gettime(CLOCK_REALTIME, &time);
+    return time.tv_sec * INT64_C(1'000'000'000) + time.tv_nsec;
+}
+
+bool isSettled(const Stamp& stamp, std::int64_t time) {
     constexpr std::int64_t longestStep = 50'000'000;  // nanoseconds
-    timespec now{};
-    ::clock_gettime(CLOCK_REALTIME, &now);
-    return now.tv_sec * INT64_C(1'000'000'000) + now.tv_nsec - stamp.time > longestStep;
+    return time - stamp.time > longestStep;
+}
+
+bool isSettled(const Stamp& stamp) {
+    return isSettled(stamp, now());
 }
 
 std::optional<Stamp> stampOf(std::string_view path) {

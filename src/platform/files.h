@@ -26,6 +26,10 @@ struct Stamp {
 /// False while the last change is so recent that another one may not show in the stamp, as clocks
 /// of file systems move in steps: what was made from such a file must not be kept.
 VORMANT_API bool isSettled(const Stamp& stamp);
+/// The same as seen at an earlier time: when reading began.
+VORMANT_API bool isSettled(const Stamp& stamp, std::int64_t time);
+/// Nanoseconds since 1970.
+VORMANT_API std::int64_t now();
 /// Nothing when there is no such file (a folder is none).
 VORMANT_API std::optional<Stamp> stampOf(std::string_view path);
 /// The same of a folder: it changes when something in it comes, goes or gets another name.

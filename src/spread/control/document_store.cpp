@@ -18,9 +18,10 @@ constexpr int64_t mostBytesOfAll = 64 << 20;
 
 class DocumentStore {
   public:
-    std::shared_ptr<const Document> find(std::string_view path, const files::Stamp& stamp) {
+    /// Looks at the file only when there is something to compare it with.
+    std::shared_ptr<const Document> find(std::string_view path) {
         const auto found = m_kept.find(path);
-        if (found == m_kept.end() || !(found->second.stamp == stamp)) return nullptr;
+        if (found == m_kept.end() || files::stampOf(path) != found->second.stamp) return nullptr;
         found->second.lastUse = ++m_uses;
         return found->second.document;
     }
@@ -62,45 +63,55 @@ DocumentStore& store() {
     return instance;
 }
 
-std::shared_ptr<Document> readFile(std::string_view path, std::string& error,
-                                   files::Stamp* opened = nullptr) {
+/// What was read, and the file as it was when reading began.
+struct ReadFile {
+    std::shared_ptr<Document> document;  ///< null when there is none to be had
+    files::Stamp stamp;
+    bool isSettled = false;
+};
+
+ReadFile readFile(std::string_view path, std::string& error) {
+    ReadFile reading;
+    const std::int64_t start = files::now();
     const std::optional<std::string> text =
-        files::readWhole(path, error, files::usualSizeLimit, opened);
-    return text ? readDocument(*text, path, error) : nullptr;
+        files::readWhole(path, error, files::usualSizeLimit, &reading.stamp);
+    if (!text) return reading;
+    reading.document = readDocument(*text, path, error);
+    reading.isSettled = files::isSettled(reading.stamp, start);
+    return reading;
 }
 
-std::shared_ptr<const Document> loadStamped(std::string_view path,
-                                            const std::optional<files::Stamp>& stamp,
-                                            std::string& error) {
-    error.clear();
-    if (stamp)
-        if (auto known = store().find(path, *stamp)) return known;
-    const bool isSettled = stamp && files::isSettled(*stamp);
-    // A change while it is being read gives the file another stamp: what was read is not found then.
-    files::Stamp opened;
-    std::shared_ptr<const Document> document = readFile(path, error, &opened);
-    if (document && isSettled && stamp->size <= mostBytesOfOne && opened == *stamp)
-        store().keep(path, *stamp, document);
-    return document;
+bool isLarge(const ReadFile& reading) {
+    return reading.stamp.size > mostBytesOfOne;
+}
+
+/// A change while it was read, or later, gives the file another stamp: this is not found then.
+std::shared_ptr<const Document> kept(std::string_view path, ReadFile reading) {
+    if (reading.document && reading.isSettled && !isLarge(reading))
+        store().keep(path, reading.stamp, reading.document);
+    return std::move(reading.document);
 }
 
 }  // namespace
 
 std::shared_ptr<const Document> loadDocument(std::string_view path, std::string& error) {
-    return loadStamped(path, files::stampOf(path), error);
+    error.clear();
+    if (auto known = store().find(path)) return known;
+    return kept(path, readFile(path, error));
 }
 
 bool loadInto(Grid& grid, std::string_view path, std::string& error) {
-    const std::optional<files::Stamp> stamp = files::stampOf(path);
-    if (stamp && stamp->size > mostBytesOfOne) {
-        std::shared_ptr<Document> document = readFile(path, error);
-        if (!document) return false;
-        grid.adopt(std::move(document));
+    error.clear();
+    if (auto known = store().find(path)) {
+        grid.restore(std::move(known));
         return true;
     }
-    std::shared_ptr<const Document> document = loadStamped(path, stamp, error);
-    if (!document) return false;
-    grid.restore(std::move(document));
+    ReadFile reading = readFile(path, error);
+    if (!reading.document) return false;
+    if (isLarge(reading))
+        grid.adopt(std::move(reading.document));
+    else
+        grid.restore(kept(path, std::move(reading)));
     return true;
 }
 

@@ -182,25 +182,36 @@ std::optional<int> readWhole(std::string_view text) {
 
 namespace {
 
+struct Bytes {
+    bool areAscii = true;
+    bool haveBackslash = false;
+};
+
 /// Eight bytes at a time: every text of a document passes here.
-bool hasOnlyAscii(std::string_view text) {
-    uint64_t seen = 0;
+Bytes bytesOf(std::string_view text) {
+    constexpr uint64_t ones = 0x0101010101010101U, highBits = ones * 0x80;
+    uint64_t notAscii = 0, backslashes = 0;
+    const auto look = [&](uint64_t bytes) {
+        const uint64_t difference = bytes ^ ones * '\\';  // a byte of it is 0
+        notAscii |= bytes;
+        backslashes |= (difference - ones) & ~difference;
+    };
     size_t at = 0;
-    for (; at + sizeof seen <= text.size(); at += sizeof seen) {
+    for (; at + sizeof(uint64_t) <= text.size(); at += sizeof(uint64_t)) {
         uint64_t bytes = 0;
         std::memcpy(&bytes, text.data() + at, sizeof bytes);
-        seen |= bytes;
+        look(bytes);
     }
-    for (; at < text.size(); ++at) seen |= static_cast<unsigned char>(text[at]);
-    return (seen & 0x8080808080808080U) == 0;
+    for (; at < text.size(); ++at) look(static_cast<unsigned char>(text[at]));
+    return {(notAscii & highBits) == 0, (backslashes & highBits) != 0};
 }
 
 }  // namespace
 
 std::optional<std::string_view> unescaped(std::string_view text, std::string& buffer,
                                           std::string& error) {
-    const bool isPlainText = text.find('\\') == std::string_view::npos;
-    const bool isAscii = hasOnlyAscii(text);
+    const auto [isAscii, hasEscapes] = bytesOf(text);
+    const bool isPlainText = !hasEscapes;
     if (!isAscii) {
         encodings::Utf8Error reason;
         const auto converted = encodings::fromUtf8(text, reason);
