@@ -1,12 +1,14 @@
-// vormant-workbench [LIBRARY] [FILE…] [--open NAME]… [--screenshot FILE]
+// vormant-workbench [LIBRARY] [FILE…] [--open NAME]… [--dialog NAME] [--screenshot FILE]
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QFileInfo>
 #include <QTimer>
+#include <algorithm>
 #include <cstdio>
 
 #include "platform/paths.h"
 #include "shell/main_window.h"
+#include "shell/starters_menu.h"
 
 namespace {
 
@@ -20,11 +22,25 @@ QString absolute(const QString& path) {
     return QFileInfo(path).absoluteFilePath();
 }
 
-/// What is open is drawn into a picture, as a reader of the manual will see it.
+/// Opens one of the module's dialogs, as its entry in the menu does. False for an unknown name.
+bool openDialog(MainWindow& window, const QString& name) {
+    constexpr int libraryTitle = 24060, sizeTitle = 24061;
+    if (name != "library" && name != "size") return false;
+    const auto all = starters();
+    const auto found = std::find_if(all.begin(), all.end(), [&](const Starter& each) {
+        return each.title == (name == "library" ? libraryTitle : sizeTitle);
+    });
+    QTimer::singleShot(0, &window, [&window, found] { start(*found, window.moduleData()); });
+    return true;
+}
+
+/// What is open is drawn into a picture, as a reader of the manual will see it: the dialog in
+/// front, else the window.
 void takeScreenshot(MainWindow& window, const QString& file) {
-    constexpr int untilPainted = 50;  // milliseconds
+    constexpr int untilPainted = 200;  // milliseconds
     QTimer::singleShot(untilPainted, &window, [&window, file] {
-        const bool isSaved = window.grab().save(file);
+        QWidget* dialog = QApplication::activeModalWidget();
+        const bool isSaved = (dialog ? dialog->grab() : window.grab()).save(file);
         if (!isSaved)
             std::fprintf(stderr, "vormant-workbench: %s: cannot be written\n", qPrintable(file));
         QApplication::exit(isSaved ? 0 : 1);
@@ -50,7 +66,8 @@ int main(int argc, char** argv) {
                                       "code");
     const QCommandLineOption screenshot("screenshot", "Draw the window into a picture and end",
                                         "file");
-    parser.addOptions({open, language, screenshot});
+    const QCommandLineOption dialog("dialog", "Dialog to open: library or size", "name");
+    parser.addOptions({open, language, dialog, screenshot});
     parser.addPositionalArgument("library", "Folder of the library to open", "[library]");
     parser.addPositionalArgument("files", "Standards, macros or sheets to open", "[file…]");
     parser.process(application);
@@ -72,6 +89,11 @@ int main(int argc, char** argv) {
         isLibrary ? absolute(files.takeFirst()).toStdString() : settings.library;
     if (!library.empty()) window.openLibrary(library);
     for (const QString& file : files + parser.values(open)) window.openFile(absolute(file));
+    if (parser.isSet(dialog) && !openDialog(window, parser.value(dialog))) {
+        std::fprintf(stderr, "vormant-workbench: --dialog %s: choose library or size\n",
+                     qPrintable(parser.value(dialog)));
+        return 2;
+    }
     if (parser.isSet(screenshot)) takeScreenshot(window, parser.value(screenshot));
     return QApplication::exec();
 }

@@ -5,6 +5,7 @@
 #include <set>
 
 #include "core_api/files.h"
+#include "core_api/sections/section_catalogue.h"
 #include "core_api/sections/section_tables.h"
 #include "core_api/text/text_helpers.h"
 #include "library/sample_library.h"
@@ -29,6 +30,21 @@ TEST_F(SectionTables, EverySizeIsFoundByItsTwoNames) {
             EXPECT_EQ(found, name);
         }
     }
+}
+
+TEST_F(SectionTables, TheCatalogueSortsAllOfThem) {
+    SectionCatalogue catalogue;
+    Vor_String message;
+    ASSERT_TRUE(readSectionCatalogue(catalogue, &message)) << message.view();
+    Vor_StringArray groups, sorted;
+    AcArray<long> ids;
+    catalogue.groups.namesOfAllGroups(groups, ids);
+    for (const SectionType& type : catalogue.types) {
+        EXPECT_TRUE(ids.contains(type.group)) << type.getName().view();
+        sorted.appendAll(splitStringAtSymbol(type.remark, ',', true));
+    }
+    for (const Vor_String& table : gSectionTables.tableNames())
+        EXPECT_TRUE(sorted.contains(table)) << table.view();
 }
 
 /// The value of a key in a look-up table of the library; NaN when it is not there.
