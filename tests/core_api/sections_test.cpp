@@ -92,6 +92,9 @@ TEST_F(SectionTables, RegisteredTablesOfFilesGoWithTheirLibrary) {
     gSectionTables.removeTable(index);
     ASSERT_EQ(gSectionTables.addSectionTable("IPE.pr", "1", header, rows), Acad::eOk);
     ASSERT_EQ(gSectionTables.addSectionTable("HOST.pr", "1", header, rows), Acad::eOk);
+    const Vor_StringArray names = gSectionTables.tableNames();
+    EXPECT_EQ(names.find("IPE"), index) << "where it was";
+    EXPECT_EQ(names.find("HOST"), names.length() - 1);
     const TemporaryFolder other;
     gSettings.setLibDir(other.inside());
     EXPECT_FALSE(gSectionTables.hasTable("IPE", index)) << "of another library";

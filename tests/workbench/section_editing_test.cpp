@@ -1,4 +1,5 @@
 // Editing the sections of the library from the page of a table, as a user does.
+#include <QComboBox>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
@@ -9,6 +10,7 @@
 #include "dialog_problems.h"
 #include "grid/grid_view.h"
 #include "platform/paths.h"
+#include "run/run_page.h"
 #include "sections/dialogs/library_dialog.h"
 #include "sections/dialogs/size_dialog.h"
 #include "sections/table_page.h"
@@ -70,6 +72,11 @@ class SectionEditing : public StartersTest {
 };
 
 TEST_F(SectionEditing, AddsASizeThatIsThereTheNextDay) {
+    RunPage* run = window->openStandard(gSettings.libDir() + "Connection Standards\\FinPlate.tws");
+    auto* sections = qobject_cast<QComboBox*>(run->editor("BeamSection"));
+    ASSERT_TRUE(sections);
+    const QString before = sections->currentText();
+    window->pages().setCurrentWidget(page);
     EXPECT_TRUE(page->select("HEA-220"));
     press(addSize, {[&](QWidget& dialog) {
               fill(dialog, SizeDialog::firstValueField, "215");
@@ -86,6 +93,8 @@ TEST_F(SectionEditing, AddsASizeThatIsThereTheNextDay) {
     EXPECT_EQ(getSectionValue("HEA-225", 1, width), Acad::eOk);
     EXPECT_EQ(width, "225");
     EXPECT_TRUE(ModuleData::sections("HEA").contains("HEA-225")) << "for those who choose one";
+    EXPECT_GE(sections->findText("HEA-225"), 0) << "on pages that were open";
+    EXPECT_EQ(sections->currentText(), before);
 
     window.reset();
     gSectionTables.reload();  // as a program that starts afresh
@@ -144,7 +153,6 @@ TEST_F(SectionEditing, TheMenuWorksOnTheSizeThatIsSelected) {
     });
     EXPECT_EQ(outcome, Outcome::changed);
     EXPECT_TRUE(gSectionTables.find("HEA-305"));
-    QTest::qWait(400);  // the page hears of it from the folder
     EXPECT_TRUE(sizes().contains("305"));
 }
 

@@ -29,7 +29,9 @@ Vor_String firstSection(std::string_view table) {
 }  // namespace
 
 Outcome sectionLibrary(ModuleData& data) {
-    return changedIf(editSectionLibrary(data.section()));
+    const bool isOk = editSectionLibrary(data.section());
+    data.noteSectionChange();  // tables are saved before the dialog is closed
+    return changedIf(isOk);
 }
 
 Outcome sectionSize(ModuleData& data) {
@@ -38,7 +40,9 @@ Outcome sectionSize(ModuleData& data) {
     int index = 0;
     if (!gSectionTables.hasTable(getSubstrBefore(section, "-"), index))
         section = firstSection(gSectionTables.table(0)->name());
-    return changedIf(addSectionSize(section).has_value());
+    const bool isAdded = addSectionSize(section).has_value();
+    if (isAdded) data.noteSectionChange();
+    return changedIf(isAdded);
 }
 
 // --- members ------------------------------------------------------------------------------------

@@ -54,8 +54,12 @@ Vor_PrPl ModuleData::member() {
 }
 
 Vor_String ModuleData::section() {
-    const Vor_String inFront = m_sectionInFront ? m_sectionInFront() : Vor_String();
+    const Vor_String inFront = m_sectionPages.inFront ? m_sectionPages.inFront() : Vor_String();
     return inFront.isEmpty() ? member().sectionName : inFront;
+}
+
+void ModuleData::noteSectionChange() const {
+    if (m_sectionPages.changed) m_sectionPages.changed();
 }
 
 Vor_StringArray ModuleData::sections(std::string_view table) {

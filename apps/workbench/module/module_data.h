@@ -52,9 +52,13 @@ class ModuleData {
     /// The full name of the section selected on the page in front; that of the member when the page
     /// shows no sections.
     Vor_String section();
-    void setSectionInFront(std::function<Vor_String()> section) {
-        m_sectionInFront = std::move(section);
-    }
+    /// What the pages have to do with sections.
+    struct SectionPages {
+        std::function<Vor_String()> inFront;  ///< empty when no section is selected there
+        std::function<void()> changed;        ///< sizes came, went or have other values
+    };
+    void setSectionPages(SectionPages pages) { m_sectionPages = std::move(pages); }
+    void noteSectionChange() const;
     /// The full names of a section table of the library; of the first one when there is none of
     /// that name.
     static Vor_StringArray sections(std::string_view table);
@@ -69,6 +73,6 @@ class ModuleData {
     runs::MacroRun* macroOf(const Vor_String& path);
 
     PageOf m_pageOf;
-    std::function<Vor_String()> m_sectionInFront;
+    SectionPages m_sectionPages;
     std::unique_ptr<runs::MacroRun> m_ofLibrary;
 };

@@ -175,6 +175,20 @@ void RunPage::take(const runs::DeclaredVariable& input, QWidget& editor, const Q
     update();
 }
 
+void RunPage::sectionsChanged() {
+    const QStringList names = sectionNames();
+    for (const auto& [input, editor] : m_editors) {
+        auto* box = qobject_cast<QComboBox*>(editor);
+        if (!box) continue;
+        const QSignalBlocker quiet(box);
+        const QString text = box->currentText();
+        box->clear();
+        box->addItems(names);
+        box->setCurrentText(text);
+    }
+    update();
+}
+
 void RunPage::update() {
     // The model shows lines of the calculation that the run replaces.
     const runs::Calculation before = m_session->takeCalculation();

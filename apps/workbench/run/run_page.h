@@ -28,6 +28,8 @@ class RunPage : public QWidget {
     /// written.
     bool exportReport(const QString& path, const QString& author);
     void setAuthor(QString author) { m_author = std::move(author); }
+    /// Sizes came, went or have other values: they are offered, and the standard runs again.
+    void sectionsChanged();
     void setSheetOpener(std::function<void(const Vor_String&)> opener) {
         m_sheetOpener = std::move(opener);
     }

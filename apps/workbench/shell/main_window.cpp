@@ -62,7 +62,8 @@ MainWindow::MainWindow(WorkbenchSettings settings)
     connect(m_pages, &QTabWidget::currentChanged, this, [this] { followPage(); });
     connect(m_pages, &QTabWidget::tabCloseRequested, this, [this](int index) { closePage(index); });
     setCentralWidget(m_pages);
-    m_moduleData.setSectionInFront([this] { return sectionInFront(); });
+    m_moduleData.setSectionPages(
+        {[this] { return sectionInFront(); }, [this] { sectionsChanged(); }});
     m_tree->setOpener([this](LibraryKind kind, const Vor_String& path) { open(kind, path); });
     makeDocks();
     makeMenus();

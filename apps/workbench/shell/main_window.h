@@ -76,6 +76,7 @@ class MainWindow : public QMainWindow {
     // main_window_sections.cpp
     void addSize(TablePage& page);
     void refreshSectionTables();
+    void sectionsChanged();
     Vor_String sectionInFront() const;
 
     // main_window_sheets.cpp

@@ -2,6 +2,7 @@
 #include "core_api/sections/section_tables.h"
 #include "core_api/text/text_helpers.h"
 #include "core_api/texts/texts.h"
+#include "run/run_page.h"
 #include "sections/section_editing.h"
 #include "sections/table_page.h"
 #include "shell/main_window.h"
@@ -30,7 +31,7 @@ QWidget* MainWindow::openSectionTable(const Vor_String& path) {
     auto* page = new TablePage(path, *table);
     page->setCommands({[this, page] {
                            editSectionLibrary(page->section());
-                           refreshSectionTables();
+                           sectionsChanged();
                        },
                        [this, page] { addSize(*page); }});
     showPage(page, toQt(name), key);
@@ -40,7 +41,7 @@ QWidget* MainWindow::openSectionTable(const Vor_String& path) {
 void MainWindow::addSize(TablePage& page) {
     const auto added = addSectionSize(page.section());
     if (!added) return;
-    refreshSectionTables();
+    sectionsChanged();
     page.select(*added);
 }
 
@@ -51,6 +52,12 @@ void MainWindow::refreshSectionTables() {
         const SectionTable* table = page ? tableNamed(page->tableName()) : nullptr;
         if (table) page->show(*table);
     }
+}
+
+void MainWindow::sectionsChanged() {
+    refreshSectionTables();
+    for (int i = 0; i < m_pages->count(); ++i)
+        if (auto* page = dynamic_cast<RunPage*>(m_pages->widget(i))) page->sectionsChanged();
 }
 
 Vor_String MainWindow::sectionInFront() const {

@@ -7,9 +7,10 @@
 void DlgEditLibData::GetAvailableFiles() {
     const Vor_String folder = gSettings.libDir() + "prof\\";
     tableNames.clear();
+    templateNames.clear();
+    if (gSettings.libDir().isEmpty()) return;
     for (const Vor_String& path : ObjectExportFindFiles(folder, "*.pr"))
         tableNames.append(removeExtension(getFileName(path)));
-    templateNames.clear();
     for (const Vor_String& path : ObjectExportFindFiles(folder, "*.dwg"))
         templateNames.append(getFileName(path));
 }

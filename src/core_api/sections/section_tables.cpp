@@ -1,8 +1,11 @@
 #include "core_api/sections/section_tables.h"
 
+#include <algorithm>
+
 #include "core_api/files.h"
 #include "core_api/settings.h"
 #include "core_api/text/text_helpers.h"
+#include "platform/encodings.h"
 #include "platform/host/host.h"
 
 Vor_SectionTableManager gSectionTables;
@@ -125,8 +128,14 @@ ErrorStatus Vor_SectionTableManager::addSectionTable(const Vor_String& fileName,
     entry->name = name;
     entry->table = std::make_unique<SectionTable>(name, drawnAs, header, rows);
     const Vor_String file = tablesFolder() + name + ".pr";
-    if (!m_library.isEmpty() && ObjectExportFileExists(file)) entry->path = file;
-    m_entries.push_back(std::move(entry));
+    auto place = m_entries.end();
+    if (!m_library.isEmpty() && ObjectExportFileExists(file)) {
+        entry->path = file;
+        place = std::find_if(m_entries.begin(), m_entries.end(), [&](const auto& each) {
+            return each->path.isEmpty() || encodings::compareFolded(each->name, name) > 0;
+        });
+    }
+    m_entries.insert(place, std::move(entry));
     tablesChanged();
     return Acad::eOk;
 }
