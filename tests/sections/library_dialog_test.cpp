@@ -9,6 +9,7 @@
 #include "frame/starters.h"
 #include "platform/window/text_question.h"
 #include "sections/section_types.h"
+#include "spread/find_replace_dlg.h"
 #include "support/failing_steps.h"
 #include "support/own_settings.h"
 #include "support/printed.h"
@@ -240,6 +241,21 @@ TEST_F(LibraryDialogTest, KeepsTextsAsTheyAreTypedAndPastesRows) {
     ASSERT_EQ(user.told().size(), 1u);
     EXPECT_THAT(user.told()[0].text, HasSubstr("more fields in a line"));
     EXPECT_THAT(file("HEA"), HasSubstr("\n050\t1\t"));
+}
+
+TEST_F(LibraryDialogTest, ReplacedTextsCanBeSavedAndUndone) {
+    user.whenTold("cells").presses(IDOK);
+    run({presses(Page::findButton), [](Page& page) {
+             CDialog& find = *page.sheet().findDialog();
+             find.type(TwFindReplaceDlg::findField, "HEA");
+             find.type(TwFindReplaceDlg::replaceField, "HE-A");
+             find.press(TwFindReplaceDlg::replaceAllButton);
+             EXPECT_EQ(cell(page, 3, 2), "HE-A 120");
+             EXPECT_TRUE(page.item(Page::saveButton)->isEnabled());
+             EXPECT_TRUE(page.press(Page::undoButton));
+             EXPECT_EQ(cell(page, 3, 2), "HEA 120");
+             EXPECT_FALSE(page.sheet().isChanged());
+         }});
 }
 
 TEST_F(LibraryDialogTest, AsksBeforeItReplacesAFileThatSomebodyElseChanged) {

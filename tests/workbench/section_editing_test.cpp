@@ -14,6 +14,7 @@
 #include "sections/dialogs/library_dialog.h"
 #include "sections/dialogs/size_dialog.h"
 #include "sections/table_page.h"
+#include "spread/find_replace_dlg.h"
 #include "starters_fixture.h"
 #include "window/dialog_font.h"
 
@@ -137,6 +138,23 @@ TEST_F(SectionEditing, EditsTheTableOfThePageInTheLibrary) {
     EXPECT_TRUE(sizes().contains("245"));
     EXPECT_FALSE(sizes().contains("240"));
     EXPECT_THAT(file(), HasSubstr("\n245\t1\t"));
+}
+
+TEST_F(SectionEditing, FindsInTheSheetWhileTheLibraryIsOpen) {
+    press(editLibrary, {[&](QWidget& dialog) {
+              auto& library = dynamic_cast<LibraryDialog&>(*dialogOf(dialog));
+              TableSheet& sheet = library.tablesPage()->sheet();
+              StartersTest::press(dialog, TablesPage::findButton);
+              QTest::qWait(50);
+              ASSERT_TRUE(sheet.findDialog());
+              QWidget& find = *system().widgetOf(*sheet.findDialog());
+              EXPECT_TRUE(find.isActiveWindow());
+              QTest::keyClicks(QApplication::focusWidget(), "HE 450 A");
+              QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+              EXPECT_EQ(sheet.grid().text(1, sheet.currentRow(), control::Reading::data), "450");
+              escape(find);
+              escape(dialog);
+          }});
 }
 
 TEST_F(SectionEditing, TheMenuWorksOnTheSizeThatIsSelected) {

@@ -86,8 +86,9 @@ Vor_String SizeNaming::nameOf(const Vor_StringArray& given) const {
 }
 
 SizeNaming findSizeNaming(const Vor_ProfValuesTable& table, int row) {
-    const int end = std::min(table.rows.length(), mostRows);
-    for (int at = std::max(row, 0); at < end; ++at) {
+    const int first = std::max(row, 0);
+    const int end = std::min(table.rows.length() - first, mostRows) + first;
+    for (int at = first; at < end; ++at) {
         const Vor_StringArray& cells = table.rows[at];
         if (cells.isEmpty() || cells[0].isEmpty()) continue;
         if (auto values = match(partsOf(cells[0]), cellsFrom(cells, table.firstValueColumn())))

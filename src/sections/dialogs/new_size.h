@@ -14,7 +14,7 @@ struct SizeNaming {
 };
 
 /// Taken from the first row, from `row` on, whose system name consists of values of its own, parted
-/// by "x". Rows beyond the first 9999 are not looked at.
+/// by "x". At most 9999 rows are looked at.
 SizeNaming findSizeNaming(const Vor_ProfValuesTable& table, int row);
 
 struct NewSize {

@@ -67,6 +67,11 @@ void TableSheet::followHistory() {
         setActiveCell(std::clamp(place.col1, 1, nrCols()), std::clamp(place.row1, 1, nrRows()));
 }
 
+void TableSheet::end() {
+    editor().end();
+    tellListener(GridNotice::What::changed, currentCol(), currentRow());
+}
+
 bool TableSheet::undo() {
     if (!editor().undo()) return false;
     followHistory();

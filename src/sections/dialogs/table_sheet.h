@@ -5,8 +5,10 @@
 #include "sections/vor_prof_values_table.h"
 #include "spread/editor/edited_spread.h"
 
-class TableSheet : public EditedSpread {
+class TableSheet : public EditedSpread, private CellChangeObserver {
   public:
+    TableSheet() { setChangeObserver(this); }
+
     /// Sheet columns count from 1.
     static constexpr int activeSheetColumn = Vor_ProfValuesTable::activeColumn + 1;
 
@@ -48,6 +50,11 @@ class TableSheet : public EditedSpread {
     bool userSizesRow(int row, int pixels) override;
 
   private:
+    // Replaced cells are steps as well, of which the listener hears.
+    void begin(int titleText) override { editor().begin(titleText); }
+    void beforeChange(int col, int row) override { editor().beforeChange(col, row); }
+    void end() override;
+
     void keepTexts();
     void prepareRows(int first, int last);
     void followHistory();
