@@ -419,6 +419,23 @@ TEST_F(LibraryDialogTest, ATypeWithFewerValuesAsksBeforeItDropsColumns) {
     EXPECT_THAT(file("HEA"), testing::StartsWith("18\n"));
 }
 
+TEST_F(LibraryDialogTest, ShowsThePictureOfTheType) {
+    gSettings.setVorDir(folder.inside());
+    const std::pair<const char*, int> pictures[] = {
+        {"ProfSectionI", 30}, {"Frame", 40}, {"Unknown", 50}};
+    for (const auto& [name, width] : pictures)
+        folder.write(std::string("icons/") + name + "-big.bmp", encodeBitmap(CBitmap(width, 20)));
+    folder.write("prof/Frame.dwg", "");
+    const auto shows = [](int width) {
+        return [width](Page& page) {
+            EXPECT_EQ(page.itemAs<CStatic>(Page::templatePicture)->bitmap().width(), width);
+        };
+    };
+    user.whenTold("Remove the surplus columns?").presses(IDNO);
+    run({shows(30), picks("RHS"), shows(50), picksTemplate("Frame.dwg"), shows(40),
+         presses(Page::undoButton), shows(50)});
+}
+
 TEST_F(LibraryDialogTest, SavingKeepsADrawnTemplateByItsName) {
     folder.write("prof/Frame.pr", std::string("Gone.dwg\n") + header + "\tA\nx\t1\t\t\t\t\t5\n");
     run({picks("Frame"), [](Page& page) { EXPECT_EQ(templateOf(page), "Gone.dwg"); },

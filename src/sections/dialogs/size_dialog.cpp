@@ -62,7 +62,6 @@ void SizeDialog::onInit() {
     const Vor_StringArray row = pattern();
     const int column = currentNameColumn();
     if (row.isIndex(column)) item(nameField)->setText(row[column]);
-    if (shownValues() > 0) item(firstValueField)->focus();
 }
 
 // --- the pattern --------------------------------------------------------------------------------
