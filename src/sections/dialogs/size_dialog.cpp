@@ -25,24 +25,24 @@ constexpr auto makeControls() {
         made[at++] = {Control::label, Dlg::firstValueLabel + i, {}, {7, top + 2, 118, 10}};
         made[at++] = {Control::edit, Dlg::firstValueField + i, {}, {130, top, 60, 13}};
     }
-    made[at++] = {Control::picture, Dlg::sectionPictureItem, {}, {202, 7, 170, 104}};
-    made[at++] = {Control::group, Dlg::nameFrame, dialText(wordSizeName), {202, 116, 170, 64}};
+    made[at++] = {Control::picture, Dlg::sectionPictureItem, {}, {200, 7, 184, 120}};
+    made[at++] = {Control::group, Dlg::nameFrame, dialText(wordSizeName), {200, 130, 184, 61}};
     made[at++] = {Control::radioButton,
                   Dlg::fromValues,
                   dialText(wordNameFromValues),
-                  {210, 129, 154, 10},
+                  {208, 142, 168, 10},
                   styleNewGroup};
-    made[at++] = {Control::radioButton, Dlg::ownName, dialText(wordOwnName), {210, 143, 154, 10}};
-    made[at++] = {Control::label, Dlg::nameLabel, {}, {210, 161, 40, 10}};
-    made[at++] = {Control::edit, Dlg::nameField, {}, {254, 159, 110, 13}};
-    made[at++] = {Control::label, Dlg::furtherLabel, {}, {7, 198, 225, 22}};
-    made[at++] = {Control::button, IDOK, dialText(wordOk), {246, 203, 60, 14}, styleDefault};
-    made[at++] = {Control::button, IDCANCEL, dialText(wordCancel), {312, 203, 60, 14}};
+    made[at++] = {Control::radioButton, Dlg::ownName, dialText(wordOwnName), {208, 156, 168, 10}};
+    made[at++] = {Control::label, Dlg::nameLabel, {}, {208, 173, 40, 10}};
+    made[at++] = {Control::edit, Dlg::nameField, {}, {252, 171, 124, 13}};
+    made[at++] = {Control::label, Dlg::furtherLabel, {}, {7, 198, 238, 22}};
+    made[at++] = {Control::button, IDOK, dialText(wordOk), {258, 203, 60, 14}, styleDefault};
+    made[at++] = {Control::button, IDCANCEL, dialText(wordCancel), {324, 203, 60, 14}};
     return made;
 }
 constexpr auto controls = makeControls();
 constexpr DialogResource resource{
-    Dlg::resourceNumber, dialText(wordNewSize), {0, 0, 379, 224}, controls};
+    Dlg::resourceNumber, dialText(wordNewSize), {0, 0, 391, 224}, controls};
 
 }  // namespace
 
