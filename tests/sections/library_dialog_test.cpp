@@ -452,6 +452,10 @@ TEST_F(LibraryDialogTest, RowNamesFollowTheTableAndColumnsItsType) {
          [](Page& page) {
              EXPECT_EQ(cell(page, Vor_Spread::headerIndex, 2), "HEA");
              EXPECT_EQ(cell(page, 7, Vor_Spread::headerIndex), "Height");
+             EXPECT_TRUE(page.press(Page::undoButton));
+             EXPECT_EQ(cell(page, Vor_Spread::headerIndex, 2), "other") << "one step";
+             EXPECT_EQ(cell(page, 7, Vor_Spread::headerIndex), "h");
+             EXPECT_TRUE(page.press(Page::redoButton));
          },
          presses(Page::saveButton)});
 }

@@ -9,7 +9,7 @@
 #include "sections/dialogs/catalogue_page.h"
 #include "sections/dialogs/tables_page.h"
 
-class VORMANT_API LibraryDialog : public CDialog {
+class LibraryDialog : public CDialog {
   public:
     static constexpr int resourceNumber = 8722;
     enum Item { pageTabs = 1001 };

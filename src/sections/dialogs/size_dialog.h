@@ -12,7 +12,7 @@ struct SectionSize {
     int row = 0;
 };
 
-class VORMANT_API SizeDialog : public CDialog {
+class SizeDialog : public CDialog {
   public:
     static constexpr int resourceNumber = 8723;
     static constexpr int mostValues = 11;

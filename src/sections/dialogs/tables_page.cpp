@@ -192,6 +192,7 @@ bool TablesPage::asksToDropColumns(const Vor_String& display) {
 }
 
 void TablesPage::nameRows() {
+    const editor::SheetEditor::OneStep step(m_sheet.editor(), wordRowNames);
     m_sheet.nameRows(tableName());
     applyTemplate(false);
     m_sheet.autoSize();
@@ -240,7 +241,8 @@ void TablesPage::onCommand(int id, int code) {
             did(id == undoButton ? m_sheet.undo() : m_sheet.redo());
             return selectTemplate(m_sheet.drawnAs());
         case copyButton:
-            return did(m_sheet.clipboardCopy());
+            m_sheet.clipboardCopy();
+            return;
         case pasteButton:
             return did(m_sheet.paste());
         case insertRowButton:
@@ -283,33 +285,36 @@ void TablesPage::showMenu() {
 /// Insert and Delete make and remove tables in the list, and with Ctrl rows in the sheet.
 bool TablesPage::preTranslateKey(const KeyMessage& key) {
     if (!key.isDown) return false;
+    enum class Where { anywhere, list, sheet };
+    using enum Where;
     struct Shortcut {
-        bool inSheet;
+        Where where;
         int key;
         bool ctrl, alt;
         int button;
     };
     constexpr Shortcut shortcuts[] = {
-        {false, keyInsert, false, false, newButton},
-        {false, keyDelete, false, false, deleteButton},
-        {false, keyF2, false, false, renameButton},
-        {true, keyInsert, false, false, insertRowButton},
-        {true, keyInsert, true, false, insertRowButton},
-        {true, keyDelete, true, false, deleteRowButton},
-        {true, keyUp, false, true, rowUpButton},
-        {true, keyDown, false, true, rowDownButton},
-        {true, 'Z', true, false, undoButton},
-        {true, 'Y', true, false, redoButton},
-        {true, 'C', true, false, copyButton},
-        {true, 'V', true, false, pasteButton},
-        {true, 'F', true, false, findButton},
-        {true, 'S', true, false, saveButton},
+        {list, keyInsert, false, false, newButton},
+        {list, keyDelete, false, false, deleteButton},
+        {list, keyF2, false, false, renameButton},
+        {sheet, keyInsert, false, false, insertRowButton},
+        {sheet, keyInsert, true, false, insertRowButton},
+        {sheet, keyDelete, true, false, deleteRowButton},
+        {sheet, keyUp, false, true, rowUpButton},
+        {sheet, keyDown, false, true, rowDownButton},
+        {sheet, 'Z', true, false, undoButton},
+        {sheet, 'Y', true, false, redoButton},
+        {sheet, 'C', true, false, copyButton},
+        {sheet, 'V', true, false, pasteButton},
+        {sheet, 'F', true, false, findButton},
+        {anywhere, 'S', true, false, saveButton},
     };
     const bool inSheet = m_sheet.hasFocus() && !m_sheet.grid().isEditing();
     const bool inList = item(tableList)->hasFocus();
     for (const Shortcut& each : shortcuts)
         if (each.key == key.key && each.ctrl == key.ctrl && each.alt == key.alt &&
-            (each.inSheet ? inSheet : inList))
+            (each.where == anywhere || (each.where == sheet && inSheet) ||
+             (each.where == list && inList)))
             return press(each.button);
     return false;
 }
