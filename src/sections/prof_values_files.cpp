@@ -1,5 +1,6 @@
 // Section values tables as files and in the registry.
 #include "core_api/files.h"
+#include "core_api/library_folder.h"
 #include "core_api/sections/section_tables.h"
 #include "core_api/settings.h"
 #include "core_api/text/text_helpers.h"
@@ -9,12 +10,6 @@ namespace {
 
 constexpr const char* extension = ".pr";
 constexpr int recordsBeforeSizes = 2;  // how sections are drawn, and the header
-
-bool hasLibrary(Vor_String* message) {
-    if (!gSettings.libDir().isEmpty()) return true;
-    if (message) *message = "no library folder is set; choose the library first";
-    return false;
-}
 
 Vor_StringArray withoutActiveFlag(Vor_StringArray cells) {
     if (cells.isIndex(Vor_ProfValuesTable::activeColumn))
@@ -30,7 +25,7 @@ Vor_String Vor_ProfValuesTable::filePath(const Vor_String& name) {
 }
 
 bool Vor_ProfValuesTable::readFromFile(const Vor_String& name, Vor_String* message) {
-    return hasLibrary(message) && readFromPath(filePath(name), message);
+    return hasLibraryFolder(message) && readFromPath(filePath(name), message);
 }
 
 bool Vor_ProfValuesTable::readFromPath(const Vor_String& path, Vor_String* message) {
@@ -46,7 +41,7 @@ bool Vor_ProfValuesTable::readFromPath(const Vor_String& path, Vor_String* messa
 }
 
 bool Vor_ProfValuesTable::writeToFile(const Vor_String& name, Vor_String* message) const {
-    if (!hasLibrary(message)) return false;
+    if (!hasLibraryFolder(message)) return false;
     const Vor_String path = filePath(name);
     return ObjectExportCreateDirectory(getPath(path), message) == Acad::eOk &&
            writeToPath(path, message);

@@ -1,6 +1,7 @@
 #include "core_api/dialog_data/dlg_edit_lib_data.h"
 
 #include "core_api/files.h"
+#include "core_api/library_folder.h"
 #include "core_api/settings.h"
 #include "core_api/text/text_helpers.h"
 
@@ -8,7 +9,7 @@ void DlgEditLibData::GetAvailableFiles() {
     const Vor_String folder = gSettings.libDir() + "prof\\";
     tableNames.clear();
     templateNames.clear();
-    if (gSettings.libDir().isEmpty()) return;
+    if (!hasLibraryFolder()) return;
     for (const Vor_String& path : ObjectExportFindFiles(folder, "*.pr"))
         tableNames.append(removeExtension(getFileName(path)));
     for (const Vor_String& path : ObjectExportFindFiles(folder, "*.dwg"))

@@ -2,6 +2,7 @@
 
 #include <charconv>
 
+#include "core_api/library_folder.h"
 #include "core_api/text/text_helpers.h"
 #include "core_api/texts/texts.h"
 
@@ -88,12 +89,6 @@ Vor_String pathOf(const char* file) {
     return gSettings.libDir() + "prof\\" + file;
 }
 
-bool hasLibrary(Vor_String& message) {
-    if (gSettings.libDir().isEmpty())
-        message = "no library folder is set; choose the library first";
-    return !gSettings.libDir().isEmpty();
-}
-
 template <class List>
 bool readList(const char* file, List& list, Vor_String& message,
               bool (*take)(const RecordRows&, std::string_view, List&, Vor_String&)) {
@@ -168,7 +163,7 @@ RecordRows typeRecords(const Vor_Array<SectionType>& types) {
 bool readSectionCatalogue(SectionCatalogue& catalogue, Vor_String* message) {
     Vor_String why;
     SectionCatalogue read;
-    const bool isRead = hasLibrary(why) &&
+    const bool isRead = hasLibraryFolder(&why) &&
                         readList(groupsFile, read.groups, why, readGroupRecords) &&
                         readList(typesFile, read.types, why, readTypeRecords);
     if (isRead) catalogue = std::move(read);
@@ -179,7 +174,7 @@ bool readSectionCatalogue(SectionCatalogue& catalogue, Vor_String* message) {
 bool writeSectionCatalogue(const SectionCatalogue& catalogue, Vor_String* message) {
     Vor_String why;
     const Vor_String folder = gSettings.libDir() + "prof\\";
-    const bool isWritten = hasLibrary(why) &&
+    const bool isWritten = hasLibraryFolder(&why) &&
                            ObjectExportCreateDirectory(folder, &why) == Acad::eOk &&
                            writeFile(pathOf(groupsFile), groupRecords(catalogue.groups), &why) &&
                            writeFile(pathOf(typesFile), typeRecords(catalogue.types), &why);

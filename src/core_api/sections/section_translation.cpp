@@ -1,6 +1,7 @@
 #include "core_api/sections/section_translation.h"
 
 #include "core_api/files.h"
+#include "core_api/library_folder.h"
 #include "core_api/settings.h"
 #include "core_api/text/text_helpers.h"
 
@@ -20,8 +21,8 @@ Vor_String pathOf(const Vor_String& file) {
     return isInLibrary(file) ? gSettings.libDir() + file : file;
 }
 
-bool hasFolder(const Vor_String& file) {
-    return !isInLibrary(file) || !gSettings.libDir().isEmpty();
+bool hasFolder(const Vor_String& file, Vor_String* message = nullptr) {
+    return !isInLibrary(file) || hasLibraryFolder(message);
 }
 
 /// The wanted member of the first pair whose `key` is `name`.
@@ -70,10 +71,7 @@ ErrorStatus readSectionTranslation(const Vor_String& file, SectionTranslation& t
 ErrorStatus writeSectionTranslation(const Vor_String& file, const Vor_String& sectionTitle,
                                     const Vor_String& otherTitle,
                                     const SectionTranslation& translation, Vor_String* message) {
-    if (!hasFolder(file)) {
-        if (message) *message = "no library folder is set; choose the library first";
-        return Acad::eInvalidInput;
-    }
+    if (!hasFolder(file, message)) return Acad::eInvalidInput;
     RecordRows records{{sectionTitle, otherTitle}};
     for (const Pair& pair : translation.pairs)
         if (isWhole(pair)) records.append({pair.section, pair.otherName});
