@@ -4,8 +4,6 @@
 #include <cstdlib>
 #include <string>
 
-#include "platform/files.h"
-
 namespace {
 
 constexpr int mostPixels = 32767;
@@ -33,13 +31,10 @@ std::optional<PictureSize> checked(int64_t width, int64_t height) {
 
 }  // namespace
 
-std::optional<PictureSize> pictureSize(std::string_view path) {
-    std::string error;
-    const std::optional<std::string> bytes = files::readWhole(path, error);
-    if (!bytes) return std::nullopt;
-    if (bytes->starts_with("BM") && bytes->size() >= 26)
-        return checked(littleEndian(*bytes, 18), littleEndian(*bytes, 22));
-    if (bytes->starts_with("\x89PNG\r\n\x1A\n") && bytes->size() >= 24)
-        return checked(bigEndian(*bytes, 16), bigEndian(*bytes, 20));
+std::optional<PictureSize> pictureSizeOf(std::string_view bytes) {
+    if (bytes.starts_with("BM") && bytes.size() >= 26)
+        return checked(littleEndian(bytes, 18), littleEndian(bytes, 22));
+    if (bytes.starts_with("\x89PNG\r\n\x1A\n") && bytes.size() >= 24)
+        return checked(bigEndian(bytes, 16), bigEndian(bytes, 20));
     return std::nullopt;
 }

@@ -9,5 +9,5 @@ struct PictureSize {
     int height = 0;  ///< pixels
 };
 
-/// The size of a bitmap (.bmp) or PNG file by its header. Nothing for other files.
-std::optional<PictureSize> pictureSize(std::string_view path);
+/// The size of a bitmap (.bmp) or PNG file by the header in its bytes. Nothing for other files.
+std::optional<PictureSize> pictureSizeOf(std::string_view bytes);

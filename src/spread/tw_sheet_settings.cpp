@@ -67,10 +67,21 @@ struct Writer {
     }
 };
 
-Vor_String settingsPath(const Vor_String& name) {
+Vor_String settingsFolder() {
     Vor_String folder = gSettings.vorDir();
     folder.replaceSubString("/", "\\");
-    return ensureEndBSlash(folder) + name + ".twd";
+    return ensureEndBSlash(folder);
+}
+
+Vor_String settingsPath(const Vor_String& name) {
+    return settingsFolder() + name + ".twd";
+}
+
+/// A header or footer may lie beside the settings file that names it, so that both can be moved.
+void lookBesideSettings(Vor_String& reference) {
+    const Vor_String beside = settingsFolder() + reference;
+    if (reference.isEmpty() || files::exists(reference) || !files::exists(beside)) return;
+    reference = beside;
 }
 
 }  // namespace
@@ -94,6 +105,8 @@ bool TwSheetSettings::readFromFile(const Vor_String& name) {
     TwPropList list;
     list.read(*text);
     fromList(list);
+    lookBesideSettings(headerFile);
+    lookBesideSettings(footerFile);
     return true;
 }
 

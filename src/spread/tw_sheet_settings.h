@@ -28,8 +28,9 @@ class VORMANT_API TwSheetSettings {
     Vor_StringArray varNames;
     Vor_StringArray varValues;
 
-    /// Starts from the defaults, then reads `name`.twd in the add-on's folder. False when there is
-    /// no such file: the defaults stay, marked as loaded.
+    /// Starts from the defaults, then reads `name`.twd in the add-on's folder; header and footer
+    /// files may be named by what they are called beside it. False when there is no such file: the
+    /// defaults stay, marked as loaded.
     bool readFromFile(const Vor_String& name);
     /// Starts from the defaults, then reads the sheet's corner tag.
     bool readFromSheet(const Vor_Spread& sheet);

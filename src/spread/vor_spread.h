@@ -108,7 +108,7 @@ class VORMANT_API Vor_Spread : public TSpread {
     bool setComboCell(const control::Block& block, const Vor_StringArray& items, bool editable);
     bool setButtonCell(const control::Block& block, const Vor_String& text);
     /// Fails when the file does not exist. The row becomes as high as the picture, which spans to
-    /// the last column.
+    /// the last column. The sheet keeps a bitmap or PNG itself: the file may go afterwards.
     bool setPictureCell(int col, int row, const Vor_String& file);
     bool setIconCell(int col, int row, int resourceId, bool isIcon);
     bool setCheckBoxColumn(int col, bool border, bool spanHeader);

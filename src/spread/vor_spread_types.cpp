@@ -1,6 +1,7 @@
 // What cells are: texts, numbers, check boxes, pictures; and which of them are locked.
 #include "core_api/text/text_helpers.h"
 #include "platform/files.h"
+#include "platform/window/bitmap.h"
 #include "spread/picture_size.h"
 #include "spread/vor_spread.h"
 
@@ -14,6 +15,16 @@ constexpr int uncheckedPicture = 8136;
 constexpr int frameStyle = 6;
 constexpr int frameSides = control::borderRight;
 constexpr int pictureNeighbourSides = control::borderOutline | control::borderRight;
+constexpr size_t largestKeptPicture = size_t{16} << 20;  // bytes
+
+/// A bitmap file in as few bytes as it takes; other files as they are.
+std::string packed(std::string bytes) {
+    std::string error;
+    const std::optional<CBitmap> bitmap = decodeBitmap(bytes, error);
+    if (!bitmap) return bytes;
+    std::string smaller = packBitmap(*bitmap);
+    return smaller.size() < bytes.size() ? smaller : bytes;
+}
 
 CellType numberCell(int decimals, unsigned style) {
     return control::numberType(decimals, style, -Vor_Spread::largestNumber,
@@ -68,11 +79,17 @@ bool Vor_Spread::setButtonCell(const Block& block, const Vor_String& text) {
 
 bool Vor_Spread::setPictureCell(int col, int row, const Vor_String& file) {
     if (!isAttached() || !grid().isInside(col, row) || !files::exists(file)) return false;
-    if (const auto size = pictureSize(file)) setRowHeightInPixels(row, size->height);
+    std::string error, shown = file.str();
+    if (auto bytes = files::readWhole(file, error, largestKeptPicture)) {
+        if (const auto size = pictureSizeOf(*bytes)) {
+            setRowHeightInPixels(row, size->height);
+            shown = grid().keepPicture(packed(std::move(*bytes)));
+        }
+    }
     addCellSpan({col, row, nrCols() - col + 1, 1});
     if (col > 1) setBorder({col - 1, row, col - 1, row}, pictureNeighbourSides, frameStyle);
     CellType type;
-    SSSetTypePicture(handle(), type, file.c_str(), 0);
+    SSSetTypePicture(handle(), type, shown.c_str(), 0);
     return setCellType({col, row, col, row}, type);
 }
 

@@ -354,4 +354,37 @@ TEST(DocumentStore, AFailedLoadOrSaveLeavesTheOldContents) {
     EXPECT_EQ(writeDocument(grid), before);
 }
 
+TEST(Document, CarriesThePicturesThatItsCellsShow) {
+    Grid grid;
+    grid.setCols(2);
+    grid.setRows(2);
+    const std::string bytes("BM\0\xFF any bytes", 14);
+    const std::string name = grid.keepPicture(bytes);
+    EXPECT_EQ(grid.keepPicture(bytes), name) << "equal pictures are kept once";
+    const std::string unused = grid.keepPicture("shown by no cell");
+    control::CellType type;
+    type.kind = control::CellKind::picture;
+    type.text = name;
+    grid.setType(1, 1, type);
+    const std::string text = control::writeDocument(grid);
+    std::string error;
+    const auto document = control::readDocument(text, "a", error);
+    ASSERT_TRUE(document) << error;
+    Grid read;
+    read.restore(document);
+    ASSERT_NE(read.keptPicture(read.look(1, 1).type.text), nullptr);
+    EXPECT_EQ(*read.keptPicture(name), bytes);
+    EXPECT_EQ(read.keptPicture(unused), nullptr);
+    EXPECT_EQ(control::writeDocument(read), text);
+
+    const auto with = [](const std::string& line) {
+        return "vormant-sheet 1\nsize 1 1\n" + line + "\ncells\nend 0\n";
+    };
+    for (const char* bad : {"picture", "picture a.bmp QUJD", "picture #1 QUJ", "picture #1 Q!==",
+                            "picture #1 QUJD\npicture #1 QUJD", "picture #G QUJD"}) {
+        EXPECT_FALSE(control::readDocument(with(bad), "a", error)) << bad;
+        EXPECT_THAT(error, HasSubstr("picture")) << bad;
+    }
+}
+
 }  // namespace

@@ -253,6 +253,25 @@ TEST(Bitmaps, PalettesAndRowOrderAreRead) {
     EXPECT_EQ(picture->at(1, 0), 0x0000FFu);
 }
 
+TEST(Bitmaps, PackedOnesReadBackTheSameAndAreSmaller) {
+    for (const int colours : {1, 2, 3, 16, 17, 256, 257}) {
+        CBitmap bitmap(37, 29);
+        for (int y = 0; y < bitmap.height(); ++y)
+            for (int x = 0; x < bitmap.width(); ++x)
+                bitmap.set(x, y, static_cast<CBitmap::Pixel>((y * 37 + x) % colours * 65537));
+        std::string error;
+        const std::string packed = packBitmap(bitmap);
+        EXPECT_EQ(decodeBitmap(packed, error), bitmap) << colours << ' ' << error;
+        const size_t whole = encodeBitmap(bitmap).size();
+        if (colours <= 16) {
+            EXPECT_LT(packed.size(), whole / 3) << colours;
+        }
+        if (colours > 256) {
+            EXPECT_EQ(packed.size(), whole);
+        }
+    }
+}
+
 TEST(Bitmaps, DamagedFilesAreRefusedWithTheReason) {
     const std::string good = encodeBitmap(CBitmap(4, 4));
     const auto changed = [&](size_t at, std::string_view bytes) {

@@ -256,4 +256,15 @@ TEST_F(SheetSettings, SavingTakesHeadersAndFootersAlong) {
     EXPECT_FALSE(saveSheet(sheet, folder.inside("nowhere\\a.sss")));
 }
 
+TEST_F(SheetSettings, NameHeadersThatLieBesideTheirFile) {
+    TwSheetSettings settings;
+    settings.headerFile = "Head.sss";
+    settings.footerFile = "Gone.sss";
+    folder.write("addon/Bill.twd", settings.toList().write().view());
+    folder.write("addon/Head.sss", "");
+    ASSERT_TRUE(settings.readFromFile("Bill"));
+    EXPECT_EQ(settings.headerFile.str(), folder.inside("addon\\Head.sss"));
+    EXPECT_EQ(settings.footerFile.str(), "Gone.sss");
+}
+
 }  // namespace

@@ -305,9 +305,12 @@ void CellPainter::drawButton(const Drawing& d) const {
 
 void CellPainter::drawPicture(const Drawing& d) const {
     const QRect room = d.rect.adjusted(0, 0, -1, -1);
-    const bool isDrawn = d.look.type.kind == CellKind::picture
-                             ? m_pictures.drawFile(d.painter, room, d.look.type.text)
-                             : m_pictures.drawNumber(d.painter, room, d.look.type.picture);
+    const std::string& name = d.look.type.text;
+    const std::string* kept = m_grid.keptPicture(name);
+    const bool isDrawn = d.look.type.kind != CellKind::picture
+                             ? m_pictures.drawNumber(d.painter, room, d.look.type.picture)
+                         : kept ? m_pictures.drawKept(d.painter, room, name, *kept)
+                                : m_pictures.drawFile(d.painter, room, name);
     if (isDrawn) return;
     // A crossed box tells that a picture is missing.
     const QRect box = room.adjusted(3, 3, -3, -3);

@@ -8,15 +8,21 @@
 
 namespace {
 
+constexpr size_t mostKept = 500;  // decoded at a time; a long bill has thousands
+
+QPixmap decoded(const std::string& bytes) {
+    std::string error;
+    if (const std::optional<CBitmap> bitmap = decodeBitmap(bytes, error)) return pixmapOf(*bitmap);
+    QPixmap picture;
+    picture.loadFromData(reinterpret_cast<const uchar*>(bytes.data()),
+                         static_cast<uint>(bytes.size()));
+    return picture;
+}
+
 QPixmap readPicture(const std::string& path) {
     std::string error;
     const std::optional<std::string> bytes = files::readWhole(path, error);
-    if (!bytes) return {};
-    if (const std::optional<CBitmap> bitmap = decodeBitmap(*bytes, error)) return pixmapOf(*bitmap);
-    QPixmap picture;
-    picture.loadFromData(reinterpret_cast<const uchar*>(bytes->data()),
-                         static_cast<uint>(bytes->size()));
-    return picture;
+    return bytes ? decoded(*bytes) : QPixmap();
 }
 
 /// As large as it is, smaller when the room is.
@@ -46,7 +52,20 @@ const CellPictures::Numbered& CellPictures::numbered(int number) {
 }
 
 bool CellPictures::drawFile(QPainter& painter, const QRect& room, const std::string& path) {
-    const QPixmap& picture = file(path);
+    return draw(painter, room, file(path));
+}
+
+bool CellPictures::drawKept(QPainter& painter, const QRect& room, const std::string& name,
+                            const std::string& bytes) {
+    auto found = m_kept.find(name);
+    if (found == m_kept.end()) {
+        if (m_kept.size() >= mostKept) m_kept.clear();
+        found = m_kept.emplace(name, decoded(bytes)).first;
+    }
+    return draw(painter, room, found->second);
+}
+
+bool CellPictures::draw(QPainter& painter, const QRect& room, const QPixmap& picture) {
     if (picture.isNull()) return false;
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
     painter.drawPixmap(QRect(room.topLeft(), fitted(picture.size(), room)), picture);

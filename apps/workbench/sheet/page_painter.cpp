@@ -69,9 +69,14 @@ class PagePainter {
         m_painter.restore();
     }
     void drawPicture(const PrintedCell& cell, const QRectF& place) {
-        const QImage image(machinePath(cell.picture));
+        const QImage image = cell.keptPicture
+                                 ? QImage::fromData(QByteArray::fromStdString(*cell.keptPicture))
+                                 : QImage(machinePath(cell.picture));
         if (image.isNull()) return;
-        const QSizeF size = QSizeF(image.size()).scaled(place.size(), Qt::KeepAspectRatio);
+        // As large as on the screen, unless its cell has less room.
+        QSizeF size = QSizeF(image.size()) * cell.pixel * m_dots;
+        if (size.width() > place.width() || size.height() > place.height())
+            size.scale(place.size(), Qt::KeepAspectRatio);
         m_painter.drawImage(QRectF(place.topLeft(), size), image);
     }
 

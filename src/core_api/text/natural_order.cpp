@@ -1,4 +1,5 @@
-// The order in which people expect names to stand: "IPE 80" before "IPE 100".
+#include "core_api/text/natural_order.h"
+
 #include <algorithm>
 
 #include "core_api/text/text_helpers.h"
@@ -19,6 +20,8 @@ std::string_view takeDigits(std::string_view& text) {
     return digits;
 }
 
+}  // namespace
+
 // Digit runs compare as numbers of any length, so without converting them.
 int compareNatural(std::string_view a, std::string_view b) {
     while (!a.empty() && !b.empty()) {
@@ -36,8 +39,6 @@ int compareNatural(std::string_view a, std::string_view b) {
     }
     return static_cast<int>(b.empty()) - static_cast<int>(a.empty());
 }
-
-}  // namespace
 
 int ObjectExportAddToSorted(Vor_StringArray& sorted, const Vor_String& text) {
     const auto at = std::upper_bound(

@@ -42,6 +42,10 @@ struct Header {
     size_t stride = 0;
 };
 
+size_t strideOf(int width, int bits) {
+    return (static_cast<size_t>(width) * static_cast<size_t>(bits) + 31) / 32 * 4;
+}
+
 /// What is wrong, or empty.
 std::string readHeader(const Bytes& bytes, Header& header) {
     if (bytes.size() < fileHeader + infoHeader || bytes.at(0, 2) != 0x4D42)
@@ -70,8 +74,7 @@ std::string readHeader(const Bytes& bytes, Header& header) {
         const size_t most = size_t{1} << header.bits;
         if (header.colours == 0 || header.colours > most) header.colours = most;
     }
-    header.stride =
-        (static_cast<size_t>(header.width) * static_cast<size_t>(header.bits) + 31) / 32 * 4;
+    header.stride = strideOf(header.width, header.bits);
     if (infoSize < infoHeader || header.palette + header.colours * 4 > bytes.size() ||
         header.pixels > bytes.size() ||
         header.stride * static_cast<size_t>(header.height) > bytes.size() - header.pixels)
@@ -93,6 +96,45 @@ CBitmap::Pixel pixelAt(const Bytes& bytes, const Header& header, size_t line, in
 
 void append(std::string& text, uint32_t number, int count) {
     for (int i = 0; i < count; ++i) text += static_cast<char>(number >> (8 * i) & 0xFF);
+}
+
+constexpr size_t mostColours = 256;  // of a file with a palette
+
+/// Sorted; one more than mostColours when there are too many.
+std::vector<CBitmap::Pixel> coloursOf(const CBitmap& bitmap) {
+    std::vector<CBitmap::Pixel> colours;
+    for (int y = 0; y < bitmap.height(); ++y) {
+        for (int x = 0; x < bitmap.width(); ++x) {
+            const CBitmap::Pixel pixel = bitmap.at(x, y);
+            if (x > 0 && pixel == bitmap.at(x - 1, y)) continue;
+            const auto at = std::lower_bound(colours.begin(), colours.end(), pixel);
+            if (at == colours.end() || *at != pixel) colours.insert(at, pixel);
+            if (colours.size() > mostColours) return colours;
+        }
+    }
+    return colours;
+}
+
+/// All up to the palette.
+std::string fileStart(const CBitmap& bitmap, int bits, size_t colours) {
+    const size_t size = strideOf(bitmap.width(), bits) * static_cast<size_t>(bitmap.height());
+    const auto headers = static_cast<uint32_t>(fileHeader + infoHeader + 4 * colours);
+    std::string text = "BM";
+    append(text, headers + static_cast<uint32_t>(size), 4);
+    append(text, 0, 4);
+    append(text, headers, 4);
+    append(text, infoHeader, 4);
+    append(text, static_cast<uint32_t>(bitmap.width()), 4);
+    append(text, static_cast<uint32_t>(bitmap.height()), 4);
+    append(text, 1, 2);  // planes
+    append(text, static_cast<uint32_t>(bits), 2);
+    append(text, 0, 4);  // not compressed
+    append(text, static_cast<uint32_t>(size), 4);
+    append(text, 0, 4);  // resolution: none
+    append(text, 0, 4);
+    append(text, static_cast<uint32_t>(colours), 4);
+    append(text, 0, 4);
+    return text;
 }
 
 constexpr int boxSide = 13;
@@ -129,23 +171,31 @@ std::optional<CBitmap> decodeBitmap(std::string_view text, std::string& error) {
 }
 
 std::string encodeBitmap(const CBitmap& bitmap) {
-    const size_t stride = (static_cast<size_t>(bitmap.width()) * 3 + 3) / 4 * 4;
-    const auto size = static_cast<uint32_t>(stride * static_cast<size_t>(bitmap.height()));
-    std::string text = "BM";
-    append(text, fileHeader + infoHeader + size, 4);
-    append(text, 0, 4);
-    append(text, fileHeader + infoHeader, 4);
-    append(text, infoHeader, 4);
-    append(text, static_cast<uint32_t>(bitmap.width()), 4);
-    append(text, static_cast<uint32_t>(bitmap.height()), 4);
-    append(text, 1, 2);   // planes
-    append(text, 24, 2);  // bits a pixel
-    append(text, 0, 4);   // not compressed
-    append(text, size, 4);
-    for (int i = 0; i < 4; ++i) append(text, 0, 4);  // resolution and palette: none
+    std::string text = fileStart(bitmap, 24, 0);
+    const size_t stride = strideOf(bitmap.width(), 24);
     for (int y = bitmap.height() - 1; y >= 0; --y) {
         for (int x = 0; x < bitmap.width(); ++x) append(text, bitmap.at(x, y), 3);
         text.append(stride - static_cast<size_t>(bitmap.width()) * 3, '\0');
+    }
+    return text;
+}
+
+std::string packBitmap(const CBitmap& bitmap) {
+    const std::vector<CBitmap::Pixel> colours = coloursOf(bitmap);
+    if (colours.size() > mostColours) return encodeBitmap(bitmap);
+    const int bits = colours.size() <= 2 ? 1 : colours.size() <= 16 ? 4 : 8;
+    std::string text = fileStart(bitmap, bits, colours.size());
+    for (const CBitmap::Pixel colour : colours) append(text, colour, 4);
+    const size_t stride = strideOf(bitmap.width(), bits);
+    for (int y = bitmap.height() - 1; y >= 0; --y) {
+        std::string line(stride, '\0');
+        for (int x = 0; x < bitmap.width(); ++x) {
+            const auto found = std::lower_bound(colours.begin(), colours.end(), bitmap.at(x, y));
+            const size_t bit = static_cast<size_t>(x) * static_cast<size_t>(bits);
+            const auto shift = 8 - static_cast<size_t>(bits) - bit % 8;
+            line[bit / 8] |= static_cast<char>((found - colours.begin()) << shift);
+        }
+        text += line;
     }
     return text;
 }

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "platform/base64.h"
 #include "spread/control/document_looks.h"
 #include "spread/control/document_text.h"
 
@@ -55,6 +56,7 @@ const DocumentReader::LineKind DocumentReader::lineKinds[] = {
     {"span", &DocumentReader::readSpan},
     {"tag", &DocumentReader::readTag},
     {"note", &DocumentReader::readNote},
+    {"picture", &DocumentReader::readPicture},
 };
 
 std::shared_ptr<Document> DocumentReader::read() {
@@ -186,6 +188,16 @@ bool DocumentReader::readLookLine(std::string_view rest) {
     if (m_looks[index] != inheritedLook) return failHere("this look is given twice");
     m_looks[index] = m_document->m_looks.intern(*look);
     return true;
+}
+
+bool DocumentReader::readPicture(std::string_view rest) {
+    const std::string_view name = takeWord(rest);
+    if (!isPictureName(name)) return false;
+    std::optional<std::string> bytes = fromBase64(rest);
+    if (!bytes) return failHere("the bytes of the picture are no base64");
+    KeptPicture picture{std::make_shared<const std::string>(std::move(*bytes))};
+    const bool isNew = m_sides->pictures.emplace(name, std::move(picture)).second;
+    return isNew || failHere("this picture is given twice");
 }
 
 std::optional<int> DocumentReader::takeCol(std::string_view& rest) {

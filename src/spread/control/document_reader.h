@@ -51,6 +51,7 @@ class DocumentReader {
     bool readSpan(std::string_view rest);
     bool readTag(std::string_view rest);
     bool readNote(std::string_view rest);
+    bool readPicture(std::string_view rest);
 
     bool readCells();
     bool readCell(std::string_view line);

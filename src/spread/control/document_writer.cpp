@@ -1,7 +1,9 @@
 // From a grid to its document's text.
 #include <array>
+#include <set>
 #include <vector>
 
+#include "platform/base64.h"
 #include "platform/files.h"
 #include "spread/control/document.h"
 #include "spread/control/document_looks.h"
@@ -20,6 +22,7 @@ class DocumentWriter {
         m_out << "vormant-sheet 1\nsize " << m_grid.cols() << ' ' << m_grid.rows() << '\n';
         writeOptions();
         writeLooks();
+        writePictures();
         writeBand(m_sides.cols, "col", "header");
         writeBand(m_sides.rows, "row", "rowheader");
         writeSpansAndTexts();
@@ -94,6 +97,19 @@ class DocumentWriter {
             writeLook(m_out, m_grid.looks()[static_cast<LookIndex>(look)]);
             m_out << '\n';
         }
+    }
+
+    // Those that a cell shows.
+    void writePictures() {
+        if (m_sides.pictures.empty()) return;
+        std::set<std::string_view> used;
+        for (size_t look = 0; look < m_numbers.size(); ++look) {
+            const CellType& type = m_grid.looks()[static_cast<LookIndex>(look)].type;
+            if (m_numbers[look] != 0 && type.kind == CellKind::picture) used.insert(type.text);
+        }
+        for (const auto& [name, picture] : m_sides.pictures)
+            if (used.contains(name))
+                m_out << "picture " << name << ' ' << toBase64(*picture.bytes) << '\n';
     }
 
     void writeName(bool isCol, int index) {

@@ -195,6 +195,18 @@ class Grid {
     /// `sides` of BorderSide round or in the block; style 0 removes.
     bool setBorder(const Block& block, int sides, int style, Colour colour);
 
+    // --- pictures ---------------------------------------------------------------------------
+    /// Keeps the bytes of a picture file in the sheet and its documents. The name that picture
+    /// cells show it by.
+    std::string keepPicture(std::string bytes) {
+        return control::keepPicture(changeSides().pictures, std::move(bytes));
+    }
+    /// The bytes; null for what is not kept here, a file's path say.
+    const std::string* keptPicture(std::string_view name) const {
+        const auto found = m_sides->pictures.find(name);
+        return found == m_sides->pictures.end() ? nullptr : found->second.bytes.get();
+    }
+
     // --- sizes, spans, options --------------------------------------------------------------
     /// Pixels. The header index addresses the header column or row.
     int colWidth(int col) const;

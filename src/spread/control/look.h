@@ -18,7 +18,7 @@ enum class CellKind : uint8_t {
     edit = 1,           ///< keeps what is written as text
     staticText = 5,     ///< text that a user cannot change
     button = 7,         ///< shows its own text
-    picture = 8,        ///< shows the picture file `text`
+    picture = 8,        ///< shows the picture `text`: a file, or one that the sheet keeps
     pictureHandle = 9,  ///< shows the module's picture resource `picture`
     checkBox = 10,      ///< "1" or "0"
     wholeNumber = 12,   ///< code reported for a number cell without decimals

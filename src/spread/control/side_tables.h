@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "spread/control/cells.h"
+#include "spread/control/kept_pictures.h"
 #include "spread/control/look.h"
 #include "spread/control/span_table.h"
 
@@ -48,6 +49,7 @@ struct SideTables {
     CellTexts tags;
     CellTexts notes;
     std::string cornerText;
+    KeptPictures pictures;
     bool columnHeaders = true;  ///< shown
     bool rowHeaders = true;
     int referenceStyle = 0;  ///< 0 and 1: A1; 2: R1C1

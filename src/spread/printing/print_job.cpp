@@ -73,7 +73,8 @@ class CellPlacer {
                          m_grid.look(col, row),
                          m_pixel,
                          true,
-                         {}};
+                         {},
+                         nullptr};
         if (!cell.text.empty()) return cell;
         if (row != headerIndex)
             cell.text = std::to_string(row);
@@ -122,7 +123,8 @@ class CellPlacer {
                          alignedLook(col, row),
                          m_pixel,
                          false,
-                         {}});
+                         {},
+                         nullptr});
     }
 
     const Grid& m_grid;
@@ -206,7 +208,8 @@ std::vector<PrintedCell> PrintJob::bandCells(const Band& band, double top, int p
     CellPlacer(band.grid, band.page, m_layout.body.left, top, pixel, 0, 0).placeCells(cells);
     for (PrintedCell& cell : cells) {
         cell.text = withVariables(cell.text, page);
-        finish(cell);
+        finish(cell, band.grid);
+        if (cell.keptPicture) continue;
         // The picture may have been copied along with the file that shows it.
         const std::string beside = (band.folder + getFileName(cell.picture)).str();
         if (!cell.picture.empty() && !files::exists(cell.picture)) cell.picture = beside;
@@ -214,9 +217,10 @@ std::vector<PrintedCell> PrintJob::bandCells(const Band& band, double top, int p
     return cells;
 }
 
-void PrintJob::finish(PrintedCell& cell) const {
+void PrintJob::finish(PrintedCell& cell, const Grid& grid) const {
     if (cell.look.type.kind == CellKind::picture) {
         cell.picture = cell.look.type.text;
+        cell.keptPicture = grid.keptPicture(cell.picture);
         cell.text.clear();
     }
     if (m_settings.colors) return;
@@ -233,7 +237,7 @@ PrintedPage PrintJob::page(int index) const {
                             m_settings.colHeader ? m_grid.rowHeight(headerIndex) : 0);
     placer.placeHeadings(printed.body);
     placer.placeCells(printed.body);
-    for (PrintedCell& cell : printed.body) finish(cell);
+    for (PrintedCell& cell : printed.body) finish(cell, m_grid);
     if (m_settings.border) printed.frame = placer.frame();
     if (m_header) printed.header = bandCells(*m_header, m_settings.marginTop, index);
     if (m_footer) printed.footer = bandCells(*m_footer, m_layout.body.bottom(), index);

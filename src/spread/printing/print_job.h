@@ -21,7 +21,10 @@ struct PrintedCell {
     control::Look look;                  ///< without colours when the settings print none
     double pixel = millimetresPerPixel;  ///< millimetres that a pixel of the look's font takes
     bool isHeading = false;              ///< of a row or column of the sheet
-    std::string picture;                 ///< path of a picture cell's file
+    std::string picture;                 ///< what a picture cell shows: a file's path or a name
+    /// The bytes of the picture, borrowed from its sheet; null when it has to be read from its
+    /// file.
+    const std::string* keptPicture = nullptr;
 };
 
 struct PrintedPage {
@@ -51,7 +54,7 @@ class VORMANT_API PrintJob {
     std::unique_ptr<Band> loadBand(const Vor_String& file);
     std::vector<PrintedCell> bandCells(const Band& band, double top, int page) const;
     std::string withVariables(std::string_view text, int page) const;
-    void finish(PrintedCell& cell) const;
+    void finish(PrintedCell& cell, const control::Grid& grid) const;
 
     const control::Grid& m_grid;
     TwSheetSettings m_settings;

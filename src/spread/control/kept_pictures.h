@@ -1,0 +1,28 @@
+// Pictures that a sheet carries along: picture cells name them as they would name a file, and show
+// them without any file. Equal ones are kept once.
+#pragma once
+
+#include <map>
+#include <memory>
+#include <string>
+#include <string_view>
+
+namespace control {
+
+/// The bytes of a picture file, shared between copies of the sheet.
+struct KeptPicture {
+    std::shared_ptr<const std::string> bytes;
+    bool operator==(const KeptPicture& other) const { return *bytes == *other.bytes; }
+};
+
+/// By their names, which no file has.
+using KeptPictures = std::map<std::string, KeptPicture, std::less<>>;
+
+/// "#" and a number made from the bytes, so that equal pictures have equal names in all sheets.
+std::string pictureName(std::string_view bytes);
+bool isPictureName(std::string_view text);
+
+/// The name under which the picture is in `pictures` afterwards.
+std::string keepPicture(KeptPictures& pictures, std::string bytes);
+
+}  // namespace control
