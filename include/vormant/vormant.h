@@ -1,6 +1,7 @@
 // The whole module.
 #pragma once
 
+#include <vormant/bill.h>
 #include <vormant/core.h>
 #include <vormant/frame.h>
 #include <vormant/macros.h>

@@ -7,6 +7,7 @@
 
 #include "core_api/drawing/section_outline.h"
 #include "core_api/sections/section_tables.h"
+#include "core_api/steel.h"
 #include "core_api/text/text_helpers.h"
 #include "sections/section_types.h"
 

@@ -9,8 +9,6 @@
 
 #include "platform/export.h"
 
-inline constexpr double steelDensity = 7850;  // kg/m3, EN 1991-1-1 table A.4
-
 /// In mm2, from the values in the order of the type's value columns (mm, degrees, percent); more
 /// of them are left out. Nothing when a value is missing or the values give no shape (a wall
 /// thicker than its tube), or when those of the type do not say how its parts lie: 16, 18 to 20,

@@ -30,6 +30,7 @@ extern const std::span<const TextRow> startersTexts;
 extern const std::span<const TextRow> sheetWindowTexts;
 extern const std::span<const TextRow> drawingTexts;
 extern const std::span<const TextRow> desktopTexts;
+extern const std::span<const TextRow> billTexts;
 
 /// One a line, so that tables can be added side by side.
 inline auto allTables() {
@@ -49,7 +50,8 @@ inline auto allTables() {
         sheetWindowTexts,  //
         drawingTexts,      //
         desktopTexts,      //
-        startersTexts,
+        startersTexts,     //
+        billTexts,
     };
 }
 

@@ -1,0 +1,13 @@
+// Numbers of the words that stand in bills.
+#pragma once
+
+namespace texts {
+
+enum BillText {
+    billPosition = 25100,  ///< the headings of the other fields follow in the fields' order
+    billPlate = 25111,     ///< the kinds of pieces follow in their order
+    billSubtotal = 25114,
+    billTotal = 25115,
+};
+
+}  // namespace texts

@@ -1,0 +1,295 @@
+// The bill in its sheet: growing and trimming, kinds of cells, subtotals, variables, saving.
+#include "bill/tw_ss_bill_output.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <filesystem>
+
+#include "bill/bill_title.h"
+#include "core_api/bill/bill_pictures.h"
+#include "core_api/bill/feed_bill.h"
+#include "core_api/settings.h"
+#include "platform/files.h"
+#include "platform/host/host.h"
+#include "platform/window/bitmap.h"
+#include "platform/window/window_system.h"
+#include "spread/tw_sheet_settings.h"
+#include "support/printed.h"
+#include "support/temporary_folder.h"
+
+namespace {
+
+using control::Reading;
+using testing::HasSubstr;
+
+class BillOutput : public testing::Test {
+  protected:
+    BillOutput() {
+        ::setenv("XDG_CONFIG_HOME", folder.path().c_str(), 1);
+        m_before = gSettings;
+        gSettings.setVorDir(folder.inside());
+    }
+    ~BillOutput() override {
+        gSettings = m_before;
+        ::unsetenv("XDG_CONFIG_HOME");
+    }
+    void start(const Vor_StringArray& columns, const AcArray<int>& kinds,
+               const char* name = "Frame 12.sss") {
+        path = folder.inside(name);
+        ASSERT_EQ(output.init(path, columns, {}, kinds, "Bill", {"Client"}, {"Smith"}), Acad::eOk);
+        ASSERT_EQ(output.onStartFeed(), Acad::eOk);
+    }
+    std::string cell(int col, int row, Reading reading = Reading::value) {
+        return output.sheet()->grid().text(col, row, reading);
+    }
+    const control::Look& look(int col, int row) { return output.sheet()->grid().look(col, row); }
+
+    TemporaryFolder folder;
+    Vor_String path;
+    TwSSBillOutput output;
+
+  private:
+    Vor_Settings m_before;
+};
+
+TEST_F(BillOutput, SheetsGrowByAHundredRowsAndAreTrimmedToTheLastOne) {
+    start({"Pos", "Name"}, {1, 3});
+    std::vector<std::pair<int, int>> growth;
+    for (int row = 1; row <= 250; ++row) {
+        const int before = output.sheet()->nrRows();
+        output.onAddRow({std::to_string(row), "Plate"});
+        if (const int rows = output.sheet()->nrRows(); rows != before)
+            growth.emplace_back(row, rows);
+    }
+    EXPECT_THAT(growth,
+                testing::ElementsAre(std::pair(12, 112), std::pair(113, 213), std::pair(214, 314)));
+    EXPECT_EQ(output.onEndFeed(), Acad::eOk);
+    EXPECT_EQ(output.sheet()->nrRows(), 250);
+    EXPECT_EQ(cell(1, 250), "250");
+    EXPECT_TRUE(output.wasSaved());
+}
+
+TEST_F(BillOutput, KindsSayWhatCellsHold) {
+    start({"Pos", "Mass", "Name", "As it is"}, {1, 2, 3, 0});
+    output.onAddRow({"7", "12.345", "007", "1.50", "beyond"});
+    output.onAddRow({"no number", "", "x", ""});
+    EXPECT_EQ(output.sheet()->nrCols(), 5) << "a longer row widens the sheet";
+    EXPECT_EQ(cell(1, 1, Reading::data), "7");
+    EXPECT_EQ(cell(2, 1, Reading::data), "12.3");
+    EXPECT_EQ(cell(3, 1), "007");
+    EXPECT_EQ(cell(4, 1), "1.50");
+    EXPECT_EQ(cell(5, 1), "beyond");
+    EXPECT_EQ(cell(1, 2), "");
+    EXPECT_EQ(look(1, 1).type.decimals, 0);
+    EXPECT_EQ(look(2, 1).type.decimals, 1);
+    EXPECT_EQ(look(2, 1).type.most, 99999999999999.0);
+    EXPECT_EQ(look(3, 1).type.maxLength, 200);
+    EXPECT_EQ(look(5, 1).type, control::editType(100)) << "no kind, so the sheet's own";
+}
+
+TEST_F(BillOutput, SubtotalsAreFramedAndColouredWhereTheySaySomething) {
+    start({"Name", "Count", "Mass"}, {3, 1, 2});
+    for (int row = 1; row <= 10; ++row) output.onAddRow({"Plate", "1", "2.5"});
+    output.onAddSubTotals({"Subtotal", "", "25"}, {}, false, 10);
+    output.onAddRow({"Bolt", "1", "0.2"});  // the sheet grows behind the subtotal
+    for (const int col : {1, 3}) {
+        EXPECT_EQ(look(col, 11).background, control::rgb(164, 208, 255)) << col;
+        EXPECT_EQ(look(col, 11).borderSides, 15) << col;
+        EXPECT_EQ(look(col, 11).borderStyle, 1) << col;
+    }
+    for (const auto& [col, row] : {std::pair{2, 11}, {1, 10}, {1, 12}, {3, 12}, {3, 40}}) {
+        EXPECT_EQ(look(col, row).background, control::automatic) << col << ' ' << row;
+        EXPECT_EQ(look(col, row).borderSides, 0) << col << ' ' << row;
+    }
+}
+
+TEST_F(BillOutput, VariablesStandBeforeTheCallersAndTheSheetIsSavedWithThem) {
+    start({"Name"}, {3});
+    output.onAddRow({"A plate with a name that is wider than its column"});
+    output.onEndFeed();
+    Vor_Spread loaded;
+    loaded.attachHidden();
+    ASSERT_TRUE(loaded.loadFromFile(path)) << loaded.lastError();
+    TwSheetSettings settings;
+    settings.readFromSheet(loaded);
+    EXPECT_EQ(settings.varNames, (Vor_StringArray{"Date", "Title", "BillFilename", "Client"}));
+    ASSERT_EQ(settings.varValues.length(), 4);
+    EXPECT_EQ(settings.varValues[1].str(), "Frame 12");
+    EXPECT_EQ(settings.varValues[2], path);
+    EXPECT_EQ(settings.varValues[3].str(), "Smith");
+    const std::string date = settings.varValues[0].str();
+    EXPECT_THAT(date, testing::MatchesRegex(
+                          "[0-9][0-9] [A-Z][a-z]+, 20[0-9][0-9] .[0-9][0-9]:[0-9][0-9]."));
+    EXPECT_EQ(loaded.colWidthInPixels(1), loaded.grid().fitWidth(1));
+    EXPECT_GT(loaded.colWidthInPixels(1), 200);
+    EXPECT_EQ(loaded.grid().look(1, Vor_Spread::headerIndex).type.kind,
+              control::CellKind::staticText);
+    EXPECT_EQ(loaded.grid().sides().gridType, 7);
+}
+
+TEST_F(BillOutput, FontsComeFromTheSettingsFile) {
+    TwSheetSettings settings;
+    settings.defaultFont = "Courier";
+    settings.defaultTextHeight = 20;
+    std::string error;
+    ASSERT_TRUE(settings.writeToFile("Bill", error)) << error;
+    start({"Name"}, {3});
+    output.onAddRow({"x"});
+    EXPECT_EQ(look(1, 1).font.name, "Courier");
+    EXPECT_EQ(look(1, Vor_Spread::headerIndex).font.weight, 700);
+    EXPECT_EQ(output.sheet()->fontHeight(), 20);
+    EXPECT_GT(output.sheet()->rowHeightInPixels(1), 20);
+}
+
+TEST_F(BillOutput, AnotherBillInTheSameWindowStartsEmpty) {
+    start({"Name", "Count"}, {3, 1});
+    for (int row = 0; row < 20; ++row) output.onAddRow({"Old", "1"});
+    output.onEndFeed();
+    TwSSBillOutput copy = output;
+    ASSERT_EQ(copy.init(folder.inside("Next.sss"), {"Only"}, {}, {3}, {}, {}, {}), Acad::eOk);
+    EXPECT_EQ(copy.sheet(), output.sheet()) << "a copy writes into the same window";
+    copy.onAddRow({"New"});
+    copy.onEndFeed();
+    EXPECT_EQ(copy.sheet()->nrRows(), 1);
+    EXPECT_EQ(copy.sheet()->nrCols(), 1);
+    EXPECT_EQ(cell(1, 1), "New");
+}
+
+TEST_F(BillOutput, WithoutAWindowRowsAreDroppedAndTheEndSaysSo) {
+    output.onStartFeed();
+    output.onAddRow({"lost"});
+    output.onAddSubTotals({"lost"}, {}, true, 1);
+    EXPECT_EQ(output.onEndFeed(), Acad::eInvalidInput);
+}
+
+TEST_F(BillOutput, AFileThatCannotBeWrittenIsToldOf) {
+    Printed printed;
+    const HostScope scope(printed);
+    start({"Name"}, {3}, "no such folder\\Bill.sss");
+    output.onAddRow({"x"});
+    EXPECT_EQ(output.onEndFeed(), Acad::eOk);
+    EXPECT_FALSE(output.wasSaved());
+    EXPECT_THAT(printed.text, HasSubstr("Bill.sss"));
+}
+
+// --- pictures -----------------------------------------------------------------------------------
+
+Vor_Bill pictureBill() {
+    Vor_Bill bill;
+    bill.columns = {{"Name"}, {"Section"}, {"Length"}};
+    Vor_BillPart plate;
+    plate.name = "Plate";
+    plate.section = "PL 10";
+    plate.length = 200;
+    plate.width = 100;
+    plate.thickness = 10;
+    bill.rows.push_back({{"Plate", "PL 10", "200"}, plate});
+    bill.rows.push_back({{"Unknown", "", ""}, std::nullopt});
+    plate.width = 0;
+    bill.rows.push_back({{"Incomplete", "PL 10", "200"}, plate});
+    return bill;
+}
+
+int temporaryBillFolders() {
+    int count = 0;
+    for (const auto& entry : std::filesystem::directory_iterator("/tmp"))
+        count += entry.path().filename().string().starts_with("vormant-bill-");
+    return count;
+}
+
+TEST_F(BillOutput, PicturesStandBelowTheirRowsAndGoWithTheSheet) {
+    const int before = temporaryBillFolders();
+    Vor_Bill bill = pictureBill();
+    AcTransaction transaction;
+    path = folder.inside("Pictures.sss");
+    output.init(path, bill.columnNames(), {}, {3, 3, 1}, {}, {}, {});
+    output.setVars(-1, 90, 0, true, true, &bill, &transaction);
+    ASSERT_EQ(feedBill(bill, output), BillFeed::done);
+    EXPECT_EQ(temporaryBillFolders(), before) << "the files of the pictures are gone";
+    const control::Grid& grid = output.sheet()->grid();
+    ASSERT_EQ(grid.rows(), 4) << "one picture, below the row of the plate";
+    EXPECT_EQ(grid.rowHeight(2), 90);
+    EXPECT_EQ(look(2, 2).type.kind, control::CellKind::picture);
+    ASSERT_NE(grid.spanAt(3, 2), nullptr);
+    EXPECT_EQ(*grid.spanAt(3, 2), (control::Span{2, 2, 2, 1}));
+    EXPECT_EQ(look(1, 2).type.picture, 251);
+    EXPECT_EQ(look(1, 2).borderStyle, 6);
+    EXPECT_EQ(cell(1, 3), "Unknown");
+    EXPECT_EQ(cell(1, 4), "Incomplete");
+
+    Vor_Spread loaded;
+    loaded.attachHidden();
+    ASSERT_TRUE(loaded.loadFromFile(path)) << loaded.lastError();
+    const std::string* kept = loaded.grid().keptPicture(loaded.grid().look(2, 2).type.text);
+    ASSERT_NE(kept, nullptr);
+    std::string error;
+    const auto picture = decodeBitmap(*kept, error);
+    ASSERT_TRUE(picture) << error;
+    EXPECT_EQ(picture->height(), 90);
+}
+
+TEST_F(BillOutput, ASubtotalOrPictureBeforeNewRowsDoesNotShowInThem) {
+    Vor_Bill bill = pictureBill();
+    bill.rows.resize(1);
+    bill.rows.resize(6, bill.rows.front());
+    AcTransaction transaction;
+    output.init(folder.inside("Grown.sss"), bill.columnNames(), {}, {}, {}, {}, {});
+    output.setVars(-1, 0, 0, true, true, &bill, &transaction);
+    ASSERT_EQ(feedBill(bill, output), BillFeed::done);
+    ASSERT_EQ(output.sheet()->nrRows(), 12) << "the sheet grew for the last picture";
+    EXPECT_EQ(look(2, 11).type, control::editType(100)) << "columns without a kind";
+    EXPECT_EQ(look(2, 12).type.kind, control::CellKind::picture);
+}
+
+TEST_F(BillOutput, ImagesAreMadeOfKnownPiecesInsideATransactionAlone) {
+    Vor_Bill bill = pictureBill();
+    AcTransaction open, over;
+    over.commit();
+    const Vor_String file = folder.inside("image.bmp");
+    const auto made = [&](int row, int height, const Vor_Bill* of, AcTransaction* transaction) {
+        int width = 0;
+        bool withSizes = true, withName = false;
+        const bool isOk = createImage(row, height, width, withSizes, withName, of, transaction,
+                                      file) == Acad::eOk;
+        EXPECT_EQ(isOk, files::exists(file));
+        std::string error;
+        files::removeFile(file, error);
+        return isOk;
+    };
+    EXPECT_FALSE(made(0, 0, &bill, &open)) << "nothing is ready for pictures";
+    EXPECT_TRUE(nextPictureFile().isEmpty());
+    ASSERT_EQ(initBMPDialog(220), Acad::eOk);
+    EXPECT_TRUE(made(0, 200, &bill, &open));
+    EXPECT_FALSE(made(0, 221, &bill, &open)) << "higher than was said";
+    EXPECT_FALSE(made(1, 0, &bill, &open)) << "no piece is known";
+    EXPECT_FALSE(made(2, 0, &bill, &open)) << "a plate without a width";
+    EXPECT_FALSE(made(3, 0, &bill, &open)) << "no such row";
+    EXPECT_FALSE(made(-1, 0, &bill, &open)) << "no row is being fed";
+    EXPECT_FALSE(made(0, 0, &bill, &over));
+    EXPECT_FALSE(made(0, 0, &bill, nullptr));
+    EXPECT_FALSE(made(0, 0, nullptr, &open));
+    bill.currentRow = 0;
+    EXPECT_TRUE(made(-1, 0, &bill, &open));
+    closeBMPDialog();
+    EXPECT_FALSE(made(0, 0, &bill, &open));
+}
+
+TEST(BillTitle, IsTheFilesNameBehindItsMark) {
+    const std::pair<const char*, const char*> cases[] = {
+        {"C:\\Bills\\Frame 12.sss", "Frame 12"},
+        {"A\xBF"
+         "B.tws",
+         "B"},
+        {"x\\1\xBF"
+         "2\xBF"
+         "C.D.sss",
+         "C.D"},
+        {"A\xBF.sss", ""},
+        {"Plain", "Plain"},
+        {"dir\xBF\\Name.sss", "Name"},
+    };
+    for (const auto& [file, title] : cases) EXPECT_EQ(billTitle(file).str(), title) << file;
+}
+
+}  // namespace
