@@ -5,6 +5,7 @@
 #include <cstdio>
 #include <iostream>
 
+#include "bill/bill_command.h"
 #include "io/suggestion.h"
 #include "mapping/mapping_commands.h"
 #include "sheets/sheet_commands.h"
@@ -28,6 +29,7 @@ struct Calls {
     ShowMappingRequest showMapping;
     SetMappingRequest setMapping;
     ObjectsRequest objects;
+    BillRequest bill;
     std::function<ExitCode()> work;
 };
 
@@ -190,6 +192,37 @@ void addMappingCommands(CLI::App& mapping, Calls& calls) {
     onLibraryCall(objects, calls, [&calls] { return listObjects(calls.objects); });
 }
 
+void addBillCommand(CLI::App& app, Calls& calls) {
+    constexpr int lowest = 20, highest = 1000;
+    BillRequest& request = calls.bill;
+    auto& bill = *app.add_subcommand("bill", "Make a bill of materials of macros or of a table");
+    bill.add_option("FROM", request.sources,
+                    "Macros, by file or by name in the library, as often as they are counted; or "
+                    "one .csv file")
+        ->required()
+        ->check(refusedWhenEmpty);
+    bill.add_option("-o,--output", request.output,
+                    "The file to write: .sss, .tws, .xlsx, .csv or .pdf; without it the rows are "
+                    "printed as CSV")
+        ->type_name("FILE")
+        ->check(refusedWhenEmpty);
+    bill.add_option("--columns", request.columns, "The columns to show, in order")
+        ->type_name("NAME,…");
+    bill.add_option("--group", request.group,
+                    "none, kind, section or material; or a column of the table")
+        ->type_name("NAME");
+    bill.add_flag("--pictures", request.pictures, "Put a picture of each piece below its row");
+    bill.add_option("--picture-height", request.pictureHeight, "Pixels")
+        ->type_name("PIXELS")
+        ->check(CLI::Range(lowest, highest));
+    bill.add_option("--title", request.title, "What page headers call the bill")->type_name("TEXT");
+    bill.add_option("--settings", request.settings,
+                    "A settings file: NAME.twd in the library, or a path")
+        ->type_name("NAME");
+    bill.add_flag("--json", request.json, "Print one JSON object that sums the bill up");
+    onLibraryCall(bill, calls, [&calls] { return makeBill(calls.bill); });
+}
+
 /// The subcommand that the call got as far as.
 const CLI::App& commandMeant(const CLI::App& app) {
     const auto chosen = app.get_subcommands();
@@ -250,6 +283,7 @@ ExitCode runCommandLine(int argc, const char* const* argv) {
         *app.add_subcommand("mapping", "Tie the variables of a standard to objects of macros");
     mapping.require_subcommand(1);
     addMappingCommands(mapping, calls);
+    addBillCommand(app, calls);
 
     try {
         app.parse(argc, argv);

@@ -41,7 +41,9 @@ std::string cellName(control::CellAddress address) {
     return getAlfabet(address.col).str() + std::to_string(address.row);
 }
 
-std::optional<std::string> sheetAsCsv(const control::Grid& grid, std::string& error) {
+std::optional<std::string> sheetAsCsv(const control::Grid& sheet, std::string& error) {
+    const auto withHeader = withHeaderRow(sheet);
+    const control::Grid& grid = withHeader ? *withHeader : sheet;
     constexpr long long maxFields = 100'000'000;
     const auto [cols, rows] = usedArea(grid);
     if (static_cast<long long>(cols) * rows > maxFields) {

@@ -1,6 +1,7 @@
 // Sheets as the bytes of other programs' files.
 #pragma once
 
+#include <memory>
 #include <optional>
 #include <string>
 
@@ -15,11 +16,15 @@ struct UsedArea {
 };
 UsedArea usedArea(const control::Grid& grid);
 
-/// CSV of the used area, formulas as "=…". Nothing, with the reason, when there would be far more
-/// commas than cells.
+/// Other programs have no header of a column's own words: a copy of the grid that has them in a
+/// first row, to which formulas and all else moved down. Null when the columns have their letters.
+std::unique_ptr<control::Grid> withHeaderRow(const control::Grid& grid);
+
+/// CSV of the used area, the words of column headers first, formulas as "=…". Nothing, with the
+/// reason, when there would be far more commas than cells.
 std::optional<std::string> sheetAsCsv(const control::Grid& grid, std::string& error);
-/// The bytes of a workbook with formulas, their results and the looks of cells. Nothing, with the
-/// reason.
+/// The bytes of a workbook with the words of column headers, formulas, their results, pictures and
+/// the looks of cells. Nothing, with the reason.
 std::optional<std::string> sheetAsXlsx(const control::Grid& grid, std::string& error);
 
 /// "B7".

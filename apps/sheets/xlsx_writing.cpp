@@ -12,6 +12,8 @@
 #include <unordered_map>
 
 #include "platform/encodings.h"
+#include "platform/files.h"
+#include "platform/window/bitmap.h"
 #include "sheets/sheet_writing.h"
 
 namespace sheets {
@@ -113,6 +115,12 @@ class Workbook {
         if (m_book) workbook_close(m_book);
     }
 
+    void keepFirstRowInSight() {
+        if (!m_page) return;
+        worksheet_freeze_panes(m_page, 1, 0);
+        worksheet_repeat_rows(m_page, 0, 0);
+    }
+
     bool write(std::string& error) {
         if (!m_page) {
             error = "there is not enough memory for a workbook";
@@ -129,6 +137,7 @@ class Workbook {
         m_grid.sheet().cells().each(
             all, [&](int row, int col, const control::Cell& cell) { writeCell(col, row, cell); });
         writeNotes();
+        writePictures();
         note(workbook_close(std::exchange(m_book, nullptr)), {});
         error = m_error;
         return m_error.empty();
@@ -213,6 +222,35 @@ class Workbook {
         }
     }
 
+    void writePictures() {
+        const auto [cols, rows] = usedArea(m_grid);
+        const formula::Area all{1, std::max(rows, 1), 1, static_cast<uint16_t>(std::max(cols, 1))};
+        m_grid.sheet().cells().each(all, [&](int row, int col, const control::Cell&) {
+            const control::Look& look = m_grid.look(col, row);
+            if (look.type.kind == control::CellKind::picture)
+                writePicture(col, row, look.type.text);
+        });
+    }
+
+    // Other programs show bitmaps of 24 bits a pixel for sure; a picture that cannot be read is
+    // left out, as it is on the screen.
+    void writePicture(int col, int row, const std::string& name) {
+        std::string error;
+        std::optional<std::string> file;
+        const std::string* kept = m_grid.keptPicture(name);
+        if (!kept) file = files::readWhole(name, error);
+        if (!kept && !file) return;
+        std::string bytes = kept ? *kept : std::move(*file);
+        if (const auto bitmap = decodeBitmap(bytes, error)) bytes = encodeBitmap(*bitmap);
+        lxw_image_options options{};
+        options.object_position = LXW_OBJECT_MOVE_DONT_SIZE;
+        const lxw_error result = worksheet_insert_image_buffer_opt(
+            m_page, rowOf(row), colOf(col), reinterpret_cast<const unsigned char*>(bytes.data()),
+            bytes.size(), &options);
+        if (result != LXW_ERROR_IMAGE_DIMENSIONS)
+            note(result, "the picture in " + cellName({col, row}));
+    }
+
     void writeCell(int col, int row, const control::Cell& cell) {
         lxw_format* format = formatOf(m_grid.lookIndex(col, row));
         const auto text = m_grid.sheet().formula(col, row);
@@ -293,13 +331,17 @@ class MemoryFile {
 
 }  // namespace
 
-std::optional<std::string> sheetAsXlsx(const control::Grid& grid, std::string& error) {
+std::optional<std::string> sheetAsXlsx(const control::Grid& sheet, std::string& error) {
     const MemoryFile file;
+    const auto withHeader = withHeaderRow(sheet);
+    const control::Grid& grid = withHeader ? *withHeader : sheet;
     if (!file.exists()) {
         error = "there is not enough memory for a workbook";
         return std::nullopt;
     }
-    if (!Workbook(grid, file.path()).write(error)) return std::nullopt;
+    Workbook workbook(grid, file.path());
+    if (withHeader) workbook.keepFirstRowInSight();
+    if (!workbook.write(error)) return std::nullopt;
     std::ifstream stream(file.path(), std::ios::binary);
     std::string bytes(std::istreambuf_iterator<char>(stream), {});
     if (!bytes.empty()) return bytes;

@@ -1,14 +1,19 @@
 // vormant-workbench [LIBRARY] [FILE…] [--open NAME]… [--dialog NAME] [--screenshot FILE]
+// vormant-workbench --print DOCUMENT PDF
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QFileInfo>
 #include <QTimer>
 #include <algorithm>
 #include <cstdio>
+#include <cstring>
 
 #include "platform/paths.h"
+#include "sheet/sheet_file.h"
+#include "sheet/sheet_printing.h"
 #include "shell/main_window.h"
 #include "shell/starters_menu.h"
+#include "window/dialog_font.h"
 
 namespace {
 
@@ -47,9 +52,38 @@ void takeScreenshot(MainWindow& window, const QString& file) {
     });
 }
 
+constexpr const char* printOption = "--print";
+
+/// Writes the pages of a document into a PDF file, without a screen.
+int printDocument(int argc, char** argv) {
+    if (argc != 4) {
+        std::fprintf(stderr, "vormant-workbench: %s needs a document and a PDF file\n",
+                     printOption);
+        return 2;
+    }
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication application(argc, argv);
+    QtWindowSystem windows;
+    const auto path = paths::toInside(argv[2]);
+    SheetFile file;
+    std::string failure = "the name of the document cannot be used";
+    QString error;
+    if (path && file.open(*path, failure)) {
+        const QString problems = printProblems(file.spread());
+        if (!problems.isEmpty())
+            std::fprintf(stderr, "vormant-workbench: %s\n", qPrintable(problems));
+        if (writeSheetPdf(file.spread(), QString::fromLocal8Bit(argv[3]), error)) return 0;
+    } else {
+        error = toQt(failure);
+    }
+    std::fprintf(stderr, "vormant-workbench: %s\n", qPrintable(error));
+    return 1;
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
+    if (argc > 1 && std::strcmp(argv[1], printOption) == 0) return printDocument(argc, argv);
     WorkbenchSettings settings = WorkbenchSettings::load();
     applyScale(settings);
     QApplication application(argc, argv);

@@ -25,7 +25,7 @@ _vormant() {
     for ((i = 1; i < COMP_CWORD; i++)); do
         case ${COMP_WORDS[i]} in
             --library) ((i++)) ;;
-            standards | sheet | mapping) command=${COMP_WORDS[i]} ;;
+            standards | sheet | mapping | bill) [[ $command ]] || command=${COMP_WORDS[i]} ;;
             list | check | test | run | batch | show | eval | convert | set | objects)
                 [[ $command == *" "* ]] || command+=" ${COMP_WORDS[i]}" ;;
         esac
@@ -34,11 +34,14 @@ _vormant() {
     local options="--help --library"
     case $before in
         --library) mapfile -t COMPREPLY < <(compgen -d -- "$word"); return ;;
-        --macro | --input) mapfile -t COMPREPLY < <(compgen -f -- "$word"); return ;;
-        --set | --gen | --key | --cell) return ;;
+        --macro | --input | -o | --output | --settings) mapfile -t COMPREPLY < <(compgen -f -- "$word"); return ;;
+        --set | --gen | --key | --cell | --columns | --title | --picture-height) return ;;
+        --group)
+            mapfile -t COMPREPLY < <(compgen -W "none kind section material" -- "$word")
+            return ;;
     esac
     case $command in
-        "") options+=" --version standards sheet mapping" ;;
+        "") options+=" --version standards sheet mapping bill" ;;
         standards) options+=" list check test run batch" ;;
         sheet) options+=" show eval convert" ;;
         mapping) options+=" show set objects" ;;
@@ -48,8 +51,14 @@ _vormant() {
         "sheet show") options+=" --formulas" ;;
         "sheet eval") options+=" --cell --jsonl --input" ;;
         "mapping show") options+=" --key --macro --json" ;;
+        bill)
+            options+=" --output --columns --group --pictures --picture-height --title --settings --json" ;;
         "mapping set") options+=" --key --macro --attach" ;;
     esac
+    if [[ $command == bill && $word != -* ]]; then
+        _vormant_from_lines "$word" < <(compgen -f -- "$word")
+        return
+    fi
     if [[ $word == -* || $command != *" "* ]]; then
         mapfile -t COMPREPLY < <(compgen -W "$options" -- "$word")
         return

@@ -35,6 +35,10 @@ class JsonWriter {
         separate();
         m_text += std::to_string(number);
     }
+    void number(double number) {
+        separate();
+        appendNumber(m_text, number);
+    }
     void truth(bool truth) {
         separate();
         m_text += truth ? "true" : "false";

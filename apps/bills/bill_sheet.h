@@ -1,0 +1,50 @@
+// A bill written into a sheet, and that sheet into the file that was asked for.
+#pragma once
+
+#include <string>
+
+#include "bill/tw_ss_bill_output.h"
+#include "core_api/bill/feed_bill.h"
+
+namespace bills {
+
+struct BillTarget {
+    Vor_String file;      ///< ".tws", ".sss", ".xlsx", ".csv"; ".pdf" where a program can print
+    Vor_String settings;  ///< name of a settings file, or its path with ".twd"; empty: "Bill"
+    bool hasPictures = false;
+    int pictureHeight = 0;  ///< pixels; 0 for the usual
+};
+
+enum class BillFormat { document, xlsx, csv, pdf };
+/// By the extension; nothing for another one.
+std::optional<BillFormat> billFormat(const Vor_String& file);
+
+class BillSheet {
+  public:
+    explicit BillSheet(const BillTarget& target);
+    ~BillSheet();
+    BillSheet(const BillSheet&) = delete;
+    BillSheet& operator=(const BillSheet&) = delete;
+
+    /// Fills the sheet and writes the file, all but a PDF. failed with the reason in `error`; a
+    /// file that was there before is as it was then, and when cancelled.
+    BillFeed write(Vor_Bill& bill, const BillProgress& progress, std::string& error);
+
+    /// The document of the sheet: the file itself, or one that goes with this object, for programs
+    /// that print it.
+    const Vor_String& document() const { return m_document; }
+    TwSSBillOutput& output() { return m_output; }
+
+  private:
+    bool chooseDocument(std::string& error);
+    bool nameIt(const Vor_Bill& bill, std::string& error);
+    bool exportIt(std::string& error);
+
+    BillTarget m_target;
+    BillFormat m_format = BillFormat::document;
+    Vor_String m_document;
+    std::string m_folder;  ///< of a document that goes; empty when it stays
+    TwSSBillOutput m_output;
+};
+
+}  // namespace bills

@@ -1,0 +1,72 @@
+#include "bills/bill_table.h"
+
+#include "io/csv.h"
+#include "io/texts.h"
+#include "platform/encodings.h"
+#include "platform/paths.h"
+
+namespace bills {
+
+namespace {
+
+class TableReader {
+  public:
+    TableReader(const Vor_String& path, cli::LineSource& source, std::string& error)
+        : m_path(path), m_reader(source), m_error(error) {}
+
+    std::optional<BillTable> read() {
+        BillTable table;
+        std::vector<std::string_view> fields;
+        for (bool isFirst = true;; isFirst = false) {
+            switch (m_reader.next(fields)) {
+                case cli::CsvReader::Got::record: {
+                    Vor_StringArray record;
+                    if (!take(fields, record)) return std::nullopt;
+                    if (isFirst)
+                        table.header = std::move(record);
+                    else
+                        table.rows.append(std::move(record));
+                    break;
+                }
+                case cli::CsvReader::Got::end:
+                    if (table.header.isEmpty()) return fail("the file is empty");
+                    return table;
+                default:
+                    return fail(encodings::fromUtf8(m_reader.error()).value_or("bad CSV"));
+            }
+        }
+    }
+
+  private:
+    bool take(const std::vector<std::string_view>& fields, Vor_StringArray& record) {
+        record.reserve(static_cast<int>(fields.size()));
+        for (const std::string_view field : fields) {
+            std::string text, why;
+            if (!cli::fromUtf8(field, text, why)) return fail(why), false;
+            record.append(std::move(text));
+        }
+        return true;
+    }
+    std::nullopt_t fail(const std::string& what) {
+        m_error = m_path.str() + ':' + std::to_string(m_reader.lineNumber()) + ": " + what;
+        return std::nullopt;
+    }
+
+    const Vor_String& m_path;
+    cli::CsvReader m_reader;
+    std::string& m_error;
+};
+
+}  // namespace
+
+std::optional<BillTable> readBillTable(const Vor_String& path, std::string& error) {
+    std::string why;
+    auto source = cli::LineSource::openFile(paths::toMachine(path), why);
+    if (!source) {
+        error = path.str() + ": " + encodings::fromUtf8(why).value_or("it cannot be read");
+        return std::nullopt;
+    }
+    return TableReader(path, *source, error).read();
+}
+
+}  // namespace bills

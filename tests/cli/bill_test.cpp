@@ -1,0 +1,142 @@
+// Bills from macros and tables.
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <nlohmann/json.hpp>
+
+#include "program.h"
+#include "zip_entry.h"
+
+namespace {
+
+using testing::AllOf;
+using testing::HasSubstr;
+using testing::Not;
+using Json = nlohmann::json;
+
+class Bill : public testing::Test {
+  protected:
+    static program::Result call(std::vector<std::string> arguments, std::string_view input = {}) {
+        arguments.insert(arguments.begin(), {"--library", VORMANT_SOURCE_DIR "/library", "bill"});
+        return program::run(arguments, input);
+    }
+    program::Folder folder;
+    std::string table = folder.write("t.csv",
+                                     "Section,Length,Count,Colour,Total\n"
+                                     "IPE-200,1000,2,red,44.8\nHEA-100,500,1,blue,8.4\n"
+                                     "IPE-200,1000,3,red,67.2\nodd,,,,\n");
+};
+
+TEST_F(Bill, MacrosAreCountedAsOftenAsTheyAreNamed) {
+    const auto result = call({"EndPlate", VORMANT_SOURCE_DIR "/library/Macros/FinPlate.macro",
+                              "EndPlate.macro", "--columns", "name,section,Count,Total mass"});
+    EXPECT_EQ(result.exitCode, 0) << result.err;
+    EXPECT_EQ(result.out,
+              "Name,Section,Count,Total mass (kg)\nPL 8x100x200,PL 8,1,1.256\n"
+              "Plate,PL 10,2,4.71\nBolts,M20,10,\n");
+}
+
+TEST_F(Bill, DocumentsHaveRowsSubtotalsAndVariables) {
+    const std::string file = folder / "Frame 12.sss";
+    const auto result =
+        call({"EndPlate", "-o", file, "--title", "Frame \xC3\x9C", "--group", "material"});
+    EXPECT_EQ(result.exitCode, 0);
+    EXPECT_EQ(result.out, "");
+    EXPECT_THAT(result.err, HasSubstr("no mass is known of Bolts (M20); the totals are without"));
+    const std::string text = folder.read("Frame 12.sss");
+    EXPECT_THAT(text, AllOf(HasSubstr("header B \"Name\n"), HasSubstr("\"Subtotal 8.8\n"),
+                            HasSubstr("\"Subtotal S275\n"), HasSubstr("\"Total\n"),
+                            HasSubstr("Frame \xC3\x9C"), HasSubstr("BillFilename")));
+    EXPECT_THAT(text, HasSubstr("Bill header.sss")) << "the library's own settings are used";
+}
+
+TEST_F(Bill, TablesAreGroupedAndCountedTogether) {
+    const auto result = call(
+        {table, "--group", "Colour", "-o", folder / "b.csv", "--columns", "Section,Count,Total"});
+    EXPECT_EQ(result.exitCode, 0) << result.err;
+    EXPECT_EQ(folder.read("b.csv"),
+              "Section,Count,Total\nodd,,\nSubtotal,,\nHEA-100,1,8.4\nSubtotal blue,1,8.4\n"
+              "IPE-200,5,112\nSubtotal red,5,112\nTotal,6,120.4\n");
+}
+
+TEST_F(Bill, WorkbooksHaveAHeaderRowAndPictures) {
+    const auto result =
+        call({table, "--pictures", "--picture-height", "80", "-o", folder / "b.xlsx", "--json"});
+    EXPECT_EQ(result.exitCode, 0) << result.err;
+    const auto summary = Json::parse(result.out);
+    EXPECT_EQ(summary["rows"], 4);
+    EXPECT_EQ(summary["totals"]["Count"], 6);
+    EXPECT_EQ(summary["totals"]["Total"], 120.4);
+    const std::string archive = folder.read("b.xlsx");
+    const std::string sheet = zipEntry(archive, "xl/worksheets/sheet1.xml");
+    // A picture row below each of the three rows of a known section; 80 pixels are 60 points.
+    EXPECT_THAT(sheet, AllOf(HasSubstr("<row r=\"3\" "), HasSubstr("ht=\"60\""),
+                             HasSubstr("<mergeCell ref=\"B3:E3\"/>"), HasSubstr("ySplit=\"1\"")));
+    EXPECT_THAT(zipEntry(archive, "xl/sharedStrings.xml"), HasSubstr("<t>Section</t>"));
+    EXPECT_THAT(zipEntry(archive, "xl/drawings/drawing1.xml"), HasSubstr("<xdr:row>2</xdr:row>"));
+    EXPECT_EQ(zipEntry(archive, "xl/media/image1.bmp").substr(0, 2), "BM");
+}
+
+TEST_F(Bill, WrongCallsSayWhatThereIs) {
+    const struct {
+        std::vector<std::string> arguments;
+        int exitCode;
+        std::string message;
+    } cases[] = {
+        {{}, 2, "FROM is required"},
+        {{"EndPlatte"},
+         1,
+         "no macro \"EndPlatte\"; name a file, or a macro of the library; did you "
+         "mean EndPlate?"},
+        {{"EndPlate", "--columns", "Colour"},
+         2,
+         "no column \"Colour\"; the columns are position, "},
+        {{"EndPlate", "--group", "Colour"}, 2, "choose none, kind, section or material"},
+        {{"EndPlate", "-o", "x.doc"}, 2, "choose .sss, .tws, .xlsx, .csv or .pdf"},
+        {{"EndPlate", "--json"}, 2, "--output FILE"},
+        {{"EndPlate", "-o", "x.sss", "--picture-height", "5000"}, 2, "--picture-height"},
+        {{"EndPlate", "-o", "x.sss", "--settings", "None"}, 1, "no settings \"None\""},
+        {{"EndPlate", table}, 2, "macros, or of one CSV file"},
+        {{table, "--group", "Material"},
+         1,
+         "the columns are Section, Length, Count, Colour, Total"},
+        {{folder / "none.csv"}, 1, "none.csv"},
+        {{folder.write("bad.csv", "A,B\n1,\"2\n")}, 1, "bad.csv:2: a quoted field has no end"},
+        {{folder.write("empty.csv", "")}, 1, "the file is empty"},
+        {{folder.write("far.csv", "\xE4\xB8\xAD\n")}, 1, "far.csv:1: character U+4E2D"},
+        {{folder.write("bad.macro", "nothing")}, 1, "bad.macro:1:"},
+    };
+    for (const auto& each : cases) {
+        const auto result = call(each.arguments);
+        EXPECT_EQ(result.exitCode, each.exitCode) << each.message;
+        EXPECT_THAT(result.err, AllOf(HasSubstr(each.message), testing::StartsWith("vormant: ")));
+        EXPECT_EQ(result.out, "");
+    }
+}
+
+TEST_F(Bill, AFileThatCannotBeReplacedStaysAndIsToldOnce) {
+    const auto result = call({"EndPlate", "-o", folder / "none/b.sss"});
+    EXPECT_EQ(result.exitCode, 1);
+    EXPECT_THAT(result.err, HasSubstr("none/b.sss"));
+    EXPECT_EQ(std::count(result.err.begin(), result.err.end(), '\n'), 1) << result.err;
+}
+
+TEST_F(Bill, PdfsNeedTheWorkbench) {
+    ::setenv("VORMANT_WORKBENCH", (folder / "none").c_str(), 1);
+    auto result = call({"EndPlate", "-o", folder / "b.pdf"});
+    EXPECT_EQ(result.exitCode, 1);
+    EXPECT_THAT(result.err, HasSubstr("VORMANT_WORKBENCH"));
+    // A stand-in that keeps what it was given.
+    const std::string printer =
+        folder.write("printer", "#!/bin/sh\n[ \"$1\" = --print ] && cp \"$2\" \"$3\"\n");
+    std::filesystem::permissions(printer, std::filesystem::perms::owner_all);
+    ::setenv("VORMANT_WORKBENCH", printer.c_str(), 1);
+    result = call({"EndPlate", "-o", folder / "Frame.pdf"});
+    ::unsetenv("VORMANT_WORKBENCH");
+    EXPECT_EQ(result.exitCode, 0) << result.err;
+    EXPECT_THAT(folder.read("Frame.pdf"),
+                AllOf(HasSubstr("vormant-sheet"), HasSubstr("\xC2\xA4"
+                                                            "Frame\xC2\xA4")));
+}
+
+}  // namespace
