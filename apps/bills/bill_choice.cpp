@@ -62,7 +62,9 @@ class BillMaker {
     bool addMacro(const Vor_String& path, std::vector<Vor_BillPart>& parts) {
         Vor_DbMacro macro;
         Vor_String why;
-        if (loadMacro(path, macro, why) != Acad::eOk) {
+        const Vor_DbMacro* open = m_choice.openMacro ? m_choice.openMacro(path) : nullptr;
+        if (open) macro = *open;
+        if (!open && loadMacro(path, macro, why) != Acad::eOk) {
             m_error = why.str();
             return false;
         }

@@ -1,14 +1,19 @@
 // What a bill is made of and how, as a call or a window says it.
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <string>
 
 #include "core_api/bill/bill_from_parts.h"
 #include "core_api/bill/vor_bill.h"
+#include "core_api/macros/vor_db_macro.h"
 #include "core_api/text/vor_string_array.h"
 
 namespace bills {
+
+/// The macro of a file that is open and may have changed; null for other files.
+using OpenMacro = std::function<const Vor_DbMacro*(const Vor_String& path)>;
 
 /// Texts are Windows-1252, paths those of the module.
 struct BillChoice {
@@ -20,6 +25,7 @@ struct BillChoice {
     /// The code of a grouping, or a column of the table. Empty: by kind, or no groups.
     Vor_String group;
     Vor_String title;  ///< empty: the name of the file that is written
+    OpenMacro openMacro;
 
     bool isTable() const { return !table.isEmpty(); }
 };

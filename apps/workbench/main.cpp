@@ -62,6 +62,8 @@ int printDocument(int argc, char** argv) {
         return 2;
     }
     qputenv("QT_QPA_PLATFORM", "offscreen");
+    // What Qt remarks on a session without a desktop is of no use to a script.
+    qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
     QApplication application(argc, argv);
     QtWindowSystem windows;
     const auto path = paths::toInside(argv[2]);

@@ -5,6 +5,7 @@
 #include <QMenuBar>
 #include <QMessageBox>
 
+#include "bill/bill_words.h"
 #include "dialog_problems.h"
 #include "run/run_page.h"
 #include "run/section_picker.h"
@@ -93,6 +94,7 @@ TEST_P(ProgramLooks, SheetWithItsBars) {
 
 TEST_P(ProgramLooks, Dialogs) {
     lookAtDialog(wordSettings, "settings");
+    lookAtDialog(sayBill, "bill");
     lookAtDialog(wordAbout, "about");
     lookAtDialog(wordOpenLibrary, "open-library");
     lookAtDialog(sayOpenFile, "open-file");

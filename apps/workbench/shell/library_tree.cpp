@@ -40,6 +40,7 @@ LibraryTree::LibraryTree(QWidget* parent) : QTreeWidget(parent) {
     setHeaderHidden(true);
     setObjectName("libraryTree");
     setUniformRowHeights(true);
+    setSelectionMode(ExtendedSelection);
     connect(this, &QTreeWidget::itemActivated, this, [this](QTreeWidgetItem* item) {
         const QVariant path = item->data(0, pathRole);
         if (path.isValid() && m_opener)
@@ -96,6 +97,15 @@ QTreeWidgetItem* LibraryTree::folderItem(QTreeWidgetItem* root, const QString& f
         item = found ? found : new QTreeWidgetItem(item, {part});
     }
     return item;
+}
+
+Vor_StringArray LibraryTree::selected(LibraryKind kind) const {
+    Vor_StringArray paths;
+    for (const QTreeWidgetItem* item : selectedItems())
+        if (item->data(0, pathRole).isValid() &&
+            item->data(0, kindRole).toInt() == static_cast<int>(kind))
+            paths.append(fromQt(item->data(0, pathRole).toString()));
+    return paths;
 }
 
 int LibraryTree::count(LibraryKind kind) const {

@@ -5,7 +5,7 @@
 #include <QTreeWidget>
 #include <functional>
 
-#include "core_api/text/vor_string.h"
+#include "core_api/text/vor_string_array.h"
 
 enum class LibraryKind { standard, macro, sectionTable, dialogTemplate, cuttingStock };
 
@@ -20,6 +20,8 @@ class LibraryTree : public QTreeWidget {
     void setOpener(std::function<void(LibraryKind, const Vor_String&)> opener) {
         m_opener = std::move(opener);
     }
+    /// The paths of the selected entries of a kind.
+    Vor_StringArray selected(LibraryKind kind) const;
     /// Number of entries of a kind.
     int count(LibraryKind kind) const;
     /// Hides what does not contain the text, letter case aside.

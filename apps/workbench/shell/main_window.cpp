@@ -11,6 +11,7 @@
 #include <QMessageBox>
 #include <QVBoxLayout>
 
+#include "bill/bill_words.h"
 #include "core_api/text/text_helpers.h"
 #include "core_api/texts/texts.h"
 #include "frame/starters.h"
@@ -44,6 +45,10 @@ MainWindow::MainWindow(WorkbenchSettings settings)
       m_moduleData([this](const Vor_String& path) {
           QWidget* page = path.isEmpty() ? m_pages->currentWidget() : pageOf(toQt(path));
           return dynamic_cast<MacroPage*>(page);
+      }),
+      m_bills([this](const Vor_String& path) -> const Vor_DbMacro* {
+          auto* page = dynamic_cast<MacroPage*>(pageOf(toQt(path)));
+          return page ? &page->macro().macro() : nullptr;
       }) {
     Q_INIT_RESOURCE(icons);
     Q_INIT_RESOURCE(manual);
@@ -121,6 +126,8 @@ void MainWindow::makeMenus() {
 void MainWindow::makeFileMenu() {
     QMenu* file = menuBar()->addMenu(say(wordFile));
     addSheetFileActions(*file);
+    file->addSeparator();
+    file->addAction(say(sayBill), this, [this] { makeBill(); });
     file->addSeparator();
     file->addAction(say(wordOpenLibrary), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_O), this,
                     [this] { askForLibrary(); });
@@ -302,6 +309,7 @@ bool MainWindow::mayClose(QWidget* page) {
 void MainWindow::closeEvent(QCloseEvent* event) {
     for (int i = 0; i < m_pages->count(); ++i)
         if (!mayClose(m_pages->widget(i))) return event->ignore();
+    m_bills.close();
     m_session.reset();  // its modeless dialogs go with the window
     event->accept();
 }
@@ -366,6 +374,13 @@ RunPage* MainWindow::openStandard(const Vor_String& path) {
     page->setAuthor(QString::fromStdString(m_settings.author));
     showPage(page, toQt(removeExtension(getFileName(path))), key);
     return page;
+}
+
+void MainWindow::makeBill() {
+    Vor_StringArray macros = m_tree->selected(LibraryKind::macro);
+    if (auto* page = dynamic_cast<MacroPage*>(m_pages->currentWidget()))
+        macros = {page->macro().path()};
+    m_bills.askAndMake(macros, this);
 }
 
 void MainWindow::complain(const QString& text) {

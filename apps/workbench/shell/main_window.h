@@ -8,6 +8,7 @@
 #include <QTabWidget>
 #include <QTimer>
 
+#include "bill/bill_maker.h"
 #include "module/module_data.h"
 #include "shell/command_pane.h"
 #include "shell/host_session.h"
@@ -44,7 +45,11 @@ class MainWindow : public QMainWindow {
     /// The sheet in front; null when another page is.
     SheetPage* currentSheet() const;
 
+    /// Asks what the bill is made of, beginning with the macros that are open or selected.
+    void makeBill();
+
     LibraryTree& tree() { return *m_tree; }
+    BillMaker& bills() { return m_bills; }
     CommandPane& commandPane() { return *m_pane; }
     QTabWidget& pages() { return *m_pages; }
     WorkbenchHost& host() { return m_host; }
@@ -98,6 +103,7 @@ class MainWindow : public QMainWindow {
     WorkbenchHost m_host;
     ModuleData m_moduleData;
     std::optional<HostSession> m_session;  ///< until the window is closed
+    BillMaker m_bills;                     ///< its window goes first, inside the session
     QMenu* m_recentMenu = nullptr;
     QLineEdit* m_search = nullptr;
     QPointer<QMenu> m_viewMenu;

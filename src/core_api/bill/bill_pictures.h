@@ -13,7 +13,7 @@ VORMANT_API void closeBMPDialog();
 /// A path for the next picture, which no other has; empty unless made ready.
 VORMANT_API Vor_String nextPictureFile();
 
-inline constexpr int usualPictureHeight = 120;  // pixels
+inline constexpr int usualPictureHeight = 150;  // pixels
 inline constexpr int usualPictureWidth = 320;
 
 /// Draws the piece of a bill's row into the bitmap `file`.

@@ -31,6 +31,7 @@ enum Image {
     imageReapply = 248,
     imageFromStandards = 249,
     imageUndo = 250,
-    imageRedo = 251,
+    // 251 marks the pictures in bills.
     imageFind = 252,
+    imageRedo = 253,
 };

@@ -5,6 +5,7 @@
 //   size COLUMNS ROWS
 //   option NAME VALUE               refstyle, columnheaders, rowheaders, gridtype, colours
 //   look N KIND key=value …         only looks in use; texts in quotes
+//   picture #NAME BASE64            that picture cells show; only those in use
 //   colwidth A 24                   pixels; "all" for the usual width, "header" for the header
 //   hidecol A                       column's; rows likewise: rowheight 3 18, hiderow 3
 //   headerlook A @1                 "all" for those without their own; rowheaderlook 3 @1

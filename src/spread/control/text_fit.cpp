@@ -20,7 +20,7 @@ int widthOf(char letter) {
 int estimate(std::string_view line, const Font& font) {
     int hundredths = 0;
     for (const char letter : line) hundredths += widthOf(letter);
-    if (font.weight >= 600) hundredths += hundredths / 12;
+    if (font.weight >= 600) hundredths += hundredths / 5;
     return (hundredths * font.height + 99) / 100;
 }
 

@@ -1,0 +1,83 @@
+#include "bill/bill_maker.h"
+
+#include <QProgressDialog>
+
+#include "bill/bill_dialog.h"
+#include "bill/bill_words.h"
+#include "core_api/text/text_helpers.h"
+#include "platform/host/host.h"
+#include "platform/paths.h"
+#include "platform/window/message_box.h"
+#include "sheet/sheet_file.h"
+#include "sheet/sheet_printing.h"
+#include "window/dialog_font.h"
+#include "window/say.h"
+
+namespace {
+
+bool complain(const std::string& text) {
+    acutPrint(text + "\n");
+    showWarning(fromQt(sayTitle(sayBill)), text);
+    return false;
+}
+
+constexpr int untilProgressShows = 300;  // milliseconds
+/// Every row would be told too often, with pictures every hundredth too seldom.
+constexpr int rowsBetween = 10;
+
+bool printPdf(const Vor_String& document, const Vor_String& pdf, std::string& error) {
+    SheetFile file;
+    QString why;
+    if (!file.open(document.str(), error)) return false;
+    const QString path = QString::fromStdString(paths::toMachine(pdf));
+    if (writeSheetPdf(file.spread(), path, why)) return true;
+    error = fromQt(why);
+    return false;
+}
+
+void tellRowsWithoutMass(const Vor_Bill& bill) {
+    const Vor_StringArray names = bills::rowsWithoutMass(bill);
+    if (names.isEmpty()) return;
+    acutPrint(fromQt(say(sayBillNoMass).arg(toQt(arrToStr(names, ", ")))) + "\n");
+}
+
+}  // namespace
+
+bool BillMaker::askAndMake(const Vor_StringArray& macros, QWidget* parent) {
+    BillDialog dialog(macros, parent);
+    return dialog.exec() == QDialog::Accepted && make(dialog.choice(), dialog.target(), parent);
+}
+
+bool BillMaker::make(bills::BillChoice choice, const bills::BillTarget& target, QWidget* parent) {
+    choice.openMacro = m_openMacro;
+    std::string error;
+    auto bill = bills::makeBill(choice, error);
+    if (!bill) return complain(error);
+    return write(*bill, target, parent);
+}
+
+bool BillMaker::write(Vor_Bill& bill, const bills::BillTarget& target, QWidget* parent) {
+    m_sheet = std::make_unique<bills::BillSheet>(target);
+    QProgressDialog progress(say(sayBillMaking), say(2), 0, static_cast<int>(bill.rows.size()),
+                             parent);
+    progress.setWindowModality(Qt::WindowModal);
+    progress.setMinimumDuration(untilProgressShows);
+    const auto step = [&](int done, int) {
+        if (done % rowsBetween == 0) progress.setValue(done);
+        return !progress.wasCanceled();
+    };
+    std::string error;
+    const BillFeed written = m_sheet->write(bill, step, error);
+    progress.reset();
+    if (written == BillFeed::cancelled) {
+        m_sheet.reset();
+        return false;
+    }
+    const bool isPdf = bills::billFormat(target.file) == bills::BillFormat::pdf;
+    if (written == BillFeed::failed ||
+        (isPdf && !printPdf(m_sheet->document(), target.file, error)))
+        return complain(error);
+    acutPrint(fromQt(say(sayBillSaved).arg(toQt(target.file))) + "\n");
+    tellRowsWithoutMass(bill);
+    return true;
+}

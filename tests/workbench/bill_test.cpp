@@ -1,0 +1,188 @@
+// Bills from the desktop: the window that asks, the sheet that shows them, and their files.
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QProcess>
+#include <QProgressDialog>
+#include <QSpinBox>
+#include <QTableWidget>
+
+#include "bill/bill_dialog.h"
+#include "platform/files.h"
+#include "platform/paths.h"
+#include "starters_fixture.h"
+#include "support/test_user.h"
+
+namespace {
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+
+class BillWindow : public StartersTest {
+  protected:
+    void SetUp() override { openProgram(); }
+    static std::string inside(const char* name) { return gSettings.libDir().str() + name; }
+    static QByteArray content(const std::string& path) {
+        std::string error;
+        return QByteArray::fromStdString(files::readWhole(path, error).value_or(error));
+    }
+    bool make(const char* macro, const char* file, bool hasPictures = false) {
+        bills::BillChoice choice;
+        choice.macros = {inside(macro)};
+        bills::BillTarget target;
+        target.file = inside(file);
+        target.hasPictures = hasPictures;
+        return window->bills().make(choice, target, window.get());
+    }
+};
+
+std::vector<std::string> ticked(QListWidget& list) {
+    std::vector<std::string> texts;
+    for (int i = 0; i < list.count(); ++i)
+        if (list.item(i)->checkState() == Qt::Checked)
+            texts.push_back(list.item(i)->text().toStdString());
+    return texts;
+}
+
+TEST_F(BillWindow, AsksForMacrosColumnsAndTheFile) {
+    BillDialog dialog({inside("Macros\\EndPlate.macro")}, window.get());
+    QTableWidget& macros = dialog.macros();
+    ASSERT_EQ(macros.rowCount(), 4);
+    for (int row = 0; row < macros.rowCount(); ++row) {
+        const bool isChosen = macros.item(row, 0)->text() == "EndPlate";
+        EXPECT_EQ(macros.item(row, 0)->checkState(), isChosen ? Qt::Checked : Qt::Unchecked);
+        if (isChosen) static_cast<QSpinBox*>(macros.cellWidget(row, 1))->setValue(3);
+    }
+    EXPECT_EQ(dialog.choice().macros.length(), 3) << "counted three times";
+    EXPECT_EQ(ticked(dialog.columns()).front(), "Pos.");
+    EXPECT_EQ(ticked(dialog.columns()).size(), PartBillOptions().fields.size());
+    dialog.columns().item(0)->setCheckState(Qt::Unchecked);
+    EXPECT_EQ(dialog.choice().columns[0].str(), "name");
+    EXPECT_EQ(dialog.choice().group.str(), "kind");
+    EXPECT_EQ(dialog.target().settings.str(), "Bill");
+    dialog.file().setText("x.doc");
+    dialog.accept();
+    EXPECT_THAT(dialog.message().text().toStdString(), HasSubstr(".xlsx"));
+    for (int row = 0; row < macros.rowCount(); ++row)
+        macros.item(row, 0)->setCheckState(Qt::Unchecked);
+    dialog.accept();
+    EXPECT_THAT(dialog.message().text().toStdString(), HasSubstr("Nothing is chosen"));
+    EXPECT_EQ(dialog.result(), QDialog::Rejected);
+}
+
+TEST_F(BillWindow, ATableBringsItsOwnColumns) {
+    BillDialog dialog({}, window.get());
+    dialog.useTable("none.csv");
+    EXPECT_THAT(dialog.message().text().toStdString(), HasSubstr("none.csv"));
+    const QTemporaryDir folder;
+    QFile table(folder.filePath("t.csv"));
+    ASSERT_TRUE(table.open(QIODevice::WriteOnly));
+    table.write("Part,Count,Colour\nA,2,red\n");
+    table.close();
+    dialog.useTable(table.fileName());
+    EXPECT_EQ(dialog.message().text(), "");
+    EXPECT_THAT(ticked(dialog.columns()), ElementsAre("Part", "Count", "Colour"));
+    EXPECT_GE(dialog.group().findData("Colour"), 0);
+    EXPECT_TRUE(dialog.choice().isTable());
+    dialog.file().setText(folder.filePath("t.sss"));
+    dialog.accept();
+    EXPECT_EQ(dialog.result(), QDialog::Accepted);
+}
+
+TEST_F(BillWindow, ShowsTheSheetAndSavesItInEveryFormat) {
+    ASSERT_TRUE(make("Macros\\EndPlate.macro", "Bill.sss", true));
+    EXPECT_THAT(printed().toStdString(), HasSubstr("The bill was saved as"));
+    EXPECT_THAT(printed().toStdString(), HasSubstr("No mass is known of Bolts (M20)"));
+    const std::vector<QWidget*> shown = shownWindows();
+    ASSERT_EQ(shown.size(), 1U) << "the editor's window";
+    EXPECT_EQ(window->bills().last()->output().sheet()->nrRows(), 7) << "with two pictures";
+    EXPECT_TRUE(content(inside("Bill.sss")).contains("\npicture #"));
+    ASSERT_TRUE(make("Macros\\EndPlate.macro", "Bill.xlsx"));
+    EXPECT_TRUE(content(inside("Bill.xlsx")).startsWith("PK"));
+    ASSERT_TRUE(make("Macros\\EndPlate.macro", "Bill.pdf", true));
+    const QByteArray pdf = content(inside("Bill.pdf"));
+    EXPECT_TRUE(pdf.startsWith("%PDF"));
+    EXPECT_GT(pdf.size(), 5000);
+    EXPECT_EQ(shownWindows().size(), 1U) << "the window of the bill before is gone";
+
+    TestUser user;
+    user.whenTold("Gone.macro").presses(IDOK);
+    EXPECT_FALSE(make("Macros\\Gone.macro", "Bill.sss"));
+}
+
+TEST_F(BillWindow, AnOpenMacroIsTakenAsItIsOnItsPage) {
+    auto* page = dynamic_cast<MacroPage*>(openMacro("EndPlate"));
+    ASSERT_TRUE(page);
+    page->macro().macro().macroWrite()->findModuleWrite("Plate")->setVariable("Thickness", 25);
+    ASSERT_TRUE(make("Macros\\EndPlate.macro", "Bill.csv"));
+    EXPECT_TRUE(content(inside("Bill.csv")).contains("PL 25"))
+        << content(inside("Bill.csv")).data();
+}
+
+TEST_F(BillWindow, CancellingLeavesTheFileAsItWas) {
+    const QTemporaryDir folder;
+    QFile table(folder.filePath("long.csv"));
+    ASSERT_TRUE(table.open(QIODevice::WriteOnly));
+    table.write("Section,Length\n");
+    for (int i = 0; i < 400; ++i)
+        table.write(QByteArray("IPE-300,") + QByteArray::number(500 + i) + "\n");
+    table.close();
+    bills::BillChoice choice;
+    choice.table = *paths::toInside(table.fileName().toStdString());
+    bills::BillTarget target;
+    target.file = *paths::toInside(folder.filePath("long.sss").toStdString());
+    target.hasPictures = true;
+    QTimer cancel;
+    cancel.callOnTimeout([] {
+        for (QWidget* each : QApplication::topLevelWidgets())
+            if (auto* progress = qobject_cast<QProgressDialog*>(each);
+                progress && progress->isVisible())
+                progress->cancel();
+    });
+    cancel.start(20);
+    EXPECT_FALSE(window->bills().make(choice, target, window.get()));
+    EXPECT_FALSE(QFile::exists(folder.filePath("long.sss")));
+    EXPECT_EQ(window->bills().last(), nullptr);
+}
+
+TEST_F(BillWindow, TheMenuOpensTheWindowWithTheMacroInFront) {
+    openMacro("BasePlate");
+    bool wasSeen = false;
+    QTimer look;
+    look.callOnTimeout([&] {
+        auto* dialog = dynamic_cast<BillDialog*>(QApplication::activeModalWidget());
+        if (!dialog) return;
+        wasSeen = true;
+        EXPECT_TRUE(dialog->choice().macros[0].endsWith("BasePlate.macro"));
+        escape(*dialog);
+    });
+    look.start(10);
+    window->makeBill();
+    EXPECT_TRUE(wasSeen);
+}
+
+TEST(PrintingWithoutAWindow, WritesAPdfOrSaysWhyNot) {
+    const QTemporaryDir folder;
+    const auto run = [](const QStringList& arguments) {
+        QProcess process;
+        process.start(VORMANT_WORKBENCH_PROGRAM, QStringList("--print") + arguments);
+        EXPECT_TRUE(process.waitForFinished());
+        return std::pair(process.exitCode(), process.readAllStandardError().toStdString());
+    };
+    const QString standard =
+        VORMANT_SOURCE_DIR "/library/Connection Standards/Childs/BoltSpacing.tws";
+    const QString pdf = folder.filePath("a.pdf");
+    EXPECT_EQ(run({standard, pdf}).first, 0);
+    QFile written(pdf);
+    ASSERT_TRUE(written.open(QIODevice::ReadOnly));
+    EXPECT_TRUE(written.readAll().startsWith("%PDF"));
+    const auto missing = run({"none.sss", pdf});
+    EXPECT_EQ(missing.first, 1);
+    EXPECT_THAT(missing.second, HasSubstr("none.sss"));
+    EXPECT_EQ(run({standard, folder.filePath("no/a.pdf")}).first, 1);
+    EXPECT_EQ(run({standard}).first, 2);
+}
+
+}  // namespace
