@@ -4,8 +4,6 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <filesystem>
-
 #include "bill/bill_title.h"
 #include "core_api/bill/bill_pictures.h"
 #include "core_api/bill/feed_bill.h"
@@ -191,22 +189,19 @@ Vor_Bill pictureBill() {
     return bill;
 }
 
-int temporaryBillFolders() {
-    int count = 0;
-    for (const auto& entry : std::filesystem::directory_iterator("/tmp"))
-        count += entry.path().filename().string().starts_with("vormant-bill-");
-    return count;
-}
-
 TEST_F(BillOutput, PicturesStandBelowTheirRowsAndGoWithTheSheet) {
-    const int before = temporaryBillFolders();
+    const TemporaryFolder temporary;
+    ::setenv("TMPDIR", temporary.path().c_str(), 1);
     Vor_Bill bill = pictureBill();
     AcTransaction transaction;
     path = folder.inside("Pictures.sss");
     output.init(path, bill.columnNames(), {}, {3, 3, 1}, {}, {}, {});
     output.setVars(-1, 90, 0, true, true, &bill, &transaction);
-    ASSERT_EQ(feedBill(bill, output), BillFeed::done);
-    EXPECT_EQ(temporaryBillFolders(), before) << "the files of the pictures are gone";
+    bool hadFiles = false;
+    const auto peep = [&](int, int) { return hadFiles = temporary.fileCount() == 1, true; };
+    ASSERT_EQ(feedBill(bill, output, peep), BillFeed::done);
+    EXPECT_TRUE(hadFiles);
+    EXPECT_EQ(temporary.fileCount(), 0) << "the files of the pictures are gone";
     const control::Grid& grid = output.sheet()->grid();
     ASSERT_EQ(grid.rows(), 4) << "one picture, below the row of the plate";
     EXPECT_EQ(grid.rowHeight(2), 90);
@@ -227,6 +222,10 @@ TEST_F(BillOutput, PicturesStandBelowTheirRowsAndGoWithTheSheet) {
     const auto picture = decodeBitmap(*kept, error);
     ASSERT_TRUE(picture) << error;
     EXPECT_EQ(picture->height(), 90);
+
+    EXPECT_EQ(feedBill(bill, output, [](int done, int) { return done == 0; }), BillFeed::cancelled);
+    EXPECT_EQ(temporary.fileCount(), 0) << "also when the feed was cancelled";
+    ::unsetenv("TMPDIR");
 }
 
 TEST_F(BillOutput, ASubtotalOrPictureBeforeNewRowsDoesNotShowInThem) {
