@@ -89,6 +89,17 @@ TEST_F(BillWindow, ATableBringsItsOwnColumns) {
     dialog.file().setText(folder.filePath("t.sss"));
     dialog.accept();
     EXPECT_EQ(dialog.result(), QDialog::Accepted);
+
+    // A file that is there is not replaced without a question.
+    dialog.setResult(QDialog::Rejected);
+    dialog.file().setText(table.fileName());
+    TestUser user;
+    user.whenTold("t.csv is there already").presses(IDNO);
+    dialog.accept();
+    EXPECT_EQ(dialog.result(), QDialog::Rejected);
+    user.whenTold("t.csv is there already").presses(IDYES);
+    dialog.accept();
+    EXPECT_EQ(dialog.result(), QDialog::Accepted);
 }
 
 TEST_F(BillWindow, ShowsTheSheetAndSavesItInEveryFormat) {

@@ -12,6 +12,7 @@
 #include <QRadioButton>
 #include <QSpinBox>
 #include <QTableWidget>
+#include <algorithm>
 
 #include "bill/bill_words.h"
 #include "bills/bill_table.h"
@@ -21,6 +22,7 @@
 #include "platform/files.h"
 #include "platform/paths.h"
 #include "platform/window/file_question.h"
+#include "platform/window/message_box.h"
 #include "window/dialog_buttons.h"
 #include "window/dialog_font.h"
 #include "window/say.h"
@@ -219,7 +221,9 @@ void BillDialog::chooseTarget() {
         question.preset = getFileName(*path).str();
     }
     const std::string chosen = chooseFile(question, nullptr);
-    if (!chosen.empty()) m_file->setText(machinePath(chosen));
+    if (chosen.empty()) return;
+    m_confirmed = machinePath(chosen);
+    m_file->setText(m_confirmed);
 }
 
 // --- what was chosen ----------------------------------------------------------------------------
@@ -254,6 +258,16 @@ void BillDialog::accept() {
     const bills::BillChoice chosen = choice();
     if (chosen.macros.isEmpty() && chosen.table.isEmpty())
         return complain(say(sayBillNothingChosen));
-    if (!bills::billFormat(target().file)) return complain(say(sayBillNoFile));
-    QDialog::accept();
+    const Vor_String file = target().file;
+    if (!bills::billFormat(file)) return complain(say(sayBillNoFile));
+    if (mayReplace(file)) QDialog::accept();
+}
+
+/// The chooser asked already about what was chosen there.
+bool BillDialog::mayReplace(const Vor_String& file) const {
+    if (!files::exists(file) || m_file->text() == m_confirmed) return true;
+    const MessageBox question{fromQt(windowTitle()),
+                              fromQt(say(sayBillReplace).arg(m_file->text())),
+                              MessageIcon::question, MessageButtons::yesNo};
+    return showMessage(question) == IDYES;
 }

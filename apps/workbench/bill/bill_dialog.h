@@ -44,6 +44,7 @@ class BillDialog : public QDialog {
     void showColumns();
     void complain(const QString& text);
     bool isTable() const;
+    bool mayReplace(const Vor_String& file) const;
 
     QRadioButton* m_fromMacros = nullptr;
     QRadioButton* m_fromTable = nullptr;
@@ -56,4 +57,5 @@ class BillDialog : public QDialog {
     QComboBox* m_settings = nullptr;
     QLineEdit* m_file = nullptr;
     QLabel* m_message = nullptr;
+    QString m_confirmed;  ///< the file that the chooser gave
 };

@@ -20,4 +20,5 @@ enum BillWord {
     sayBillTimes,
     sayBillTableFilter,
     sayBillNoFile,
+    sayBillReplace,
 };

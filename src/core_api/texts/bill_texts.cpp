@@ -59,6 +59,9 @@ constexpr TextRow rows[] = {
       "Kies een bestand dat op .sss, .tws, .xlsx, .csv of .pdf eindigt.",
       "Wählen Sie eine Datei mit der Endung .sss, .tws, .xlsx, .csv oder .pdf.",
       "Choisissez un fichier en .sss, .tws, .xlsx, .csv ou .pdf."}},
+    {25138,
+     {"%1 is there already. Replace it?", "%1 bestaat al. Vervangen?",
+      "%1 gibt es schon. Ersetzen?", "%1 existe déjà. Le remplacer ?"}},
 };
 
 }  // namespace
