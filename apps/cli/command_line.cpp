@@ -8,6 +8,7 @@
 #include "bill/bill_command.h"
 #include "io/suggestion.h"
 #include "mapping/mapping_commands.h"
+#include "sections/section_commands.h"
 #include "sheets/sheet_commands.h"
 #include "standards/library.h"
 #include "standards/standards_commands.h"
@@ -30,6 +31,12 @@ struct Calls {
     SetMappingRequest setMapping;
     ObjectsRequest objects;
     BillRequest bill;
+    ListSectionsRequest listSections;
+    ShowSectionRequest showSection;
+    FindSectionsRequest findSections;
+    CheckSectionsRequest checkSections;
+    ImportSectionsRequest importSections;
+    ExportSectionsRequest exportSections;
     std::function<ExitCode()> work;
 };
 
@@ -223,6 +230,65 @@ void addBillCommand(CLI::App& app, Calls& calls) {
     onLibraryCall(bill, calls, [&calls] { return makeBill(calls.bill); });
 }
 
+void addSectionReaders(CLI::App& sections, Calls& calls) {
+    auto& list = *sections.add_subcommand("list", "Name the section tables of the library");
+    list.add_flag("--json", calls.listSections.json, "Print one JSON array");
+    onLibraryCall(list, calls, [&calls] { return listSections(calls.listSections); });
+
+    auto& show = *sections.add_subcommand("show", "Print a table, or all about one section");
+    show.add_option("NAME", calls.showSection.name, "A table, a section or its user name")
+        ->required()
+        ->check(refusedWhenEmpty);
+    show.add_flag("--json", calls.showSection.json, "Print one JSON object");
+    onLibraryCall(show, calls, [&calls] { return showSection(calls.showSection); });
+
+    auto& find = *sections.add_subcommand("find", "Search all tables for sections that fit");
+    find.add_option("CONDITION", calls.findSections.conditions,
+                    "As 'h>=200', b=100..150, name=IPE*; all have to hold")
+        ->required()
+        ->check(refusedWhenEmpty);
+    find.add_option("--sort", calls.findSections.sortColumn, "The least of this column first")
+        ->type_name("COLUMN")
+        ->check(refusedWhenEmpty);
+    find.add_flag("--inactive", calls.findSections.inactive, "Sizes out of use too");
+    find.add_flag("--json", calls.findSections.json, "Print one JSON array");
+    onLibraryCall(find, calls, [&calls] { return findSections(calls.findSections); });
+
+    auto& check = *sections.add_subcommand(
+        "check", "Look for mistakes in section tables: file:row:column: message");
+    check.add_option("TABLE", calls.checkSections.tables, "A table or a file; none: all tables")
+        ->check(refusedWhenEmpty);
+    check.add_flag("--json", calls.checkSections.json, "Print one JSON array");
+    onLibraryCall(check, calls, [&calls] { return checkSections(calls.checkSections); });
+}
+
+void addSectionExchange(CLI::App& sections, Calls& calls) {
+    auto& import = *sections.add_subcommand("import", "Make a section table from CSV");
+    import.add_option("FILE", calls.importSections.file, "A CSV file; - is the standard input")
+        ->required()
+        ->check(refusedWhenEmpty);
+    import.add_option("TABLE", calls.importSections.table, "Its name in the library, or a path")
+        ->required()
+        ->check(refusedWhenEmpty);
+    import
+        .add_option("--type", calls.importSections.type,
+                    "The section type, 1 to 24, or a .dwg file; else that of the table replaced")
+        ->type_name("TYPE")
+        ->check(refusedWhenEmpty);
+    import.add_flag("--force", calls.importSections.force, "Replace a table that is there");
+    onLibraryCall(import, calls, [&calls] { return importSections(calls.importSections); });
+
+    auto& out = *sections.add_subcommand("export", "Write a section table as CSV or JSON");
+    out.add_option("TABLE", calls.exportSections.table, "A table or a file")
+        ->required()
+        ->check(refusedWhenEmpty);
+    out.add_option("FILE", calls.exportSections.file,
+                   "A .csv or .json file; - is the standard output")
+        ->check(refusedWhenEmpty);
+    out.add_flag("--json", calls.exportSections.json, "JSON in place of CSV");
+    onLibraryCall(out, calls, [&calls] { return exportSections(calls.exportSections); });
+}
+
 /// The subcommand that the call got as far as.
 const CLI::App& commandMeant(const CLI::App& app) {
     const auto chosen = app.get_subcommands();
@@ -279,6 +345,11 @@ ExitCode runCommandLine(int argc, const char* const* argv) {
     auto& sheet = *app.add_subcommand("sheet", "Show, calculate and convert spreadsheets");
     sheet.require_subcommand(1);
     addSheetCommands(sheet, calls);
+    auto& sections =
+        *app.add_subcommand("sections", "List, search, check and exchange section tables");
+    sections.require_subcommand(1);
+    addSectionReaders(sections, calls);
+    addSectionExchange(sections, calls);
     auto& mapping =
         *app.add_subcommand("mapping", "Tie the variables of a standard to objects of macros");
     mapping.require_subcommand(1);

@@ -1,36 +1,27 @@
 #include <string>
+#include <vector>
 
 #include "core_api/files.h"
+#include "core_api/record_reader.h"
 #include "core_api/text/text_helpers.h"
 #include "platform/escaped_text.h"
 #include "platform/files.h"
 
-namespace {
-
-// Takes one record from its line. False when a field is damaged.
-bool readRecord(std::string_view line, Vor_StringArray& record) {
-    for (bool more = true; more;) {
-        more = line.find('\t') != std::string_view::npos;
-        auto field = unescaped(takePart(line, '\t'));
-        if (!field) return false;
-        record.append(std::move(*field));
-    }
-    return true;
-}
-
-}  // namespace
-
 bool readRecords(std::string_view text, std::string_view source, RecordRows& records,
                  Vor_String& message) {
+    RecordReader reader(text);
     RecordRows read;
-    for (int line = 1; !text.empty(); ++line) {
+    std::vector<std::string_view> fields;
+    RecordReader::Got got;
+    while ((got = reader.next(fields)) == RecordReader::Got::record) {
         Vor_StringArray record;
-        if (!readRecord(takeLine(text), record)) {
-            message = std::string(source) + ":" + std::to_string(line) +
-                      ": a backslash stands alone; write it twice";
-            return false;
-        }
+        record.reserve(static_cast<int>(fields.size()));
+        for (const std::string_view field : fields) record.append(field);
         read.append(std::move(record));
+    }
+    if (got == RecordReader::Got::damaged) {
+        message = std::string(source) + ":" + std::to_string(reader.line()) + ": " + reader.damage;
+        return false;
     }
     records = std::move(read);
     return true;

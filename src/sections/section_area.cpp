@@ -9,7 +9,9 @@
 #include "core_api/sections/section_tables.h"
 #include "core_api/steel.h"
 #include "core_api/text/text_helpers.h"
+#include "platform/encodings.h"
 #include "sections/section_types.h"
+#include "sections/vor_prof_values_table.h"
 
 namespace {
 
@@ -146,11 +148,9 @@ constexpr Formula formulas[sectionTypeCount] = {
     nullptr,        nullptr,   unequalC,     cSleeve,         nullptr,   nullptr,
 };
 
-/// The number at a value column of a size.
-std::optional<double> valueAt(const SectionTable& table, int row, int column) {
-    const Vor_String* text = table.value(row, column);
-    if (!text || !isNumber(*text)) return std::nullopt;
-    return textToDouble(*text);
+std::optional<double> numberIn(std::string_view text) {
+    if (!isNumber(text)) return std::nullopt;
+    return textToDouble(text);
 }
 
 }  // namespace
@@ -174,17 +174,37 @@ std::optional<double> sectionMass(int type, std::span<const double> values) {
     return *area / mm2PerM2 * steelDensity;
 }
 
+std::optional<double> sectionMass(std::string_view drawnAs,
+                                  std::span<const std::string_view> columns,
+                                  std::span<const std::string_view> values) {
+    std::vector<double> numbers;
+    bool areNumbers = true;
+    for (size_t i = 0; i < values.size(); ++i) {
+        const auto number = numberIn(values[i]);
+        if (number && i < columns.size() && encodings::equalFolded(columns[i], "Mass kg/m"))
+            return number;
+        areNumbers = areNumbers && number;
+        if (areNumbers) numbers.push_back(*number);
+    }
+    return sectionMass(sectionTypeNumber(drawnAs), numbers);
+}
+
+std::optional<double> sectionMass(const Vor_ProfValuesTable& table, int row) {
+    const auto valuesOf = [&](const Vor_StringArray& cells) {
+        std::vector<std::string_view> values;
+        for (int i = table.firstValueColumn(); i < cells.length(); ++i) values.push_back(cells[i]);
+        return values;
+    };
+    return sectionMass(table.drawnAs, valuesOf(table.columnNames), valuesOf(table.rows[row]));
+}
+
 std::optional<double> sectionMass(std::string_view section) {
     const auto place = gSectionTables.find(section);
     if (!place) return std::nullopt;
-    const SectionTable& table = *place.table;
-    const Vor_StringArray columns = table.valueColumns();
-    if (const auto mass = valueAt(table, place.row, columns.find("Mass kg/m"))) return mass;
-    std::vector<double> values;
-    for (int i = 0; i < columns.length(); ++i) {
-        const auto value = valueAt(table, place.row, i);
-        if (!value) break;
+    const Vor_StringArray columns = place.table->valueColumns();
+    const std::vector<std::string_view> names(columns.begin(), columns.end());
+    std::vector<std::string_view> values;
+    while (const Vor_String* value = place.table->value(place.row, static_cast<int>(values.size())))
         values.push_back(*value);
-    }
-    return sectionMass(sectionTypeNumber(table.drawnAs()), values);
+    return sectionMass(place.table->drawnAs(), names, values);
 }

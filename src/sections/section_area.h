@@ -9,6 +9,8 @@
 
 #include "platform/export.h"
 
+class Vor_ProfValuesTable;
+
 /// In mm2, from the values in the order of the type's value columns (mm, degrees, percent); more
 /// of them are left out. Nothing when a value is missing or the values give no shape (a wall
 /// thicker than its tube), or when those of the type do not say how its parts lie: 16, 18 to 20,
@@ -17,6 +19,12 @@ VORMANT_API std::optional<double> sectionArea(int type, std::span<const double> 
 
 /// kg for a metre of steel.
 VORMANT_API std::optional<double> sectionMass(int type, std::span<const double> values);
-/// The same of a section by its full or user name: what its table says in a column "Mass kg/m",
-/// else from its values. Nothing for an unknown section and for drawn ones without such a column.
+/// The same of a size: what its table says in a column "Mass kg/m", else from its values. Nothing
+/// for drawn sections without such a column. `columns` are the table's value columns.
+VORMANT_API std::optional<double> sectionMass(std::string_view drawnAs,
+                                              std::span<const std::string_view> columns,
+                                              std::span<const std::string_view> values);
+/// The same of row `row` of a table, which it has.
+VORMANT_API std::optional<double> sectionMass(const Vor_ProfValuesTable& table, int row);
+/// The same of a section by its full or user name; nothing for an unknown one.
 VORMANT_API std::optional<double> sectionMass(std::string_view section);

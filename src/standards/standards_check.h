@@ -4,15 +4,9 @@
 
 #include <vector>
 
-#include "core_api/text/vor_string.h"
+#include "core_api/finding.h"
 
-struct StandardsFinding {
-    enum class Severity { error, warning };
-    int row = 0;     ///< from 1; 0 speaks of the whole file
-    int column = 0;  ///< from 1; 0 speaks of the whole row or file
-    Severity severity = Severity::error;
-    Vor_String message;
-};
+using StandardsFinding = Finding;
 
 /// Everything found in the standard, by row and column. `name` is a file, or a name in the
 /// standards folder without extension. Errors: it cannot be loaded, a marker is missing, a cell

@@ -25,8 +25,9 @@ _vormant() {
     for ((i = 1; i < COMP_CWORD; i++)); do
         case ${COMP_WORDS[i]} in
             --library) ((i++)) ;;
-            standards | sheet | mapping | bill) [[ $command ]] || command=${COMP_WORDS[i]} ;;
-            list | check | test | run | batch | show | eval | convert | set | objects)
+            standards | sheet | mapping | sections | bill) [[ $command ]] || command=${COMP_WORDS[i]} ;;
+            list | check | test | run | batch | show | eval | convert | set | objects | \
+                find | import | export)
                 [[ $command == *" "* ]] || command+=" ${COMP_WORDS[i]}" ;;
         esac
     done
@@ -41,10 +42,14 @@ _vormant() {
             return ;;
     esac
     case $command in
-        "") options+=" --version standards sheet mapping bill" ;;
+        "") options+=" --version standards sheet mapping sections bill" ;;
         standards) options+=" list check test run batch" ;;
         sheet) options+=" show eval convert" ;;
         mapping) options+=" show set objects" ;;
+        sections) options+=" list show find check import export" ;;
+        "sections find") options+=" --sort --inactive --json" ;;
+        "sections import") options+=" --type --force" ;;
+        "sections "*) options+=" --json" ;;
         "standards test") options+=" --all" ;;
         "standards run") options+=" --set --gen --macro --key --write --trace --json" ;;
         "standards batch") options+=" --gen --jsonl --no-header" ;;

@@ -1,0 +1,17 @@
+// Section tables as JSON.
+#pragma once
+
+#include "io/json_writer.h"
+#include "sections/vor_prof_values_table.h"
+
+namespace cli {
+
+/// The members "table", "type" (of a built-in one) or "template", and "columns".
+void writeTableHead(JsonWriter& json, const Vor_ProfValuesTable& table);
+/// The members of a size: "section", "active", "names" by language, "values" by column (a text
+/// that is no number stays one), "mass" in kg/m when it is known.
+void writeSize(JsonWriter& json, const Vor_ProfValuesTable& table, int row);
+/// One object: the head, and the sizes in "sizes".
+std::string tableAsJson(const Vor_ProfValuesTable& table);
+
+}  // namespace cli

@@ -1,0 +1,63 @@
+// Goes through the file of a section table for the sizes that fulfil conditions, and copies those
+// alone: libraries have hundreds of tables.
+#pragma once
+
+#include <functional>
+#include <optional>
+#include <span>
+#include <string>
+#include <vector>
+
+#include "sections/column_names.h"
+#include "sections/section_condition.h"
+#include "sections/table_files.h"
+
+namespace cli {
+
+/// A size with the head of its table; the only row of it.
+struct FoundSection {
+    const Vor_ProfValuesTable& table;
+    const ColumnNames& columns;
+    std::optional<double> sortKey;
+};
+
+class TableSearch {
+  public:
+    /// Inactive sizes are left out unless `inactive`. `sortColumn` may be empty.
+    TableSearch(std::span<const SectionCondition> conditions, std::string sortColumn,
+                bool inactive);
+
+    /// Calls `found` for every size. False, after telling why, when the file cannot be read to its
+    /// end.
+    bool run(const TableFile& file, const std::function<void(const FoundSection&)>& found);
+
+    /// What was asked for, in the order of the conditions and then the column to sort by, and is
+    /// in none of the tables so far.
+    std::vector<std::string> unknownColumns() const;
+    /// Names of the columns in the tables so far.
+    const std::vector<std::string>& knownColumns() const { return m_names; }
+
+  private:
+    struct Size;
+
+    enum class Special { no, mass, area, type };
+    struct Wanted {
+        std::string name;
+        Special special = Special::no;
+        bool isKnown = false;
+        int column = -1;  // in the table at hand
+    };
+
+    void bind(Wanted& wanted, const ColumnNames& columns);
+    void noteNames(const ColumnNames& columns);
+    std::optional<double> valueOf(const Wanted& wanted, const Size& size) const;
+    bool holds(const Size& size) const;
+
+    std::span<const SectionCondition> m_conditions;
+    std::vector<Wanted> m_wanted;  // one a condition
+    Wanted m_sort;
+    bool m_inactive;
+    std::vector<std::string> m_names;
+};
+
+}  // namespace cli

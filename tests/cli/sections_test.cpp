@@ -1,0 +1,193 @@
+// Section tables listed, shown, searched, checked and exchanged.
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <nlohmann/json.hpp>
+
+#include "program.h"
+
+namespace {
+
+using nlohmann::json;
+using testing::HasSubstr;
+using testing::StartsWith;
+
+constexpr const char* ipe =
+    "1\nSysName\tI/O\tEnglish\tDutch\tGerman\tFrench\tHeight\tWidth\tWeb thickness\tFlange "
+    "thickness\tRadius\tMass kg/m\tIy cm4\n"
+    "200\t1\tIPE 200\tIPE 200\tIPE 200\tIPE 200\t200\t100\t5.6\t8.5\t12\t22.4\t1943\n"
+    "220\t0\tIPE 220\tIPE 220\tIPE 220\tIPE 220\t220\t110\t5.9\t9.2\t12\t26.2\t2772\n"
+    "300\t1\tIPE 300\tIPE 300\tIPE 300\tIPE 300\t300\t150\t7.1\t10.7\t15\t42.2\t8356\n";
+constexpr const char* flat =
+    "8\nSysName\tI/O\tEnglish\tDutch\tGerman\tFrench\tBreedte\tDikte\n"
+    "100x10\t1\tFlat 100\tStrip 100\tFlach 100\tPlat\xE9 100\t100\t10\n";
+
+class Sections : public testing::Test {
+  protected:
+    Sections() {
+        folder.write("prof/IPE.pr", ipe);
+        folder.write("prof/FL.pr", flat);
+    }
+    program::Result call(std::vector<std::string> arguments, std::string_view input = {}) const {
+        arguments.insert(arguments.begin(), {"--library", folder.path().string(), "sections"});
+        return program::run(arguments, input);
+    }
+    program::Folder folder;
+};
+
+TEST_F(Sections, AreListedAndThoseThatCannotBeReadToldOf) {
+    const auto result = call({"list"});
+    EXPECT_EQ(result.exitCode, 0) << result.err;
+    EXPECT_EQ(result.out,
+              "Table  Sizes  In use  Type\nFL         1       1  8 Flat\n"
+              "IPE        3       2  1 I section\n");
+    const json all = json::parse(call({"list", "--json"}).out);
+    EXPECT_EQ(all[1]["type"], 1);
+    EXPECT_EQ(all[1]["active"], 2);
+    const std::string bad = folder.write("prof/BAD.pr", "1\nSysName\t\\x\n");
+    const auto damaged = call({"list"});
+    EXPECT_EQ(damaged.exitCode, 1);
+    EXPECT_THAT(damaged.err, HasSubstr(bad + ":2: a backslash"));
+    EXPECT_THAT(damaged.out, HasSubstr("IPE"));
+}
+
+TEST_F(Sections, AreShownByEveryName) {
+    EXPECT_THAT(call({"show", "ipe"}).out, HasSubstr("IPE-220  IPE 220  no      220  110"));
+    for (const char* name : {"IPE-300", "ipe 300"}) {
+        const auto result = call({"show", name});
+        EXPECT_EQ(result.exitCode, 0) << result.err;
+        EXPECT_THAT(result.out, StartsWith("IPE-300\n")) << name;
+        EXPECT_THAT(result.out, HasSubstr("42.2\n")) << name;
+    }
+    const json size = json::parse(call({"show", "FL-100x10", "--json"}).out);
+    EXPECT_EQ(size["section"], "FL-100x10");
+    EXPECT_EQ(size["values"]["Breedte"], 100);
+    EXPECT_EQ(size["names"]["French"], "Plat\xC3\xA9 100");
+    EXPECT_NEAR(size["mass"], 7.85, 1e-9);
+    const auto unknown = call({"show", "IPE-2000"});
+    EXPECT_EQ(unknown.exitCode, 1);
+    EXPECT_THAT(unknown.err, HasSubstr("did you mean IPE-200?"));
+    EXPECT_THAT(call({"show", "HEA"}).err, HasSubstr("there are:\n  FL IPE"));
+}
+
+TEST_F(Sections, AreFoundByConditions) {
+    const struct {
+        std::vector<std::string> conditions;
+        const char* found;  // sections, in order
+    } cases[] = {
+        {{"h>=200", "b<=100"}, "IPE-200"},
+        {{"Height > 200"}, "IPE-300"},
+        {{"h=200..300", "--inactive"}, "IPE-200 IPE-220 IPE-300"},
+        {{"h!=200", "--inactive"}, "IPE-220 IPE-300"},
+        {{"b=100"}, "FL-100x10 IPE-200"},
+        {{"b=100", "--sort", "mass"}, "FL-100x10 IPE-200"},
+        {{"mass>7", "--sort", "Iy"}, "IPE-200 IPE-300 FL-100x10"},
+        {{"breedte=100"}, "FL-100x10"},
+        {{"iy>=8000"}, "IPE-300"},
+        {{"area<20"}, "FL-100x10"},
+        {{"type=8"}, "FL-100x10"},
+        {{"table!=IP*"}, "FL-100x10"},
+        {{"name=strip*"}, "FL-100x10"},
+        {{"h>1000"}, ""},
+    };
+    for (const auto& c : cases) {
+        std::vector<std::string> arguments{"find", "--json"};
+        arguments.insert(arguments.end(), c.conditions.begin(), c.conditions.end());
+        const auto result = call(arguments);
+        SCOPED_TRACE(testing::PrintToString(c.conditions));
+        ASSERT_EQ(result.exitCode, 0) << result.err;
+        std::string names;
+        for (const json& each : json::parse(result.out))
+            names += (names.empty() ? "" : " ") + each["section"].get<std::string>();
+        EXPECT_EQ(names, c.found);
+    }
+    EXPECT_EQ(call({"find", "h=200"}).out,
+              "Section  Name     kg/m  Values\n"
+              "IPE-200  IPE 200  22.4  h=200 b=100 tw=5.6 tf=8.5 r=12\n");
+    EXPECT_THAT(call({"find", "h>1000"}).err, HasSubstr("no section fits"));
+}
+
+TEST_F(Sections, ConditionsThatMakeNoSenseAreRefused) {
+    const struct {
+        std::vector<std::string> conditions;
+        const char* message;
+    } cases[] = {
+        {{"heigth>=200"}, "no table has a column \"heigth\"; did you mean Height?"},
+        {{"h>=200", "--sort", "zz"}, "no table has a column \"zz\""},
+        {{"h"}, "a condition is a column"},
+        {{">=200"}, "a condition is a column"},
+        {{"h>=tall"}, "\"tall\" is no number"},
+        {{"h=1.."}, "no range LOW..HIGH"},
+        {{"h!200"}, "write !="},
+        {{"name>=a"}, "texts are compared with"},
+        {{}, "CONDITION is required"},
+    };
+    for (const auto& c : cases) {
+        std::vector<std::string> arguments{"find"};
+        arguments.insert(arguments.end(), c.conditions.begin(), c.conditions.end());
+        const auto result = call(arguments);
+        EXPECT_EQ(result.exitCode, 2) << c.message;
+        EXPECT_EQ(result.out, "");
+        EXPECT_THAT(result.err, HasSubstr(c.message));
+    }
+}
+
+TEST_F(Sections, AreCheckedWithPlacesAndFailOnErrorsAlone) {
+    const auto clean = call({"check"});
+    EXPECT_EQ(clean.exitCode, 0) << clean.out;
+    EXPECT_EQ(clean.out, "");
+    const std::string file = folder.write(
+        "prof/RD.pr",
+        "9\nSysName\tI/O\tEnglish\tDutch\tGerman\tFrench\tDiameter\n10\tx\ta\t\t\t\t0\n");
+    const auto wrong = call({"check", "RD"});
+    EXPECT_EQ(wrong.exitCode, 1);
+    EXPECT_EQ(wrong.out, file + ":3:2: warning: \"x\" is neither 1 (in use) nor 0\n" + file +
+                             ":3:7: error: Diameter is \"0\", which has to be above 0\n");
+    const json findings = json::parse(call({"check", "--json"}).out);
+    EXPECT_EQ(findings.size(), 2u);
+    EXPECT_EQ(findings[1]["row"], 3);
+    EXPECT_EQ(findings[1]["severity"], "error");
+    EXPECT_EQ(call({"check", "NONE"}).exitCode, 1);
+}
+
+TEST_F(Sections, ComeBackFromCsvAsTheyWere) {
+    const std::string csv = folder / "out.csv";
+    ASSERT_EQ(call({"export", "FL", csv}).exitCode, 0);
+    ASSERT_EQ(call({"import", csv, "Copy", "--type", "8"}).exitCode, 0);
+    EXPECT_EQ(folder.read("prof/Copy.pr"), flat);
+    EXPECT_EQ(json::parse(call({"export", "IPE", "--json"}).out)["sizes"].size(), 3u);
+    EXPECT_EQ(call({"export", "IPE", folder / "out.txt"}).exitCode, 2);
+
+    const auto there = call({"import", csv, "FL"});
+    EXPECT_EQ(there.exitCode, 1);
+    EXPECT_THAT(there.err, HasSubstr("FL.pr: the table is there already; --force"));
+    EXPECT_EQ(call({"import", csv, "FL", "--force"}).exitCode, 0);
+    EXPECT_EQ(folder.read("prof/FL.pr"), flat);
+}
+
+TEST_F(Sections, ThatCannotBeAreNotImported) {
+    const std::string header = "SysName,I/O,English,Dutch,German,French,Width,Thickness\n";
+    const struct {
+        std::string csv;
+        std::string type;
+        int exitCode;
+        std::string message;
+    } cases[] = {
+        {header + "\"1\n0\",1,a,,,,100,thin\n", "8", 1, ":2:8: error: Thickness is \"thin\""},
+        {header + "1,1,a,,,,100,5\n1,1,b,,,,100,6\n", "8", 1, ":3:1: error: \"1\" is the system"},
+        {header + "\xE6\x9D\xB1,1,a,,,,100,5\n", "8", 1, ":2: "},
+        {"", "8", 1, "no line of column names"},
+        {header, "77", 2, "--type 77"},
+        {header, "", 2, "--type is not given"},
+    };
+    for (const auto& c : cases) {
+        std::vector<std::string> arguments{"import", folder.write("in.csv", c.csv), "New"};
+        if (!c.type.empty()) arguments.insert(arguments.end(), {"--type", c.type});
+        const auto result = call(arguments);
+        EXPECT_EQ(result.exitCode, c.exitCode) << result.err;
+        EXPECT_THAT(result.err, HasSubstr(c.message));
+        EXPECT_EQ(program::run({"sections", "show", folder / "prof/New.pr"}).exitCode, 1);
+    }
+}
+
+}  // namespace

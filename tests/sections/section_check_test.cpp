@@ -1,0 +1,94 @@
+// What the check of section tables finds, each row of the table with its place.
+#include "sections/section_check.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "core_api/files.h"
+#include "sections/vor_prof_values_table.h"
+#include "support/temporary_folder.h"
+
+namespace {
+
+std::string found(const std::vector<Finding>& findings) {
+    std::string text;
+    for (const Finding& finding : findings)
+        text += std::to_string(finding.row) + ":" + std::to_string(finding.column) +
+                (finding.severity == Finding::Severity::error ? " error: " : " warning: ") +
+                finding.message.str() + "\n";
+    return text;
+}
+
+constexpr const char* header = "SysName\tI/O\tEnglish\tDutch\tGerman\tFrench\t";
+
+TEST(SectionCheck, FindsWhatCannotBe) {
+    const struct {
+        std::string file;
+        const char* finding;  // begins one of the lines; empty: nothing at all
+    } cases[] = {
+        {std::string("1\n") + header +
+             "Height\tWidth\tWeb thickness\tFlange thickness\tRadius\n"
+             "80\t1\ta\ta\ta\ta\t80\t46\t3.8\t5.2\t5\n",
+         ""},
+        {std::string("8\n") + header + "Breedte\tDicke\n1\t1\ta\t\t\t\t10\t5\n", ""},
+        {std::string("25\n") + header + "b\n1\t1\ta\t\t\t\t10\n", "1:1 error: \"25\" is no type"},
+        {std::string("\n") + header + "b\n1\t1\ta\t\t\t\t10\n", "1:1 warning: nothing says"},
+        {std::string("8\n") + header + "Width\n1\t1\ta\t\t\t\t10\n", "2:0 error: there are 7"},
+        {std::string("9\n") + header + "Size\n1\t1\ta\t\t\t\t10\n",
+         "2:7 warning: \"Size\" stands where the type has Diameter"},
+        {std::string("9\n") + header + "Diameter\n", "0:0 warning: the table has no sizes"},
+        {std::string("9\n") + header + "Diameter\n1\t1\ta\t\t\t\t10\n1\t1\tb\t\t\t\t12\n",
+         "4:1 error: \"1\" is the system name of line 3 already"},
+        {std::string("9\n") + header + "Diameter\n1\t1\ta\t\t\t\t10\n2\t1\t\tA\t\t\t12\n",
+         "4:4 warning: \"A\" names the size of line 3"},
+        {std::string("9\n") + header + "Diameter\n\t1\ta\t\t\t\t10\n",
+         "3:1 error: the size has no"},
+        {std::string("9\n") + header + "Diameter\n1\t1\t\t\t\t\t10\n", "3:3 warning: the size has"},
+        {std::string("9\n") + header + "Diameter\n1\tyes\ta\t\t\t\t10\n",
+         "3:2 warning: \"yes\" is neither"},
+        {std::string("9\n") + header + "Diameter\n1\t1\ta\t\t\t\n", "3:0 error: the size has 6"},
+        {std::string("9\n") + header + "Diameter\n1\t1\ta\t\t\t\tten\n",
+         "3:7 error: Diameter is \"ten\", which is no number"},
+        {std::string("9\n") + header + "Diameter\n1\t1\ta\t\t\t\t0\n",
+         "3:7 error: Diameter is \"0\", which has to be above 0"},
+        {std::string("1\n") + header +
+             "Height\tWidth\tWeb thickness\tFlange thickness\tRadius\n"
+             "80\t1\ta\ta\ta\ta\t80\t46\t46\t5.2\t0\n",
+         "3:9 error: the web is not thinner"},
+        {std::string("1\n") + header +
+             "Height\tWidth\tWeb thickness\tFlange thickness\tRadius\n"
+             "80\t1\ta\ta\ta\ta\t80\t46\t4\t40\t0\n",
+         "3:10 error: two flanges"},
+        {std::string("11\n") + header + "Diameter\tThickness\n1\t1\ta\ta\ta\ta\t20\t10\n",
+         "3:8 error: the wall"},
+        {std::string("14\n") + header + "Leg\tThickness\tAngle\n1\t1\ta\ta\ta\ta\t20\t2\t190\n",
+         "3:9 error: the angle"},
+        {"9\n", "2:0 error: the section table has no column names"},
+    };
+    const TemporaryFolder folder;
+    for (const auto& c : cases) {
+        const std::string text = found(checkSectionFile(folder.write("T.pr", c.file)));
+        if (*c.finding)
+            EXPECT_THAT("\n" + text, testing::HasSubstr(std::string("\n") + c.finding)) << c.file;
+        else
+            EXPECT_EQ(text, "") << c.file;
+    }
+}
+
+TEST(SectionCheck, TellsOfNamesAndFilesThatCannotBeUsed) {
+    const TemporaryFolder folder;
+    const std::string bad = folder.write("BAD.pr", "9\nSysName\t\\x\n");
+    EXPECT_EQ(found(checkSectionFile(bad)),
+              "0:0 error: " + bad + ":2: a backslash stands alone; write it twice\n");
+    const std::string hyphen =
+        folder.write("A-B.pr", std::string("9\n") + header + "Diameter\n1\t1\ta\t\t\t\t10\n");
+    EXPECT_THAT(found(checkSectionFile(hyphen)), testing::StartsWith("0:0 error: a table's name"));
+}
+
+TEST(SectionCheck, TheSampleLibraryHasNothingToFind) {
+    for (const Vor_String& path :
+         ObjectExportFindFiles(VORMANT_SOURCE_DIR "/library/prof/", "*.pr"))
+        EXPECT_EQ(found(checkSectionFile(path)), "") << path.view();
+}
+
+}  // namespace
