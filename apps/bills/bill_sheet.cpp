@@ -18,7 +18,8 @@ namespace {
 
 constexpr int titleVariable = 1, fileVariable = 2;
 
-/// Lets the module look for a settings file where it lies: in the library, or where its path says.
+/// Lets the module look for a settings file where it lies: where its path says, or in the add-on's
+/// folder, or else in the library.
 class SettingsFolder {
   public:
     explicit SettingsFolder(const Vor_String& typed) : m_before(gSettings.vorDir()) {
@@ -28,7 +29,7 @@ class SettingsFolder {
                                  : typed;
         if (isPath)
             gSettings.setVorDir(getPath(typed).isEmpty() ? Vor_String(".") : getPath(typed));
-        else if (gSettings.vorDir().isEmpty())
+        else if (!exists())
             gSettings.setVorDir(gSettings.libDir());
     }
     ~SettingsFolder() { gSettings.setVorDir(m_before); }

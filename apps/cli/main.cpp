@@ -2,6 +2,7 @@
 #include <unistd.h>
 
 #include "command_line.h"
+#include "core_api/program_data.h"
 
 namespace {
 
@@ -18,5 +19,6 @@ void occupyStandardStreams() {
 
 int main(int argc, char** argv) {
     occupyStandardStreams();
+    useProgramData();
     return static_cast<int>(cli::runCommandLine(argc, argv));
 }

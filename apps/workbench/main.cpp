@@ -8,6 +8,7 @@
 #include <cstdio>
 #include <cstring>
 
+#include "core_api/program_data.h"
 #include "platform/paths.h"
 #include "sheet/sheet_file.h"
 #include "sheet/sheet_printing.h"
@@ -117,6 +118,7 @@ int main(int argc, char** argv) {
         }
         settings.sessionLanguage = static_cast<Language>(code);
     }
+    useProgramData();
     MainWindow window(settings);
     window.show();
     QStringList files = parser.positionalArguments();

@@ -75,7 +75,7 @@ TEST(Hatch, StaysInsideAndOutOfHoles) {
 TEST(StrokeFont, DrawsEveryCharacterThatPeopleType) {
     std::set<std::vector<std::pair<double, double>>> shapes;
     const std::string characters =
-        "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789.,-+=/%():'\"#_<>*"
+        "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789.,-+=/%():'\"#_<>*?!;"
         "\xB0\xB2\xD7\xD8\xF8";
     for (const char character : characters) {
         std::vector<std::pair<double, double>> shape;

@@ -12,3 +12,6 @@ run(${CMAKE_COMMAND} -S ${CONSUMER} -B ${SCRATCH}/build -G Ninja
     -D CMAKE_PREFIX_PATH=${SCRATCH}/installed -D CMAKE_BUILD_TYPE=Release)
 run(${CMAKE_COMMAND} --build ${SCRATCH}/build)
 run(${SCRATCH}/build/consumer ${SCRATCH}/installed/share/vormant/library)
+if(NOT EXISTS ${SCRATCH}/installed/share/vormant/icons/ProfSectionI-big.bmp)
+  message(FATAL_ERROR "the pictures of section types are not installed")
+endif()

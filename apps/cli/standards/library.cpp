@@ -1,10 +1,10 @@
 #include "standards/library.h"
 
 #include <algorithm>
-#include <filesystem>
 
 #include "console.h"
 #include "core_api/files.h"
+#include "core_api/program_data.h"
 #include "core_api/settings.h"
 #include "core_api/text/text_helpers.h"
 #include "io/suggestion.h"
@@ -18,13 +18,6 @@ namespace cli {
 namespace {
 
 constexpr std::string_view extension = ".tws";
-
-std::string installedLibrary() {
-    std::error_code error;
-    const auto program = std::filesystem::read_symlink("/proc/self/exe", error);
-    const auto folder = program.parent_path().parent_path() / "share" / "vormant" / "library";
-    return !error && std::filesystem::is_directory(folder, error) ? folder.string() : "";
-}
 
 /// The name of a standard in the library, as it is written inside; nothing for other files.
 std::optional<Vor_String> nameInside(const Vor_String& path) {
@@ -75,7 +68,7 @@ Vor_String StandardName::mappingName() const {
 }
 
 bool openLibrary(const std::string& folder) {
-    const std::string chosen = folder.empty() ? installedLibrary() : folder;
+    const std::string chosen = folder.empty() ? programData("library").value_or("") : folder;
     if (chosen.empty()) return true;
     const auto inside = insidePath(chosen);
     if (!inside) return false;

@@ -28,7 +28,7 @@ struct Figure {
 struct FigurePaper {
     double width = 320;
     double height = 240;
-    double capHeight = 10;      ///< of labels; 0: no dimensions, no hidden lines
+    double capHeight = 11;      ///< of labels; 0: no dimensions, no hidden lines
     double lineWidth = 1.5;     ///< of edges
     double hatchSpacing = 5.5;  ///< 0: no hatching
 };
