@@ -23,7 +23,7 @@ bool replaceVariables(Vor_String& text, const Vor_StringArray& names, const Vor_
 /// equation. Gives exactly what replaceVariables gives: in one pass over the text as long as all
 /// names are plain words of less than 256 letters and no two are equal; otherwise name by name,
 /// passing over those that cannot be in the text.
-class VariableReferences : public formula::CellNames {
+class VariableReferences final : public formula::CellNames {
   public:
     /// What becomes of a name that was there before: its own reference, or that of the first.
     enum class Namesakes { apart, asFirst };
