@@ -2,6 +2,7 @@
 // values here, by this one line; it needs a default constructor, data() and doModal().
 #pragma once
 
+#include "cutstock/cutting_stock_dialog.h"
 #include "frame/editor/data_dialog.h"
 #include "frame/editor/editor_kinds.h"
 #include "sections/dialogs/library_dialog.h"
@@ -16,7 +17,7 @@ using ArrayDialog = DataDialog<DynArrayData, arrayEditor>;
 using SelectMacroDialog = DataDialog<MacroChoice, macroChoiceEditor>;
 using EditLibSectionsDialog = LibraryDialog;
 using EditLibSimpleDialog = SizeDialog;
-using CSP2Dialog = DataDialog<DlgCSP2Data, cuttingStockEditor>;
+using CSP2Dialog = TwCuttingStockDlg;
 using ProfFeaturesDialog = DataDialog<DlgProfFeaturesData, featuresEditor>;
 using GridDialog = DataDialog<TwGridDlgData, gridEditor>;
 using LevelsDialog = DataDialog<TwLevelsDlgData, levelsEditor>;

@@ -86,14 +86,6 @@ TwAutoStandardsData sampleGenVars() {
     return data;
 }
 
-DlgCSP2Data sampleStock() {
-    DlgCSP2Data data;
-    data.itemIds = {7};
-    data.itemNames = {"IPE"};
-    data.tables[1] = {{"Length"}, {7}, {{"12000"}}};
-    return data;
-}
-
 Outcome macroModal() {
     MacroData macro = makeMacroData(sampleMacro());
     int bolts = 0;
@@ -158,9 +150,6 @@ std::vector<Case> cases() {
                                [](auto& d) { return Vor_String(d.gap, 3); }),
          Resources::override, Copies::never},
         {"array", 8720, 7, "300", "250", array},
-        {"cutting stock", 8724, 1, "6000", "12000",
-         over<DlgCSP2Data>(StartDlgCSP2, sampleStock(),
-                           [](auto& d) { return d.tables[1].rows[0][0]; })},
         {"features", 8725, 3, "22", "18",
          over<DlgProfFeaturesData>(StartDlgProfFeatures, sampleFeatures(),
                                    [](auto& d) { return Vor_String(d.features[0].size, 3); })},

@@ -70,6 +70,20 @@ std::unique_ptr<CDialog> make(Arguments... arguments) {
     return std::make_unique<Dialog>(arguments...);
 }
 
+/// A section with parts, bars in stock and bars to buy.
+std::unique_ptr<CDialog> stockDialog(bool savesAll) {
+    auto dialog = std::make_unique<CSP2Dialog>();
+    DlgCSP2Data& data = dialog->data();
+    data.savesAll = savesAll;
+    data.itemIds = {1, 2};
+    data.itemNames = {"IPE 200", "HEA 200"};
+    data.tables[0] = {
+        {"Mark", "Length", "Number"}, {1, 1}, {{"B1", "5400", "6"}, {"B2", "880", "3"}}};
+    data.tables[1] = {{"Length", "Number"}, {1, 1}, {{"12100", "2"}, {"6050", "5"}}};
+    data.tables[2] = {{"Length", "Price"}, {1}, {{"15100", "29.40"}}};
+    return dialog;
+}
+
 struct Row {
     const char* name;
     std::unique_ptr<CDialog> (*make)();
@@ -80,6 +94,8 @@ const Row rows[] = {
      [] {
          return std::unique_ptr<CDialog>(new TwMappingDlg(nullptr, TabMappingData(), noObjects));
      }},
+    {"cutstock", [] { return stockDialog(false); }},
+    {"cutstock_saving", [] { return stockDialog(true); }},
     {"bracing", [] { return std::unique_ptr<CDialog>(new BracingDialog); }},
     {"table",
      [] {

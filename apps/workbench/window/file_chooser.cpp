@@ -78,9 +78,11 @@ void setUp(QFileDialog& chooser, const FileQuestion& question) {
     if (!question.preset.empty()) chooser.selectFile(toQt(question.preset));
 }
 
-bool mayBeReplaced(const QString& path, const FileQuestion& question) {
-    if (question.kind != Kind::save || !QFileInfo::exists(path)) return true;
-    const QString asked = desktopText(DesktopText::fileExists).arg(QFileInfo(path).fileName());
+/// Letter case aside, as the module looks for its files.
+bool mayBeReplaced(const std::string& inside, const FileQuestion& question) {
+    const QFileInfo file(QString::fromStdString(paths::toMachine(inside)));
+    if (question.kind != Kind::save || !file.exists()) return true;
+    const QString asked = desktopText(DesktopText::fileExists).arg(file.fileName());
     return showMessage({question.title, fromQt(asked), MessageIcon::exclamation,
                         MessageButtons::yesNo}) == IDYES;
 }
@@ -102,9 +104,8 @@ std::vector<std::string> accepted(const QStringList& chosen, const FileQuestion&
     std::vector<std::string> made;
     for (const QString& each : chosen) {
         const QString path = withExtension(each, question);
-        if (!mayBeReplaced(path, question)) return {};
         const auto inside = insidePath(path, question);
-        if (!inside) return {};
+        if (!inside || !mayBeReplaced(*inside, question)) return {};
         made.push_back(*inside);
     }
     return made;

@@ -132,6 +132,11 @@ void QtWindowSystem::realise(CWnd& window) {
     for (CWnd* child : window.children()) {
         if (!hasFrame(*child)) realise(*child);
     }
+    // Labels stand before the controls that their marked letters lead to.
+    for (CWnd* child : window.children()) {
+        WindowView* label = dynamic_cast<CStatic*>(child) ? viewOf(*child) : nullptr;
+        if (label) label->follow(WindowChange::text);
+    }
     view->followAll();
     if (!view->widget()->isWindow()) view->follow(WindowChange::visible);
 }

@@ -11,20 +11,20 @@ constexpr TextRow rows[] = {
     {618, {"Open file", "Bestand openen", "Datei öffnen", "Ouvrir un fichier"}},
     {619, {"Save file", "Bestand opslaan", "Datei speichern", "Enregistrer le fichier"}},
     {620, {"Cutting stock", "Zaagoptimalisatie", "Zuschnitt", "Débit de barres"}},
-    {621, {"Item", "Onderdeel", "Posten", "Article"}},
-    {622, {"Add item", "Onderdeel toevoegen", "Posten hinzufügen", "Ajouter un article"}},
-    {623, {"Delete item", "Onderdeel verwijderen", "Posten löschen", "Supprimer l'article"}},
+    {621, {"&Item", "O&nderdeel", "Po&sten", "Art&icle"}},
+    {622, {"&Add item", "Onderdeel &toevoegen", "Posten &hinzufügen", "&Ajouter un article"}},
+    {623, {"&Delete item", "Onderdeel &verwijderen", "Posten &löschen", "&Supprimer l'article"}},
     {624,
      {"Tables of the item", "Tabellen van het onderdeel", "Tabellen des Postens",
       "Tableaux de l'article"}},
     {625, {"Parts to cut", "Te zagen delen", "Zuschnitte", "Pièces à débiter"}},
     {626, {"Stock", "Voorraad", "Bestand", "Stock"}},
     {627, {"Purchases", "Inkoop", "Einkauf", "Achats"}},
-    {628, {"Save all", "Alles opslaan", "Alle speichern", "Enregistrer tout"}},
-    {629, {"Load all", "Alles laden", "Alle laden", "Charger tout"}},
+    {628, {"&Save all", "Alles o&pslaan", "Alle s&peichern", "&Enregistrer tout"}},
+    {629, {"&Load all", "Alles &laden", "Alle la&den", "&Charger tout"}},
     {630,
-     {"Ask for file names", "Bestandsnamen vragen", "Dateinamen erfragen",
-      "Demander les noms de fichier"}},
+     {"Ask for file &names", "Bestandsnamen v&ragen", "Dateinamen &erfragen",
+      "&Demander les noms de fichier"}},
     {631, {"New item", "Nieuw onderdeel", "Neuer Posten", "Nouvel article"}},
     {632, {"Name of the item", "Naam van het onderdeel", "Name des Postens", "Nom de l'article"}},
     {633,
@@ -40,6 +40,80 @@ constexpr TextRow rows[] = {
       "Il n'y a pas de fichier d'achats"}},
     {638, {"The purchase file", "Het inkoopbestand", "Die Einkaufsdatei", "Le fichier d'achats"}},
     {652, {"Files loaded", "Geladen bestanden", "Geladene Dateien", "Fichiers chargés"}},
+    {25200,
+     {"No library folder is set; choose one first.",
+      "Er is geen bibliotheekmap ingesteld; kies er eerst een.",
+      "Es ist kein Bibliotheksordner eingestellt; bitte zuerst einen wählen.",
+      "Aucun dossier de bibliothèque n'est défini ; choisissez-en un d'abord."}},
+    {25201,
+     {"This cannot be the name of an item, as its files lie in a folder of that name; leave out \\ "
+      "/ : * ? \" < > | and a dot or blanks at its ends.",
+      "Dit kan geen naam van een onderdeel zijn, omdat de bestanden in een map met die naam "
+      "liggen; "
+      "laat \\ / : * ? \" < > | en een punt of spaties aan de uiteinden weg.",
+      "Das kann kein Name eines Postens sein, denn seine Dateien liegen in einem Ordner dieses "
+      "Namens; bitte \\ / : * ? \" < > | und Punkt oder Leerzeichen an den Enden weglassen.",
+      "Ce ne peut être le nom d'un article, car ses fichiers se trouvent dans un dossier de ce nom "
+      "; "
+      "retirez \\ / : * ? \" < > | et le point ou les espaces aux extrémités."}},
+    {25202,
+     {"a cell holds a line break, which files of rows cannot keep; remove it and save again",
+      "een cel bevat een regeleinde, dat bestanden met rijen niet kunnen bewaren; verwijder het en "
+      "sla opnieuw op",
+      "eine Zelle enthält einen Zeilenumbruch, den Dateien aus Zeilen nicht halten können; bitte "
+      "entfernen und erneut speichern",
+      "une cellule contient un saut de ligne, que les fichiers de lignes ne peuvent conserver ; "
+      "supprimez-le et enregistrez de nouveau"}},
+    {25203,
+     {"There is an item of this name already; choose another name.",
+      "Er is al een onderdeel met deze naam; kies een andere naam.",
+      "Es gibt schon einen Posten dieses Namens; bitte einen anderen wählen.",
+      "Il existe déjà un article de ce nom ; choisissez-en un autre."}},
+    {25204,
+     {"The item has no rows in this table now. Cancel closes the dialog without this change.",
+      "Het onderdeel heeft nu geen rijen in deze tabel. Annuleren sluit de dialoog zonder deze "
+      "wijziging.",
+      "Der Posten hat in dieser Tabelle jetzt keine Zeilen. Abbrechen schließt den Dialog ohne "
+      "diese "
+      "Änderung.",
+      "L'article n'a plus de lignes dans ce tableau. Annuler ferme le dialogue sans cette "
+      "modification."}},
+    {25205, {"written", "geschreven", "geschrieben", "écrit"}},
+    {25206,
+     {"so the items are named after their folders, and their parts are not shown",
+      "daarom heten de onderdelen zoals hun mappen, en hun delen worden niet getoond",
+      "daher heißen die Posten wie ihre Ordner, und ihre Zuschnitte werden nicht gezeigt",
+      "les articles portent donc le nom de leur dossier, et leurs pièces ne sont pas montrées"}},
+    {25207,
+     {"The list of items could not be read when it was opened. Replace it by what was edited?",
+      "De lijst met onderdelen kon bij het openen niet worden gelezen. Vervangen door wat is "
+      "bewerkt?",
+      "Die Liste der Posten konnte beim Öffnen nicht gelesen werden. Durch das Bearbeitete "
+      "ersetzen?",
+      "La liste des articles n'a pu être lue à l'ouverture. La remplacer par ce qui a été modifié "
+      "?"}},
+    {25208,
+     {"The list of items was changed by another program meanwhile. Replace it by what was edited "
+      "here?",
+      "De lijst met onderdelen is intussen door een ander programma gewijzigd. Vervangen door wat "
+      "hier is bewerkt?",
+      "Die Liste der Posten wurde inzwischen von einem anderen Programm geändert. Durch das hier "
+      "Bearbeitete ersetzen?",
+      "La liste des articles a été modifiée entre-temps par un autre programme. La remplacer par "
+      "ce "
+      "qui a été modifié ici ?"}},
+    {25210, {"January", "januari", "Januar", "janvier"}},
+    {25211, {"February", "februari", "Februar", "février"}},
+    {25212, {"March", "maart", "März", "mars"}},
+    {25213, {"April", "april", "April", "avril"}},
+    {25214, {"May", "mei", "Mai", "mai"}},
+    {25215, {"June", "juni", "Juni", "juin"}},
+    {25216, {"July", "juli", "Juli", "juillet"}},
+    {25217, {"August", "augustus", "August", "août"}},
+    {25218, {"September", "september", "September", "septembre"}},
+    {25219, {"October", "oktober", "Oktober", "octobre"}},
+    {25220, {"November", "november", "November", "novembre"}},
+    {25221, {"December", "december", "Dezember", "décembre"}},
 };
 
 }  // namespace

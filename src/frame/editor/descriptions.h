@@ -1,7 +1,6 @@
 // The rows of every data object that the editor of named values shows.
 #pragma once
 
-#include "core_api/dialog_data/dlg_csp2_data.h"
 #include "core_api/dialog_data/dlg_macro_cuts_data.h"
 #include "core_api/dialog_data/dlg_prof_cuts_data.h"
 #include "core_api/dialog_data/dlg_prof_features_data.h"
@@ -31,7 +30,6 @@ NamedValues describe(TwAutoStandardsData& data);
 // Members and sections: member_descriptions.cpp.
 NamedValues describe(ProfCuts& data);
 NamedValues describe(DlgProfFeaturesData& data);
-NamedValues describe(DlgCSP2Data& data);
 NamedValues describe(DstvPoints& data);
 NamedValues describe(TwDlgCis2Data& data);
 

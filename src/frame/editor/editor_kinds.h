@@ -11,7 +11,6 @@ inline constexpr EditorKind objectProfileEditor = editorKind(8718, 21013, "DLG_P
 inline constexpr EditorKind profCutsEditor = editorKind(8719, 21014, "DLG_PROFCUTS");
 inline constexpr EditorKind arrayEditor = editorKind(8720, 21015, "DLG_ARRAY");
 inline constexpr EditorKind macroChoiceEditor = editorKind(8721, 1116, "DLG_SELECT_MACRO");
-inline constexpr EditorKind cuttingStockEditor = editorKind(8724, 620, "DLG_CSP2");
 inline constexpr EditorKind featuresEditor = editorKind(8725, 21017, "DLG_PROFFEATURES");
 inline constexpr EditorKind gridEditor = editorKind(8726, 21018, "DLG_GRID");
 inline constexpr EditorKind levelsEditor = editorKind(8727, 21019, "DLG_LEVELS");

@@ -16,21 +16,6 @@ NamedValues describe(DlgProfFeaturesData& data) {
     return values;
 }
 
-NamedValues describe(DlgCSP2Data& data) {
-    NamedValues values;
-    for (Csp2Table& table : data.tables) {
-        for (int row = 0; row < table.rows.length() && row < table.rowItemIds.length(); ++row) {
-            const int item = data.itemIds.find(table.rowItemIds[row]);
-            if (!data.itemNames.isIndex(item)) continue;
-            Vor_StringArray& cells = table.rows[row];
-            const Vor_String owner = data.itemNames[item] + ", " + Vor_String(row + 1, 0);
-            for (int col = 0; col < cells.length() && col < table.columnNames.length(); ++col)
-                values.push_back(textValue(table.columnNames[col], cells[col]).of(owner));
-        }
-    }
-    return values;
-}
-
 NamedValues describe(DstvPoints& data) {
     return {choiceValue(21087, data.mark, {21088, 21089, 21090}),
             numberValue(21091, data.depth, lengths), yesNoValue(21092, data.withLabels)};
