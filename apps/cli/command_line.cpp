@@ -6,6 +6,7 @@
 #include <iostream>
 
 #include "bill/bill_command.h"
+#include "cutstock/cutstock_commands.h"
 #include "io/suggestion.h"
 #include "mapping/mapping_commands.h"
 #include "sections/section_commands.h"
@@ -37,6 +38,11 @@ struct Calls {
     CheckSectionsRequest checkSections;
     ImportSectionsRequest importSections;
     ExportSectionsRequest exportSections;
+    ListStockRequest listStock;
+    ShowStockRequest showStock;
+    ImportStockRequest importStock;
+    ExportStockRequest exportStock;
+    ReportStockRequest reportStock;
     std::function<ExitCode()> work;
 };
 
@@ -289,6 +295,66 @@ void addSectionExchange(CLI::App& sections, Calls& calls) {
     onLibraryCall(out, calls, [&calls] { return exportSections(calls.exportSections); });
 }
 
+void addStockItem(CLI::App& command, std::string& item) {
+    command.add_option("ITEM", item, "An item of the library")->required()->check(refusedWhenEmpty);
+}
+
+void addStockKind(CLI::App& command, std::string& kind) {
+    command.add_option("KIND", kind, "shp, the stock, or buy, the purchases")
+        ->required()
+        ->check(CLI::IsMember({"shp", "buy"}));
+}
+
+void addStockReaders(CLI::App& cutstock, Calls& calls) {
+    auto& list = *cutstock.add_subcommand("list", "Name the items with their newest files");
+    list.add_flag("--json", calls.listStock.json, "Print one JSON array");
+    onLibraryCall(list, calls, [&calls] { return listStock(calls.listStock); });
+
+    auto& show = *cutstock.add_subcommand("show", "Print the tables of an item");
+    addStockItem(show, calls.showStock.item);
+    show.add_option("--file", calls.showStock.file,
+                    "This file, of the item's folder or a path, and not the newest ones")
+        ->type_name("FILE")
+        ->check(refusedWhenEmpty);
+    show.add_flag("--json", calls.showStock.json, "Print one JSON object");
+    onLibraryCall(show, calls, [&calls] { return showStock(calls.showStock); });
+
+    auto& report = *cutstock.add_subcommand(
+        "report", "Read the newest files of items as the dialog does and print its report");
+    report.add_option("ITEM", calls.reportStock.items, "An item; none: all items")
+        ->check(refusedWhenEmpty);
+    report.add_flag("--json", calls.reportStock.json, "Print one JSON object");
+    onLibraryCall(report, calls, [&calls] { return reportStock(calls.reportStock); });
+}
+
+void addStockExchange(CLI::App& cutstock, Calls& calls) {
+    ImportStockRequest& in = calls.importStock;
+    auto& import = *cutstock.add_subcommand("import", "Make a file of an item from CSV");
+    import.add_option("CSV", in.csv, "A CSV file without a header; - is the standard input")
+        ->required()
+        ->check(refusedWhenEmpty);
+    addStockItem(import, in.item);
+    addStockKind(import, in.kind);
+    import.add_option("--as", in.name, "The name of the file; else the next free number")
+        ->type_name("NAME")
+        ->check(refusedWhenEmpty);
+    import.add_flag("--force", in.force, "Replace a file that is there");
+    import.add_flag("--new", in.newItem, "Make the item when it is not there");
+    onLibraryCall(import, calls, [&calls] { return importStock(calls.importStock); });
+
+    ExportStockRequest& request = calls.exportStock;
+    auto& out = *cutstock.add_subcommand("export", "Write a table of an item as CSV or JSON");
+    addStockItem(out, request.item);
+    addStockKind(out, request.kind);
+    out.add_option("TO", request.to, "A .csv or .json file; - is the standard output")
+        ->check(refusedWhenEmpty);
+    out.add_option("--file", request.file, "This file and not the newest one")
+        ->type_name("FILE")
+        ->check(refusedWhenEmpty);
+    out.add_flag("--json", request.json, "JSON in place of CSV");
+    onLibraryCall(out, calls, [&calls] { return exportStock(calls.exportStock); });
+}
+
 /// The subcommand that the call got as far as.
 const CLI::App& commandMeant(const CLI::App& app) {
     const auto chosen = app.get_subcommands();
@@ -350,6 +416,11 @@ ExitCode runCommandLine(int argc, const char* const* argv) {
     sections.require_subcommand(1);
     addSectionReaders(sections, calls);
     addSectionExchange(sections, calls);
+    auto& cutstock =
+        *app.add_subcommand("cutstock", "List, show and exchange the files of cutting-stock items");
+    cutstock.require_subcommand(1);
+    addStockReaders(cutstock, calls);
+    addStockExchange(cutstock, calls);
     auto& mapping =
         *app.add_subcommand("mapping", "Tie the variables of a standard to objects of macros");
     mapping.require_subcommand(1);

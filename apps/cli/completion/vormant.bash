@@ -25,9 +25,9 @@ _vormant() {
     for ((i = 1; i < COMP_CWORD; i++)); do
         case ${COMP_WORDS[i]} in
             --library) ((i++)) ;;
-            standards | sheet | mapping | sections | bill) [[ $command ]] || command=${COMP_WORDS[i]} ;;
+            standards | sheet | mapping | sections | cutstock | bill) [[ $command ]] || command=${COMP_WORDS[i]} ;;
             list | check | test | run | batch | show | eval | convert | set | objects | \
-                find | import | export)
+                find | import | export | report)
                 [[ $command == *" "* ]] || command+=" ${COMP_WORDS[i]}" ;;
         esac
     done
@@ -35,14 +35,14 @@ _vormant() {
     local options="--help --library"
     case $before in
         --library) mapfile -t COMPREPLY < <(compgen -d -- "$word"); return ;;
-        --macro | --input | -o | --output | --settings) mapfile -t COMPREPLY < <(compgen -f -- "$word"); return ;;
-        --set | --gen | --key | --cell | --columns | --title | --picture-height) return ;;
+        --macro | --input | --file | -o | --output | --settings) mapfile -t COMPREPLY < <(compgen -f -- "$word"); return ;;
+        --set | --gen | --key | --cell | --columns | --title | --picture-height | --as) return ;;
         --group)
             mapfile -t COMPREPLY < <(compgen -W "none kind section material" -- "$word")
             return ;;
     esac
     case $command in
-        "") options+=" --version standards sheet mapping sections bill" ;;
+        "") options+=" --version standards sheet mapping sections cutstock bill" ;;
         standards) options+=" list check test run batch" ;;
         sheet) options+=" show eval convert" ;;
         mapping) options+=" show set objects" ;;
@@ -50,6 +50,10 @@ _vormant() {
         "sections find") options+=" --sort --inactive --json" ;;
         "sections import") options+=" --type --force" ;;
         "sections "*) options+=" --json" ;;
+        cutstock) options+=" list show import export report" ;;
+        "cutstock show" | "cutstock export") options+=" --file --json" ;;
+        "cutstock import") options+=" --as --force --new" ;;
+        "cutstock "*) options+=" --json" ;;
         "standards test") options+=" --all" ;;
         "standards run") options+=" --set --gen --macro --key --write --trace --json" ;;
         "standards batch") options+=" --gen --jsonl --no-header" ;;

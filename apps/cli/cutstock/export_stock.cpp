@@ -1,0 +1,44 @@
+#include "cutstock/cutstock_commands.h"
+#include "cutstock/stock_items.h"
+#include "io/export_file.h"
+
+namespace cli {
+
+namespace {
+
+/// Without a header, as the files have none.
+std::string asCsv(const cutstock::Rows& rows) {
+    std::string text;
+    for (const Vor_StringArray& row : rows) appendRecord(text, row);
+    return text;
+}
+
+std::string asJson(const Vor_String& item, const StockTable& table) {
+    std::string text;
+    JsonWriter json(text);
+    json.beginObject();
+    json.key("item");
+    json.text(item);
+    writeTable(json, table);
+    json.endObject();
+    return text + "\n";
+}
+
+}  // namespace
+
+ExitCode exportStock(const ExportStockRequest& request) {
+    const ExportTarget target{request.to, request.json};
+    if (!target.isValid()) return ExitCode::wrongCall;
+    const cutstock::FileKind& kind = *kindOfExtension(request.kind);
+    if (!request.file.empty() && kindOfFile(request.file) != &kind) {
+        complain("--file " + request.file + ": this is no ." + request.kind + " file");
+        return ExitCode::wrongCall;
+    }
+    const auto item = findItem(request.item);
+    const auto file = item ? neededFile(*item, request.file, kind) : std::nullopt;
+    const auto table = file ? readStockTable(*file) : std::nullopt;
+    if (!table) return ExitCode::failed;
+    return target.write(target.isJson() ? asJson(*item, *table) : asCsv(table->rows));
+}
+
+}  // namespace cli

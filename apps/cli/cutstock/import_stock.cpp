@@ -1,0 +1,108 @@
+#include "core_api/files.h"
+#include "cutstock/cutstock_commands.h"
+#include "cutstock/stock_items.h"
+#include "io/csv.h"
+#include "io/output.h"
+#include "io/texts.h"
+#include "io/typed_paths.h"
+#include "platform/encodings.h"
+
+namespace cli {
+
+namespace {
+
+constexpr char cellSeparator = '\xBF';
+
+/// False, with the reason in `error`, for what a cell of a file cannot hold.
+bool takeCell(std::string_view field, Vor_StringArray& row, std::string& error) {
+    std::string cell;
+    if (!fromUtf8(field, cell, error)) return false;
+    if (cell.find(cellSeparator) != std::string::npos)
+        error = "the character \xC2\xBF parts the cells in the file; write another one";
+    else if (cell.find_first_of("\r\n") != std::string::npos)
+        error = "a cell runs over several lines, which the file cannot hold; write it in one";
+    else
+        row.append(cell);
+    return error.empty();
+}
+
+/// The rows of a CSV file without a header; nothing after telling why.
+std::optional<cutstock::Rows> readCsv(const std::string& path) {
+    const std::string name = LineSource::shownName(path);
+    std::string error;
+    auto source = LineSource::open(path, error);
+    if (!source) {
+        complainAt(name, 0, error);
+        return std::nullopt;
+    }
+    CsvReader reader(*source, CsvReader::EmptyLines::kept);
+    std::vector<std::string_view> fields;
+    cutstock::Rows rows;
+    CsvReader::Got got;
+    while ((got = reader.next(fields)) == CsvReader::Got::record) {
+        Vor_StringArray row;
+        for (const std::string_view field : fields) {
+            if (takeCell(field, row, error)) continue;
+            complainAt(name, reader.lineNumber(), error);
+            return std::nullopt;
+        }
+        rows.append(std::move(row));
+    }
+    if (got == CsvReader::Got::end) return rows;
+    complainAt(name, reader.lineNumber(), reader.error());
+    return std::nullopt;
+}
+
+/// An item that is there, or with --new one that may not be.
+std::optional<Vor_String> itemMeant(const ImportStockRequest& request) {
+    if (!request.newItem) return findItem(request.item);
+    const auto items = libraryItems();
+    std::string name, error;
+    if (!items) return std::nullopt;
+    if (!fromUtf8(request.item, name, error)) {
+        complain(request.item + ": " + error);
+        return std::nullopt;
+    }
+    for (const Vor_String& item : *items)
+        if (encodings::equalFolded(item, name)) return item;
+    return name;
+}
+
+/// Where the rows go; nothing after telling why.
+std::optional<Vor_String> placeOf(const ImportStockRequest& request, const Vor_String& item,
+                                  const Vor_String& name) {
+    const cutstock::FileKind& kind = *kindOfExtension(request.kind);
+    const auto folder = folderOf(item);
+    if (!folder) return std::nullopt;
+    const Vor_String chosen =
+        *folder + (name.isEmpty() ? cutstock::defaultFileName(*folder, kind) : name);
+    const Vor_String path = cutstock::storedPath(chosen, kind);
+    if (request.force || !ObjectExportFileExists(path)) return path;
+    complainAt(shownPath(path), 0, "the file is there already; --force replaces it");
+    return std::nullopt;
+}
+
+}  // namespace
+
+ExitCode importStock(const ImportStockRequest& request) {
+    const auto name = encodings::fromUtf8(request.name);
+    if (!name || (!name->empty() && !cutstock::canBeFolder(*name))) {
+        complain("--as " + request.name +
+                 ": this cannot be the name of a file in the item's folder");
+        return ExitCode::wrongCall;
+    }
+    const auto item = itemMeant(request);
+    const auto path = item ? placeOf(request, *item, *name) : std::nullopt;
+    const auto rows = path ? readCsv(request.csv) : std::nullopt;
+    if (!rows) return ExitCode::failed;
+    Vor_String message;
+    if (!cutstock::saveRows(*path, *rows, message)) {
+        complainText(message);
+        return ExitCode::failed;
+    }
+    Output output;
+    output.write(shownPath(*path) + "\n");
+    return output.close() ? ExitCode::done : ExitCode::failed;
+}
+
+}  // namespace cli

@@ -1,0 +1,92 @@
+#include <array>
+
+#include "core_api/files.h"
+#include "core_api/text/text_helpers.h"
+#include "cutstock/cutstock_commands.h"
+#include "cutstock/stock_items.h"
+#include "io/output.h"
+#include "io/text_table.h"
+#include "platform/encodings.h"
+
+namespace cli {
+
+namespace {
+
+struct FilesOfKind {
+    int count = 0;
+    std::optional<cutstock::StockFile> newest;
+};
+
+struct ListedItem {
+    Vor_String name;
+    std::array<FilesOfKind, cutstock::fileKinds.size()> files;
+};
+
+ListedItem listed(const Vor_String& name) {
+    ListedItem item{name, {}};
+    const Vor_String folder = cutstock::stockFolder() + name + "\\";
+    for (size_t i = 0; i < item.files.size(); ++i) {
+        const auto& kind = cutstock::fileKinds[i];
+        const std::string pattern = std::string("*.") + kind.extension;
+        item.files[i] = {ObjectExportFindFiles(folder, pattern).length(),
+                         cutstock::newestFile(folder, kind)};
+    }
+    return item;
+}
+
+std::string asText(const std::vector<ListedItem>& items) {
+    TextTable lines;
+    lines.add({"Item", ".shp", "Newest", ".buy", "Newest"});
+    for (const ListedItem& item : items) {
+        std::vector<std::string> row{encodings::toUtf8(item.name)};
+        for (const FilesOfKind& files : item.files) {
+            row.push_back(std::to_string(files.count));
+            row.push_back(files.newest ? encodings::toUtf8(getFileName(files.newest->path)) : "");
+        }
+        lines.add(row);
+    }
+    std::string text;
+    lines.append(text, "", true);
+    return text;
+}
+
+std::string asJson(const std::vector<ListedItem>& items) {
+    std::string text;
+    JsonWriter json(text);
+    json.beginArray();
+    for (const ListedItem& item : items) {
+        json.beginObject();
+        json.key("item");
+        json.text(item.name);
+        for (size_t i = 0; i < item.files.size(); ++i) {
+            json.key(cutstock::fileKinds[i].extension);
+            json.beginObject();
+            json.key("files");
+            json.number(item.files[i].count);
+            if (item.files[i].newest) {
+                json.key("newest");
+                json.beginObject();
+                writeFileHead(json, *item.files[i].newest);
+                json.endObject();
+            }
+            json.endObject();
+        }
+        json.endObject();
+    }
+    json.endArray();
+    return text + "\n";
+}
+
+}  // namespace
+
+ExitCode listStock(const ListStockRequest& request) {
+    const auto names = libraryItems();
+    if (!names) return ExitCode::failed;
+    std::vector<ListedItem> items;
+    for (const Vor_String& name : *names) items.push_back(listed(name));
+    Output output;
+    output.write(request.json ? asJson(items) : asText(items));
+    return output.close() ? ExitCode::done : ExitCode::failed;
+}
+
+}  // namespace cli
