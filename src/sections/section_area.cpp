@@ -140,6 +140,7 @@ double hat(Values v) {
     return v[2] * (v[1] + 2 * (v[0] - v[2]) + 2 * v[3]);
 }
 
+/// None for types whose parts lie as only their drawing says.
 using Formula = double (*)(Values);
 constexpr Formula formulas[sectionTypeCount] = {
     iSection,       coldAngle, angleSection, coldChannel,     tSection,  taperedI,
@@ -160,9 +161,10 @@ std::optional<double> sectionArea(int type, std::span<const double> values) {
     const Formula formula = formulas[type - 1];
     const auto needed = static_cast<size_t>(sectionTypeColumns(type).length());
     const auto isBad = [](double value) { return !std::isfinite(value) || value < 0; };
-    if (!formula || values.size() < needed || std::ranges::any_of(values.first(needed), isBad))
+    if (values.size() < needed || std::ranges::any_of(values.first(needed), isBad))
         return std::nullopt;
-    const double area = formula(values.first(needed));
+    const Values own = values.first(needed);
+    const double area = formula ? formula(own) : drawing::sectionOutline(type, own).area();
     if (!std::isfinite(area) || area <= 0) return std::nullopt;
     return area;
 }

@@ -1,6 +1,7 @@
 // What a section of a built-in type weighs: its area from the values of its table, and the mass
 // that follows. Fillets, toe radii and flange slopes count where the type has them; bends of cold
-// formed sections are taken as sharp, since their types have no radius for them.
+// formed sections are taken as sharp, since their types have no radius for them, but for those that
+// are measured as drawn.
 #pragma once
 
 #include <optional>
@@ -13,8 +14,8 @@ class Vor_ProfValuesTable;
 
 /// In mm2, from the values in the order of the type's value columns (mm, degrees, percent); more
 /// of them are left out. Nothing when a value is missing or the values give no shape (a wall
-/// thicker than its tube), or when those of the type do not say how its parts lie: 16, 18 to 20,
-/// 23 and 24. The formulas stand in section_area.cpp.
+/// thicker than its tube). The formulas stand in section_area.cpp; crash barriers, sigmas and
+/// cleats (16, 18 to 20, 23, 24) have none and are measured as they are drawn.
 VORMANT_API std::optional<double> sectionArea(int type, std::span<const double> values);
 
 /// kg for a metre of steel.
