@@ -4,7 +4,9 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QPushButton>
+#include <QSplitter>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "core_api/text/text_helpers.h"
 #include "core_api/texts/texts.h"
@@ -38,7 +40,7 @@ class ValueItem : public QStandardItem {
 }  // namespace
 
 TablePage::TablePage(const Vor_String& path, const SectionTable& table, QWidget* parent)
-    : QWidget(parent), m_view(new QTableView), m_name(table.name()) {
+    : QWidget(parent), m_view(new QTableView), m_drawing(new SizePanel), m_name(table.name()) {
     fill(table);
     m_view->setModel(&m_model);
     m_view->setEditTriggers(QAbstractItemView::NoEditTriggers);
@@ -53,7 +55,21 @@ TablePage::TablePage(const Vor_String& path, const SectionTable& table, QWidget*
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
     layout->addWidget(makeHeading(path));
-    layout->addWidget(m_view, 1);
+    layout->addWidget(makeMiddle(), 1);
+    m_view->setCurrentIndex(m_model.index(0, 0));
+    drawSelected();
+    connect(m_view->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
+            &TablePage::drawSelected);
+}
+
+QWidget* TablePage::makeMiddle() {
+    auto* middle = new QSplitter;
+    middle->addWidget(m_view);
+    middle->addWidget(m_drawing);
+    middle->setStretchFactor(0, 3);
+    middle->setStretchFactor(1, 2);
+    middle->setChildrenCollapsible(false);
+    return middle;
 }
 
 QWidget* TablePage::makeHeading(const Vor_String& path) {
@@ -76,10 +92,20 @@ QWidget* TablePage::makeHeading(const Vor_String& path) {
     return heading;
 }
 
+int TablePage::selectedRow() const {
+    return std::max(m_view->currentIndex().row(), 0);
+}
+
 Vor_String TablePage::section() const {
-    const QModelIndex current = m_view->currentIndex();
-    const int row = current.isValid() ? current.row() : 0;
-    return m_name + "-" + fromQt(m_model.index(row, 0).data().toString());
+    return m_name + "-" + fromQt(m_model.index(selectedRow(), 0).data().toString());
+}
+
+void TablePage::drawSelected() {
+    const int row = selectedRow();
+    Vor_StringArray values;
+    for (int i = m_model.columnCount() - m_columns.length(); i < m_model.columnCount(); ++i)
+        values.append(Vor_String(fromQt(m_model.index(row, i).data().toString())));
+    m_drawing->showSize({section(), m_drawnAs, m_columns, values});
 }
 
 bool TablePage::select(const Vor_String& section) {
@@ -104,9 +130,12 @@ void TablePage::show(const SectionTable& table) {
     m_view->horizontalHeader()->setSortIndicator(sorted, order);
     m_view->setSortingEnabled(true);
     select(selected);
+    drawSelected();
 }
 
 void TablePage::fill(const SectionTable& table) {
+    m_drawnAs = table.drawnAs();
+    m_columns = table.valueColumns();
     QStringList names;
     for (const Vor_String& each : table.header()) names += toQt(each);
     m_model.setHorizontalHeaderLabels(names);

@@ -1,4 +1,5 @@
-// The page of one section table: its sizes and their values to look at, in any order.
+// The page of one section table: its sizes and their values to look at, in any order, and beside
+// them a drawing of the size that is selected.
 #pragma once
 
 #include <QStandardItemModel>
@@ -6,6 +7,7 @@
 #include <functional>
 
 #include "core_api/sections/section_table.h"
+#include "sections/size_panel.h"
 
 class TablePage : public QWidget {
   public:
@@ -13,6 +15,7 @@ class TablePage : public QWidget {
     TablePage(const Vor_String& path, const SectionTable& table, QWidget* parent = nullptr);
 
     QTableView& table() { return *m_view; }
+    SizePanel& drawing() { return *m_drawing; }
 
     /// What the buttons above the table do.
     struct Commands {
@@ -32,9 +35,15 @@ class TablePage : public QWidget {
   private:
     void fill(const SectionTable& table);
     QWidget* makeHeading(const Vor_String& path);
+    QWidget* makeMiddle();
+    int selectedRow() const;
+    void drawSelected();
 
     QStandardItemModel m_model;
     QTableView* m_view;
+    SizePanel* m_drawing;
     Vor_String m_name;
+    Vor_String m_drawnAs;
+    Vor_StringArray m_columns;  ///< of values
     Commands m_commands;
 };

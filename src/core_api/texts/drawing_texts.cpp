@@ -1,4 +1,5 @@
-// Drawings: why values make no section. "%1" is the value's name.
+// Drawings: why values make no section ("%1" is the value's name), and what is said of one beside
+// its drawing.
 #include "core_api/texts/text_tables.h"
 
 namespace texts {
@@ -29,6 +30,14 @@ constexpr TextRow rows[] = {
       "Delen van het profiel lopen in elkaar: maak het groter of de randen korter.",
       "Teile des Profils laufen ineinander: Machen Sie es größer oder seine Ränder kürzer.",
       "Des parties du profilé se recoupent : agrandissez-le ou raccourcissez ses bords."}},
+    {25057,
+     {"Drawn from the template %1, not from values: there is no outline to show.",
+      "Getekend volgens het sjabloon %1, niet volgens waarden: er is geen omtrek te tonen.",
+      "Nach der Vorlage %1 gezeichnet, nicht nach Werten: Es gibt keinen Umriss zu zeigen.",
+      "Dessiné d'après le modèle %1 et non d'après des valeurs : il n'y a pas de contour à "
+      "montrer."}},
+    {25058, {"Area: %1 cm²", "Oppervlakte: %1 cm²", "Querschnittsfläche: %1 cm²", "Aire : %1 cm²"}},
+    {25059, {"Mass: %1 kg/m", "Massa: %1 kg/m", "Masse: %1 kg/m", "Masse : %1 kg/m"}},
 };
 
 }  // namespace
