@@ -7,6 +7,8 @@
 #include <algorithm>
 #include <cstdio>
 #include <cstring>
+#include <iterator>
+#include <utility>
 
 #include "core_api/program_data.h"
 #include "platform/paths.h"
@@ -30,12 +32,14 @@ QString absolute(const QString& path) {
 
 /// Opens one of the module's dialogs, as its entry in the menu does. False for an unknown name.
 bool openDialog(MainWindow& window, const QString& name) {
-    constexpr int libraryTitle = 24060, sizeTitle = 24061;
-    if (name != "library" && name != "size") return false;
+    constexpr std::pair<const char*, int> dialogs[] = {
+        {"library", 24060}, {"size", 24061}, {"stock", 24064}};
+    const auto named = std::find_if(std::begin(dialogs), std::end(dialogs),
+                                    [&](const auto& each) { return name == each.first; });
+    if (named == std::end(dialogs)) return false;
     const auto all = starters();
-    const auto found = std::find_if(all.begin(), all.end(), [&](const Starter& each) {
-        return each.title == (name == "library" ? libraryTitle : sizeTitle);
-    });
+    const auto found = std::find_if(
+        all.begin(), all.end(), [&](const Starter& each) { return each.title == named->second; });
     QTimer::singleShot(0, &window, [&window, found] { start(*found, window.moduleData()); });
     return true;
 }
@@ -103,7 +107,7 @@ int main(int argc, char** argv) {
                                       "code");
     const QCommandLineOption screenshot("screenshot", "Draw the window into a picture and end",
                                         "file");
-    const QCommandLineOption dialog("dialog", "Dialog to open: library or size", "name");
+    const QCommandLineOption dialog("dialog", "Dialog to open: library, size or stock", "name");
     parser.addOptions({open, language, dialog, screenshot});
     parser.addPositionalArgument("library", "Folder of the library to open", "[library]");
     parser.addPositionalArgument("files", "Standards, macros or sheets to open", "[file…]");
@@ -128,7 +132,7 @@ int main(int argc, char** argv) {
     if (!library.empty()) window.openLibrary(library);
     for (const QString& file : files + parser.values(open)) window.openFile(absolute(file));
     if (parser.isSet(dialog) && !openDialog(window, parser.value(dialog))) {
-        std::fprintf(stderr, "vormant-workbench: --dialog %s: choose library or size\n",
+        std::fprintf(stderr, "vormant-workbench: --dialog %s: choose library, size or stock\n",
                      qPrintable(parser.value(dialog)));
         return 2;
     }
