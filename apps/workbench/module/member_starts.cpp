@@ -4,8 +4,10 @@
 #include "core_api/settings.h"
 #include "core_api/text/text_helpers.h"
 #include "core_api/texts/texts.h"
+#include "cutstock/cutting_stock_library.h"
 #include "module/module_data.h"
 #include "module/starts.h"
+#include "platform/window/message_box.h"
 #include "sections/section_editing.h"
 
 namespace starts {
@@ -103,10 +105,33 @@ Outcome memberFeatures(ModuleData& data) {
     return edited->features.isEmpty() ? Outcome::noMacro : changedIf(StartDlgProfFeatures(*edited));
 }
 
+namespace {
+
+constexpr int cuttingStockTitle = 620, replaceChangedText = 25208;
+
+bool mayReplace(const cutstock::CuttingStockLibrary& library) {
+    if (!library.wouldReplaceUnread()) return true;
+    return showMessage({dialString(cuttingStockTitle).str(), dialString(replaceChangedText).str(),
+                        MessageIcon::question, MessageButtons::yesNo}) == IDYES;
+}
+
+}  // namespace
+
 Outcome cuttingStock(ModuleData& data) {
-    auto& edited = data.objects.cuttingStock;
-    if (!edited) edited = stockOf(data);
-    return changedIf(StartDlgCSP2(*edited));
+    cutstock::CuttingStockLibrary library;
+    DlgCSP2Data edited;
+    Vor_String message;
+    if (!library.load(edited, message)) {  // not shown, so that nothing can replace it
+        showWarning(dialString(cuttingStockTitle), message);
+        return Outcome::failed;
+    }
+    if (edited.itemIds.isEmpty()) edited = stockOf(data);
+    while (StartDlgCSP2(edited)) {  // again with what was edited until it is saved or given up
+        if (!mayReplace(library)) continue;
+        if (library.save(edited, message)) return Outcome::changed;
+        showWarning(dialString(cuttingStockTitle), message);
+    }
+    return Outcome::cancelled;
 }
 
 Outcome cis2(ModuleData& data) {

@@ -20,7 +20,6 @@ struct ModuleObjects {
     std::optional<Vor_Array<Vor_StringArray>> rows;
     DlgProfCutsData memberCuts;
     std::optional<DlgProfFeaturesData> memberFeatures;
-    std::optional<DlgCSP2Data> cuttingStock;
     std::optional<TwDlgCis2Data> cis2;
     std::optional<TwGridDlgData> constructionGrid;
     std::optional<TwLevelsDlgData> levels;

@@ -17,6 +17,7 @@
 #include "frame/starters.h"
 #include "grid/show_grids.h"
 #include "macro/macro_page.h"
+#include "module/starts.h"
 #include "platform/paths.h"
 #include "platform/window/message_box.h"
 #include "run/example_values.h"
@@ -326,7 +327,7 @@ QWidget* MainWindow::open(LibraryKind kind, const Vor_String& path) {
             StartDlgDesigner(path);
             return nullptr;
         case LibraryKind::cuttingStock:
-            complain(toQt(path) + ": " + say(wordNoEditor));
+            starts::cuttingStock(m_moduleData);
             return nullptr;
     }
     return nullptr;

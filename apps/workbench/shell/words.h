@@ -61,7 +61,6 @@ enum WorkbenchWord {
     wordMapsTo = 22153,
     wordSaveChanges = 22154,
     wordNoSuchFile = 22155,
-    wordNoEditor = 22156,
 
     wordOwnLanguage = 26000,  ///< each language's name for itself
 };

@@ -79,19 +79,6 @@ constexpr TextRow rows[] = {
       "L'article n'a plus de lignes dans ce tableau. Annuler ferme le dialogue sans cette "
       "modification."}},
     {25205, {"written", "geschreven", "geschrieben", "écrit"}},
-    {25206,
-     {"so the items are named after their folders, and their parts are not shown",
-      "daarom heten de onderdelen zoals hun mappen, en hun delen worden niet getoond",
-      "daher heißen die Posten wie ihre Ordner, und ihre Zuschnitte werden nicht gezeigt",
-      "les articles portent donc le nom de leur dossier, et leurs pièces ne sont pas montrées"}},
-    {25207,
-     {"The list of items could not be read when it was opened. Replace it by what was edited?",
-      "De lijst met onderdelen kon bij het openen niet worden gelezen. Vervangen door wat is "
-      "bewerkt?",
-      "Die Liste der Posten konnte beim Öffnen nicht gelesen werden. Durch das Bearbeitete "
-      "ersetzen?",
-      "La liste des articles n'a pu être lue à l'ouverture. La remplacer par ce qui a été modifié "
-      "?"}},
     {25208,
      {"The list of items was changed by another program meanwhile. Replace it by what was edited "
       "here?",

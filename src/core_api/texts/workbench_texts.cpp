@@ -110,10 +110,6 @@ constexpr TextRow rows[] = {
     {22155,
      {"there is no such file", "dat bestand bestaat niet", "diese Datei gibt es nicht",
       "ce fichier n'existe pas"}},
-    {22156,
-     {"there is no editor for these files yet", "voor deze bestanden is er nog geen editor",
-      "für diese Dateien gibt es noch keinen Editor",
-      "il n'y a pas encore d'éditeur pour ces fichiers"}},
 };
 
 }  // namespace
