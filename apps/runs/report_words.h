@@ -17,6 +17,8 @@ enum ReportWord {
     wordProject,
     wordAuthor,
     wordDate,
+
+    wordNeedsNumber = 26960,
 };
 
 }  // namespace runs

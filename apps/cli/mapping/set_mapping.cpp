@@ -10,7 +10,7 @@
 #include "mapping/dialog/object_list.h"
 #include "mapping/mapped_standard.h"
 #include "mapping/mapping_commands.h"
-#include "standards/variables.h"
+#include "runs/given_value.h"
 
 namespace cli {
 
@@ -71,12 +71,12 @@ class Assigning {
     std::string chooseByLabel(size_t index, const Vor_String& label, const std::string& typed) {
         const TwValueType type = m_choices.variables()[index].type;
         const ObjectList& objects = isNumeric(type) ? m_numbers : m_texts;
-        const std::string word = typeName(type);
+        const std::string word = runs::typeName(type);
         const TwObjectMap* object = objects.find(label);
         if (!object)
             return "the macro has no such object for a variable of type " + word +
                    didYouMean(nearest(typed, utf8Of(objects.labels())));
-        const std::string own = typeName(*mapTypeValueType(object->kind()));
+        const std::string own = runs::typeName(*mapTypeValueType(object->kind()));
         if (own != word)
             return "the object is of type " + own + ", which no run finds for a variable of type " +
                    word;

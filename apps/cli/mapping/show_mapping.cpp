@@ -6,8 +6,8 @@
 #include "mapping/mapped_standard.h"
 #include "mapping/mapping_commands.h"
 #include "mapping/mapping_file.h"
+#include "runs/given_value.h"
 #include "runs/macro_run.h"
-#include "standards/variables.h"
 
 namespace cli {
 
@@ -31,7 +31,7 @@ void writeVariable(JsonWriter& json, const VariableChoice& variable) {
     json.key("use");
     json.utf8(variable.isInput ? "input" : "output");
     json.key("type");
-    json.utf8(typeName(variable.type));
+    json.utf8(runs::typeName(variable.type));
     if (variable.object) {
         json.key("object");
         json.text(objectLabel(*variable.object));
@@ -118,7 +118,7 @@ ExitCode listObjects(const ObjectsRequest& request) {
         const ObjectList objects(macro->objects, type);
         for (int i = 0; i < objects.length(); ++i) {
             std::string& text = output.text();
-            const std::string word = typeName(*mapTypeValueType(objects[i].kind()));
+            const std::string word = runs::typeName(*mapTypeValueType(objects[i].kind()));
             text += word + std::string(8 - word.size(), ' ');
             appendUtf8(text, objects.labels()[i]);
             if (objects[i].kind() == TwMapType::memberSectionSize) {

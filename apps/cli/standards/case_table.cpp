@@ -5,6 +5,8 @@
 #include "console.h"
 #include "core_api/text/text_helpers.h"
 #include "io/texts.h"
+#include "platform/encodings.h"
+#include "runs/given_value.h"
 #include "standards/variables.h"
 
 namespace cli {
@@ -88,7 +90,7 @@ bool CaseTable::take(const std::vector<std::string_view>& fields, TwVarCells& ce
         if (!fromUtf8(fields[i], text, error)) return false;
         const Column& column = m_columns[i];
         if (column.kind == Column::Kind::input) {
-            error = refusal(cells[column.cell], text);
+            error = encodings::toUtf8(runs::refusal(cells[column.cell], text));
             if (!error.empty()) return false;
             cells[column.cell].setNewValue(text);
         } else if (column.kind == Column::Kind::expected) {

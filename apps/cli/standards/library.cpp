@@ -3,29 +3,18 @@
 #include <algorithm>
 
 #include "console.h"
-#include "core_api/files.h"
 #include "core_api/program_data.h"
 #include "core_api/settings.h"
 #include "core_api/text/text_helpers.h"
 #include "io/suggestion.h"
 #include "io/texts.h"
 #include "io/typed_paths.h"
-#include "mapping/mapping_file.h"
 #include "platform/files.h"
+#include "runs/library_standards.h"
 
 namespace cli {
 
 namespace {
-
-constexpr std::string_view extension = ".tws";
-
-/// The name of a standard in the library, as it is written inside; nothing for other files.
-std::optional<Vor_String> nameInside(const Vor_String& path) {
-    const Vor_String folder = standardsFolder();
-    if (!path.beginsWith(folder) || !path.endsWith(extension)) return std::nullopt;
-    const int length = path.length() - folder.length() - static_cast<int>(extension.size());
-    return path.getSubStringAt(folder.length(), length);
-}
 
 std::string shownName(const Vor_String& nameInside) {
     std::string name;
@@ -64,7 +53,7 @@ void tellWhatThereIs(const std::string& typed, const std::vector<StandardName>& 
 }  // namespace
 
 Vor_String StandardName::mappingName() const {
-    return nameInside(path).value_or(path);
+    return runs::nameInLibrary(path).value_or(path);
 }
 
 bool openLibrary(const std::string& folder) {
@@ -82,11 +71,10 @@ bool openLibrary(const std::string& folder) {
     return true;
 }
 
-std::vector<StandardName> libraryStandards() {
+std::vector<StandardName> allStandards() {
     std::vector<StandardName> standards;
-    if (gSettings.libDir().isEmpty()) return standards;
-    for (const auto& path : ObjectExportFindFilesRecursive(standardsFolder(), "*.tws"))
-        if (const auto name = nameInside(path)) standards.push_back({shownName(*name), path});
+    for (const auto& [name, path] : runs::libraryStandards())
+        standards.push_back({shownName(name), path});
     return standards;
 }
 
@@ -94,14 +82,14 @@ std::optional<StandardName> findStandard(const std::string& typed) {
     const auto inside = insidePath(typed);
     if (!inside) return std::nullopt;
     if (files::exists(*inside)) {
-        const auto name = nameInside(*inside);
+        const auto name = runs::nameInLibrary(*inside);
         return StandardName{name ? shownName(*name) : typed, *inside};
     }
     if (files::isFolder(*inside)) {
         complainAt(typed, 0, "is a folder; name a standard or a file");
         return std::nullopt;
     }
-    const auto standards = libraryStandards();
+    const auto standards = allStandards();
     std::vector<StandardName> matches;
     for (const auto& standard : standards) {
         const Vor_String name = standard.mappingName();

@@ -26,9 +26,9 @@ struct StandardName {
     Vor_String mappingName() const;
 };
 /// Every standard of the library, by name.
-std::vector<StandardName> libraryStandards();
+std::vector<StandardName> allStandards();
 
-/// The standard meant by what was typed: a file, a name as libraryStandards gives it, or the last
+/// The standard meant by what was typed: a file, a name as allStandards gives it, or the last
 /// part of such a name when only one standard has it. Letter case does not matter. Nothing, after
 /// telling what there is, when there is none.
 std::optional<StandardName> findStandard(const std::string& typed);

@@ -37,7 +37,7 @@ void appendWrapped(std::string& text, std::string_view heading, std::string_view
 }  // namespace
 
 ExitCode listStandards() {
-    const auto standards = libraryStandards();
+    const auto standards = allStandards();
     if (standards.empty()) {
         complain(gSettings.libDir().isEmpty()
                      ? "name the library with --library or VORMANT_LIBRARY"

@@ -117,7 +117,7 @@ ExitCode testStandards(const TestRequest& request) {
             good = false;
     }
     if (request.all)
-        for (const auto& standard : libraryStandards())
+        for (const auto& standard : allStandards())
             if (files::exists(casesPath(standard))) standards.push_back(standard);
     if (standards.empty() && good) {
         complain(request.all ? "the library has no standard with check problems"

@@ -3,19 +3,10 @@
 #include "console.h"
 #include "core_api/text/text_helpers.h"
 #include "io/texts.h"
+#include "platform/encodings.h"
+#include "runs/given_value.h"
 
 namespace cli {
-
-const char* typeName(TwValueType type) {
-    switch (type) {
-        case TwValueType::Int:
-            return "Int";
-        case TwValueType::Double:
-            return "Double";
-        default:
-            return "String";
-    }
-}
 
 namespace {
 
@@ -44,8 +35,8 @@ bool setInput(TwVarCells& cells, std::vector<bool>& given, const Assignment& ass
         return false;
     }
     given[static_cast<size_t>(index)] = true;
-    if (const auto reason = refusal(cells[index], assignment.value); !reason.empty()) {
-        complain("--set " + typed + ": " + reason);
+    if (const auto reason = runs::refusal(cells[index], assignment.value); !reason.isEmpty()) {
+        complain("--set " + typed + ": " + encodings::toUtf8(reason));
         return false;
     }
     return cells[index].setNewValue(assignment.value) == Acad::eOk;
@@ -59,16 +50,9 @@ std::string describe(const TwVarCells& variables, TwCellType kind) {
         if (variable.cellType() != kind) continue;
         if (!text.empty()) text += ", ";
         appendUtf8(text, variable.name());
-        text += std::string(" (") + typeName(variable.valueType()) + ")";
+        text += std::string(" (") + runs::typeName(variable.valueType()) + ")";
     }
     return text.empty() ? "nothing" : text;
-}
-
-std::string refusal(const TwVarCell& variable, std::string_view value) {
-    if (!isNumeric(variable.valueType()) || value.empty() || isNumber(value)) return "";
-    std::string name;
-    appendUtf8(name, variable.name());
-    return name + " is a number (" + typeName(variable.valueType()) + ")";
 }
 
 bool setInputs(TwVarCells& cells, const std::vector<std::string>& assignments) {

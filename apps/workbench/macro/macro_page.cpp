@@ -5,12 +5,12 @@
 #include <QSplitter>
 #include <QVBoxLayout>
 
-#include "core_api/files.h"
 #include "core_api/text/text_helpers.h"
 #include "mapping/mapping_file.h"
 #include "mapping/start_mapping_dialog.h"
 #include "mapping/tw_ss_mapping.h"
 #include "run/calculation_view.h"
+#include "runs/library_standards.h"
 #include "shell/words.h"
 #include "window/dialog_font.h"
 #include "window/say.h"
@@ -23,15 +23,6 @@ QString nameOf(const TwObjectMap& object) {
     const Vor_String& group = object.group();
     const bool hasBoth = !group.isEmpty() && !object.objectName().isEmpty();
     return toQt(group.str() + (hasBoth ? "." : "") + object.objectName().str());
-}
-
-/// Every standard of the library, inside names without extension.
-QStringList libraryStandards() {
-    QStringList names;
-    const Vor_String folder = standardsFolder();
-    for (const Vor_String& path : ObjectExportFindFilesRecursive(folder, "*.tws"))
-        names += toQt(path.view().substr(folder.view().size())).chopped(4);
-    return names;
 }
 
 }  // namespace
@@ -114,7 +105,7 @@ void MacroPage::fillStandards() {
     QStringList names;
     for (const Vor_String& name : m_macro->macro().macroRead()->standards().standardsNames())
         names += toQt(name);
-    names += libraryStandards();
+    for (const auto& standard : runs::libraryStandards()) names += toQt(standard.name);
     names.removeDuplicates();
     m_standard->addItems(names);
     if (const int index = m_standard->findText(before); index >= 0)

@@ -163,12 +163,12 @@ QWidget* RunPage::makeResults() {
 }
 
 void RunPage::take(const runs::DeclaredVariable& input, QWidget& editor, const QString& text) {
-    std::string refusal;
     const QString name = toQt(input.name);
-    if (const QString why = refusalOf(text); !why.isEmpty())
-        m_refusals[name] = why;
-    else if (!m_session->setValue(input.name, fromQt(text.trimmed()), refusal))
-        m_refusals[name] = toQt(refusal);
+    if (const QString unkept = refusalOf(text); !unkept.isEmpty())
+        m_refusals[name] = name + ": " + unkept;
+    else if (const auto why = m_session->setValue(input.name, fromQt(text.trimmed()));
+             !why.isEmpty())
+        m_refusals[name] = toQt(why);
     else
         m_refusals.erase(name);
     editor.setStyleSheet(m_refusals.contains(name) ? "background: #FFE8E8" : "");
@@ -213,7 +213,7 @@ void RunPage::update() {
 void RunPage::showMessages() {
     QStringList lines;
     if (m_session->isStale()) lines += say(wordFileChanged);
-    for (const auto& [name, refusal] : m_refusals) lines += name + ": " + refusal;
+    for (const auto& [name, refusal] : m_refusals) lines += refusal;
     const runs::Calculation& calculation = m_session->calculation();
     if (!calculation.failure.empty()) lines += toQt(calculation.failure);
     for (const auto& message : calculation.messages)

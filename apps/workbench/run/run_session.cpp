@@ -3,8 +3,8 @@
 #include <algorithm>
 
 #include "core_api/files.h"
-#include "core_api/text/text_helpers.h"
 #include "platform/encodings.h"
+#include "runs/given_value.h"
 
 namespace {
 
@@ -54,19 +54,14 @@ std::string RunSession::value(std::string_view input) {
     return cells[index].value().str();
 }
 
-bool RunSession::setValue(std::string_view input, std::string_view value, std::string& refusal) {
+Vor_String RunSession::setValue(std::string_view input, std::string_view value) {
     TwVarCells& cells = m_request.cells();
     int index = 0;
-    if (cells.findVarCell(Vor_String(input), index) != Acad::eOk || !cells[index].isInput()) {
-        refusal = "no such input";
-        return false;
-    }
-    if (isNumeric(cells[index].valueType()) && !value.empty() && !isNumber(value)) {
-        refusal = std::string(input) + " is a number: write it with digits and a point";
-        return false;
-    }
-    refusal.clear();
-    return cells[index].setNewValue(Vor_String(value)) == Acad::eOk;
+    if (cells.findVarCell(Vor_String(input), index) != Acad::eOk || !cells[index].isInput())
+        return {};
+    Vor_String why = runs::refusal(cells[index], value);
+    if (why.isEmpty()) cells[index].setNewValue(Vor_String(value));
+    return why;
 }
 
 bool RunSession::namesSection(const runs::DeclaredVariable& variable) {

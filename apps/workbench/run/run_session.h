@@ -20,9 +20,9 @@ class RunSession {
     std::vector<const runs::DeclaredVariable*> outputs() const;
 
     std::string value(std::string_view input);
-    /// Windows-1252. False, with the old value kept, when the variable takes no such value; why is
-    /// in `refusal`.
-    bool setValue(std::string_view input, std::string_view value, std::string& refusal);
+    /// Windows-1252. When it gives a reason, the variable takes no such value and keeps the old
+    /// one. Nothing happens for what is no input.
+    Vor_String setValue(std::string_view input, std::string_view value);
     /// The variable is meant to name a section.
     static bool namesSection(const runs::DeclaredVariable& variable);
 

@@ -368,8 +368,7 @@ RunPage* MainWindow::openStandard(const Vor_String& path) {
         complain(toQt(failure));
         return nullptr;
     }
-    std::string refusal;
-    for (const auto& [name, value] : exampleValues(path)) session->setValue(name, value, refusal);
+    for (const auto& [name, value] : exampleValues(path)) session->setValue(name, value);
     auto* page = new RunPage(std::move(session));
     page->setSheetOpener([this](const Vor_String& sheet) { openSheet(sheet); });
     page->setAuthor(QString::fromStdString(m_settings.author));

@@ -94,7 +94,8 @@ constexpr TextRow rows[] = {
     {22145,
      {"Every equation was evaluated.", "Alle vergelijkingen zijn berekend.",
       "Alle Gleichungen wurden berechnet.", "Toutes les équations ont été calculées."}},
-    {22146, {"Standards and mapping…", "Standaarden en koppeling…", "Standards und Zuordnung…",
+    {22146,
+     {"Standards and mapping…", "Standaarden en koppeling…", "Standards und Zuordnung…",
       "Standards et association…"}},
     {22148, {"Object", "Object", "Objekt", "Objet"}},
     {22149, {"Kind", "Soort", "Art", "Genre"}},
@@ -110,6 +111,11 @@ constexpr TextRow rows[] = {
     {22155,
      {"there is no such file", "dat bestand bestaat niet", "diese Datei gibt es nicht",
       "ce fichier n'existe pas"}},
+    {26960,
+     {"%1 is a number (%2): write it with digits and a point",
+      "%1 is een getal (%2): schrijf het met cijfers en een punt",
+      "%1 ist eine Zahl (%2): schreiben Sie sie mit Ziffern und einem Punkt",
+      "%1 est un nombre (%2) : écrivez-le avec des chiffres et un point"}},
 };
 
 }  // namespace
