@@ -110,16 +110,27 @@ QString captionOf(const QWidget& widget) {
     return {};
 }
 
+/// The letters of one window or menu, each with the first that took it.
+using Letters = std::map<QChar, QString>;
+
+void takeLetter(const QString& caption, Letters& letters, Problems& problems) {
+    const QChar letter = letterOf(caption);
+    if (letter.isNull()) return;
+    const auto [found, isNew] = letters.emplace(letter, caption);
+    if (!isNew)
+        problems.push_back("Alt+" + QString(letter).toStdString() + " is " +
+                           found->second.toStdString() + " and " + caption.toStdString());
+}
+
 void checkLetters(const QWidget& window, Problems& problems) {
-    std::map<QChar, QString> letters;
-    for (const QWidget* each : shown<QWidget>(window)) {
-        const QString caption = captionOf(*each);
-        const QChar letter = letterOf(caption);
-        if (letter.isNull() || !each->isEnabled()) continue;
-        const auto [found, isNew] = letters.emplace(letter, caption);
-        if (!isNew)
-            problems.push_back("Alt+" + QString(letter).toStdString() + " is " +
-                               found->second.toStdString() + " and " + caption.toStdString());
+    Letters letters;
+    for (const QWidget* each : shown<QWidget>(window))
+        if (each->isEnabled()) takeLetter(captionOf(*each), letters, problems);
+    const auto* menu = qobject_cast<const QMenu*>(&window);
+    if (!menu) return;
+    for (const QAction* each : menu->actions()) {
+        takeLetter(each->text(), letters, problems);
+        if (each->menu()) checkLetters(*each->menu(), problems);
     }
 }
 

@@ -23,7 +23,7 @@ constexpr TextRow rows[] = {
     {25114, {"Subtotal", "Subtotaal", "Zwischensumme", "Sous-total"}},
     {25115, {"Total", "Totaal", "Summe", "Total"}},
 
-    {25120, {"&Bill of materials…", "&Stuklijst…", "Stück&liste…", "&Nomenclature…"}},
+    {25120, {"&Bill of materials…", "S&tuklijst…", "S&tückliste…", "No&menclature…"}},
     {25121, {"&Macros", "&Macro's", "&Makros", "&Macros"}},
     {25122, {"&Table (CSV)", "&Tabel (CSV)", "&Tabelle (CSV)", "&Tableau (CSV)"}},
     {25123, {"Columns", "Kolommen", "Spalten", "Colonnes"}},

@@ -88,7 +88,8 @@ void SheetEditor::clearHistory() {
 
 std::string SheetEditor::title(int verb, const std::vector<Step>& steps) const {
     const std::string word = dialString(verb).str();
-    return steps.empty() ? word : word + " " + dialString(steps.back().title).str();
+    if (!steps.empty()) return word + " " + dialString(steps.back().title).str();
+    return word.substr(0, word.find_last_not_of(" :") + 1);  // no step, so nothing to announce
 }
 
 std::string SheetEditor::undoTitle() const {
