@@ -154,6 +154,20 @@ std::optional<double> numberIn(std::string_view text) {
     return textToDouble(text);
 }
 
+std::optional<double> massOf(std::optional<double> area) {
+    constexpr double mm2PerM2 = 1e6;
+    if (!area) return std::nullopt;
+    return *area / mm2PerM2 * steelDensity;
+}
+
+/// The value columns of a table, or what a row has in them.
+std::vector<std::string_view> valuesOf(const Vor_ProfValuesTable& table,
+                                       const Vor_StringArray& cells) {
+    std::vector<std::string_view> values;
+    for (int i = table.firstValueColumn(); i < cells.length(); ++i) values.push_back(cells[i]);
+    return values;
+}
+
 }  // namespace
 
 std::optional<double> sectionArea(int type, std::span<const double> values) {
@@ -169,35 +183,38 @@ std::optional<double> sectionArea(int type, std::span<const double> values) {
     return area;
 }
 
+std::optional<double> sectionArea(std::string_view drawnAs,
+                                  std::span<const std::string_view> values) {
+    std::vector<double> numbers;
+    for (const std::string_view text : values) {
+        const auto number = numberIn(text);
+        if (!number) break;
+        numbers.push_back(*number);
+    }
+    return sectionArea(sectionTypeNumber(drawnAs), numbers);
+}
+
+std::optional<double> sectionArea(const Vor_ProfValuesTable& table, int row) {
+    return sectionArea(table.drawnAs, valuesOf(table, table.rows[row]));
+}
+
 std::optional<double> sectionMass(int type, std::span<const double> values) {
-    constexpr double mm2PerM2 = 1e6;
-    const auto area = sectionArea(type, values);
-    if (!area) return std::nullopt;
-    return *area / mm2PerM2 * steelDensity;
+    return massOf(sectionArea(type, values));
 }
 
 std::optional<double> sectionMass(std::string_view drawnAs,
                                   std::span<const std::string_view> columns,
                                   std::span<const std::string_view> values) {
-    std::vector<double> numbers;
-    bool areNumbers = true;
-    for (size_t i = 0; i < values.size(); ++i) {
-        const auto number = numberIn(values[i]);
-        if (number && i < columns.size() && encodings::equalFolded(columns[i], "Mass kg/m"))
-            return number;
-        areNumbers = areNumbers && number;
-        if (areNumbers) numbers.push_back(*number);
+    for (size_t i = 0; i < std::min(columns.size(), values.size()); ++i) {
+        if (!encodings::equalFolded(columns[i], "Mass kg/m")) continue;
+        if (const auto printed = numberIn(values[i])) return printed;
     }
-    return sectionMass(sectionTypeNumber(drawnAs), numbers);
+    return massOf(sectionArea(drawnAs, values));
 }
 
 std::optional<double> sectionMass(const Vor_ProfValuesTable& table, int row) {
-    const auto valuesOf = [&](const Vor_StringArray& cells) {
-        std::vector<std::string_view> values;
-        for (int i = table.firstValueColumn(); i < cells.length(); ++i) values.push_back(cells[i]);
-        return values;
-    };
-    return sectionMass(table.drawnAs, valuesOf(table.columnNames), valuesOf(table.rows[row]));
+    return sectionMass(table.drawnAs, valuesOf(table, table.columnNames),
+                       valuesOf(table, table.rows[row]));
 }
 
 std::optional<double> sectionMass(std::string_view section) {

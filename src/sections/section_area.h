@@ -17,6 +17,15 @@ class Vor_ProfValuesTable;
 /// thicker than its tube). The formulas stand in section_area.cpp; crash barriers, sigmas and
 /// cleats (16, 18 to 20, 23, 24) have none and are measured as they are drawn.
 VORMANT_API std::optional<double> sectionArea(int type, std::span<const double> values);
+/// The same of a size as its table has it, whose values are texts; the first that is no number
+/// and those after it count as missing.
+VORMANT_API std::optional<double> sectionArea(std::string_view drawnAs,
+                                              std::span<const std::string_view> values);
+/// The same of row `row` of a table, which it has.
+VORMANT_API std::optional<double> sectionArea(const Vor_ProfValuesTable& table, int row);
+
+/// Catalogues give areas in cm2.
+inline constexpr double mm2PerCm2 = 100;
 
 /// kg for a metre of steel.
 VORMANT_API std::optional<double> sectionMass(int type, std::span<const double> values);

@@ -62,17 +62,6 @@ std::string tableAsText(const Table& table) {
     return text;
 }
 
-/// The area of the values of a size, in cm2.
-std::string computedArea(const Table& table, const Vor_StringArray& size) {
-    std::vector<double> values;
-    const int type = sectionTypeNumber(table.drawnAs);
-    for (int i = table.firstValueColumn(); i < size.length() && isNumber(size[i]); ++i)
-        values.push_back(textToDouble(size[i]));
-    constexpr double mm2PerCm2 = 100;
-    const auto area = sectionArea(type, values);
-    return area ? numberText(*area / mm2PerCm2) : std::string();
-}
-
 std::string sizeAsText(const Table& table, int row) {
     const Vor_StringArray& size = table.rows[row];
     TextTable lines;
@@ -80,8 +69,8 @@ std::string sizeAsText(const Table& table, int row) {
     lines.add({"in use", isInactive(size) ? "no" : "yes"});
     for (int col = Table::firstNameColumn; col < table.columnNames.length(); ++col)
         lines.add({encodings::toUtf8(table.columnNames[col]), cellText(size, col)});
-    if (const std::string area = computedArea(table, size); !area.empty())
-        lines.add({"area from the values, cm2", area});
+    if (const auto area = sectionArea(table, row))
+        lines.add({"area from the values, cm2", numberText(*area / mm2PerCm2)});
     if (const auto mass = sectionMass(table, row)) lines.add({"mass, kg/m", numberText(*mass)});
     std::string text = fullName(table, size) + "\n";
     lines.append(text, "  ", false);

@@ -51,14 +51,7 @@ struct TableSearch::Size {
         return column >= 0 && at < all.size() ? numberIn(all[at]) : std::nullopt;
     }
     std::optional<double> areaInCm2() const {
-        constexpr double mm2PerCm2 = 100;
-        std::vector<double> numbers;
-        for (const std::string_view text : values()) {
-            const auto number = numberIn(text);
-            if (!number) break;
-            numbers.push_back(*number);
-        }
-        const auto area = sectionArea(sectionTypeNumber(table.drawnAs), numbers);
+        const auto area = sectionArea(table.drawnAs, values());
         return area ? std::optional(*area / mm2PerCm2) : std::nullopt;
     }
     bool hasName(const SectionCondition& condition) const {

@@ -37,7 +37,6 @@ std::optional<double> massOf(const SizePanel::Size& size) {
 }
 
 QString figuresOf(const SizePanel::Size& size, std::optional<double> area) {
-    constexpr double mm2PerCm2 = 100;
     QStringList lines;
     if (area) lines += word(wordArea, Vor_String(*area / mm2PerCm2, 2));
     if (const auto mass = massOf(size)) lines += word(wordMass, Vor_String(*mass, 2));
