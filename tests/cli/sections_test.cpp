@@ -89,6 +89,8 @@ TEST_F(Sections, AreFoundByConditions) {
         {{"table!=IP*"}, "FL-100x10"},
         {{"name=strip*"}, "FL-100x10"},
         {{"h>1000"}, ""},
+        {{"table=NONE", "h>=200", "--sort", "iy"}, ""},
+        {{"table=FL", "h>=200"}, ""},  // the columns of tables that are left out are no mistake
     };
     for (const auto& c : cases) {
         std::vector<std::string> arguments{"find", "--json"};
@@ -114,6 +116,7 @@ TEST_F(Sections, ConditionsThatMakeNoSenseAreRefused) {
     } cases[] = {
         {{"heigth>=200"}, "no table has a column \"heigth\"; did you mean Height?"},
         {{"h>=200", "--sort", "zz"}, "no table has a column \"zz\""},
+        {{"table=NONE", "zz>=200"}, "no table has a column \"zz\"; there are Breedte, Dikte,"},
         {{"h"}, "a condition is a column"},
         {{">=200"}, "a condition is a column"},
         {{"h>=tall"}, "\"tall\" is no number"},

@@ -83,9 +83,11 @@ void TableSearch::bind(Wanted& wanted, const ColumnNames& columns) {
     if (wanted.column >= 0 || wanted.special != Special::no) wanted.isKnown = true;
 }
 
-void TableSearch::noteNames(const ColumnNames& columns) {
+void TableSearch::bindAll(const ColumnNames& columns) {
     for (std::string& name : columns.allNames())
         if (std::ranges::find(m_names, name) == m_names.end()) m_names.push_back(std::move(name));
+    for (Wanted& wanted : m_wanted) bind(wanted, columns);
+    if (!m_sort.name.empty()) bind(m_sort, columns);
 }
 
 std::optional<double> TableSearch::valueOf(const Wanted& wanted, const Size& size) const {
@@ -104,7 +106,7 @@ std::optional<double> TableSearch::valueOf(const Wanted& wanted, const Size& siz
 bool TableSearch::holds(const Size& size) const {
     for (size_t i = 0; i < m_conditions.size(); ++i) {
         const SectionCondition& condition = m_conditions[i];
-        if (condition.column() == "table") continue;  // known before
+        if (condition.column() == "table") continue;  // see leavesOut
         if (condition.isText()) {
             if (!size.hasName(condition)) return false;
             continue;
@@ -115,10 +117,18 @@ bool TableSearch::holds(const Size& size) const {
     return true;
 }
 
+bool TableSearch::leavesOut(const TableFile& file) const {
+    return std::ranges::any_of(m_conditions, [&](const SectionCondition& condition) {
+        return condition.column() == "table" && !condition.holds(file.name);
+    });
+}
+
 bool TableSearch::run(const TableFile& file,
                       const std::function<void(const FoundSection&)>& found) {
-    for (const SectionCondition& condition : m_conditions)
-        if (condition.column() == "table" && !condition.holds(file.name)) return true;
+    if (leavesOut(file)) {
+        m_leftOut.push_back(file);
+        return true;
+    }
     std::string error;
     const auto text = files::readWhole(file.path, error, textFileLimit);
     if (!text) {
@@ -132,9 +142,7 @@ bool TableSearch::run(const TableFile& file,
     table.tableName = file.name;
     if (readHead(reader, cells, table, got)) {
         const ColumnNames columns(table);
-        noteNames(columns);
-        for (Wanted& wanted : m_wanted) bind(wanted, columns);
-        if (!m_sort.name.empty()) bind(m_sort, columns);
+        bindAll(columns);
         const auto firstValue = static_cast<size_t>(table.firstValueColumn());
         Fields valueColumns;
         for (size_t i = firstValue; i < static_cast<size_t>(table.columnNames.length()); ++i)
@@ -158,12 +166,30 @@ bool TableSearch::run(const TableFile& file,
     return false;
 }
 
-std::vector<std::string> TableSearch::unknownColumns() const {
+// What cannot be read was not asked for; 'sections check' tells of it.
+void TableSearch::readColumnsOf(const TableFile& file) {
+    std::string error;
+    const auto text = files::readWhole(file.path, error, textFileLimit);
+    if (!text) return;
+    RecordReader reader(*text);
+    Fields fields;
+    auto got = RecordReader::Got::record;
+    Table table;
+    if (readHead(reader, fields, table, got)) bindAll(ColumnNames(table));
+}
+
+std::vector<std::string> TableSearch::unboundColumns() const {
     std::vector<std::string> unknown;
     for (const Wanted& wanted : m_wanted)
         if (!wanted.isKnown) unknown.push_back(wanted.name);
     if (!m_sort.isKnown) unknown.push_back(m_sort.name);
     return unknown;
+}
+
+std::vector<std::string> TableSearch::unknownColumns() {
+    if (!unboundColumns().empty())
+        for (const TableFile& file : m_leftOut) readColumnsOf(file);
+    return unboundColumns();
 }
 
 }  // namespace cli

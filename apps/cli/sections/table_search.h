@@ -28,12 +28,13 @@ class TableSearch {
                 bool inactive);
 
     /// Calls `found` for every size. False, after telling why, when the file cannot be read to its
-    /// end.
+    /// end. A table that the conditions leave out is not read.
     bool run(const TableFile& file, const std::function<void(const FoundSection&)>& found);
 
     /// What was asked for, in the order of the conditions and then the column to sort by, and is
-    /// in none of the tables so far.
-    std::vector<std::string> unknownColumns() const;
+    /// in none of the tables so far. Looks for it in those that were left out, too: to ask for a
+    /// column that only they have is no mistake.
+    std::vector<std::string> unknownColumns();
     /// Names of the columns in the tables so far.
     const std::vector<std::string>& knownColumns() const { return m_names; }
 
@@ -48,8 +49,11 @@ class TableSearch {
         int column = -1;  // in the table at hand
     };
 
+    bool leavesOut(const TableFile& file) const;
     void bind(Wanted& wanted, const ColumnNames& columns);
-    void noteNames(const ColumnNames& columns);
+    void bindAll(const ColumnNames& columns);
+    void readColumnsOf(const TableFile& file);
+    std::vector<std::string> unboundColumns() const;
     std::optional<double> valueOf(const Wanted& wanted, const Size& size) const;
     bool holds(const Size& size) const;
 
@@ -57,6 +61,7 @@ class TableSearch {
     std::vector<Wanted> m_wanted;  // one a condition
     Wanted m_sort;
     bool m_inactive;
+    std::vector<TableFile> m_leftOut;
     std::vector<std::string> m_names;
 };
 
