@@ -1,6 +1,7 @@
 // Sections out of polygons with rounded corners: rolled ones, bars and tubes.
 #include <algorithm>
 #include <numbers>
+#include <ranges>
 
 #include "core_api/drawing/outline_building.h"
 
@@ -15,6 +16,23 @@ Point onFillet(Point at, Point open, double radius) {
     const Point centre = at + open * radius;
     return centre - unit(open) * radius;
 }
+
+/// The end of an angle's leg that stands up along the y axis: from its inner face over the toe to
+/// its outer face at x = 0. EN 10056-1 gives thin legs toes of more than their thickness (3.5 mm at
+/// 3 mm): such an arc ends in the edge where it meets the outer face.
+struct LegEnd {
+    LegEnd(double length, double thickness, double toe) {
+        const double turn = toe > thickness ? std::acos(1 - thickness / toe) : 2 * quarter;
+        reach = toe * std::sin(turn);
+        const Point centre{thickness - toe, length - reach};
+        points = arc(centre, toe, toe, 0, turn);
+        if (toe < thickness) points.push_back({0, length});
+        onToe = centre + towards(turn / 2) * toe;
+    }
+    double reach;  ///< of the arc along the leg
+    std::vector<Point> points;
+    Point onToe;
+};
 
 /// A tapered flange, as both the I and the U have them: from its edge at x = `edge` to the web's
 /// face at x = `web`, below the top face at y = `top`.
@@ -62,15 +80,20 @@ SectionOutline angleSection(Values v) {
     const double h = v[0], b = v[1], tw = v[2], tf = v[3], root = v[4], toe = v[5];
     if (tw >= b) return tooLarge(2);
     if (tf >= h) return tooLarge(3);
-    const Corner corners[] = {{{0, 0}},         {{b, 0}},       {{b, tf}, toe},
-                              {{tw, tf}, root}, {{tw, h}, toe}, {{0, h}}};
-    const bool isToe = toe > std::min(tw, tf);
+    if (toe > std::max(root, std::min(tw, tf))) return tooLarge(5);
+    const LegEnd standing(h, tw, toe), lying(b, tf, toe);
+    if (standing.reach > h - tf || lying.reach > b - tw) return tooLarge(5);
+    std::vector<Corner> corners{{{0, 0}}};
+    for (const Point& point : std::views::reverse(lying.points))
+        corners.push_back({{point.y, point.x}});
+    corners.push_back({{tw, tf}, root});
+    for (const Point& point : standing.points) corners.push_back({point});
     return outlineOf(
-        rounded(corners), isToe ? 5 : 4,
+        rounded(corners), 4,
         {span(0, {0, 0}, {0, h}, left), span(1, {0, 0}, {b, 0}, down),
          across(2, {0, h * 0.62}, {tw, h * 0.62}), across(3, {b * 0.68, 0}, {b * 0.68, tf}),
          leader(4, {b, h}, onFillet({tw, tf}, {1, 1}, root)),
-         leader(5, {b, h * 1.5}, onFillet({tw, h}, {-1, -1}, toe))});
+         leader(5, {b, h * 1.5}, standing.onToe)});
 }
 
 SectionOutline tSection(Values v) {
