@@ -269,19 +269,23 @@ void addSectionReaders(CLI::App& sections, Calls& calls) {
 }
 
 void addSectionExchange(CLI::App& sections, Calls& calls) {
-    auto& import = *sections.add_subcommand("import", "Make a section table from CSV");
-    import.add_option("FILE", calls.importSections.file, "A CSV file; - is the standard input")
+    auto& import = *sections.add_subcommand("import", "Make a section table from CSV or JSON");
+    import
+        .add_option("FILE", calls.importSections.file,
+                    "A CSV or .json file; - is the standard input")
         ->required()
         ->check(refusedWhenEmpty);
     import.add_option("TABLE", calls.importSections.table, "Its name in the library, or a path")
         ->required()
         ->check(refusedWhenEmpty);
     import
-        .add_option("--type", calls.importSections.type,
-                    "The section type, 1 to 24, or a .dwg file; else that of the table replaced")
+        .add_option(
+            "--type", calls.importSections.type,
+            "The section type, 1 to 24, or a .dwg file; else as in the JSON or the table replaced")
         ->type_name("TYPE")
         ->check(refusedWhenEmpty);
     import.add_flag("--force", calls.importSections.force, "Replace a table that is there");
+    import.add_flag("--json", calls.importSections.json, "JSON as it is exported, in place of CSV");
     onLibraryCall(import, calls, [&calls] { return importSections(calls.importSections); });
 
     auto& out = *sections.add_subcommand("export", "Write a section table as CSV or JSON");

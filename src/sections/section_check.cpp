@@ -23,8 +23,9 @@ std::string quoted(const Vor_String& text) {
 /// One reading of a table. Rows and columns of findings are lines and fields of its file.
 class SectionCheck {
   public:
-    explicit SectionCheck(const Table& table)
+    SectionCheck(const Table& table, std::span<const int> lines)
         : m_table(table),
+          m_lines(lines),
           m_type(sectionTypeNumber(table.drawnAs)),
           m_columns(sectionTypeColumns(m_type, Language::english)),
           m_firstValue(table.firstValueColumn()) {}
@@ -45,7 +46,12 @@ class SectionCheck {
 
     /// `column` counts from 0; -1 speaks of the whole row.
     void add(Severity severity, int line, int column, std::string message) {
-        m_findings.push_back({line, column + 1, severity, std::move(message)});
+        const int place = placeOf(line);
+        m_findings.push_back({place, place > 0 ? column + 1 : 0, severity, std::move(message)});
+    }
+    /// Where a line of the table's own file came from.
+    int placeOf(int line) const {
+        return m_lines.empty() || line < 1 ? line : m_lines[static_cast<size_t>(line - 1)];
     }
     void error(int line, int column, std::string message) {
         add(Severity::error, line, column, std::move(message));
@@ -113,7 +119,7 @@ class SectionCheck {
                 if (first >= 0)
                     error(row + firstSizeLine, Table::systemNameColumn,
                           quoted(name) + " is the system name of line " +
-                              std::to_string(first + firstSizeLine) + " already");
+                              std::to_string(placeOf(first + firstSizeLine)) + " already");
             }
             checkUserNames(row, userNames);
         }
@@ -130,7 +136,8 @@ class SectionCheck {
             if (first >= 0 && first != row)
                 return warn(row + firstSizeLine, col,
                             quoted(size[col]) + " names the size of line " +
-                                std::to_string(first + firstSizeLine) + ", which is found first");
+                                std::to_string(placeOf(first + firstSizeLine)) +
+                                ", which is found first");
         }
         if (!hasName)
             warn(row + firstSizeLine, Table::firstNameColumn, "the size has no user name");
@@ -175,6 +182,7 @@ class SectionCheck {
     }
 
     const Table& m_table;
+    std::span<const int> m_lines;
     int m_type;
     Vor_StringArray m_columns;  // of the type, in English
     int m_firstValue;
@@ -183,8 +191,9 @@ class SectionCheck {
 
 }  // namespace
 
-std::vector<Finding> checkSectionTable(const Vor_ProfValuesTable& table) {
-    return SectionCheck(table).run();
+std::vector<Finding> checkSectionTable(const Vor_ProfValuesTable& table,
+                                       std::span<const int> lines) {
+    return SectionCheck(table, lines).run();
 }
 
 std::vector<Finding> checkSectionFile(const Vor_String& path) {

@@ -1,6 +1,7 @@
 // Reads a section table with a critical eye before anybody draws a section of it.
 #pragma once
 
+#include <span>
 #include <vector>
 
 #include "core_api/finding.h"
@@ -12,6 +13,10 @@ class Vor_ProfValuesTable;
 /// is missing or cannot be asked for, rows with too many or too few cells, an unknown type, values
 /// that are no numbers or give no section. Warnings: names that hide each other, flags that are
 /// neither 1 nor 0, columns that are called otherwise than those of their type.
-VORMANT_API std::vector<Finding> checkSectionTable(const Vor_ProfValuesTable& table);
+///
+/// A table that comes from elsewhere has other lines: `lines` are then those that say how sections
+/// are drawn (0: none does), of the header and of each size.
+VORMANT_API std::vector<Finding> checkSectionTable(const Vor_ProfValuesTable& table,
+                                                   std::span<const int> lines = {});
 /// The same of a file (host-style path), which may not be readable.
 VORMANT_API std::vector<Finding> checkSectionFile(const Vor_String& path);

@@ -168,6 +168,71 @@ TEST_F(Sections, ComeBackFromCsvAsTheyWere) {
     EXPECT_EQ(folder.read("prof/FL.pr"), flat);
 }
 
+TEST_F(Sections, ComeBackFromJsonAsTheyWere) {
+    const std::string file = folder / "out.json";
+    for (const char* table : {"FL", "IPE"}) {
+        ASSERT_EQ(call({"export", table, file}).exitCode, 0);
+        const auto result = call({"import", file, "Copy", "--force"});
+        ASSERT_EQ(result.exitCode, 0) << result.err;
+        EXPECT_EQ(folder.read("prof/Copy.pr"), folder.read("prof/" + std::string(table) + ".pr"));
+    }
+    // Members in any order, what may be left out left out; the call's type counts first.
+    const auto result = call({"import", "-", "New", "--json", "--type", "Box.dwg"},
+                             R"({"sizes": [{"values": {"t": 2.50, "b": 1e2}, "section": "X-Y-1"},
+  {"section": "X-Y-2", "active": false, "names": {"French": "Plat\u00e9"},
+   "values": {"b": null}, "mass": 3}], "columns": ["b", "t"], "type": 8, "table": "X-Y"})");
+    EXPECT_EQ(result.exitCode, 0) << result.err;
+    EXPECT_EQ(folder.read("prof/New.pr"),
+              "Box.dwg\nSysName\tI/O\tEnglish\tDutch\tGerman\tFrench\tb\tt\n"
+              "1\t1\t\t\t\t\t100\t2.50\n2\t0\t\t\t\tPlat\xE9\t\t\n");
+}
+
+TEST_F(Sections, ThatCannotBeAreNotImportedFromJson) {
+    const struct {
+        const char* json;  // a quote stands for two, as most lines have many
+        const char* message;
+    } cases[] = {
+        {"", "in.json: the JSON ends before the table does"},
+        {"{'columns': [],\n 'sizes': [{'section': 'T-1'", ":2: the JSON ends before"},
+        {"{'columns': []\n\n'sizes'}", ":3: this is no JSON at character 7"},
+        {"[]", ":1: a section table is one JSON object"},
+        {"{'name': 1}",
+         ":1: there is no \"name\" here, only table, type, template, columns, sizes"},
+        {"{'type': 8, 'type': 8}", ":1: \"type\" stands there twice"},
+        {"{'type': 8,\n'template': 'B.dwg'}", ":2: a table has a type or a template"},
+        {"{'type': true}", ":1: a type is a number"},
+        {"{'type': 8}", ": the table has no \"columns\""},
+        {"{'type': 77, 'columns': []}", ":1: error: \"77\" is no type from 1 to 24"},
+        {"{'columns': ['b',\n'b']}", ":1: there are two columns \"b\""},
+        {"{'columns': ['\xE6\x9D\xB1']}", ":1: character U+6771"},
+        {"{'columns': ['b'], 'sizes': [\n{'section': 'T-1', 'values': {'h': 5}}]}",
+         ":2: T-1: there is no column \"h\""},
+        {"{'columns': ['b'], 'sizes': [\n{'section': 'T-1', 'values': {'b': 5, 'b': 6}}]}",
+         ":2: T-1: \"b\" stands twice"},
+        {"{'columns': [], 'sizes': [{'section': 'T-1', 'names': {'Latin': 'x'}}]}",
+         ":1: T-1: there is no column \"Latin\""},
+        {"{'columns': [], 'sizes': [{'active': true}]}", ":1: the size has no \"section\""},
+        {"{'columns': [], 'sizes': [{'section': 'U-1'}], 'table': 'T'}", "unlike \"U-1\""},
+        {"{'columns': [], 'sizes': [{'section': 'T-1', 'values': {'b': [[[[}",
+         "a value is a number"},
+        {"{'type': 8, 'columns': ['Width', 'Thickness'], 'sizes': [\n"
+         "{'section': 'T-1', 'values': {'Width': 100, 'Thickness': 5}},\n"
+         "{'section': 'T-1', 'values': {'Width': 100, 'Thickness': 'thin'}}]}",
+         ":3: error: \"1\" is the system name of line 2 already"},
+        {"{'type': 8, 'columns': ['Width', 'Thickness'], 'sizes': [\n"
+         "{'section': 'T-1', 'values': {'Width': 100, 'Thickness': 'thin'}}]}",
+         ":2: error: Thickness is \"thin\""},
+    };
+    for (const auto& c : cases) {
+        std::string text = c.json;
+        std::ranges::replace(text, '\'', '"');
+        const auto result = call({"import", folder.write("in.json", text), "FL", "--force"});
+        EXPECT_EQ(result.exitCode, 1) << c.json;
+        EXPECT_THAT(result.err, HasSubstr(c.message)) << c.json;
+        EXPECT_EQ(folder.read("prof/FL.pr"), flat);
+    }
+}
+
 TEST_F(Sections, ThatCannotBeAreNotImported) {
     const std::string header = "SysName,I/O,English,Dutch,German,French,Width,Thickness\n";
     const struct {
@@ -177,7 +242,8 @@ TEST_F(Sections, ThatCannotBeAreNotImported) {
         std::string message;
     } cases[] = {
         {header + "\"1\n0\",1,a,,,,100,thin\n", "8", 1, ":2:8: error: Thickness is \"thin\""},
-        {header + "1,1,a,,,,100,5\n1,1,b,,,,100,6\n", "8", 1, ":3:1: error: \"1\" is the system"},
+        {header + "1,1,a,,,,100,5\n1,1,b,,,,100,6\n", "8", 1,
+         ":3:1: error: \"1\" is the system name of line 2 already"},
         {header + "\xE6\x9D\xB1,1,a,,,,100,5\n", "8", 1, ":2: "},
         {"", "8", 1, "no line of column names"},
         {header, "77", 2, "--type 77"},

@@ -48,7 +48,7 @@ _vormant() {
         mapping) options+=" show set objects" ;;
         sections) options+=" list show find check import export" ;;
         "sections find") options+=" --sort --inactive --json" ;;
-        "sections import") options+=" --type --force" ;;
+        "sections import") options+=" --type --force --json" ;;
         "sections "*) options+=" --json" ;;
         cutstock) options+=" list show import export report" ;;
         "cutstock show" | "cutstock export") options+=" --file --json" ;;

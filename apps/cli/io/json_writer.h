@@ -12,6 +12,8 @@ class JsonWriter {
   public:
     explicit JsonWriter(std::string& text) : m_text(text) {}
 
+    /// What comes next begins a line.
+    void newLine() { m_isNewLine = true; }
     void beginObject() { begin('{'); }
     void endObject() { end('}'); }
     void beginArray() { begin('['); }
@@ -48,6 +50,8 @@ class JsonWriter {
     void separate() {
         if (!m_isFirst) m_text += ',';
         m_isFirst = false;
+        if (m_isNewLine) m_text += '\n';
+        m_isNewLine = false;
     }
     void begin(char bracket) {
         separate();
@@ -61,6 +65,7 @@ class JsonWriter {
 
     std::string& m_text;
     bool m_isFirst = true;
+    bool m_isNewLine = false;
 };
 
 }  // namespace cli

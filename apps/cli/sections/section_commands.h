@@ -35,10 +35,12 @@ struct CheckSectionsRequest {
 ExitCode checkSections(const CheckSectionsRequest& request);
 
 struct ImportSectionsRequest {
-    std::string file;    ///< CSV
+    std::string file;    ///< CSV or JSON
     std::string table;   ///< a name in the library, or a path
-    std::string type;    ///< a number or a drawn template; empty: that of the table replaced
+    std::string type;    ///< a number or a drawn template; empty: what the JSON says, else that of
+                         ///< the table replaced
     bool force = false;  ///< replace a table that is there
+    bool json = false;   ///< it is JSON; a .json file says so itself
 };
 ExitCode importSections(const ImportSectionsRequest& request);
 

@@ -73,6 +73,7 @@ std::string tableAsJson(const Vor_ProfValuesTable& table) {
     json.key("sizes");
     json.beginArray();
     for (int row = 0; row < table.rows.length(); ++row) {
+        json.newLine();
         json.beginObject();
         writeSize(json, table, row);
         json.endObject();

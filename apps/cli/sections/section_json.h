@@ -11,7 +11,7 @@ void writeTableHead(JsonWriter& json, const Vor_ProfValuesTable& table);
 /// The members of a size: "section", "active", "names" by language, "values" by column (a text
 /// that is no number stays one), "mass" in kg/m when it is known.
 void writeSize(JsonWriter& json, const Vor_ProfValuesTable& table, int row);
-/// One object: the head, and the sizes in "sizes".
+/// One object: the head, and the sizes in "sizes", a line each.
 std::string tableAsJson(const Vor_ProfValuesTable& table);
 
 }  // namespace cli
