@@ -343,7 +343,7 @@ void addStockExchange(CLI::App& cutstock, Calls& calls) {
         ->type_name("NAME")
         ->check(refusedWhenEmpty);
     import.add_flag("--force", in.force, "Replace a file that is there");
-    import.add_flag("--new", in.newItem, "Make the item when it is not there");
+    import.add_flag("--new", in.newItem, "Add the item to Items.dat when it is not there");
     onLibraryCall(import, calls, [&calls] { return importStock(calls.importStock); });
 
     ExportStockRequest& request = calls.exportStock;

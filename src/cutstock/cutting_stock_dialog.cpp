@@ -5,6 +5,7 @@
 
 #include "core_api/dialog_state.h"
 #include "core_api/texts/dial_text.h"
+#include "cutstock/item_names.h"
 #include "platform/host/host.h"
 #include "platform/window/images.h"
 #include "platform/window/text_question.h"
@@ -16,7 +17,7 @@ namespace {
 using Dlg = TwCuttingStockDlg;
 
 constexpr const char* sizeName = "DLG_CSP2";
-constexpr int nameTitleText = 631, namePromptText = 632, nameTakenText = 25203, noNameText = 25201;
+constexpr int nameTitleText = 631, namePromptText = 632;
 constexpr int saveAllText = 628, loadAllText = 629;
 
 constexpr ControlTemplate picture(int table, Dlg::Part part, CPoint at, int image, int tip) {
@@ -229,13 +230,13 @@ bool TwCuttingStockDlg::askName(Vor_String& name) {
     question.prompt = dialString(namePromptText);
     question.ok = dialString(IDOK);
     question.cancel = dialString(IDCANCEL);
+    cutstock::ItemNames names(m_data.itemNames);
     std::string answer;
     while (askText(question, this, answer)) {
         name = answer;
-        if (cutstock::canBeFolder(name) && !m_data.itemNames.contains(name)) return true;
-        const bool isTaken = m_data.itemNames.contains(name);
-        showWarning(question.title,
-                    "\"" + name + "\": " + dialString(isTaken ? nameTakenText : noNameText));
+        const Vor_String refusal = names.add(name);
+        if (refusal.isEmpty()) return true;
+        showWarning(question.title, refusal);
         question.preset = answer;
     }
     return false;

@@ -1,10 +1,10 @@
 #include "cutstock/cutting_stock_library.h"
 
-#include <charconv>
-
 #include "core_api/files.h"
 #include "core_api/settings.h"
 #include "core_api/texts/texts.h"
+#include "cutstock/item_list.h"
+#include "cutstock/item_names.h"
 #include "cutstock/stock_files.h"
 #include "platform/files.h"
 
@@ -12,74 +12,25 @@ namespace cutstock {
 
 namespace {
 
-constexpr std::string_view columnsWord = "Columns", itemWord = "Item", partWord = "Part";
-constexpr int noLibraryText = 25200;
+constexpr int noLibraryText = 25200, lengthText = 21044, numberText = 21073;
 
-std::optional<int> numberOf(const Vor_String& field) {
-    const std::string_view text = field.view();
-    int number = 0;
-    const auto read = std::from_chars(text.data(), text.data() + text.size(), number);
-    if (read.ec != std::errc() || read.ptr != text.data() + text.size()) return std::nullopt;
-    return number;
-}
-
-Vor_StringArray from(const Vor_StringArray& record, int first) {
-    Vor_StringArray rest;
-    for (int i = first; i < record.length(); ++i) rest.append(record[i]);
-    return rest;
-}
-
-/// What is wrong with the record, or nothing when `data` has taken it.
-const char* take(const Vor_StringArray& record, DlgCSP2Data& data) {
-    const auto number = record.length() > 1 ? numberOf(record[1]) : std::nullopt;
-    if (!number) return "a word and a number begin each line";
-    if (record[0].view() == columnsWord) {
-        if (*number < 1 || *number > DlgCSP2Data::tableCount) return "tables are numbered 1 to 3";
-        data.tables[*number - 1].columnNames = from(record, 2);
-        return nullptr;
-    }
-    const bool isKnown = data.itemIds.find(*number) >= 0;
-    if (record[0].view() == itemWord) {
-        if (record.length() != 3) return "an item has a number and a name";
-        if (isKnown) return "two items have this number; give one of them another";
-        data.itemIds.append(*number);
-        data.itemNames.append(record[2]);
-        return nullptr;
-    }
-    if (record[0].view() != partWord) return "lines begin with Columns, Item or Part";
-    if (!isKnown) return "no item above has this number";
-    data.tables[0].rowItemIds.append(*number);
-    data.tables[0].rows.append(from(record, 2));
-    return nullptr;
-}
-
-bool readItems(std::string_view text, const Vor_String& path, DlgCSP2Data& data,
-               Vor_String& message) {
-    RecordRows records;
-    if (!readRecords(text, path, records, message)) return false;
-    for (int i = 0; i < records.length(); ++i) {
-        const char* wrong = take(records[i], data);
-        if (!wrong) continue;
-        message = path.str() + ":" + std::to_string(i + 1) + ": " + wrong;
-        return false;
-    }
+bool itemsFromFolders(DlgCSP2Data& data, Vor_String& message) {
+    Vor_StringArray folders;
+    if (!itemFolders(folders, message)) return false;
+    DlgCSP2Data made;
+    ItemNames names;
+    for (const Vor_String& folder : folders)
+        if (names.add(folder).isEmpty()) addItem(made, folder);
+    made.savesAll = data.savesAll;
+    data = std::move(made);
     return true;
 }
 
-RecordRows recordsOf(const DlgCSP2Data& data) {
-    RecordRows records;
-    const auto add = [&records](std::string_view word, int number, const Vor_StringArray& rest) {
-        Vor_StringArray record{word, Vor_String(number, 0)};
-        for (const Vor_String& field : rest) record.append(field);
-        records.append(std::move(record));
-    };
-    for (int i = 0; i < DlgCSP2Data::tableCount; ++i)
-        add(columnsWord, i + 1, data.tables[i].columnNames);
-    for (int i = 0; isItem(data, i); ++i) add(itemWord, data.itemIds[i], {data.itemNames[i]});
-    for (int i = 0; isItem(data, i); ++i)
-        for (const Vor_StringArray& row : rowsOf(data.tables[0], data.itemIds[i]))
-            add(partWord, data.itemIds[i], row);
-    return records;
+/// Grids need columns to type into.
+void nameColumns(DlgCSP2Data& data) {
+    for (Csp2Table& table : data.tables)
+        if (table.columnNames.isEmpty())
+            table.columnNames = {dialString(lengthText), dialString(numberText)};
 }
 
 bool readNewest(DlgCSP2Data& data, Vor_String& message) {
@@ -94,17 +45,37 @@ bool readNewest(DlgCSP2Data& data, Vor_String& message) {
     return true;
 }
 
+/// Grids fill rows up to their width.
+Rows withoutEmptyEnds(Rows rows) {
+    for (Vor_StringArray& row : rows)
+        while (!row.isEmpty() && row[row.length() - 1].isEmpty()) row.setLength(row.length() - 1);
+    return rows;
+}
+
 /// Saves the rows when they are not those of the newest file, which may be the user's own saving.
-bool saveChanged(const DlgCSP2Data& data, int item, const FileKind& kind, Vor_String& message) {
+/// A new item without rows may have got the folder of one that was deleted: its files stay as
+/// they are.
+bool saveChanged(const DlgCSP2Data& data, int item, const FileKind& kind, bool isNew,
+                 Vor_String& message) {
     const auto folder = itemFolder(data.itemNames[item], message);
     if (!folder) return false;
+    const Rows rows = rowsOf(data.tables[static_cast<size_t>(kind.table)], data.itemIds[item]);
+    if (isNew && rows.isEmpty()) return true;
     Rows saved;
     Vor_String unreadable;
     const auto newest = newestFile(*folder, kind);
     const bool isKnown = !newest || readRows(newest->path, saved, unreadable);
-    if (isKnown && saved == rowsOf(data.tables[kind.table], data.itemIds[item])) return true;
-    return saveItem(data, item, kind, storedPath(*folder + defaultFileName(*folder, kind), kind),
-                    message);
+    if (isKnown && withoutEmptyEnds(saved) == withoutEmptyEnds(rows)) return true;
+    return saveRows(storedPath(*folder + defaultFileName(*folder, kind), kind), rows, message);
+}
+
+bool areNamesGood(const Vor_StringArray& names, Vor_String& message) {
+    ItemNames taken;
+    for (const Vor_String& name : names) {
+        message = taken.add(name);
+        if (!message.isEmpty()) return false;
+    }
+    return true;
 }
 
 std::optional<std::string> textNow() {
@@ -118,20 +89,33 @@ Vor_String CuttingStockLibrary::path() {
     return stockFolder() + "Items.dat";
 }
 
-bool CuttingStockLibrary::load(DlgCSP2Data& data, Vor_String& message) {
+bool CuttingStockLibrary::loadItems(DlgCSP2Data& data, Vor_String& message) {
     m_text.reset();
-    if (gSettings.libDir().isEmpty() || !ObjectExportFileExists(path())) return true;
+    m_loaded.clear();
+    if (gSettings.libDir().isEmpty()) return true;
+    if (!ObjectExportFileExists(path())) return itemsFromFolders(data, message);
     std::string error;
     const auto text = files::readWhole(path(), error, textFileLimit);
     if (!text) {
         message = Vor_String(std::move(error));
         return false;
     }
-    DlgCSP2Data read;
-    if (!readItems(*text, path(), read, message) || !readNewest(read, message)) return false;
-    read.savesAll = data.savesAll;
-    data = std::move(read);
+    if (!readItemList(*text, path(), data, message)) return false;
     m_text = text;
+    return true;
+}
+
+bool CuttingStockLibrary::load(DlgCSP2Data& data, Vor_String& message) {
+    DlgCSP2Data read;
+    read.savesAll = data.savesAll;
+    const bool isRead = loadItems(read, message) && readNewest(read, message);
+    if (!isRead) {
+        m_text.reset();
+        return false;
+    }
+    nameColumns(read);
+    m_loaded = read.itemNames;
+    data = std::move(read);
     return true;
 }
 
@@ -139,19 +123,32 @@ bool CuttingStockLibrary::wouldReplaceUnread() const {
     return ObjectExportFileExists(path()) && (!m_text || textNow() != m_text);
 }
 
-bool CuttingStockLibrary::save(const DlgCSP2Data& data, Vor_String& message) {
+bool CuttingStockLibrary::saveItems(const DlgCSP2Data& data, Vor_String& message) {
     if (gSettings.libDir().isEmpty()) {
         message = dialString(noLibraryText);
         return false;
     }
-    bool isSaved = true;
-    for (int i = 0; isItem(data, i); ++i)
-        for (const FileKind& kind : fileKinds)
-            isSaved = saveChanged(data, i, kind, message) && isSaved;
-    if (ObjectExportCreateDirectory(stockFolder(), &message) != Acad::eOk ||
-        !writeFile(path(), recordsOf(data), &message))
+    const Vor_String text = itemListText(data);
+    std::string error;
+    if (!areNamesGood(data.itemNames, message) ||
+        ObjectExportCreateDirectory(stockFolder(), &message) != Acad::eOk)
         return false;
-    m_text = textNow();
+    if (!files::writeWhole(path(), text, error)) {
+        message = Vor_String(std::move(error));
+        return false;
+    }
+    m_text = text.str();
+    return true;
+}
+
+bool CuttingStockLibrary::save(const DlgCSP2Data& data, Vor_String& message) {
+    if (!saveItems(data, message)) return false;
+    bool isSaved = true;
+    for (int i = 0; isItem(data, i); ++i) {
+        const bool isNew = !m_loaded.contains(data.itemNames[i]);
+        for (const FileKind& kind : fileKinds)
+            isSaved = saveChanged(data, i, kind, isNew, message) && isSaved;
+    }
     return isSaved;
 }
 

@@ -1,5 +1,6 @@
-// The items of a library with their parts, kept in its "Cutting Stock\Items.dat" so that they are
-// there the next day. Stock and purchases are kept in the files of each item.
+// The cutting-stock items of a library. Which there are, and their parts, is kept in its "Cutting
+// Stock\Items.dat"; stock and purchases are in the files of each item. In a library without that
+// file its folders are the items.
 #pragma once
 
 #include <optional>
@@ -14,22 +15,28 @@ class CuttingStockLibrary {
     /// "Cutting Stock\Items.dat" in the library.
     static Vor_String path();
 
-    /// The items with their rows in all three tables; nothing at all without the file. False, with
-    /// `message` naming the file and line at fault and `data` as it was, when the list of items or
-    /// one of the newest files cannot be read.
+    /// The items, the names of columns and the parts. False, with `message` naming the file, and
+    /// the line at fault if it is one, and `data` as it was, when they cannot be read.
+    bool loadItems(DlgCSP2Data& data, Vor_String& message);
+    /// The same with the rows of the newest files; tables without names of columns get usual ones.
+    /// False also when one of these files cannot be read.
     bool load(DlgCSP2Data& data, Vor_String& message);
 
     /// Whether saving would replace what was not loaded: a list of items that could not be read,
     /// or one that another program wrote meanwhile. Ask before saving then.
     bool wouldReplaceUnread() const;
 
-    /// Rows of the second and third table that are not in the newest file of their item go to a new
-    /// one. False, with `message` saying why, when something could not be written: what could be
-    /// is written then.
+    /// What loadItems loads. False, with `message` saying why and the old list as it was, when a
+    /// name cannot be that of an item or the list cannot be written.
+    bool saveItems(const DlgCSP2Data& data, Vor_String& message);
+    /// The same, then rows of the second and third table that are not in the newest file of their
+    /// item go to a new one. False, with `message` saying why, when something could not be
+    /// written: what could be is written then.
     bool save(const DlgCSP2Data& data, Vor_String& message);
 
   private:
     std::optional<std::string> m_text;  ///< of the list of items as it was read or written
+    Vor_StringArray m_loaded;           ///< items whose rows were loaded
 };
 
 }  // namespace cutstock

@@ -9,7 +9,10 @@
 #include "core_api/text/text_helpers.h"
 #include "core_api/texts/texts.h"
 #include "platform/encodings.h"
+#include "platform/escaped_text.h"
+#include "platform/files.h"
 #include "platform/paths.h"
+#include "spread/control/formula/value.h"
 
 namespace cutstock {
 
@@ -17,7 +20,8 @@ namespace {
 
 constexpr char cellSeparator = '\xBF';
 constexpr std::string_view numberedName = "Stock";
-constexpr int noLibraryText = 25200, noFolderNameText = 25201, lineEndText = 25202;
+constexpr int noLibraryText = 25200, noFolderNameText = 25201, lineEndText = 25202,
+              tooLargeText = 26940;
 
 std::string patternOf(const FileKind& kind) {
     return std::string("*.") + kind.extension;
@@ -50,6 +54,17 @@ int rowWithLineEnd(const Rows& rows) {
     return 0;
 }
 
+/// The first line, from 1, that a grid has no room for; 0 when there is room for all. Damaged files
+/// are the only ones that large.
+int lineTooLarge(std::string_view text) {
+    for (int line = 1; !text.empty(); ++line) {
+        const std::string_view cells = takeLine(text);
+        const auto separators = std::count(cells.begin(), cells.end(), cellSeparator);
+        if (separators >= formula::maxCols || line > formula::maxRows) return line;
+    }
+    return 0;
+}
+
 }  // namespace
 
 Vor_String stockFolder() {
@@ -66,6 +81,28 @@ std::optional<Vor_String> itemFolder(const Vor_String& item, Vor_String& message
         return std::nullopt;
     }
     return stockFolder() + item + "\\";
+}
+
+// Names that Windows-1252 cannot write are left out, as files::find does.
+bool itemFolders(Vor_StringArray& names, Vor_String& message) {
+    std::vector<std::string> found;
+    std::error_code error;
+    std::filesystem::directory_iterator each(paths::toMachine(stockFolder()), error);
+    for (; !error && each != std::filesystem::directory_iterator(); each.increment(error)) {
+        std::error_code unreadable;
+        const auto name = encodings::fromUtf8(each->path().filename().string());
+        if (name && canBeFolder(*name) && each->is_directory(unreadable)) found.push_back(*name);
+    }
+    if (error && error != std::errc::no_such_file_or_directory) {
+        message = stockFolder() + ": " + error.message();
+        return false;
+    }
+    std::sort(found.begin(), found.end(), [](const std::string& a, const std::string& b) {
+        return encodings::compareFolded(a, b) < 0;
+    });
+    names.clear();
+    for (std::string& name : found) names.append(std::move(name));
+    return true;
 }
 
 Vor_String defaultFileName(std::string_view folder, const FileKind& kind) {
@@ -92,20 +129,45 @@ Vor_String storedPath(const Vor_String& chosen, const FileKind& kind) {
     return getPath(whole) + encodings::lowered(getFileName(whole));
 }
 
+Rows rowsOfText(std::string_view text) {
+    Vor_StringArray lines;
+    while (!text.empty()) lines.append(takeLine(text));
+    return arrToArrArr(lines, cellSeparator);
+}
+
+std::string textOfRows(const Rows& rows) {
+    std::string text;
+    for (const Vor_String& line : arrArrToArr(rows, cellSeparator))
+        text.append(line.view()).append("\n");
+    return text;
+}
+
 bool saveRows(const Vor_String& path, const Rows& rows, Vor_String& message) {
     if (const int row = rowWithLineEnd(rows)) {
         message = path + ":" + std::to_string(row) + ": " + dialString(lineEndText).str();
         return false;
     }
-    return ObjectExportCreateDirectory(getPath(path), &message) == Acad::eOk &&
-           ObjectExportWriteFile(path, arrArrToArr(rows, cellSeparator), &message) == Acad::eOk;
+    if (ObjectExportCreateDirectory(getPath(path), &message) != Acad::eOk) return false;
+    std::string error;
+    if (files::writeWhole(path, textOfRows(rows), error)) return true;
+    message = Vor_String(std::move(error));
+    return false;
 }
 
 bool readRows(const Vor_String& path, Rows& rows, Vor_String& message) {
-    Vor_StringArray lines;
-    const bool isRead = ObjectExportReadFile(path, lines, &message) == Acad::eOk;
-    rows = arrToArrArr(lines, cellSeparator);
-    return isRead;
+    rows.clear();
+    std::string error;
+    const auto text = files::readWhole(path, error, textFileLimit);
+    if (!text) {
+        message = Vor_String(std::move(error));
+        return false;
+    }
+    if (const int line = lineTooLarge(*text)) {
+        message = path + ":" + std::to_string(line) + ": " + dialString(tooLargeText).str();
+        return false;
+    }
+    rows = rowsOfText(*text);
+    return true;
 }
 
 bool saveItem(const DlgCSP2Data& data, int item, const FileKind& kind, const Vor_String& path,

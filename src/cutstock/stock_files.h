@@ -27,6 +27,10 @@ Vor_String stockFolder();
 /// library is set or the name cannot be that of a folder.
 std::optional<Vor_String> itemFolder(const Vor_String& item, Vor_String& message);
 
+/// The names of the folders in stockFolder() that items can have, alphabetically, letter case
+/// aside; none when it is not there. False, with `message` saying why, when it cannot be read.
+bool itemFolders(Vor_StringArray& names, Vor_String& message);
+
 /// "Stock8.shp": the number is one more than the largest in the names there.
 Vor_String defaultFileName(std::string_view folder, const FileKind& kind);
 
@@ -41,6 +45,11 @@ std::optional<StockFile> newestFile(std::string_view folder, const FileKind& kin
 /// names, and so does a file that exists exactly as chosen, as another one may have the same name
 /// in small letters.
 Vor_String storedPath(const Vor_String& chosen, const FileKind& kind);
+
+/// What a file holds, and its rows again: they come back as they were unless a cell holds a line
+/// end or the byte that parts cells.
+Rows rowsOfText(std::string_view text);
+std::string textOfRows(const Rows& rows);
 
 /// False, with the old file as it was and `message` saying why, when it cannot be written; a line
 /// end in a cell would tear its row apart and is refused.

@@ -172,6 +172,105 @@ TEST_F(CutStock, IsReportedAndWhatCannotBeReadFails) {
     }
 }
 
+class CutStockWithList : public CutStock {
+  protected:
+    CutStockWithList() {
+        write("Items.dat", list, 1'200'000'000);
+        write("W12/order.buy", "9000\n", 1'200'000'000);
+    }
+    static constexpr const char* list =
+        "Columns\t1\tMark\tLength\nColumns\t2\tLength\tNumber\n"
+        "Item\t7\tIPE-300\nItem\t2\tHEA-220\nItem\t3\tL 70\n"
+        "Part\t2\tTr\xE4ger\t5400\nPart\t7\tB1\t880\n";
+};
+
+TEST_F(CutStockWithList, ShowsItsItemsInOrderWithTheirParts) {
+    EXPECT_EQ(call({"list"}).out,
+              "Item     .shp  Newest      .buy  Newest     Note\n"
+              "IPE-300     0                 0\n"
+              "HEA-220     2  Stock7.shp     1  all.buy\n"
+              "L 70        0                 0             no folder\n"
+              "W12         0                 1  order.buy  not in Items.dat\n");
+    const json all = json::parse(call({"list", "--json"}).out);
+    ASSERT_EQ(all.size(), 4u);
+    EXPECT_EQ(all[2]["folder"], false);
+    EXPECT_EQ(all[2]["listed"], true);
+    EXPECT_EQ(all[3]["listed"], false);
+    EXPECT_THAT(call({"show", "HEA-220"}).out,
+                testing::StartsWith("Parts to cut:\n  Mark    Length\n  Tr\xC3\xA4ger    5400\n"
+                                    "Stock: Stock7.shp"));
+    EXPECT_EQ(json::parse(call({"show", "IPE-300", "--json"}).out)["parts"]["rows"],
+              json::parse(R"([["B1", "880"]])"));
+}
+
+TEST_F(CutStockWithList, TellsFoldersWithoutAnItemAndItemsWithoutAFolder) {
+    const char* const unlisted = "Items.dat: \"W12\" has a folder but no line here";
+    for (const auto& arguments : {std::vector<std::string>{"show", "w12"},
+                                  {"export", "W12", "buy"},
+                                  {"report", "W12"},
+                                  {"report"}}) {
+        const auto result = call(arguments);
+        EXPECT_EQ(result.exitCode, 0) << result.err;
+        EXPECT_THAT(result.err, HasSubstr(unlisted));
+        EXPECT_NE(result.out, "");
+    }
+    EXPECT_THAT(call({"report"}).out, Not(HasSubstr("W12"))) << "the dialog does not show it";
+    const auto without = call({"export", "L 70", "shp"});
+    EXPECT_EQ(without.exitCode, 1);
+    EXPECT_THAT(without.err, HasSubstr("L 70/: there is no such folder yet"));
+    EXPECT_EQ(call({"show", "HEA-220"}).err, "");
+
+    const auto refused = call({"import", "-", "W12", "buy"}, "1\n");
+    EXPECT_EQ(refused.exitCode, 1);
+    EXPECT_THAT(refused.err, HasSubstr(unlisted));
+    EXPECT_FALSE(has("W12/stock1.buy"));
+}
+
+TEST_F(CutStockWithList, TakesInNewItemsWithTheirFirstFile) {
+    EXPECT_EQ(call({"import", "-", "w12", "buy", "--new"}, "1\n").exitCode, 0);
+    EXPECT_EQ(call({"import", "-", "UPN 80", "shp", "--new"}, "2\n").exitCode, 0);
+    EXPECT_EQ(call({"import", "-", "l 70", "shp", "--new"}, "3\n").exitCode, 0);
+    EXPECT_EQ(read("W12/stock1.buy"), "1\n");
+    EXPECT_EQ(read("UPN 80/stock1.shp"), "2\n");
+    EXPECT_EQ(read("L 70/stock1.shp"), "3\n");
+    EXPECT_EQ(read("Items.dat"),
+              "Columns\t1\tMark\tLength\nColumns\t2\tLength\tNumber\nColumns\t3\n"
+              "Item\t7\tIPE-300\nItem\t2\tHEA-220\nItem\t3\tL 70\nItem\t8\tW12\nItem\t9\tUPN 80\n"
+              "Part\t2\tTr\xE4ger\t5400\nPart\t7\tB1\t880\n");
+    EXPECT_EQ(call({"import", "-", "C 100", "shp", "--new"}, "\"2\n").exitCode, 1);
+    EXPECT_THAT(read("Items.dat"), Not(HasSubstr("C 100"))) << "its file could not be read";
+}
+
+TEST_F(CutStockWithList, ThatIsBrokenIsNamedWithItsLineAndLeftAlone) {
+    const std::string broken = std::string(list) + "Item\t2\tW12\n";
+    write("Items.dat", broken, 1'200'000'000);
+    for (const auto& arguments : {std::vector<std::string>{"list"},
+                                  {"show", "HEA-220"},
+                                  {"export", "HEA-220", "shp"},
+                                  {"report"},
+                                  {"import", "-", "HEA-220", "shp"},
+                                  {"import", "-", "W12", "buy", "--new"}}) {
+        const auto result = call(arguments, "1\n");
+        EXPECT_EQ(result.exitCode, 1);
+        EXPECT_EQ(result.out, "");
+        EXPECT_THAT(result.err, testing::EndsWith("Items.dat:8: two items have this number; give "
+                                                  "one of them another\n"));
+        EXPECT_EQ(std::count(result.err.begin(), result.err.end(), '\n'), 1);
+    }
+    EXPECT_EQ(read("Items.dat"), broken);
+    EXPECT_FALSE(has("HEA-220/stock8.shp"));
+    EXPECT_FALSE(has("W12/stock1.buy"));
+}
+
+TEST_F(CutStock, GetsAListWithItsFoldersWhenItHasNone) {
+    EXPECT_EQ(call({"import", "-", "HEA-220", "shp"}, "1\n").exitCode, 0);
+    EXPECT_FALSE(has("Items.dat"));
+    EXPECT_EQ(call({"import", "-", "L 70", "shp", "--new"}, "1\n").exitCode, 0);
+    EXPECT_EQ(read("Items.dat"),
+              "Columns\t1\nColumns\t2\nColumns\t3\n"
+              "Item\t1\tHEA-220\nItem\t2\tIPE-300\nItem\t3\tL 70\n");
+}
+
 TEST_F(CutStock, CallsThatCannotBeAreRefused) {
     const struct {
         std::vector<std::string> arguments;

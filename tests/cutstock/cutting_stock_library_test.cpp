@@ -68,6 +68,8 @@ TEST_F(StockedLibrary, WhatCannotBeReadIsNamedByItsLineAndLeftAlone) {
     const Case cases[] = {
         {"Item\t1\tA\nPart\t2\tB1\n", 2},
         {"Item\t1\tA\nItem\t1\tB\n", 2},
+        {"Item\t1\tA\nItem\t2\ta\n", 2},
+        {"Item\t1\tA/B\n", 1},
         {"Columns\t4\tX\n", 1},
         {"Columns\t1\tX\nItem\t1\n", 2},
         {"Item\tone\tA\n", 1},
@@ -99,14 +101,61 @@ TEST_F(StockedLibrary, AsksBeforeItReplacesWhatAnotherProgramWrote) {
     EXPECT_FALSE(library.wouldReplaceUnread());
 }
 
-TEST_F(StockedLibrary, SaysWhichItemCannotBeSaved) {
-    DlgCSP2Data data = sample();
-    data.itemNames[0] = "IPE/200";
-    EXPECT_FALSE(library.save(data, message));
-    EXPECT_NE(message.str().find("IPE/200"), std::string::npos) << message.str();
-    EXPECT_TRUE(files.has("HEA 200/stock1.buy"));
+TEST_F(StockedLibrary, WritesNothingThatCouldNotBeReadAgain) {
+    const std::string path = files.write("Items.dat", "Item\t1\tIPE 300\n");
+    for (const char* name : {"IPE/200", "HEA 200", " L", ""}) {
+        DlgCSP2Data data = sample();
+        data.itemNames[0] = name;
+        EXPECT_FALSE(library.save(data, message)) << name;
+        EXPECT_EQ(message.str().find('"' + std::string(name) + '"'), 0u) << message.str();
+        EXPECT_EQ(files.read("Items.dat"), "Item\t1\tIPE 300\n");
+        EXPECT_FALSE(files.has("HEA 200"));
+    }
     gSettings.setLibDir("");
     EXPECT_FALSE(library.save(sample(), message));
+}
+
+TEST_F(StockedLibrary, SaysWhichFileCannotBeWrittenAndWritesTheOthers) {
+    DlgCSP2Data data = sample();
+    data.tables[1].rows[0][0] = "12100\n6050";
+    EXPECT_FALSE(library.save(data, message));
+    EXPECT_NE(message.str().find("IPE 200\\stock1.shp:1: "), std::string::npos) << message.str();
+    EXPECT_TRUE(files.has("HEA 200/stock1.buy"));
+    EXPECT_TRUE(files.has("Items.dat"));
+}
+
+TEST_F(StockedLibrary, TakesFoldersForItemsUntilItHasAList) {
+    files.write("L 70/order.shp", "6050\n");
+    std::filesystem::create_directory(files.path("HEA 100"));
+    std::filesystem::create_directory(files.path("left over."));  // names of items end in no dot
+    DlgCSP2Data data;
+    ASSERT_TRUE(library.load(data, message)) << message.str();
+    EXPECT_EQ(data.itemNames, (Vor_StringArray{"HEA 100", "L 70"}));
+    EXPECT_EQ(rowsOf(data, 1, data.itemIds[1]), (cutstock::Rows{{"6050"}}));
+    for (const Csp2Table& table : data.tables) EXPECT_EQ(table.columnNames.length(), 2);
+    data.itemNames = {"L 70"};
+    data.itemIds = {data.itemIds[1]};
+    ASSERT_TRUE(library.save(data, message)) << message.str();
+    ASSERT_TRUE(library.load(data, message)) << message.str();
+    EXPECT_EQ(data.itemNames, (Vor_StringArray{"L 70"}));
+}
+
+TEST_F(StockedLibrary, FilesStayTheNewestWhileNothingReallyChanged) {
+    files.write("IPE 200/order.shp", "12100\n", 1000);
+    files.write("L 70/order.shp", "6050\n", 1000);
+    files.write("Items.dat", "Columns\t2\tLength\tNumber\nItem\t4\tIPE 200\n");
+    DlgCSP2Data data;
+    ASSERT_TRUE(library.load(data, message)) << message.str();
+    cutstock::replaceRows(data.tables[1], 4, {{"12100", ""}});  // as a grid of two columns gives it
+    cutstock::addItem(data, "L 70");  // the item was deleted, its files are there
+    ASSERT_TRUE(library.save(data, message)) << message.str();
+    EXPECT_FALSE(files.has("IPE 200/stock1.shp"));
+    EXPECT_FALSE(files.has("L 70/stock1.shp"));
+    ASSERT_TRUE(library.load(data, message)) << message.str();
+    ASSERT_EQ(data.itemIds.length(), 2);
+    cutstock::replaceRows(data.tables[1], data.itemIds[1], {});
+    ASSERT_TRUE(library.save(data, message)) << message.str();
+    EXPECT_EQ(files.read("L 70/stock1.shp"), "") << "its rows were seen and deleted";
 }
 
 TEST_F(StockedLibrary, TheSampleCanBeLoaded) {

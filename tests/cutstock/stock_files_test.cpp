@@ -119,6 +119,22 @@ TEST_F(StockFiles, AnOldFileStaysWhenANewOneCannotBeWritten) {
     EXPECT_EQ(rows, Rows());
 }
 
+TEST_F(StockFiles, WhatNoTableHasRoomForIsRefusedWithItsLine) {
+    const std::string wide(16384, '\xBF');
+    const std::pair<std::string, int> cases[] = {{"a\n" + wide.substr(1) + "\n", 0},
+                                                 {"a\n" + wide + "\n", 2},
+                                                 {std::string(1048577, '\n'), 1048577}};
+    for (const auto& [text, line] : cases) {
+        const Vor_String path = library.write("A/damaged.shp", text);
+        Rows rows{{"before"}};
+        EXPECT_EQ(readRows(path, rows, message), line == 0) << line;
+        if (line == 0) continue;
+        EXPECT_TRUE(rows.isEmpty());
+        EXPECT_EQ(message.str().find(path.str() + ":" + std::to_string(line) + ": "), 0u)
+            << message.str();
+    }
+}
+
 TEST_F(StockFiles, FoldersAreMadeOfGoodNamesInALibraryOnly) {
     EXPECT_EQ(folderOf("IPE 200"), library.folder.inside() + "Cutting Stock\\IPE 200\\");
     for (const char* bad : {"", ".", "..", "..\\x", "a/b", "a:b", " a", "a ", "a.", "a\nb", "a?"})

@@ -34,11 +34,14 @@ ExitCode exportStock(const ExportStockRequest& request) {
         complain("--file " + request.file + ": this is no ." + request.kind + " file");
         return ExitCode::wrongCall;
     }
-    const auto item = findItem(request.item);
-    const auto file = item ? neededFile(*item, request.file, kind) : std::nullopt;
+    const auto items = stockItems();
+    const StockItem* item = items ? findItem(*items, request.item) : nullptr;
+    if (!item) return ExitCode::failed;
+    tellUnlisted(*item);
+    const auto file = neededFile(item->name, request.file, kind);
     const auto table = file ? readStockTable(*file) : std::nullopt;
     if (!table) return ExitCode::failed;
-    return target.write(target.isJson() ? asJson(*item, *table) : asCsv(table->rows));
+    return target.write(target.isJson() ? asJson(item->name, *table) : asCsv(table->rows));
 }
 
 }  // namespace cli

@@ -1,3 +1,5 @@
+#include <algorithm>
+
 #include "core_api/files.h"
 #include "cutstock/cutstock_commands.h"
 #include "cutstock/stock_items.h"
@@ -53,19 +55,32 @@ std::optional<cutstock::Rows> readCsv(const std::string& path) {
     return std::nullopt;
 }
 
+struct ItemMeant {
+    Vor_String name;
+    bool isNew;  ///< not in "Items.dat" so far
+};
+
 /// An item that is there, or with --new one that may not be.
-std::optional<Vor_String> itemMeant(const ImportStockRequest& request) {
-    if (!request.newItem) return findItem(request.item);
-    const auto items = libraryItems();
-    std::string name, error;
+std::optional<ItemMeant> itemMeant(const ImportStockRequest& request) {
+    const auto items = stockItems();
     if (!items) return std::nullopt;
-    if (!fromUtf8(request.item, name, error)) {
-        complain(request.item + ": " + error);
-        return std::nullopt;
+    std::string name, error;
+    if (request.newItem) {
+        if (!fromUtf8(request.item, name, error)) {
+            complain(request.item + ": " + error);
+            return std::nullopt;
+        }
+        const auto isMeant = [&](const StockItem& each) {
+            return encodings::equalFolded(each.name, name);
+        };
+        if (std::none_of(items->all.begin(), items->all.end(), isMeant))
+            return ItemMeant{name, true};
     }
-    for (const Vor_String& item : *items)
-        if (encodings::equalFolded(item, name)) return item;
-    return name;
+    const StockItem* item = findItem(*items, request.item);
+    if (!item) return std::nullopt;
+    if (item->id || request.newItem) return ItemMeant{item->name, !item->id};
+    tellUnlisted(*item);
+    return std::nullopt;
 }
 
 /// Where the rows go; nothing after telling why.
@@ -92,9 +107,10 @@ ExitCode importStock(const ImportStockRequest& request) {
         return ExitCode::wrongCall;
     }
     const auto item = itemMeant(request);
-    const auto path = item ? placeOf(request, *item, *name) : std::nullopt;
+    const auto path = item ? placeOf(request, item->name, *name) : std::nullopt;
     const auto rows = path ? readCsv(request.csv) : std::nullopt;
-    if (!rows) return ExitCode::failed;
+    // The item first: it may well have no files, while files without an item are seen by nobody.
+    if (!rows || (item->isNew && !addToList(item->name))) return ExitCode::failed;
     Vor_String message;
     if (!cutstock::saveRows(*path, *rows, message)) {
         complainText(message);

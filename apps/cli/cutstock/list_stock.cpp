@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <array>
 
 #include "core_api/files.h"
@@ -18,13 +19,17 @@ struct FilesOfKind {
 };
 
 struct ListedItem {
-    Vor_String name;
+    StockItem item;
     std::array<FilesOfKind, cutstock::fileKinds.size()> files;
+
+    const char* note() const {
+        return !item.id ? "not in Items.dat" : !item.hasFolder ? "no folder" : "";
+    }
 };
 
-ListedItem listed(const Vor_String& name) {
-    ListedItem item{name, {}};
-    const Vor_String folder = cutstock::stockFolder() + name + "\\";
+ListedItem listed(const StockItem& listedItem) {
+    ListedItem item{listedItem, {}};
+    const Vor_String folder = cutstock::stockFolder() + listedItem.name + "\\";
     for (size_t i = 0; i < item.files.size(); ++i) {
         const auto& kind = cutstock::fileKinds[i];
         const std::string pattern = std::string("*.") + kind.extension;
@@ -36,13 +41,16 @@ ListedItem listed(const Vor_String& name) {
 
 std::string asText(const std::vector<ListedItem>& items) {
     TextTable lines;
-    lines.add({"Item", ".shp", "Newest", ".buy", "Newest"});
+    const bool hasNotes = std::any_of(items.begin(), items.end(),
+                                      [](const ListedItem& each) { return *each.note(); });
+    lines.add({"Item", ".shp", "Newest", ".buy", "Newest", hasNotes ? "Note" : ""});
     for (const ListedItem& item : items) {
-        std::vector<std::string> row{encodings::toUtf8(item.name)};
+        std::vector<std::string> row{encodings::toUtf8(item.item.name)};
         for (const FilesOfKind& files : item.files) {
             row.push_back(std::to_string(files.count));
             row.push_back(files.newest ? encodings::toUtf8(getFileName(files.newest->path)) : "");
         }
+        row.emplace_back(item.note());
         lines.add(row);
     }
     std::string text;
@@ -57,7 +65,11 @@ std::string asJson(const std::vector<ListedItem>& items) {
     for (const ListedItem& item : items) {
         json.beginObject();
         json.key("item");
-        json.text(item.name);
+        json.text(item.item.name);
+        json.key("listed");
+        json.truth(item.item.id.has_value());
+        json.key("folder");
+        json.truth(item.item.hasFolder);
         for (size_t i = 0; i < item.files.size(); ++i) {
             json.key(cutstock::fileKinds[i].extension);
             json.beginObject();
@@ -80,10 +92,10 @@ std::string asJson(const std::vector<ListedItem>& items) {
 }  // namespace
 
 ExitCode listStock(const ListStockRequest& request) {
-    const auto names = libraryItems();
-    if (!names) return ExitCode::failed;
+    const auto all = stockItems();
+    if (!all) return ExitCode::failed;
     std::vector<ListedItem> items;
-    for (const Vor_String& name : *names) items.push_back(listed(name));
+    for (const StockItem& item : all->all) items.push_back(listed(item));
     Output output;
     output.write(request.json ? asJson(items) : asText(items));
     return output.close() ? ExitCode::done : ExitCode::failed;

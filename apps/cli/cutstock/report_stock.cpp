@@ -7,18 +7,21 @@ namespace cli {
 
 namespace {
 
-/// The items asked for, without rows. Nothing after telling why.
+/// The items asked for, else those that the dialog shows, without rows. Nothing after telling why.
 std::optional<DlgCSP2Data> itemsOf(const ReportStockRequest& request) {
+    const auto items = stockItems();
+    if (!items) return std::nullopt;
     DlgCSP2Data data;
-    if (request.items.empty()) {
-        const auto all = libraryItems();
-        if (!all) return std::nullopt;
-        for (const Vor_String& item : *all) cutstock::addItem(data, item);
-    }
     for (const std::string& typed : request.items) {
-        const auto item = findItem(typed);
+        const StockItem* item = findItem(*items, typed);
         if (!item) return std::nullopt;
-        cutstock::addItem(data, *item);
+        tellUnlisted(*item);
+        cutstock::addItem(data, item->name);
+    }
+    if (!request.items.empty()) return data;
+    for (const StockItem& item : items->all) {
+        tellUnlisted(item);
+        if (item.id) cutstock::addItem(data, item.name);
     }
     return data;
 }

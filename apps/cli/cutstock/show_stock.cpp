@@ -13,10 +13,18 @@ using cutstock::FileKind;
 
 namespace {
 
+constexpr int partsCaption = 625;
+
 /// What is shown of a kind: a table unless there is no file of it.
 struct Shown {
     const FileKind* kind;
     std::optional<StockTable> table;
+};
+
+struct ShownItem {
+    Vor_String name;
+    cutstock::Rows parts;
+    std::vector<Shown> tables;
 };
 
 /// The newest of each kind, or the one file that was asked for. False when something cannot be
@@ -44,19 +52,26 @@ bool collect(const Vor_String& item, const ShowStockRequest& request, std::vecto
     return isWhole;
 }
 
-void appendRows(std::string& text, const cutstock::Rows& rows) {
+void appendRows(std::string& text, const Vor_StringArray& columns, const cutstock::Rows& rows) {
     TextTable lines;
-    for (const Vor_StringArray& row : rows) {
+    const auto add = [&lines](const Vor_StringArray& row) {
         std::vector<std::string> cells;
         for (const Vor_String& cell : row) cells.push_back(encodings::toUtf8(cell));
         lines.add(std::move(cells));
-    }
-    if (!lines.isEmpty()) lines.append(text, "  ", false);
+    };
+    if (rows.isEmpty()) return;
+    if (!columns.isEmpty()) add(columns);
+    for (const Vor_StringArray& row : rows) add(row);
+    lines.append(text, "  ", !columns.isEmpty());
 }
 
-std::string asText(const std::vector<Shown>& all) {
+std::string asText(const ShownItem& item, const DlgCSP2Data& library) {
     std::string text;
-    for (const Shown& shown : all) {
+    if (!item.parts.isEmpty()) {
+        text += encodings::toUtf8(dialString(partsCaption)) + ":\n";
+        appendRows(text, library.tables[0].columnNames, item.parts);
+    }
+    for (const Shown& shown : item.tables) {
         text += encodings::toUtf8(dialString(shown.kind->caption)) + ": ";
         if (!shown.table) {
             text += "no ." + std::string(shown.kind->extension) + " file\n";
@@ -65,18 +80,25 @@ std::string asText(const std::vector<Shown>& all) {
         const auto& file = shown.table->file;
         text += encodings::toUtf8(getFileName(file.path) + ", " + cutstock::timeText(file.time));
         text += '\n';
-        appendRows(text, shown.table->rows);
+        appendRows(text, library.tables[static_cast<size_t>(shown.kind->table)].columnNames,
+                   shown.table->rows);
     }
     return text;
 }
 
-std::string asJson(const Vor_String& item, const std::vector<Shown>& all) {
+std::string asJson(const ShownItem& item) {
     std::string text;
     JsonWriter json(text);
     json.beginObject();
     json.key("item");
-    json.text(item);
-    for (const Shown& shown : all) {
+    json.text(item.name);
+    if (!item.parts.isEmpty()) {
+        json.key("parts");
+        json.beginObject();
+        writeRows(json, item.parts);
+        json.endObject();
+    }
+    for (const Shown& shown : item.tables) {
         if (!shown.table) continue;
         json.key(shown.kind->extension);
         json.beginObject();
@@ -94,12 +116,17 @@ ExitCode showStock(const ShowStockRequest& request) {
         complain("--file " + request.file + ": give a .shp or a .buy file");
         return ExitCode::wrongCall;
     }
-    const auto item = findItem(request.item);
+    const auto items = stockItems();
+    const StockItem* item = items ? findItem(*items, request.item) : nullptr;
     if (!item) return ExitCode::failed;
-    std::vector<Shown> all;
-    const bool isWhole = collect(*item, request, all);
+    tellUnlisted(*item);
+    ShownItem shown{item->name, {}, {}};
+    if (item->id && request.file.empty())
+        shown.parts = cutstock::rowsOf(items->data.tables[0], *item->id);
+    const bool isWhole = collect(item->name, request, shown.tables);
     Output output;
-    if (!all.empty()) output.write(request.json ? asJson(*item, all) : asText(all));
+    if (isWhole || !shown.tables.empty())
+        output.write(request.json ? asJson(shown) : asText(shown, items->data));
     return output.close() && isWhole ? ExitCode::done : ExitCode::failed;
 }
 

@@ -1,17 +1,17 @@
 #include "cutstock/stock_items.h"
 
-#include <algorithm>
 #include <ctime>
-#include <filesystem>
 
 #include "console.h"
 #include "core_api/files.h"
 #include "core_api/settings.h"
 #include "core_api/text/text_helpers.h"
+#include "cutstock/cutting_stock_library.h"
+#include "cutstock/item_names.h"
 #include "io/suggestion.h"
 #include "io/typed_paths.h"
 #include "platform/encodings.h"
-#include "platform/paths.h"
+#include "platform/files.h"
 
 namespace cli {
 
@@ -29,44 +29,49 @@ std::string isoTime(std::int64_t nanoseconds) {
     return {text, std::strftime(text, sizeof text, "%Y-%m-%dT%H:%M:%SZ", &utc)};
 }
 
-/// Folders whose names Windows-1252 cannot write are none of the module's, as its files.
-std::vector<Vor_String> foldersIn(const std::string& machine, std::error_code& error) {
-    std::vector<Vor_String> names;
-    std::filesystem::directory_iterator each(machine, error);
-    for (; !error && each != std::filesystem::directory_iterator(); each.increment(error)) {
-        std::error_code unreadable;
-        if (!each->is_directory(unreadable)) continue;
-        if (const auto name = encodings::fromUtf8(each->path().filename().string()))
-            names.emplace_back(*name);
-    }
-    std::sort(names.begin(), names.end(), [](const Vor_String& a, const Vor_String& b) {
-        return encodings::compareFolded(a, b) < 0;
-    });
-    return names;
+std::string shownList() {
+    return shownPath(cutstock::CuttingStockLibrary::path());
+}
+
+bool loadItems(cutstock::CuttingStockLibrary& library, DlgCSP2Data& data) {
+    Vor_String message;
+    if (library.loadItems(data, message)) return true;
+    complainText(message);
+    return false;
 }
 
 }  // namespace
 
-std::optional<std::vector<Vor_String>> libraryItems() {
+std::optional<StockItems> stockItems() {
     if (gSettings.libDir().isEmpty()) {
         complain("name the library with --library or VORMANT_LIBRARY");
         return std::nullopt;
     }
-    std::error_code error;
-    auto names = foldersIn(paths::toMachine(cutstock::stockFolder()), error);
-    if (!error || error == std::errc::no_such_file_or_directory) return names;
-    complainAt(shownPath(cutstock::stockFolder()), 0, error.message());
-    return std::nullopt;
+    StockItems items;
+    cutstock::CuttingStockLibrary library;
+    if (!loadItems(library, items.data)) return std::nullopt;
+    Vor_StringArray folders;
+    Vor_String message;
+    if (!cutstock::itemFolders(folders, message)) {
+        complainText(message);
+        return std::nullopt;
+    }
+    const cutstock::ItemNames listed(items.data.itemNames), withFolder(folders);
+    for (int i = 0; cutstock::isItem(items.data, i); ++i) {
+        const Vor_String& name = items.data.itemNames[i];
+        items.all.push_back({name, items.data.itemIds[i], withFolder.contains(name)});
+    }
+    for (const Vor_String& folder : folders)
+        if (!listed.contains(folder)) items.all.push_back({folder, std::nullopt, true});
+    return items;
 }
 
-std::optional<Vor_String> findItem(const std::string& typed) {
-    const auto items = libraryItems();
-    if (!items) return std::nullopt;
+const StockItem* findItem(const StockItems& items, const std::string& typed) {
     std::vector<std::string> names;
     const auto inside = encodings::fromUtf8(typed);
-    for (const Vor_String& item : *items) {
-        if (inside && encodings::equalFolded(item, *inside)) return item;
-        names.push_back(encodings::toUtf8(item));
+    for (const StockItem& item : items.all) {
+        if (inside && encodings::equalFolded(item.name, *inside)) return &item;
+        names.push_back(encodings::toUtf8(item.name));
     }
     std::string message = "there is no cutting-stock item \"" + typed + "\"";
     const std::string hint = didYouMean(nearest(typed, names));
@@ -74,7 +79,29 @@ std::optional<Vor_String> findItem(const std::string& typed) {
                              : (hint.empty() ? "; there" : hint + " There") + " are:";
     for (const std::string& name : names) message += "\n  " + name;
     complain(message);
-    return std::nullopt;
+    return nullptr;
+}
+
+void tellUnlisted(const StockItem& item) {
+    if (item.id) return;
+    complainAt(shownList(), 0,
+               "\"" + encodings::toUtf8(item.name) +
+                   "\" has a folder but no line here, so it is no item; import --new makes it one");
+}
+
+bool addToList(const Vor_String& item) {
+    cutstock::CuttingStockLibrary library;
+    DlgCSP2Data data;
+    if (!loadItems(library, data)) return false;
+    cutstock::ItemNames names(data.itemNames);
+    if (names.contains(item)) return true;  // another program was quicker
+    Vor_String message = names.add(item);
+    if (message.isEmpty()) {
+        cutstock::addItem(data, item);
+        if (library.saveItems(data, message)) return true;
+    }
+    complainText(message);
+    return false;
 }
 
 std::optional<Vor_String> folderOf(const Vor_String& item) {
@@ -103,7 +130,9 @@ std::optional<StockFile> neededFile(const Vor_String& item, const std::string& t
         auto newest = cutstock::newestFile(*folder, kind);
         if (!newest)
             complainAt(shownPath(*folder), 0,
-                       "there is no ." + std::string(kind.extension) + " file");
+                       files::isFolder(*folder)
+                           ? "there is no ." + std::string(kind.extension) + " file"
+                           : "there is no such folder yet; import makes it with its first file");
         return newest;
     }
     const auto inside = insidePath(typed);
@@ -129,16 +158,20 @@ void writeFileHead(JsonWriter& json, const StockFile& file) {
     json.utf8(isoTime(file.time));
 }
 
-void writeTable(JsonWriter& json, const StockTable& table) {
-    writeFileHead(json, table.file);
+void writeRows(JsonWriter& json, const cutstock::Rows& rows) {
     json.key("rows");
     json.beginArray();
-    for (const Vor_StringArray& row : table.rows) {
+    for (const Vor_StringArray& row : rows) {
         json.beginArray();
         for (const Vor_String& cell : row) json.text(cell);
         json.endArray();
     }
     json.endArray();
+}
+
+void writeTable(JsonWriter& json, const StockTable& table) {
+    writeFileHead(json, table.file);
+    writeRows(json, table.rows);
 }
 
 }  // namespace cli

@@ -1,4 +1,4 @@
-// The cutting-stock items of the library, which are folders, and the tables in their files.
+// The cutting-stock items of the library, and the tables in their files.
 #pragma once
 
 #include <optional>
@@ -10,12 +10,27 @@
 
 namespace cli {
 
-/// By name. Nothing, after telling why, when there is no library or its folder cannot be read.
-std::optional<std::vector<Vor_String>> libraryItems();
-/// The item meant, letter case aside; nothing after telling what there is.
-std::optional<Vor_String> findItem(const std::string& typed);
-/// Its folder; nothing after telling why.
+struct StockItem {
+    Vor_String name;
+    std::optional<int> id;  ///< nothing for a folder without a line in "Items.dat"
+    bool hasFolder = false;
+};
+
+struct StockItems {
+    DlgCSP2Data data;            ///< names of columns and parts
+    std::vector<StockItem> all;  ///< in the order of "Items.dat"; then folders that it lacks
+};
+
+/// Nothing, after telling why, when there is no library or it cannot be read.
+std::optional<StockItems> stockItems();
+/// The item meant, letter case aside; null after telling what there is.
+const StockItem* findItem(const StockItems& items, const std::string& typed);
+/// Says so of folders that have no line in "Items.dat".
+void tellUnlisted(const StockItem& item);
+/// The folder of an item; nothing after telling why.
 std::optional<Vor_String> folderOf(const Vor_String& item);
+/// Adds it to "Items.dat" as that is now. False after telling why.
+bool addToList(const Vor_String& item);
 
 /// The kind with this extension, or that of a file's name; null when there is none.
 const cutstock::FileKind* kindOfExtension(std::string_view extension);
@@ -32,6 +47,8 @@ std::optional<cutstock::StockFile> neededFile(const Vor_String& item, const std:
 /// Nothing after telling why it cannot be read.
 std::optional<StockTable> readStockTable(const cutstock::StockFile& file);
 
+/// Writes the rows as the member "rows" of the object that is begun.
+void writeRows(JsonWriter& json, const cutstock::Rows& rows);
 /// The members "file", "changed" and, with a table, "rows" of the object that is begun.
 void writeFileHead(JsonWriter& json, const cutstock::StockFile& file);
 void writeTable(JsonWriter& json, const StockTable& table);

@@ -5,6 +5,8 @@
 #include "core_api/text/text_helpers.h"
 #include "core_api/texts/texts.h"
 #include "cutstock/cutting_stock_library.h"
+#include "cutstock/item_names.h"
+#include "cutstock/item_rows.h"
 #include "module/module_data.h"
 #include "module/starts.h"
 #include "platform/window/message_box.h"
@@ -16,7 +18,7 @@ namespace starts {
 
 namespace {
 
-constexpr int sectionWord = 21063, lengthWord = 21044, numberWord = 21073;
+constexpr int sectionWord = 21063;
 
 bool hasSections() {
     return gSectionTables.table(0) != nullptr;
@@ -72,21 +74,21 @@ DlgProfFeaturesData featuresOf(ModuleData& data) {
     return made;
 }
 
-/// What the macro's members need, from bars of the usual length.
-DlgCSP2Data stockOf(ModuleData& data) {
-    DlgCSP2Data made;
+/// An item for each section of the macro, with a part for each of its members, whose length the
+/// user knows.
+void addMembers(DlgCSP2Data& stock, ModuleData& data) {
+    cutstock::ItemNames names(stock.itemNames);
     runs::MacroRun* run = data.macro();
-    const Vor_StringArray columns{dialString(lengthWord), dialString(numberWord)};
-    for (Csp2Table& table : made.tables) table.columnNames = columns;
     for (int i = 0; run && run->macro().baseProf(i); ++i) {
-        made.itemIds.append(i + 1);
-        made.itemNames.append(run->macro().baseProf(i)->sectionName);
-        for (Csp2Table& table : made.tables) {
-            table.rowItemIds.append(i + 1);
-            table.rows.append({&table == &made.tables[0] ? "4500" : "12000", "1"});
-        }
+        const Vor_String section = run->macro().baseProf(i)->sectionName;
+        int item = stock.itemNames.find(section);
+        if (item < 0 && names.add(section).isEmpty()) item = cutstock::addItem(stock, section);
+        if (item < 0) continue;  // its folder could not be called so
+        const int id = stock.itemIds[item];
+        cutstock::Rows parts = cutstock::rowsOf(stock.tables[0], id);
+        parts.append({"", "1"});
+        cutstock::replaceRows(stock.tables[0], id, parts);
     }
-    return made;
 }
 
 TwDlgCis2Data cis2Of(const Vor_PrPl& member) {
@@ -125,7 +127,7 @@ Outcome cuttingStock(ModuleData& data) {
         showWarning(dialString(cuttingStockTitle), message);
         return Outcome::failed;
     }
-    if (edited.itemIds.isEmpty()) edited = stockOf(data);
+    if (edited.itemIds.isEmpty()) addMembers(edited, data);
     while (StartDlgCSP2(edited)) {  // again with what was edited until it is saved or given up
         if (!mayReplace(library)) continue;
         if (library.save(edited, message)) return Outcome::changed;

@@ -101,6 +101,14 @@ constexpr TextRow rows[] = {
     {25219, {"October", "oktober", "Oktober", "octobre"}},
     {25220, {"November", "november", "November", "novembre"}},
     {25221, {"December", "december", "Dezember", "décembre"}},
+    {26940,
+     {"a table has room for 1048576 rows of 16384 cells, and this file has more; is it damaged?",
+      "een tabel heeft plaats voor 1048576 rijen van 16384 cellen, en dit bestand heeft er meer; "
+      "is het beschadigd?",
+      "eine Tabelle hat Platz für 1048576 Zeilen zu 16384 Zellen, und diese Datei hat mehr; ist "
+      "sie beschädigt?",
+      "un tableau peut contenir 1048576 lignes de 16384 cellules, et ce fichier en a plus ; est-il "
+      "endommagé ?"}},
 };
 
 }  // namespace
