@@ -2,8 +2,6 @@
 
 #include <QCollator>
 #include <QHeaderView>
-#include <QLabel>
-#include <QPushButton>
 #include <QSplitter>
 #include <QVBoxLayout>
 #include <algorithm>
@@ -11,7 +9,9 @@
 #include "core_api/text/text_helpers.h"
 #include "core_api/texts/texts.h"
 #include "platform/paths.h"
+#include "shell/words.h"
 #include "window/dialog_font.h"
+#include "window/say.h"
 
 namespace {
 
@@ -79,17 +79,28 @@ QWidget* TablePage::makeHeading(const Vor_String& path) {
     auto* file = new QLabel(QString::fromStdString(paths::asWritten(path)));
     file->setTextInteractionFlags(Qt::TextSelectableByMouse);
     line->addWidget(file, 1);
+    m_notOfLibrary = new QLabel(say(wordOnlyToLookAt));
+    m_notOfLibrary->setStyleSheet("color: #606060");
+    line->addWidget(m_notOfLibrary);
     const auto add = [&](int word, std::function<void()> Commands::*command) {
         auto* button = new QPushButton(toQt(dialString(word)));
         button->setObjectName(QString::number(word));
         connect(button, &QPushButton::clicked, this, [this, command] {
             if (m_commands.*command) (m_commands.*command)();
         });
+        button->hide();
+        m_buttons += button;
         line->addWidget(button);
     };
     add(wordAddSize, &Commands::addSize);
     add(wordEditLibrary, &Commands::editLibrary);
     return heading;
+}
+
+void TablePage::setCommands(Commands commands) {
+    m_commands = std::move(commands);
+    m_notOfLibrary->hide();
+    for (QPushButton* button : m_buttons) button->show();
 }
 
 int TablePage::selectedRow() const {

@@ -2,6 +2,8 @@
 // them a drawing of the size that is selected.
 #pragma once
 
+#include <QLabel>
+#include <QPushButton>
 #include <QStandardItemModel>
 #include <QTableView>
 #include <functional>
@@ -17,12 +19,14 @@ class TablePage : public QWidget {
     QTableView& table() { return *m_view; }
     SizePanel& drawing() { return *m_drawing; }
 
-    /// What the buttons above the table do.
+    /// What the buttons above the table do. Until they are set the table is one of no library, only
+    /// to look at.
     struct Commands {
         std::function<void()> editLibrary;
         std::function<void()> addSize;
     };
-    void setCommands(Commands commands) { m_commands = std::move(commands); }
+    void setCommands(Commands commands);
+    bool isOfLibrary() const { return m_commands.editLibrary != nullptr; }
 
     const Vor_String& tableName() const { return m_name; }
     /// The full name of the size that is selected, else of the first.
@@ -45,5 +49,7 @@ class TablePage : public QWidget {
     Vor_String m_name;
     Vor_String m_drawnAs;
     Vor_StringArray m_columns;  ///< of values
+    QLabel* m_notOfLibrary = nullptr;
+    QList<QPushButton*> m_buttons;
     Commands m_commands;
 };

@@ -4,7 +4,6 @@
 
 #include "core_api/files.h"
 #include "core_api/settings.h"
-#include "shell/words.h"
 #include "window/dialog_font.h"
 #include "window/say.h"
 
@@ -58,11 +57,7 @@ void LibraryTree::refresh() {
     });
     clear();
     if (gSettings.libDir().isEmpty()) return;
-    add(LibraryKind::standard, wordStandards, "Connection Standards\\", "*.tws");
-    add(LibraryKind::macro, wordMacros, "Macros\\", "*.macro");
-    add(LibraryKind::sectionTable, wordSectionTables, "prof\\", "*.pr");
-    add(LibraryKind::dialogTemplate, wordTemplates, "Dialog Templates\\Dialog Design\\", "*.txt");
-    add(LibraryKind::cuttingStock, wordCuttingStock, "Cutting Stock\\", "*");
+    for (const LibraryFolder& folder : libraryFolders()) add(folder);
     eachItem(*this, [&](QTreeWidgetItem* item) {
         const bool isTop = !item->parent();
         item->setExpanded(open.contains(keyOf(item)) || (isFirst && isTop));
@@ -70,19 +65,22 @@ void LibraryTree::refresh() {
     });
 }
 
-void LibraryTree::add(LibraryKind kind, int title, const char* folder, const char* pattern) {
-    const Vor_String whole = gSettings.libDir() + folder;
-    auto* root = new QTreeWidgetItem(this, {say(title)});
-    root->setData(0, kindRole, static_cast<int>(kind));
-    for (const Vor_String& path : ObjectExportFindFilesRecursive(whole, pattern)) {
+// Where files of several kinds stand beside each other, their extensions tell them apart.
+void LibraryTree::add(const LibraryFolder& folder) {
+    const Vor_String whole = folder.path();
+    const bool showsExtensions = !folder.extensions[1].empty();
+    auto* root = new QTreeWidgetItem(this, {say(folder.title)});
+    root->setData(0, kindRole, static_cast<int>(folder.kind));
+    for (const Vor_String& path : ObjectExportFindFilesRecursive(whole, "*")) {
+        if (!folder.hasExtension(path)) continue;
         const QString relative = toQt(path.view().substr(whole.view().size()));
         const qsizetype slash = relative.lastIndexOf('\\');
         QString name = relative.mid(slash + 1);
-        if (kind != LibraryKind::cuttingStock) name = name.left(name.lastIndexOf('.'));
+        if (!showsExtensions) name = name.left(name.lastIndexOf('.'));
         auto* item = new QTreeWidgetItem(
             folderItem(root, relative.left(std::max<qsizetype>(slash, 0))), {name});
         item->setData(0, pathRole, toQt(path));
-        item->setData(0, kindRole, static_cast<int>(kind));
+        item->setData(0, kindRole, static_cast<int>(folder.kind));
         item->setToolTip(0, relative);
     }
 }

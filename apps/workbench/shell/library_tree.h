@@ -6,8 +6,7 @@
 #include <functional>
 
 #include "core_api/text/vor_string_array.h"
-
-enum class LibraryKind { standard, macro, sectionTable, dialogTemplate, cuttingStock };
+#include "shell/library_kinds.h"
 
 class LibraryTree : public QTreeWidget {
   public:
@@ -28,7 +27,7 @@ class LibraryTree : public QTreeWidget {
     void filter(const QString& text);
 
   private:
-    void add(LibraryKind kind, int title, const char* folder, const char* pattern);
+    void add(const LibraryFolder& folder);
     QTreeWidgetItem* folderItem(QTreeWidgetItem* root, const QString& folder);
 
     std::function<void(LibraryKind, const Vor_String&)> m_opener;

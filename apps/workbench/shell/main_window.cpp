@@ -339,10 +339,14 @@ QWidget* MainWindow::openFile(const QString& path) {
         complain(path + ": " + say(wordNoSuchFile));
         return nullptr;
     }
-    const bool isStandard = path.endsWith(".tws", Qt::CaseInsensitive);
-    if (!isStandard && isSheetPath(*inside)) return openSheet(Vor_String(*inside));
-    const bool isMacro = path.endsWith(".macro", Qt::CaseInsensitive);
-    return open(isMacro ? LibraryKind::macro : LibraryKind::standard, Vor_String(*inside));
+    if (QFileInfo(path).isDir()) {
+        openLibrary(path.toStdString());
+        return nullptr;
+    }
+    if (const auto kind = libraryKindOf(*inside)) return open(*kind, *inside);
+    if (isSheetPath(*inside)) return openSheet(*inside);
+    complain(path + ": " + say(wordNotOpened));
+    return nullptr;
 }
 
 QWidget* MainWindow::openMacro(const Vor_String& path) {

@@ -31,7 +31,8 @@ class MainWindow : public QMainWindow {
     /// A page for what the tree shows; the one that is open already comes to the front. Null after
     /// telling why.
     QWidget* open(LibraryKind kind, const Vor_String& path);
-    /// By its extension; a machine path.
+    /// As what it is (see libraryKindOf), else as a sheet; a folder becomes the library. A machine
+    /// path. Null, after telling why, for what no page shows.
     QWidget* openFile(const QString& path);
     RunPage* openStandard(const Vor_String& path);
     QWidget* openMacro(const Vor_String& path);
@@ -79,6 +80,7 @@ class MainWindow : public QMainWindow {
     void save();
 
     // main_window_sections.cpp
+    QWidget* openForeignTable(const Vor_String& path);
     void addSize(TablePage& page);
     void refreshSectionTables();
     void sectionsChanged();

@@ -17,17 +17,6 @@
 #include "shell/main_window.h"
 #include "window/machine_path.h"
 
-namespace {
-
-// The same file however it is written.
-bool isSameFile(const std::string& a, const std::string& b) {
-    if (a.empty() || b.empty()) return false;
-    const QFileInfo first(machinePath(a)), second(machinePath(b));
-    return first.exists() && first.canonicalFilePath() == second.canonicalFilePath();
-}
-
-}  // namespace
-
 void MainWindow::addSheetFileActions(QMenu& file) {
     m_sheetActions.clear();  // those of another language
     const auto add = [&](QMenu& menu, int word, const QKeySequence& keys, auto action) {
@@ -125,7 +114,7 @@ void MainWindow::followPage() {
 void MainWindow::askForFile() {
     const QString chosen = QFileDialog::getOpenFileName(
         this, sayTitle(sayOpenFile), QString::fromStdString(m_settings.library),
-        say(sayAllFilter) + " (*.sss *.tws *.csv *.txt *.macro)");
+        say(sayAllFilter) + " (*.sss *.tws *.csv *.txt *.macro *.pr)");
     if (chosen.isEmpty()) return;
     const auto inside = paths::toInside(chosen.toStdString());
     // A standard is opened to be edited here; the library's tree opens it to be run.

@@ -62,5 +62,8 @@ enum WorkbenchWord {
     wordSaveChanges = 22154,
     wordNoSuchFile = 22155,
 
+    wordNotOpened = 26961,
+    wordOnlyToLookAt = 26962,
+
     wordOwnLanguage = 26000,  ///< each language's name for itself
 };

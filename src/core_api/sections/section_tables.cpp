@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "core_api/files.h"
+#include "core_api/sections/section_table_file.h"
 #include "core_api/settings.h"
 #include "core_api/text/text_helpers.h"
 #include "platform/encodings.h"
@@ -24,43 +25,11 @@ struct Vor_SectionTableManager::UserNames {
     std::vector<Place> places;
 };
 
-namespace {
-
-// Splits the active flag off a row of a file.
-void removeActiveFlag(Vor_StringArray& row) {
-    if (row.length() > 1) row.removeAt(1);
-}
-
-std::unique_ptr<SectionTable> readTable(const Vor_String& path, Vor_String& message) {
-    Vor_String name;
-    RecordRows records;
-    if (!readFile(path, name, records, &message)) return nullptr;
-    if (records.length() < 2) {
-        message = path + ":" + std::to_string(records.length() + 1) +
-                  ": the section table has no column names; restore the file";
-        return nullptr;
-    }
-    Vor_String drawnAs;
-    if (!records[0].isEmpty()) drawnAs = records[0][0];
-    Vor_StringArray header = std::move(records[1]);
-    removeActiveFlag(header);
-    Vor_Array<Vor_StringArray> rows;
-    rows.reserve(records.length() - 2);
-    for (int i = 2; i < records.length(); ++i) {
-        removeActiveFlag(records[i]);
-        rows.append(std::move(records[i]));
-    }
-    return std::make_unique<SectionTable>(std::move(name), std::move(drawnAs), std::move(header),
-                                          std::move(rows));
-}
-
-}  // namespace
-
 void Vor_SectionTableManager::Entry::load() {
     if (table || isTried) return;
     isTried = true;
     Vor_String message;
-    table = readTable(path, message);
+    table = readSectionTable(path, message);
     if (!table) acutPrint(message + "\n");
 }
 

@@ -116,6 +116,23 @@ constexpr TextRow rows[] = {
       "%1 is een getal (%2): schrijf het met cijfers en een punt",
       "%1 ist eine Zahl (%2): schreiben Sie sie mit Ziffern und einem Punkt",
       "%1 est un nombre (%2) : écrivez-le avec des chiffres et un point"}},
+    {26961,
+     {"no page shows this file. Open a standard (.tws), a macro (.macro), a section table (.pr), a "
+      "document (.sss), a text file (.csv, .txt), or a file of the library's cutting stock.",
+      "geen pagina toont dit bestand. Open een standaard (.tws), een macro (.macro), een "
+      "profieltabel (.pr), een document (.sss), een tekstbestand (.csv, .txt) of een bestand van "
+      "de "
+      "voorraadlengtes van de bibliotheek.",
+      "diese Datei zeigt keine Seite. Öffnen Sie einen Standard (.tws), ein Makro (.macro), eine "
+      "Profiltabelle (.pr), ein Dokument (.sss), eine Textdatei (.csv, .txt) oder eine Datei der "
+      "Lagerlängen der Bibliothek.",
+      "aucune page ne montre ce fichier. Ouvrez un standard (.tws), une macro (.macro), une table "
+      "de profils (.pr), un document (.sss), un fichier texte (.csv, .txt) ou un fichier des "
+      "longueurs de stock de la bibliothèque."}},
+    {26962,
+     {"not in this library: only to look at", "niet in deze bibliotheek: alleen om te bekijken",
+      "nicht in dieser Bibliothek: nur zum Ansehen",
+      "pas dans cette bibliothèque : à consulter seulement"}},
 };
 
 }  // namespace
