@@ -1,15 +1,11 @@
 // A batch of 20,000 lines through the program, file to file, against a hand-written loop that
 // reads the same lines, computes the same outputs and writes them. Before anything is timed, both
 // have to give the same results.
-#include <fcntl.h>
-#include <spawn.h>
-#include <sys/wait.h>
-
-#include <cstdlib>
 #include <fstream>
 #include <iterator>
 
 #include "bench/claim.h"
+#include "bench/run_program.h"
 #include "bench/typical_standard.h"
 #include "tests/support/temporary_folder.h"
 
@@ -37,21 +33,7 @@ std::string inputLines() {
 }
 
 void runProgram(const std::string& standard, const std::string& input, const std::string& output) {
-    posix_spawn_file_actions_t actions;
-    posix_spawn_file_actions_init(&actions);
-    posix_spawn_file_actions_addopen(&actions, 1, output.c_str(), O_WRONLY | O_CREAT | O_TRUNC,
-                                     0600);
-    std::string words[] = {"vormant", "standards", "batch", standard, input};
-    char* argv[6] = {};
-    for (size_t i = 0; i < std::size(words); ++i) argv[i] = words[i].data();
-    pid_t child = 0;
-    int status = -1;
-    if (posix_spawn(&child, VORMANT_PROGRAM, &actions, nullptr, argv, environ) == 0)
-        waitpid(child, &status, 0);
-    posix_spawn_file_actions_destroy(&actions);
-    if (status == 0) return;
-    std::printf("the program failed\n");
-    std::exit(1);
+    bench::runProgram({VORMANT_PROGRAM, "standards", "batch", standard, input}, output);
 }
 
 double takeField(std::string_view& line) {
