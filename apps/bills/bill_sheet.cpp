@@ -66,7 +66,9 @@ std::optional<BillFormat> billFormat(const Vor_String& file) {
 }
 
 BillSheet::BillSheet(const BillTarget& target)
-    : m_target(target), m_format(billFormat(target.file).value_or(BillFormat::document)) {}
+    : m_target(target), m_format(billFormat(target.file).value_or(BillFormat::document)) {
+    m_output.leaveFailuresToCaller();
+}
 
 BillSheet::~BillSheet() {
     std::error_code ignored;

@@ -196,6 +196,6 @@ ErrorStatus TwSSBillOutput::onEndFeed() {
     finishColumns(*spread);
     setSheetVariables(*spread);
     m_wasSaved = saveSheet(*spread, m_fileName);
-    if (!m_wasSaved) acutPrint(spread->lastError() + "\n");
+    if (!m_wasSaved && m_printsFailures) acutPrint(spread->lastError() + "\n");
     return Acad::eOk;
 }

@@ -37,7 +37,8 @@ class VORMANT_API TwSSBillOutput : public Vor_ListOutputCallback {
 
     ErrorStatus onStartFeed() override;
     /// Trims the sheet, fits its columns, gives the page headers their variables and saves.
-    /// eInvalidInput when there is no sheet. When it could not be saved wasSaved() tells.
+    /// eInvalidInput when there is no sheet. When it could not be saved wasSaved() tells, and the
+    /// reason is printed.
     ErrorStatus onEndFeed() override;
     void onAddRow(const Vor_StringArray& cells) override;
     void onAddSubTotals(const Vor_StringArray& cells, const Vor_StringArray& names, bool isTotal,
@@ -47,6 +48,8 @@ class VORMANT_API TwSSBillOutput : public Vor_ListOutputCallback {
     Vor_Spread* sheet() const { return getSSPointer(); }
     /// The last feed ended with the sheet saved; else the sheet's lastError() says why not.
     bool wasSaved() const { return m_wasSaved; }
+    /// For callers that tell the user themselves: the reason is not printed at the end.
+    void leaveFailuresToCaller() { m_printsFailures = false; }
 
   private:
     void addRow(const Vor_StringArray& cells, const Vor_String& imageFile);
@@ -72,4 +75,5 @@ class VORMANT_API TwSSBillOutput : public Vor_ListOutputCallback {
     Vor_StringArray m_variableNames;
     Vor_StringArray m_variableValues;
     bool m_wasSaved = false;
+    bool m_printsFailures = true;
 };

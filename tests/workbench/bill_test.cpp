@@ -117,10 +117,25 @@ TEST_F(BillWindow, ShowsTheSheetAndSavesItInEveryFormat) {
     EXPECT_TRUE(pdf.startsWith("%PDF"));
     EXPECT_GT(pdf.size(), 5000);
     EXPECT_EQ(shownWindows().size(), 1U) << "the window of the bill before is gone";
+}
 
-    TestUser user;
-    user.whenTold("Gone.macro").presses(IDOK);
-    EXPECT_FALSE(make("Macros\\Gone.macro", "Bill.sss"));
+TEST_F(BillWindow, WhatFailedIsToldOnceInAMessage) {
+    const QString before = printed();
+    const std::pair<const char*, const char*> cases[] = {
+        {"Macros\\Gone.macro", "Bill.sss"},
+        {"Macros\\EndPlate.macro", "none\\Bill.sss"},
+        {"Macros\\EndPlate.macro", "none\\Bill.xlsx"},
+        {"Macros\\EndPlate.macro", "none\\Bill.pdf"},
+    };
+    for (const auto& [macro, file] : cases) {
+        TestUser user;
+        const bool isMacroGone = std::string_view(macro).ends_with("Gone.macro");
+        user.whenTold(isMacroGone ? "Gone.macro" : "Bill.").presses(IDOK);
+        EXPECT_FALSE(make(macro, file)) << file;
+        EXPECT_EQ(printed(), before) << file;
+    }
+    ASSERT_TRUE(window->bills().last()) << "what could not be written is still shown";
+    EXPECT_EQ(window->bills().last()->output().sheet()->nrRows(), 5);
 }
 
 TEST_F(BillWindow, AnOpenMacroIsTakenAsItIsOnItsPage) {

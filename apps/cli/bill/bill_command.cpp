@@ -25,10 +25,9 @@ class ListeningHost : public Host {
   public:
     void print(std::string_view text) override { m_text += text; }
 
-    void tell(const std::string& error) const {
+    void tell() const {
         for (const Vor_String& line : splitStringAtSymbol(m_text, '\n', true))
-            if (!line.isEmpty() && line.str() != error) complainText(line);
-        if (!error.empty()) complainText(error);
+            if (!line.isEmpty()) complainText(line);
     }
 
   private:
@@ -173,7 +172,8 @@ class BillCall {
         const HostScope scope(host);
         bills::BillSheet sheet(m_target);
         const BillFeed written = sheet.write(bill, nullptr, error);
-        host.tell(error);
+        host.tell();
+        if (!error.empty()) complainText(error);
         if (written != BillFeed::done) return ExitCode::failed;
         if (isPdf && !printDocument(sheet.document(), m_target.file)) return ExitCode::failed;
         if (!m_request.json) {

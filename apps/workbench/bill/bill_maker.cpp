@@ -16,7 +16,6 @@
 namespace {
 
 bool complain(const std::string& text) {
-    acutPrint(text + "\n");
     showWarning(fromQt(sayTitle(sayBill)), text);
     return false;
 }
