@@ -35,7 +35,7 @@ CRect inkOf(const CBitmap& picture) {
 TEST(Canvas, CoversPixelsByTheShareThatLiesInside) {
     Canvas canvas(8, 4);
     const Contour square{{1.5, 1}, {4, 1}, {4, 2.25}, {1.5, 2.25}};
-    canvas.fill(std::array{square}, CBitmap::black, Canvas::Rule::evenOdd);
+    canvas.fill(std::array{square}, CBitmap::black);
     const struct {
         int x, y, grey;
     } pixels[] = {{0, 1, 255}, {1, 1, 128}, {2, 1, 0}, {3, 2, 191}, {4, 1, 255}, {2, 3, 255}};
@@ -43,11 +43,38 @@ TEST(Canvas, CoversPixelsByTheShareThatLiesInside) {
         EXPECT_NEAR(static_cast<int>(canvas.bitmap().at(x, y) & 0xFF), grey, 1) << x << "," << y;
 }
 
+TEST(Canvas, LinesCoverWhatTheirWidthTakesAndCountOnceWherePiecesMeet) {
+    const auto grey = [](const Canvas& canvas, int x, int y) {
+        return static_cast<int>(canvas.bitmap().at(x, y) & 0xFF);
+    };
+    const struct {
+        std::vector<Point> points;
+        double width;
+        int x, y, grey;
+    } cases[] = {
+        {{{2, 5}, {18, 5}}, 2, 10, 4, 0},           // along a row: two rows of pixels
+        {{{2, 5}, {18, 5}}, 2, 10, 6, 255},         //
+        {{{2, 5.5}, {18, 5.5}}, 0.5, 10, 5, 128},   // thinner than a pixel
+        {{{2, 5}, {18, 5}}, 1, 10, 5, 128},         // between two rows
+        {{{4, 1}, {4, 9}}, 3, 2, 5, 128},           // along a column
+        {{{4, 1}, {4, 9}}, 3, 3, 5, 0},             //
+        {{{2, 2}, {6, 6}, {10, 2}}, 1, 6, 6, 180},  // a round corner
+        {{{8.5, 5.5}}, 4, 10, 5, 128},              // a dot
+        {{{8.5, 5.5}}, 4, 11, 5, 255},              //
+    };
+    for (const auto& each : cases) {
+        Canvas canvas(20, 10);
+        canvas.stroke(each.points, each.width, CBitmap::black);
+        EXPECT_NEAR(grey(canvas, each.x, each.y), each.grey, 1)
+            << each.points[0].x << ' ' << each.width << ' ' << each.x << ',' << each.y;
+    }
+}
+
 TEST(Canvas, LeavesHolesAndGapsFree) {
     Canvas canvas(40, 20);
     const std::vector<Contour> ring{{{0, 0}, {20, 0}, {20, 20}, {0, 20}},
                                     {{5, 5}, {15, 5}, {15, 15}, {5, 15}}};
-    canvas.fill(ring, CBitmap::black, Canvas::Rule::evenOdd);
+    canvas.fill(ring, CBitmap::black);
     EXPECT_EQ(canvas.bitmap().at(2, 2), CBitmap::black);
     EXPECT_EQ(canvas.bitmap().at(10, 10), CBitmap::white);
     canvas.stroke(std::array{Point{22, 10}, Point{40, 10}}, 2, CBitmap::black, false, true);

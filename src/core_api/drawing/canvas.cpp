@@ -1,9 +1,9 @@
 #include "core_api/drawing/canvas.h"
 
 #include <algorithm>
-#include <numbers>
 
 #include "core_api/drawing/dashes.h"
+#include "core_api/drawing/line_cover.h"
 #include "core_api/drawing/stroke_font.h"
 
 namespace drawing {
@@ -13,57 +13,80 @@ namespace {
 /// Each row of pixels is cut into so many thin ones; along a row cover is exact.
 constexpr int thinRows = 16;
 
-struct Crossing {
-    double x;
-    int direction;
-};
-
 struct Side {
-    Point a, b;
+    Point low, high;
+
+    double at(double y) const { return low.x + (high.x - low.x) * (y - low.y) / (high.y - low.y); }
 };
 
-/// Those that a row of pixels meets.
-std::vector<Side> sidesIn(std::span<const Contour> contours, int y) {
+/// From the lowest on. Level ones are left out, they bound nothing that lies beside them.
+std::vector<Side> sidesOf(std::span<const Contour> contours) {
     std::vector<Side> sides;
     for (const Contour& contour : contours)
         for (size_t i = 0; i < contour.size(); ++i) {
             const Point a = contour[i], b = contour[(i + 1) % contour.size()];
-            if (std::max(a.y, b.y) >= y && std::min(a.y, b.y) <= y + 1) sides.push_back({a, b});
+            if (a.y != b.y) sides.push_back(a.y < b.y ? Side{a, b} : Side{b, a});
         }
+    std::sort(sides.begin(), sides.end(),
+              [](const Side& a, const Side& b) { return a.low.y < b.low.y; });
     return sides;
 }
 
-std::vector<Crossing> crossings(std::span<const Side> sides, double y) {
-    std::vector<Crossing> found;
-    for (const auto& [a, b] : sides) {
-        if ((a.y <= y) == (b.y <= y)) continue;
-        found.push_back({a.x + (b.x - a.x) * (y - a.y) / (b.y - a.y), a.y <= y ? 1 : -1});
-    }
-    std::sort(found.begin(), found.end(),
-              [](const Crossing& a, const Crossing& b) { return a.x < b.x; });
-    return found;
-}
+/// The sides that the rows meet, one row of pixels after the other.
+class Sweep {
+  public:
+    explicit Sweep(std::span<const Side> sides) : m_rest(sides) {}
 
-/// Adds `share` to every pixel that lies between `from` and `to`, less where it does in part.
-void cover(std::vector<double>& row, double from, double to, double share) {
-    const double width = static_cast<double>(row.size());
-    from = std::clamp(from, 0.0, width);
-    to = std::clamp(to, 0.0, width);
-    for (auto x = static_cast<size_t>(from); static_cast<double>(x) < to; ++x) {
-        const double left = std::max(from, static_cast<double>(x));
-        const double right = std::min(to, static_cast<double>(x) + 1);
-        row[x] += share * (right - left);
+    void moveTo(int y) {
+        std::erase_if(m_met, [&](const Side& side) { return side.high.y <= y; });
+        for (; !m_rest.empty() && m_rest.front().low.y < y + 1; m_rest = m_rest.subspan(1))
+            if (m_rest.front().high.y > y) m_met.push_back(m_rest.front());
     }
-}
+    /// Where they lie at that height, from the left; two at a time bound what is inside.
+    std::span<const double> crossings(double y) {
+        m_found.clear();
+        for (const Side& side : m_met)
+            if (side.low.y <= y && y < side.high.y) m_found.push_back(side.at(y));
+        std::sort(m_found.begin(), m_found.end());
+        return m_found;
+    }
 
-void coverLine(std::vector<double>& row, std::span<const Crossing> found, Canvas::Rule rule) {
-    int winding = 0;
-    for (size_t i = 0; i + 1 < found.size(); ++i) {
-        winding += rule == Canvas::Rule::nonZero ? found[i].direction : 1;
-        const bool isInside = rule == Canvas::Rule::nonZero ? winding != 0 : winding % 2 != 0;
-        if (isInside) cover(row, found[i].x, found[i + 1].x, 1.0 / thinRows);
+  private:
+    std::span<const Side> m_rest;
+    std::vector<Side> m_met;
+    std::vector<double> m_found;  ///< kept for its memory
+};
+
+/// How far the pixels of a row are covered, from the pixel `left` on. Kept as the steps from each
+/// pixel to the next, so that a wide area costs as little as a thin line.
+class RowCover {
+  public:
+    RowCover(int left, int width) : m_left(left), m_steps(static_cast<size_t>(width) + 2) {}
+
+    void clear() { std::fill(m_steps.begin(), m_steps.end(), 0.0); }
+    void add(double from, double to, double share) {
+        step(from, share);
+        step(to, -share);
     }
-}
+    template <class Use>
+    void forEach(Use use) const {
+        double share = 0;
+        for (size_t i = 0; i + 2 < m_steps.size(); ++i)
+            use(m_left + static_cast<int>(i), share += m_steps[i]);
+    }
+
+  private:
+    void step(double x, double share) {
+        x = std::clamp(x - m_left, 0.0, static_cast<double>(m_steps.size() - 2));
+        const auto pixel = static_cast<size_t>(x);
+        const double part = x - static_cast<double>(pixel);
+        m_steps[pixel] += share * (1 - part);
+        m_steps[pixel + 1] += share * part;
+    }
+
+    int m_left;
+    std::vector<double> m_steps;
+};
 
 CBitmap::Pixel mixed(CBitmap::Pixel paper, CBitmap::Pixel inkPixel, double share) {
     CBitmap::Pixel result = 0;
@@ -75,60 +98,48 @@ CBitmap::Pixel mixed(CBitmap::Pixel paper, CBitmap::Pixel inkPixel, double share
     return result;
 }
 
-/// The end of a line; as smooth as a line of some pixels needs.
-Contour disc(Point centre, double radius) {
-    constexpr int corners = 16;
-    Contour contour;
-    for (int i = 0; i < corners; ++i)
-        contour.push_back(centre + towards(2 * std::numbers::pi * i / corners) * radius);
-    return contour;
-}
-
-/// The area that a line of `width` covers, all pieces turning the same way.
-std::vector<Contour> body(std::span<const Point> points, double width, bool isClosed) {
-    std::vector<Contour> pieces;
-    for (const Point& point : points) pieces.push_back(disc(point, width / 2));
-    const size_t sides = isClosed ? points.size() : points.size() - 1;
-    for (size_t i = 0; i < sides; ++i) {
-        const Point a = points[i], b = points[(i + 1) % points.size()];
-        const Point across = leftOf(unit(b - a)) * (width / 2);
-        pieces.push_back({a - across, b - across, b + across, a + across});
-    }
-    return pieces;
-}
-
 }  // namespace
 
 Canvas::Canvas(int width, int height, CBitmap::Pixel paper) : m_bitmap(width, height, paper) {}
 
-void Canvas::blend(int y, std::span<const double> share, CBitmap::Pixel inkPixel) {
-    for (int x = 0; x < m_bitmap.width(); ++x)
-        if (const double part = share[static_cast<size_t>(x)]; part > 0)
-            m_bitmap.set(x, y, mixed(m_bitmap.at(x, y), inkPixel, std::min(part, 1.0)));
-}
-
-void Canvas::fill(std::span<const Contour> contours, CBitmap::Pixel inkPixel, Rule rule) {
+void Canvas::fill(std::span<const Contour> contours, CBitmap::Pixel inkPixel) {
     std::vector<Point> all;
     for (const Contour& contour : contours) all.insert(all.end(), contour.begin(), contour.end());
     const Box box = boundsOf(all);
-    const double height = m_bitmap.height();
-    const int first = static_cast<int>(std::clamp(std::floor(box.bottom), 0.0, height));
-    const int last = static_cast<int>(std::clamp(std::ceil(box.top), 0.0, height));
+    const int left = pixelAt(box.left, m_bitmap.width());
+    const int right = pixelAt(box.right + 1, m_bitmap.width());
+    const int first = pixelAt(box.bottom, m_bitmap.height());
+    const int last = pixelAt(box.top + 1, m_bitmap.height());
+    const std::vector<Side> sides = sidesOf(contours);
+    Sweep sweep(sides);
+    RowCover row(left, right - left);
     for (int y = first; y < last; ++y) {
-        const std::vector<Side> sides = sidesIn(contours, y);
-        std::vector<double> row(static_cast<size_t>(m_bitmap.width()));
-        for (int thin = 0; thin < thinRows; ++thin)
-            coverLine(row, crossings(sides, y + (thin + 0.5) / thinRows), rule);
-        blend(y, row, inkPixel);
+        sweep.moveTo(y);
+        row.clear();
+        for (int thin = 0; thin < thinRows; ++thin) {
+            const auto found = sweep.crossings(y + (thin + 0.5) / thinRows);
+            for (size_t i = 0; i + 1 < found.size(); i += 2)
+                row.add(found[i], found[i + 1], 1.0 / thinRows);
+        }
+        row.forEach([&](int x, double share) { blend(x, y, inkPixel, share); });
     }
+}
+
+void Canvas::blend(int x, int y, CBitmap::Pixel inkPixel, double share) {
+    if (share > 0) m_bitmap.set(x, y, mixed(m_bitmap.at(x, y), inkPixel, std::min(share, 1.0)));
 }
 
 void Canvas::stroke(std::span<const Point> points, double width, CBitmap::Pixel inkPixel,
                     bool isClosed, bool isDashed) {
     if (points.empty()) return;
-    if (!isDashed) return fill(body(points, width, isClosed), inkPixel, Rule::nonZero);
-    for (const auto& dash : dashes(points, isClosed))
-        fill(body(dash, width, false), inkPixel, Rule::nonZero);
+    if (isDashed) {
+        for (const auto& dash : dashes(points, isClosed)) stroke(dash, width, inkPixel);
+        return;
+    }
+    LineCover cover(boundsOf(points), width, m_bitmap.width(), m_bitmap.height());
+    for (size_t i = 0; i + 1 < points.size(); ++i) cover.add(points[i], points[i + 1]);
+    if (isClosed || points.size() == 1) cover.add(points.back(), points.front());
+    cover.forEach([&](int x, int y, double share) { blend(x, y, inkPixel, share); });
 }
 
 void Canvas::text(const Label& label, CBitmap::Pixel inkPixel) {
@@ -152,7 +163,7 @@ CBitmap painted(const Sketch& sketch) {
     const auto inkOf = [](Ink ink) { return paperInks()[static_cast<size_t>(ink)]; };
     for (const SketchItem& item : sketch.items) {
         if (const auto* area = std::get_if<Fill>(&item))
-            canvas.fill(area->contours, inkOf(area->ink), Canvas::Rule::evenOdd);
+            canvas.fill(area->contours, inkOf(area->ink));
         else if (const auto* line = std::get_if<Stroke>(&item))
             canvas.stroke(line->points, line->width, inkOf(line->ink), line->isClosed,
                           line->isDashed);

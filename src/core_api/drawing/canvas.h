@@ -12,9 +12,9 @@ class VORMANT_API Canvas {
   public:
     Canvas(int width, int height, CBitmap::Pixel paper = CBitmap::white);
 
-    enum class Rule { evenOdd, nonZero };
-    /// `inkPixel` covers the paper as far as the contours cover a pixel.
-    void fill(std::span<const Contour> contours, CBitmap::Pixel inkPixel, Rule rule);
+    /// `inkPixel` covers the paper as far as the area between the contours covers a pixel: one
+    /// within another is a hole.
+    void fill(std::span<const Contour> contours, CBitmap::Pixel inkPixel);
     /// With round ends and corners.
     void stroke(std::span<const Point> points, double width, CBitmap::Pixel inkPixel,
                 bool isClosed = false, bool isDashed = false);
@@ -23,7 +23,7 @@ class VORMANT_API Canvas {
     const CBitmap& bitmap() const { return m_bitmap; }
 
   private:
-    void blend(int y, std::span<const double> cover, CBitmap::Pixel inkPixel);
+    void blend(int x, int y, CBitmap::Pixel inkPixel, double share);
 
     CBitmap m_bitmap;
 };

@@ -187,10 +187,13 @@ std::string packBitmap(const CBitmap& bitmap) {
     std::string text = fileStart(bitmap, bits, colours.size());
     for (const CBitmap::Pixel colour : colours) append(text, colour, 4);
     const size_t stride = strideOf(bitmap.width(), bits);
+    auto found = colours.begin();
     for (int y = bitmap.height() - 1; y >= 0; --y) {
         std::string line(stride, '\0');
         for (int x = 0; x < bitmap.width(); ++x) {
-            const auto found = std::lower_bound(colours.begin(), colours.end(), bitmap.at(x, y));
+            // Most pixels are as the one before.
+            if (*found != bitmap.at(x, y))
+                found = std::lower_bound(colours.begin(), colours.end(), bitmap.at(x, y));
             const size_t bit = static_cast<size_t>(x) * static_cast<size_t>(bits);
             const auto shift = 8 - static_cast<size_t>(bits) - bit % 8;
             line[bit / 8] |= static_cast<char>((found - colours.begin()) << shift);
