@@ -1,13 +1,8 @@
 #include "bills/bill_sheet.h"
 
-#include <stdlib.h>
-
-#include <filesystem>
-
 #include "core_api/settings.h"
 #include "core_api/text/text_helpers.h"
 #include "platform/files.h"
-#include "platform/paths.h"
 #include "sheets/sheet_writing.h"
 #include "spread/sheet_preparation.h"
 #include "spread/tw_sheet_settings.h"
@@ -70,26 +65,13 @@ BillSheet::BillSheet(const BillTarget& target)
     m_output.leaveFailuresToCaller();
 }
 
-BillSheet::~BillSheet() {
-    std::error_code ignored;
-    if (!m_folder.empty()) std::filesystem::remove_all(m_folder, ignored);
-}
-
 /// What is no document itself is made of one, which has its name and so its title.
 bool BillSheet::chooseDocument(std::string& error) {
     m_document = m_target.file;
     if (m_format == BillFormat::document) return true;
-    std::error_code failure;
-    std::string folder =
-        (std::filesystem::temp_directory_path(failure) / "vormant-bill-XXXXXX").string();
-    const auto inside = failure ? std::nullopt : paths::toInside(folder);
-    if (!inside || !::mkdtemp(folder.data())) {
-        error = "there is no folder for temporary files; check TMPDIR";
-        return false;
-    }
-    m_folder = folder;
-    m_document =
-        *paths::toInside(folder) + "\\" + changeExtension(getFileName(m_target.file), "sss").str();
+    m_folder = files::ScratchFolder::make(error);
+    if (!m_folder) return false;
+    m_document = m_folder->inside(changeExtension(getFileName(m_target.file), "sss").view());
     return true;
 }
 

@@ -1,10 +1,12 @@
 // A bill written into a sheet, and that sheet into the file that was asked for.
 #pragma once
 
+#include <optional>
 #include <string>
 
 #include "bill/tw_ss_bill_output.h"
 #include "core_api/bill/feed_bill.h"
+#include "platform/scratch.h"
 
 namespace bills {
 
@@ -22,7 +24,6 @@ std::optional<BillFormat> billFormat(const Vor_String& file);
 class BillSheet {
   public:
     explicit BillSheet(const BillTarget& target);
-    ~BillSheet();
     BillSheet(const BillSheet&) = delete;
     BillSheet& operator=(const BillSheet&) = delete;
 
@@ -43,7 +44,7 @@ class BillSheet {
     BillTarget m_target;
     BillFormat m_format = BillFormat::document;
     Vor_String m_document;
-    std::string m_folder;  ///< of a document that goes; empty when it stays
+    std::optional<files::ScratchFolder> m_folder;  ///< of a document that goes
     TwSSBillOutput m_output;
 };
 

@@ -4,6 +4,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <set>
+
 #include "bill/bill_title.h"
 #include "core_api/bill/bill_pictures.h"
 #include "core_api/bill/feed_bill.h"
@@ -226,6 +228,32 @@ TEST_F(BillOutput, PicturesStandBelowTheirRowsAndGoWithTheSheet) {
     EXPECT_EQ(feedBill(bill, output, [](int done, int) { return done == 0; }), BillFeed::cancelled);
     EXPECT_EQ(temporary.fileCount(), 0) << "also when the feed was cancelled";
     ::unsetenv("TMPDIR");
+}
+
+TEST_F(BillOutput, PiecesThatLookAlikeShareTheirPictureAndNoOthersDo) {
+    Vor_Bill bill = pictureBill();
+    bill.rows.resize(1);
+    const BillRow plate = bill.rows.front();
+    const auto add = [&](auto change) {
+        bill.rows.push_back(plate);
+        change(*bill.rows.back().piece);
+    };
+    add([](Vor_BillPart& piece) { piece.count = 7; });
+    add([](Vor_BillPart& piece) { piece.mass = 3; });
+    add([](Vor_BillPart& piece) { piece.length = 210; });
+    add([](Vor_BillPart& piece) { piece.width = 110; });
+    add([](Vor_BillPart& piece) { piece.thickness = 25; });
+    add([](Vor_BillPart& piece) { piece.name = "Other"; });
+    add([](Vor_BillPart& piece) { piece.section = "PL 11"; });
+    AcTransaction transaction;
+    output.init(folder.inside("Alike.sss"), bill.columnNames(), {}, {}, {}, {}, {});
+    output.setVars(-1, 0, 0, true, true, &bill, &transaction);
+    ASSERT_EQ(feedBill(bill, output), BillFeed::done);
+    std::vector<std::string> pictures;
+    for (int row = 2; row <= 16; row += 2) pictures.push_back(look(2, row).type.text);
+    EXPECT_EQ(pictures[0], pictures[1]);
+    EXPECT_EQ(pictures[0], pictures[2]);
+    EXPECT_EQ(std::set(pictures.begin(), pictures.end()).size(), 6U);
 }
 
 TEST_F(BillOutput, ASubtotalOrPictureBeforeNewRowsDoesNotShowInThem) {

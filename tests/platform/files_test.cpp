@@ -9,6 +9,7 @@
 #include <filesystem>
 
 #include "platform/paths.h"
+#include "platform/scratch.h"
 #include "support/failing_steps.h"
 #include "support/temporary_folder.h"
 
@@ -75,6 +76,33 @@ TEST(WriteWhole, RefusesWhatIsNoFile) {
     std::filesystem::create_symlink("nowhere", folder.path() / "link");
     EXPECT_FALSE(files::writeWhole(folder.inside("link"), "x", error));
     EXPECT_TRUE(std::filesystem::is_symlink(folder.path() / "link"));
+}
+
+TEST(ScratchFolder, GoesWithWhatIsInIt) {
+    const TemporaryFolder temporary;
+    ::setenv("TMPDIR", temporary.path().c_str(), 1);
+    std::string error;
+    {
+        auto folder = files::ScratchFolder::make(error);
+        ASSERT_TRUE(folder) << error;
+        const files::ScratchFolder moved = std::move(*folder);
+        folder.reset();
+        const std::string path = moved.inside("a.bmp");
+        EXPECT_TRUE(files::writeScratch(path, "a longer first content", error)) << error;
+        EXPECT_TRUE(files::writeScratch(path, "short", error)) << error;
+        EXPECT_EQ(files::readWhole(path, error), "short");
+        EXPECT_FALSE(files::writeScratch(moved.inside("none\\a.bmp"), "x", error));
+        EXPECT_THAT(error, testing::HasSubstr("none\\a.bmp"));
+        auto other = files::ScratchFolder::make(error);
+        ASSERT_TRUE(other) << error;
+        EXPECT_NE(other->inside(""), moved.inside(""));
+        EXPECT_EQ(temporary.fileCount(), 2);
+    }
+    EXPECT_EQ(temporary.fileCount(), 0);
+    ::setenv("TMPDIR", temporary.write("file", "").c_str(), 1);
+    EXPECT_FALSE(files::ScratchFolder::make(error));
+    EXPECT_THAT(error, testing::HasSubstr("TMPDIR"));
+    ::unsetenv("TMPDIR");
 }
 
 TEST(ReadWhole, RefusesWithAReason) {

@@ -1,54 +1,63 @@
 #include "core_api/bill/bill_pictures.h"
 
-#include <stdlib.h>
-
 #include <algorithm>
-#include <filesystem>
+#include <map>
+#include <optional>
+#include <tuple>
 
 #include "core_api/bill/piece_picture.h"
-#include "platform/paths.h"
+#include "platform/scratch.h"
 
 namespace {
 
-/// The folder of the pictures that are being made.
+/// The files of pictures drawn so far: a bill lists many pieces that look alike.
+class DrawnPictures {
+  public:
+    /// Empty when nothing can be drawn. Valid until the next call.
+    const std::string& fileOf(const Vor_BillPart& piece, const PiecePaper& paper) {
+        const Key key{piece.kind,   piece.name.str(), piece.section.str(), piece.length,
+                      piece.width,  piece.thickness,  piece.diameter,      paper.width,
+                      paper.height, paper.hasSizes,   paper.hasName};
+        if (const auto known = m_files.find(key); known != m_files.end()) return known->second;
+        if (m_files.size() >= mostFiles) m_files.clear();
+        const CBitmap picture = piecePicture(piece, paper);
+        return m_files[key] = picture.isEmpty() ? std::string() : packBitmap(picture);
+    }
+
+  private:
+    static constexpr size_t mostFiles = 200;  // of the usual size: 10 megabytes
+    using Key = std::tuple<BillPartKind, std::string, std::string, double, double, double, double,
+                           int, int, bool, bool>;
+    std::map<Key, std::string> m_files;
+};
+
+/// The pictures that are being made, with the folder of their files.
 class PictureFolder {
   public:
     bool open(int height) {
-        if (m_users == 0 && !make()) return false;
+        std::string ignored;
+        if (m_users == 0) m_folder = files::ScratchFolder::make(ignored);
+        if (!m_folder) return false;
         ++m_users;
         m_highest = std::max(height, usualPictureHeight);
         return true;
     }
     void close() {
         if (m_users == 0 || --m_users > 0) return;
-        std::error_code ignored;
-        std::filesystem::remove_all(m_path, ignored);
+        m_folder.reset();
+        m_drawn = {};
     }
     bool isOpen() const { return m_users > 0; }
     int highest() const { return m_highest; }
-    Vor_String nextFile() { return m_inside + "\\" + std::to_string(++m_files) + ".bmp"; }
+    Vor_String nextFile() { return m_folder->inside(std::to_string(++m_files) + ".bmp"); }
+    DrawnPictures& drawn() { return m_drawn; }
 
   private:
-    bool make() {
-        std::error_code error;
-        std::string name =
-            (std::filesystem::temp_directory_path(error) / "vormant-bill-XXXXXX").string();
-        if (error || !::mkdtemp(name.data())) return false;
-        const auto inside = paths::toInside(name);
-        if (!inside) {
-            std::filesystem::remove(name, error);
-            return false;
-        }
-        m_path = name;
-        m_inside = *inside;
-        return true;
-    }
-
     int m_users = 0;
     int m_highest = 0;
     long m_files = 0;
-    std::string m_path;
-    Vor_String m_inside;
+    std::optional<files::ScratchFolder> m_folder;
+    DrawnPictures m_drawn;
 };
 
 PictureFolder& pictures() {
@@ -78,9 +87,10 @@ ErrorStatus createImage(int& row, int& height, int& width, bool& withSizes, bool
     const int usedWidth = width > 0 ? width : usualPictureWidth;
     const Vor_BillPart* piece = bill->piece(row < 0 ? bill->currentRow : row);
     if (!piece || usedHeight > pictures().highest()) return Acad::eInvalidInput;
-    const CBitmap picture = piecePicture(*piece, {usedWidth, usedHeight, withSizes, withName});
+    const std::string& picture =
+        pictures().drawn().fileOf(*piece, {usedWidth, usedHeight, withSizes, withName});
     std::string error;
-    if (picture.isEmpty() || !writeBitmap(picture, file, error)) return Acad::eInvalidInput;
+    if (picture.empty() || !files::writeScratch(file, picture, error)) return Acad::eInvalidInput;
     height = usedHeight;
     width = usedWidth;
     return Acad::eOk;

@@ -16,7 +16,8 @@ VORMANT_API Vor_String nextPictureFile();
 inline constexpr int usualPictureHeight = 150;  // pixels
 inline constexpr int usualPictureWidth = 320;
 
-/// Draws the piece of a bill's row into the bitmap `file`.
+/// Draws the piece of a bill's row into the bitmap `file`, which is not flushed to disk: outputs
+/// take it over and remove it.
 ///
 /// `row`: the row, from 0; -1 the one that is being fed. `height` and `width` of the picture in
 /// pixels, 0 for the usual; they become what was used. `withSizes`: the piece has its sizes beside
