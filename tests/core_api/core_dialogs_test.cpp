@@ -33,14 +33,14 @@ TEST(FileDialogs, ProposeAPathAndReplaceItOnlyWhenChosen) {
     EXPECT_EQ(user.asked.kind, FileQuestion::Kind::save);
 }
 
-TEST(FileDialogs, GiveSeveralFiles) {
+TEST(FileDialogs, GiveSeveralFilesAndFolders) {
     Chooser user;
     Vor_StringArray paths{"old"};
     EXPECT_FALSE(DlgOpenMulti(nullptr, "Select", "Drawing", "dwg", "c:\\m\\", paths));
     EXPECT_EQ(paths, Vor_StringArray{"old"});
-    user.answer = {"c:\\m\\a.dwg", "c:\\m\\b.dwg"};
+    user.answer = {"c:\\m\\a.dwg", "c:\\m\\bolted\\"};
     EXPECT_TRUE(DlgOpenMulti(nullptr, "Select", "Drawing", "dwg", "c:\\m\\", paths));
-    EXPECT_EQ(paths, (Vor_StringArray{"c:\\m\\a.dwg", "c:\\m\\b.dwg"}));
+    EXPECT_EQ(paths, (Vor_StringArray{"c:\\m\\a.dwg", "c:\\m\\bolted\\"}));
     EXPECT_EQ(user.asked.kind, FileQuestion::Kind::openSeveral);
     EXPECT_EQ(user.asked.folder, "c:\\m\\");
 }

@@ -5,7 +5,9 @@
 #include <QClipboard>
 #include <QFileDialog>
 #include <QLineEdit>
+#include <QListView>
 #include <QMessageBox>
+#include <QPushButton>
 #include <QScreen>
 #include <memory>
 
@@ -20,6 +22,7 @@ namespace {
 using sample::Dialog;
 using testing::ElementsAre;
 using testing::IsEmpty;
+using testing::UnorderedElementsAre;
 
 TEST_F(Desktop, ModalDialogsEndByEnterEscapeAndTimers) {
     Dialog dialog;
@@ -226,6 +229,78 @@ TEST_F(FileChooser, FoldersEndInABackslash) {
     folder.write("sub/a.txt", "");
     types("sub");
     EXPECT_THAT(chosen(FileQuestion::Kind::folder), ElementsAre(folder.inside("sub\\")));
+}
+
+class SeveralChooser : public FileChooser {
+  protected:
+    SeveralChooser() {
+        for (const char* name : {"a.txt", "b.txt", "bolted/c.txt", "welded/d.txt"})
+            folder.write(name, "");
+    }
+    /// Works with the chooser: selects the names, then does the rest.
+    std::vector<std::string> chosenWith(std::initializer_list<const char*> names,
+                                        void (*then)(QFileDialog&),
+                                        void (*before)(QFileDialog&) = nullptr) {
+        meanwhile([names = std::vector<QString>(names.begin(), names.end()), then, before] {
+            auto* chooser = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+            ASSERT_TRUE(chooser);
+            auto* list = chooser->findChild<QListView*>("listView");
+            QTRY_COMPARE(list->model()->rowCount(list->rootIndex()), 4);
+            for (int row = 0; row < 4; ++row) {
+                const QModelIndex index = list->model()->index(row, 0, list->rootIndex());
+                if (std::count(names.begin(), names.end(), index.data().toString()) > 0)
+                    list->selectionModel()->select(
+                        index, QItemSelectionModel::Select | QItemSelectionModel::Rows);
+            }
+            EXPECT_THAT(windowProblems(*chooser), IsEmpty());
+            saveGrab(*chooser, "files-and-folders");
+            if (before) before(*chooser);
+            then(*chooser);
+        });
+        return chosen(FileQuestion::Kind::openSeveral);
+    }
+    static void open(QFileDialog& chooser) { static_cast<QDialog&>(chooser).accept(); }
+    static void take(QFileDialog& chooser) {
+        auto* button = chooser.findChild<QPushButton*>("chooseFolder");
+        EXPECT_TRUE(button->isEnabled());
+        QTest::mouseClick(button, Qt::LeftButton);
+    }
+};
+
+TEST_F(SeveralChooser, GivesFilesAndFoldersTogether) {
+    EXPECT_THAT(chosenWith({"a.txt", "bolted"}, open),
+                UnorderedElementsAre(folder.inside("a.txt"), folder.inside("bolted\\")));
+    EXPECT_THAT(chosenWith({"bolted", "welded"}, take),
+                UnorderedElementsAre(folder.inside("bolted\\"), folder.inside("welded\\")));
+    EXPECT_THAT(chosenWith({"welded"}, take), ElementsAre(folder.inside("welded\\")));
+    EXPECT_THAT(chosenWith({}, take), ElementsAre(folder.inside()));
+    EXPECT_THAT(chosenWith({"a.txt", "b.txt"}, open),
+                ElementsAre(folder.inside("a.txt"), folder.inside("b.txt")));
+}
+
+TEST_F(SeveralChooser, OpeningOneFolderEntersIt) {
+    const auto enter = [](QFileDialog& chooser) {
+        open(chooser);
+        EXPECT_EQ(chooser.directory().dirName(), "bolted");
+        EXPECT_TRUE(chooser.isVisible());
+    };
+    EXPECT_THAT(chosenWith(
+                    {"bolted"},
+                    [](QFileDialog& chooser) {
+                        chooser.findChild<QLineEdit*>("fileNameEdit")->setText("c.txt");
+                        open(chooser);
+                    },
+                    enter),
+                ElementsAre(folder.inside("bolted\\c.txt")));
+    EXPECT_THAT(chosenWith({"bolted"}, take, enter), ElementsAre(folder.inside("bolted\\")));
+}
+
+TEST_F(SeveralChooser, ItsButtonWaitsForAFolder) {
+    const auto chosen = chosenWith({"a.txt"}, [](QFileDialog& chooser) {
+        EXPECT_FALSE(chooser.findChild<QPushButton*>("chooseFolder")->isEnabled());
+        QTest::keyClick(&chooser, Qt::Key_Escape);
+    });
+    EXPECT_THAT(chosen, IsEmpty());
 }
 
 TEST_F(Desktop, TextsOfOtherProgramsAreTakenWholeOrNotAtAll) {

@@ -12,6 +12,7 @@ enum class DesktopText {
     fileExists,        ///< "%1" exists: replace it?
     nameNotKept,       ///< a file name with the character "%1"
     characterNotKept,  ///< "%1"
+    chooseFolder = 26963,
 };
 
 /// In the working language.

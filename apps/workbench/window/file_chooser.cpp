@@ -11,6 +11,7 @@
 #include "platform/window/wnd.h"
 #include "window/desktop_texts.h"
 #include "window/dialog_font.h"
+#include "window/folder_taker.h"
 #include "window/qt_window_system.h"
 #include "window/typed_text.h"
 
@@ -37,10 +38,10 @@ QString withExtension(const QString& path, const FileQuestion& question) {
 }
 
 /// Looks for what was typed with the extension, too: Qt adds it only to names without any dot.
-class Chooser : public QFileDialog {
+class Chooser : public FolderTaker {
   public:
     Chooser(QWidget* parent, const FileQuestion& question)
-        : QFileDialog(parent), m_question(question) {}
+        : FolderTaker(parent), m_question(question) {}
 
   protected:
     void accept() override {
@@ -50,14 +51,14 @@ class Chooser : public QFileDialog {
             const QString ending = withExtension(path, m_question).mid(path.size());
             if (!QFileInfo(path).isDir()) field->setText(field->text() + ending);
         }
-        QFileDialog::accept();
+        FolderTaker::accept();
     }
 
   private:
     const FileQuestion& m_question;
 };
 
-void setUp(QFileDialog& chooser, const FileQuestion& question) {
+void setUp(FolderTaker& chooser, const FileQuestion& question) {
     chooser.setWindowTitle(toQt(question.title));
     // Asked after the extension was added, in the words of the module.
     chooser.setOption(QFileDialog::DontConfirmOverwrite);
@@ -65,7 +66,7 @@ void setUp(QFileDialog& chooser, const FileQuestion& question) {
                                                       : QFileDialog::AcceptOpen);
     if (question.kind == Kind::save) chooser.setFileMode(QFileDialog::AnyFile);
     if (question.kind == Kind::open) chooser.setFileMode(QFileDialog::ExistingFile);
-    if (question.kind == Kind::openSeveral) chooser.setFileMode(QFileDialog::ExistingFiles);
+    if (question.kind == Kind::openSeveral) chooser.takeFolders();
     if (question.kind == Kind::folder) {
         chooser.setFileMode(QFileDialog::Directory);
         chooser.setOption(QFileDialog::ShowDirsOnly);
@@ -95,7 +96,7 @@ std::optional<std::string> insidePath(const QString& path, const FileQuestion& q
         showWarning(question.title, fromQt(why + "\n" + refusalOf(path)));
         return std::nullopt;
     }
-    if (question.kind == Kind::folder && !inside->ends_with('\\')) *inside += '\\';
+    if (QFileInfo(path).isDir() && !inside->ends_with('\\')) *inside += '\\';
     return inside;
 }
 
@@ -118,7 +119,7 @@ std::vector<std::string> QtWindowSystem::chooseFiles(const FileQuestion& questio
     Chooser chooser(ownerOf(parent), question);
     setUp(chooser, question);
     while (chooser.exec() == QDialog::Accepted) {
-        const auto files = accepted(chooser.selectedFiles(), question);
+        const auto files = accepted(chooser.chosen(), question);
         if (!files.empty()) return files;
     }
     return {};

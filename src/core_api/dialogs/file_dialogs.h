@@ -11,7 +11,8 @@ VORMANT_API bool DlgOpenSave(CWnd* parent, bool isOpen, const Vor_String& title,
                              const Vor_String& filterName, const Vor_String& extension,
                              Vor_String& path);
 
-/// Asks for several files, starting in `folder`. False, with `paths` as they were, when cancelled.
+/// Asks for several files and folders, starting in `folder`. Folders end in a backslash. False,
+/// with `paths` as they were, when cancelled.
 VORMANT_API bool DlgOpenMulti(CWnd* parent, const Vor_String& title, const Vor_String& filterName,
                               const Vor_String& extension, const Vor_String& folder,
                               Vor_StringArray& paths);

@@ -56,6 +56,7 @@ constexpr TextRow rows[] = {
       "Le fichier %1 n'existe pas. Vérifiez son nom."}},
     {26046, {"&Undo", "&Ongedaan maken", "&Rückgängig", "&Annuler"}},
     {26047, {"&Redo", "Opnie&uw", "&Wiederholen", "&Rétablir"}},
+    {26963, {"Choose fol&der", "&Map kiezen", "O&rdner wählen", "Choisir le &dossier"}},
 };
 
 }  // namespace

@@ -13,7 +13,7 @@ struct FileQuestion {
     enum class Kind {
         open,
         save,         ///< asks before a file that exists is chosen
-        openSeveral,  ///< files
+        openSeveral,  ///< files and folders
         folder,
     };
     Kind kind = Kind::open;
@@ -24,7 +24,7 @@ struct FileQuestion {
     std::string preset;      ///< file name without folder
 };
 
-/// What was chosen, empty when cancelled; one path but for openSeveral.
+/// What was chosen, empty when cancelled; one path but for openSeveral. Folders end in a backslash.
 VORMANT_API std::vector<std::string> chooseFiles(const FileQuestion& question, CWnd* parent);
 /// The one path, or empty.
 VORMANT_API std::string chooseFile(const FileQuestion& question, CWnd* parent);
