@@ -1,7 +1,6 @@
 // Sections out of polygons with rounded corners: rolled ones, bars and tubes.
 #include <algorithm>
 #include <numbers>
-#include <ranges>
 
 #include "core_api/drawing/outline_building.h"
 
@@ -84,8 +83,8 @@ SectionOutline angleSection(Values v) {
     const LegEnd standing(h, tw, toe), lying(b, tf, toe);
     if (standing.reach > h - tf || lying.reach > b - tw) return tooLarge(5);
     std::vector<Corner> corners{{{0, 0}}};
-    for (const Point& point : std::views::reverse(lying.points))
-        corners.push_back({{point.y, point.x}});
+    for (auto point = lying.points.rbegin(); point != lying.points.rend(); ++point)
+        corners.push_back({{point->y, point->x}});
     corners.push_back({{tw, tf}, root});
     for (const Point& point : standing.points) corners.push_back({point});
     return outlineOf(
