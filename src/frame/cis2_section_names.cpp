@@ -22,6 +22,7 @@ bool readCis2SectionNames(TwDlgCis2Data& data) {
     if (isRead && !data.sectionName.isEmpty() && names.otherName(data.sectionName).isEmpty())
         names.set(data.sectionName, "");
     data.sectionNames = std::move(names);
+    data.areSectionNamesKnown = isRead;
     return isRead;
 }
 

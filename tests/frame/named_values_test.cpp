@@ -118,7 +118,7 @@ TEST_F(NamedValuesEditor, AnotherTypeOfCutHasOtherOffsets) {
 }
 
 TEST_F(NamedValuesEditor, TabGoesThroughTheValuesFirst) {
-    LevelsDialog dialog;
+    BracingDialog dialog;
     Vor_Spread& grid = open(dialog);
     dialog.show(true);
     EXPECT_EQ(dialog.nextTabItem(nullptr, false), &grid);

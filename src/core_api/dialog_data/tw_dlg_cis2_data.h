@@ -18,4 +18,6 @@ class VORMANT_API TwDlgCis2Data {
     /// What sections are called in that format. The library keeps them for all members; the dialog
     /// reads and writes them.
     SectionTranslation sectionNames;
+    /// False while the library's own cannot be read: then none are shown, and none written.
+    bool areSectionNamesKnown = true;
 };

@@ -1,4 +1,5 @@
 #include "frame/editor/descriptions.h"
+#include "frame/editor/entry_list.h"
 
 NamedValues describe(TwGridDlgData& data) {
     return {textValue(87, data.name),
@@ -15,15 +16,12 @@ NamedValues describe(TwGridDlgData& data) {
 }
 
 NamedValues describe(TwLevelsDlgData& data) {
-    NamedValues values;
-    for (int i = 0; i < data.levels.length(); ++i) {
-        TwLevel& level = data.levels[i];
-        const Vor_String owner = dialString(21110) + " " + Vor_String(i + 1, 0);
-        values.push_back(textValue(87, level.name).of(owner));
-        values.push_back(numberValue(21111, level.height, distances).of(owner));
-        values.push_back(yesNoValue(21112, level.isVisible).of(owner));
-    }
-    return values;
+    return listValues(21019, data.levels, [](TwLevel& level, int index) -> NamedValues {
+        const Vor_String owner = dialString(21110) + " " + Vor_String(index + 1, 0);
+        return {textValue(87, level.name).of(owner),
+                numberValue(21111, level.height, distances).of(owner),
+                yesNoValue(21112, level.isVisible).of(owner)};
+    });
 }
 
 NamedValues describe(TwCladdingDlgData& data) {

@@ -1,5 +1,6 @@
 #include "core_api/text/text_helpers.h"
 #include "frame/editor/descriptions.h"
+#include "frame/editor/entry_list.h"
 
 namespace {
 
@@ -15,21 +16,18 @@ Vor_String named(const Vor_String& owner, int text) {
 
 /// A text that a setter takes or refuses.
 template <class Read, class Write>
-NamedValue checkedText(const Vor_String& name, Read read, Write write) {
-    NamedValue made;
-    made.name = name;
-    made.read = read;
-    made.write = [write](const Vor_String& text) { return write(text) == Acad::eOk; };
-    return made;
+NamedValue setterText(const Vor_String& name, Read read, Write write) {
+    return checkedText(name, read,
+                       [write](const Vor_String& text) { return write(text) == Acad::eOk; });
 }
 
 NamedValues describeBolts(MacroTabData& tab) {
     MacroBoltData* bolts = tab.getBoltData();
     if (!bolts) return {};
-    return {checkedText(
+    return {setterText(
                 named(tab.key(), diameterText) + " (mm)", [bolts] { return bolts->diameter(); },
                 [bolts](const Vor_String& text) { return bolts->setDiameter(text); }),
-            checkedText(
+            setterText(
                 named(tab.key(), holeOffsetText) + " (mm)", [bolts] { return bolts->holeOffset(); },
                 [bolts](const Vor_String& text) { return bolts->setHoleOffset(text); })};
 }
@@ -74,7 +72,7 @@ NamedValue groupProperty(MacroTabData& tab, const Vor_String& group, int text,
             return Acad::eInvalidInput;
         return tab.setMergedPropsOfGroup(group, properties);
     };
-    return checkedText(named(tab.key() + ", " + group, text), read, write);
+    return setterText(named(tab.key() + ", " + group, text), read, write);
 }
 
 NamedValues describeProfiles(MacroTabData& tab, const Vor_String& onlyGroup) {
@@ -120,9 +118,33 @@ NamedValues describeCut(CutConstraint& cut, const Vor_String& owner) {
     return values;
 }
 
-void addList(NamedValues& values, const Vor_StringArray& names, Vor_StringArray& list, int text) {
-    for (int i = 0; i < list.length() && i < names.length(); ++i)
-        values.push_back(textValue(named(names[i], text), list[i]));
+struct Column {
+    int heading;
+    Vor_StringArray* texts;
+};
+
+/// Entries that lie in several lists parallel by index; the first list has their names.
+NamedValues parallelLists(int heading, const std::vector<Column>& columns) {
+    Vor_StringArray& names = *columns[0].texts;
+    for (const Column& each : columns)
+        if (each.texts->length() < names.length()) each.texts->setLength(names.length());
+    const auto insert = [columns, &names](int from, int to) {
+        const Vor_String name = from < 0 ? Vor_String() : freeName(names, names[from]);
+        for (const Column& each : columns)
+            each.texts->insertAt(to, from < 0 ? Vor_String() : (*each.texts)[from]);
+        names[to] = name;
+    };
+    const auto remove = [columns](int index) {
+        for (const Column& each : columns) each.texts->removeAt(index);
+    };
+    return listValues(heading, EntryList{names.length(), insert, remove}, [&](int index) {
+        const Vor_String owner = entryOwner(names[index], index);
+        NamedValues rows;
+        for (const Column& each : columns)
+            rows.push_back(textValue(each.heading, (*each.texts)[index]).of(owner));
+        rows[0].reshapes = true;
+        return rows;
+    });
 }
 
 }  // namespace
@@ -150,13 +172,13 @@ NamedValues describe(AdvancedProfiles& data) {
 
 NamedValues describe(ObjectProfile& data) {
     MacroProfData& properties = data.properties;
-    return {checkedText(
+    return {setterText(
                 dialString(sectionText), [&properties] { return properties.sectionName(); },
                 [&properties](const Vor_String& text) { return properties.setSectionName(text); }),
-            checkedText(
+            setterText(
                 dialString(materialText), [&properties] { return properties.material(); },
                 [&properties](const Vor_String& text) { return properties.setMaterial(text); }),
-            checkedText(
+            setterText(
                 dialString(memberNameText), [&properties] { return properties.memberName(); },
                 [&properties](const Vor_String& text) { return properties.setMemberName(text); }),
             yesNoValue(forAllText, data.forAll)};
@@ -173,9 +195,9 @@ NamedValues describe(DynArrayData& data) {
     NamedValues values{choiceValue(21070, data.mode, {21071, 21072})};
     for (int i = 0; i < DynArrayData::textCount; ++i)
         values.push_back(textValue(21073 + i, data.texts[static_cast<size_t>(i)]));
-    for (int i = 0; i < data.entries.length(); ++i)
-        values.push_back(
-            textValue(dialString(21078) + " " + Vor_String(i + 1, 0), data.entries[i]));
+    add(values, listValues(21071, data.entries, [](Vor_String& distance, int index) -> NamedValues {
+            return {textValue(dialString(21078) + " " + Vor_String(index + 1, 0), distance)};
+        }));
     return values;
 }
 
@@ -195,12 +217,13 @@ NamedValues describe(MacroChoice& data) {
 }
 
 NamedValues describe(TwAutoStandardsData& data) {
-    constexpr int valueText = 86, filterText = 347, overrideText = 1765;
-    NamedValues values;
-    addList(values, data.dwgGenVars(), data.dwgGenValues(), valueText);
-    addList(values, data.dwgGenVars(), data.dwgGenFilters(), filterText);
-    addList(values, data.stdGenVars(), data.stdGenValues(), valueText);
-    addList(values, data.stdGenVars(), data.stdGenOverrides(), overrideText);
-    addList(values, data.stdGenVars(), data.stdGenFilters(), filterText);
+    constexpr int nameText = 87, valueText = 86, filterText = 347, overrideText = 1765;
+    NamedValues values = parallelLists(1762, {{nameText, &data.dwgGenVars()},
+                                              {valueText, &data.dwgGenValues()},
+                                              {filterText, &data.dwgGenFilters()}});
+    add(values, parallelLists(1763, {{nameText, &data.stdGenVars()},
+                                     {valueText, &data.stdGenValues()},
+                                     {overrideText, &data.stdGenOverrides()},
+                                     {filterText, &data.stdGenFilters()}}));
     return values;
 }

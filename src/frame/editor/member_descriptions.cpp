@@ -1,4 +1,5 @@
 #include "frame/editor/descriptions.h"
+#include "frame/editor/entry_list.h"
 
 NamedValues describe(ProfCuts& data) {
     return {choiceValue(21041, data.cuts.shape, {1395, 1396, 1397}),
@@ -7,19 +8,51 @@ NamedValues describe(ProfCuts& data) {
 }
 
 NamedValues describe(DlgProfFeaturesData& data) {
-    NamedValues values;
-    for (ProfFeature& each : data.features) {
-        values.push_back(yesNoValue(21083, each.isOn).of(each.name));
-        values.push_back(numberValue(21084, each.position, distances).of(each.name));
-        values.push_back(numberValue(21085, each.size, lengths).of(each.name));
-    }
-    return values;
+    const auto rowsOf = [](ProfFeature& feature, int index) -> NamedValues {
+        const Vor_String owner = entryOwner(feature.name, index);
+        return {nameValue(87, feature.name).of(owner), yesNoValue(21083, feature.isOn).of(owner),
+                numberValue(21084, feature.position, distances).of(owner),
+                numberValue(21085, feature.size, lengths).of(owner)};
+    };
+    const auto renew = [](ProfFeature& made, const auto& features) {
+        made.name = freeName(namesOf(features), made.name);
+    };
+    return listValues(21017, data.features, rowsOf, renew);
 }
 
 NamedValues describe(DstvPoints& data) {
     return {choiceValue(21087, data.mark, {21088, 21089, 21090}),
             numberValue(21091, data.depth, lengths), yesNoValue(21092, data.withLabels)};
 }
+
+namespace {
+
+using SectionPair = SectionTranslation::Pair;
+
+/// A section has one name in the other system.
+NamedValue sectionOf(SectionPair& pair, const SectionTranslation& names) {
+    NamedValue made = checkedText(
+        670, [&pair] { return pair.section; },
+        [&pair, &names](const Vor_String& text) {
+            for (const SectionPair& each : names.pairs)
+                if (&each != &pair && !text.isEmpty() && each.section.equal(text)) return false;
+            pair.section = text;
+            return true;
+        });
+    made.reshapes = true;
+    return made;
+}
+
+NamedValues describeSectionNames(SectionTranslation& names) {
+    const auto rowsOf = [&names](SectionPair& pair, int index) -> NamedValues {
+        const Vor_String owner = entryOwner(pair.section, index);
+        return {sectionOf(pair, names).of(owner), textValue(1740, pair.otherName).of(owner)};
+    };
+    const auto renew = [](SectionPair& made, const auto&) { made.section = {}; };
+    return listValues(25000, names.pairs, rowsOf, renew);
+}
+
+}  // namespace
 
 NamedValues describe(TwDlgCis2Data& data) {
     constexpr int highestPhase = 9999;
@@ -28,7 +61,6 @@ NamedValues describe(TwDlgCis2Data& data) {
         textValue(21064, data.materialName), textValue(21093, data.assemblyMark),
         textValue(21094, data.pieceMark),    wholeValue(21095, data.phase, 0, highestPhase),
         yesNoValue(21096, data.isExported)};
-    for (SectionTranslation::Pair& pair : data.sectionNames.pairs)
-        values.push_back(textValue(1740, pair.otherName).of(pair.section));
+    if (data.areSectionNamesKnown) add(values, describeSectionNames(data.sectionNames));
     return values;
 }

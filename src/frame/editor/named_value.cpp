@@ -33,13 +33,26 @@ NamedValue& NamedValue::of(const Vor_String& owner) {
 }
 
 NamedValue textValue(const ValueName& name, Vor_String& value) {
+    return checkedText(
+        name, [&value] { return value; },
+        [&value](const Vor_String& text) {
+            value = text;
+            return true;
+        });
+}
+
+NamedValue nameValue(const ValueName& name, Vor_String& value) {
+    NamedValue made = textValue(name, value);
+    made.reshapes = true;
+    return made;
+}
+
+NamedValue checkedText(const ValueName& name, std::function<Vor_String()> read,
+                       std::function<bool(const Vor_String&)> write) {
     NamedValue made;
     made.name = name.text;
-    made.read = [&value] { return value; };
-    made.write = [&value](const Vor_String& text) {
-        value = text;
-        return true;
-    };
+    made.read = std::move(read);
+    made.write = std::move(write);
     return made;
 }
 

@@ -6,18 +6,23 @@
 //                 numberValue(21066, data.startOffset, lengths)};
 //     }
 //
-// A row refers to the object it was made from, which must outlive it and stay where it is.
+// A row refers to the object it was made from, which must outlive it and stay where it is. Lists
+// whose entries come and go are in entry_list.h.
 #pragma once
 
 #include <functional>
 #include <initializer_list>
+#include <memory>
+#include <utility>
 #include <vector>
 
 #include "core_api/text/vor_string_array.h"
 #include "core_api/texts/texts.h"
 
+struct EntryList;
+
 struct NamedValue {
-    enum class Kind { text, number, yesNo, choice };
+    enum class Kind { text, number, yesNo, choice, heading };
 
     Kind kind = Kind::text;
     Vor_String name;
@@ -29,8 +34,11 @@ struct NamedValue {
     std::function<Vor_String()> read;
     /// False, with the data as it was, when the data refuses the text.
     std::function<bool(const Vor_String&)> write;
-    /// Other rows come and go with it.
+    /// Other rows come and go with it, or have other names.
     bool reshapes = false;
+    /// What the row belongs to, if anything, and to which entry of it: -1 for its heading.
+    std::shared_ptr<const EntryList> list = {};
+    int entry = -1;
 
     /// The name inside what it belongs to: "Plate1: Gap".
     NamedValue& of(const Vor_String& owner);
@@ -59,6 +67,11 @@ struct ValueName {
 };
 
 NamedValue textValue(const ValueName& name, Vor_String& value);
+/// A text that is the name of the rows around it.
+NamedValue nameValue(const ValueName& name, Vor_String& value);
+/// A text that `write` takes, or refuses with false.
+NamedValue checkedText(const ValueName& name, std::function<Vor_String()> read,
+                       std::function<bool(const Vor_String&)> write);
 NamedValue numberValue(const ValueName& name, double& value, const NumberRange& range);
 NamedValue wholeValue(const ValueName& name, int& value, int least, int most);
 NamedValue yesNoValue(const ValueName& name, bool& value);

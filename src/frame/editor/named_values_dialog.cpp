@@ -9,6 +9,7 @@ constexpr int nameText = 87, valueText = 86, cannotBeUsedText = 21001, needsNumb
               refusedText = 21003;
 constexpr int namePercent = 50;
 constexpr int tableLook = 1;  // one that is typed into
+constexpr int plainWeight = 400, boldWeight = 700;
 
 control::Block cell(int row) {
     return {namedValuesValueColumn, row, namedValuesValueColumn, row};
@@ -32,8 +33,15 @@ void NamedValuesDialog::onInit() {
     m_grid.setAutoSize(3, 1, namePercent);
     ChangeDlgSize(*this, m_kind.sizeName);
     m_grid.autoSize();
-    m_grid.setActiveCell(namedValuesValueColumn, 1);
+    m_grid.setActiveCell(namedValuesValueColumn, firstValueRow());
     m_grid.setListener([this](const GridNotice& notice) { onNotice(notice); });
+    showWhatCanBeDone();
+}
+
+/// Not a heading, unless there is nothing else.
+int NamedValuesDialog::firstValueRow() const {
+    const bool isHeading = !m_values.empty() && m_values[0].kind == NamedValue::Kind::heading;
+    return isHeading && m_grid.nrRows() > 1 ? 2 : 1;
 }
 
 void NamedValuesDialog::showRows() {
@@ -46,6 +54,7 @@ void NamedValuesDialog::showRows() {
 
 void NamedValuesDialog::onNotice(const GridNotice& notice) {
     using What = GridNotice::What;
+    if (notice.what == What::moved) return showWhatCanBeDone();
     if (notice.what != What::changed && notice.what != What::checked) return;
     m_isChanged = true;
     const auto row = static_cast<size_t>(notice.row);
@@ -57,7 +66,11 @@ void NamedValuesDialog::onNotice(const GridNotice& notice) {
 
 void NamedValuesDialog::showRow(int row, const NamedValue& value) {
     m_grid.setData(namedValuesNameColumn, row, value.name);
+    const bool isHeading = value.kind == NamedValue::Kind::heading;
     m_grid.setLock(namedValuesNameColumn, row, true);
+    m_grid.setLock(namedValuesValueColumn, row, isHeading);
+    m_grid.setFont({namedValuesNameColumn, row, namedValuesNameColumn, row}, m_grid.fontName(),
+                   m_grid.fontHeight(), isHeading ? boldWeight : plainWeight);
     switch (value.kind) {
         case NamedValue::Kind::text:
             m_grid.setTextCell(cell(row));
@@ -70,6 +83,9 @@ void NamedValuesDialog::showRow(int row, const NamedValue& value) {
             break;
         case NamedValue::Kind::choice:
             m_grid.setComboCell(cell(row), value.choices, false);
+            break;
+        case NamedValue::Kind::heading:
+            m_grid.setStaticCell(cell(row));
             break;
     }
     m_grid.setValue(namedValuesValueColumn, row, value.read());

@@ -1,5 +1,6 @@
 // The editor of named values: a grid of names and values, checked when OK is pressed. It serves
-// every data object whose dialog needs no more than that.
+// every data object whose dialog needs no more than that. Entries of lists are inserted and deleted
+// at once, in the dialog's own copy of the data, with what was typed before.
 #pragma once
 
 #include "core_api/texts/dial_text.h"
@@ -8,6 +9,8 @@
 #include "spread/vor_spread.h"
 
 inline constexpr int namedValuesGrid = 1001;
+inline constexpr int namedValuesInsert = 1002;
+inline constexpr int namedValuesDelete = 1003;
 inline constexpr int namedValuesNameColumn = 1;
 inline constexpr int namedValuesValueColumn = 2;
 
@@ -15,6 +18,15 @@ inline constexpr ControlTemplate namedValuesControls[] = {
     {Control::placeholder, namedValuesGrid, {}, {7, 7, 336, 190}, 0, anchorAll},
     {Control::button, IDOK, dialText(1), {217, 204, 60, 14}, styleDefault, anchorBottomRight},
     {Control::button, IDCANCEL, dialText(2), {283, 204, 60, 14}, 0, anchorBottomRight},
+};
+
+/// For data with lists whose entries come and go.
+inline constexpr ControlTemplate listValuesControls[] = {
+    namedValuesControls[0],
+    {Control::button, namedValuesInsert, dialText(26008), {7, 204, 60, 14}, 0, anchorBottomLeft},
+    {Control::button, namedValuesDelete, dialText(26009), {73, 204, 60, 14}, 0, anchorBottomLeft},
+    namedValuesControls[1],
+    namedValuesControls[2],
 };
 
 /// What tells one such dialog from another.
@@ -27,6 +39,10 @@ constexpr EditorKind editorKind(int number, int titleText, const char* sizeName)
     return {{number, dialText(titleText), {0, 0, 350, 225}, namedValuesControls, true}, sizeName};
 }
 
+constexpr EditorKind listEditorKind(int number, int titleText, const char* sizeName) {
+    return {{number, dialText(titleText), {0, 0, 350, 225}, listValuesControls, true}, sizeName};
+}
+
 class NamedValuesDialog : public CDialog {
   public:
     NamedValuesDialog(const EditorKind& kind, CWnd* parent);
@@ -35,8 +51,11 @@ class NamedValuesDialog : public CDialog {
     /// Shown instead of the title of its kind, unless empty.
     void setTitle(const Vor_String& title) { m_title = title; }
     Vor_Spread& grid() { return m_grid; }
-    /// The user changed a value, whether it was kept or not.
+    /// The user changed a value or the entries of a list, whether it was kept or not.
     bool isChanged() const { return m_isChanged; }
+
+    void onCommand(int id, int code) override;
+    bool preTranslateKey(const KeyMessage& key) override;
 
   protected:
     /// The rows, for the data as it is now.
@@ -57,6 +76,7 @@ class NamedValuesDialog : public CDialog {
     bool takeValues();
 
   private:
+    int firstValueRow() const;
     void showRows();
     void onNotice(const GridNotice& notice);
     void showRow(int row, const NamedValue& value);
@@ -64,6 +84,15 @@ class NamedValuesDialog : public CDialog {
     bool isRowChanged(int row) const;
     bool refuse(int row, const Vor_String& why);
     bool isNumberGood(int row);
+
+    // Lists: named_values_lists.cpp.
+    const NamedValue* activeValue();
+    void showWhatCanBeDone();
+    void insertEntry();
+    void deleteEntries();
+    std::pair<int, int> selectedEntries();
+    int headingOf(const NamedValue& value) const;
+    void showEntry(int heading, int entry);
 
     const EditorKind& m_kind;
     Vor_String m_title;
