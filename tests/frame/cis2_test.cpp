@@ -52,11 +52,37 @@ TEST_F(Cis2, NamesAreWrittenOnOkAlone) {
     EXPECT_EQ(library.read(fileName), std::string(header) + "L-50x50x5\tL50\n");
 }
 
+TEST_F(Cis2, NamesOfOtherSectionsComeAndGo) {
+    library.write(fileName, std::string(header) + "HEA-100\tH100\nIPE-200\tI200\n");
+    user.whenOpens(dialogNumber)
+        .does([&](CDialog& dialog) {
+            auto& grid = dynamic_cast<Vor_Spread&>(*dialog.item(namedValuesGrid));
+            const auto goTo = [&](const char* name) {
+                int col = 0, row = 0;
+                EXPECT_TRUE(grid.findNext(name, false, 1, 1, col, row)) << name;
+                grid.userMoves(namedValuesValueColumn, row);
+                return row;
+            };
+            goTo("IPE-200: CIS/2 name");
+            dialog.press(namedValuesInsert);
+            const int added = goTo("3: Section name");
+            EXPECT_TRUE(grid.userEnters(namedValuesValueColumn, added, "hea-100"));
+            EXPECT_EQ(user.told().size(), 1u) << "it has a name already";
+            EXPECT_TRUE(grid.userEnters(namedValuesValueColumn, added, "IPE-240"));
+            goTo("HEA-100: Section name");
+            dialog.press(namedValuesDelete);
+        })
+        .presses(IDOK);
+    EXPECT_TRUE(StartDlgCis2Info(data));
+    EXPECT_EQ(library.read(fileName), std::string(header) + "IPE-200\tI200\nIPE-240\tI200\n");
+}
+
 TEST_F(Cis2, ADamagedFileIsToldOfAndKept) {
     constexpr const char* damaged = "a\tb\nIPE-200\t\\x\n";
     library.write(fileName, damaged);
     user.whenToldWithCaption("CIS/2 names of sections").presses(IDOK);
     EXPECT_TRUE(run("Phase", "2", IDOK));
+    EXPECT_FALSE(data.areSectionNamesKnown) << "so none can be added, which would be lost";
     EXPECT_EQ(data.phase, 2);
     EXPECT_EQ(library.read(fileName), damaged);
 }

@@ -245,6 +245,64 @@ TEST_F(EntryLists, ACellOfAHeadingCanBeTypedIntoWhenAValueTakesItsPlace) {
     EXPECT_EQ(data.stdGenFilters(), (Vor_StringArray{""}));
 }
 
+TEST_F(EntryLists, CutsComeAndGoInTheModulesThatCanHaveThem) {
+    MacroCutsDialog dialog;
+    dialog.data().cuts = {{"Plate1", {"Cope", TwCutType::plane, {-5}}}};
+    dialog.data().moduleNames = {"Plate1", "Plate2"};
+    ASSERT_TRUE(dialog.create());
+    EXPECT_FALSE(dialog.isChanged());
+    moveTo(dialog, "Plate1, Cope: Offset (mm)");
+    dialog.press(namedValuesInsert);
+    EXPECT_TRUE(dialog.isChanged());
+    dialog.press(namedValuesInsert);
+    enter(dialog, "Plate1, Cope_2: Module", "Plate2");
+    enter(dialog, "Plate2, Cope_2: Name", "COPE");
+    enter(dialog, "Plate2, COPE: Module", "Plate1");
+    EXPECT_GT(rowOf(dialog, "Plate1, COPE_2: Name"), 0) << "the name is taken there";
+    for (const char* bad : {"Cope_1", "cope", "", ".x"}) {
+        const size_t told = user.told().size();
+        enter(dialog, "Plate1, COPE_2: Name", bad);
+        EXPECT_EQ(user.told().size(), told + 1) << bad;
+    }
+    enter(dialog, "Plate1, COPE_2: Name", "cope_2");
+    enter(dialog, "Plate1, cope_2: Type of cut", "Round");
+    dialog.press(IDOK);
+    EXPECT_EQ(dialog.data().cuts,
+              (Vor_Array<MacroCut>{{"Plate1", {"Cope", TwCutType::plane, {-5}}},
+                                   {"Plate1", {"Cope_1", TwCutType::plane, {-5}}},
+                                   {"Plate1", {"cope_2", TwCutType::round, {}}}}));
+
+    MacroCutsDialog empty;
+    empty.data().moduleNames = {"Plate1"};
+    ASSERT_TRUE(empty.create());
+    empty.press(namedValuesInsert);
+    empty.press(namedValuesInsert);
+    EXPECT_EQ(empty.data().cuts,
+              (Vor_Array<MacroCut>{{"Plate1", {"Cut", TwCutType::plane, {}}},
+                                   {"Plate1", {"Cut_1", TwCutType::plane, {}}}}));
+    MacroCutsDialog fixed;
+    fixed.data().cuts = {{"Plate1", {"Cope", TwCutType::plane, {}}}};
+    ASSERT_TRUE(fixed.create());
+    EXPECT_EQ(gridOf(fixed).nrRows(), 2);
+    EXPECT_FALSE(fixed.press(namedValuesInsert));
+}
+
+TEST_F(EntryLists, ConstraintsHaveNamesThatAMacroTakes) {
+    EditConstrDialog dialog;
+    ASSERT_TRUE(dialog.create());
+    dialog.press(namedValuesInsert);
+    enter(dialog, "Constraint: Name", "Gap");
+    dialog.press(namedValuesInsert);
+    enter(dialog, "Gap_1 (mm)", "5");
+    enter(dialog, "Gap_1: Name", "GAP");
+    EXPECT_EQ(user.told().size(), 1u);
+    EXPECT_EQ(user.told()[0].text,
+              "\"Gap_1: Name\" does not take \"GAP\". Type another value, or cancel.");
+    enter(dialog, "Gap_1: Name", "Pitch");
+    dialog.press(IDOK);
+    EXPECT_EQ(dialog.data().constraints, (Vor_Array<EditConstraint>{{"Gap"}, {"Pitch", 5}}));
+}
+
 TEST_F(EntryLists, CopiesHaveNamesOfTheirOwn) {
     ProfFeaturesDialog features;
     features.data().features = {{"Hole", true, 100, 18}, {"hole_1", true, 200, 18}};

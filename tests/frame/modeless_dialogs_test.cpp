@@ -168,7 +168,7 @@ TEST_F(MacroDialogs, ConstraintsApplyOnOkAndCloseThemselves) {
     data.apply = [&](const EditConstrData& edited) { applied = edited.constraints[0].value; };
     ASSERT_TRUE(StartDlgEditConstraints(data));
     auto* grid = dynamic_cast<Vor_Spread*>(opened(0)->item(namedValuesGrid));
-    ASSERT_TRUE(grid && grid->userEnters(valueColumn, 1, "12.5"));
+    ASSERT_TRUE(grid && grid->userEnters(valueColumn, 3, "12.5"));
     opened(0)->press(IDOK);
     EXPECT_EQ(applied, 12.5);
     EXPECT_EQ(data.constraints[0].value, 10);

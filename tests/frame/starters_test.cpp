@@ -141,7 +141,7 @@ std::vector<Case> cases() {
         {"advanced profiles", 8717, 1, "IPE-300", "L-50x50x5", advancedProfiles,
          Resources::asTheyAre},
         {"profiles of objects", 8718, 1, "IPE-300", "HEA-200", objectProfiles},
-        {"constraints", 8715, 1, "12.5", "10",
+        {"constraints", 8715, 3, "12.5", "10",
          over<EditConstrData>(StartDlgEditConstrModal, sampleConstraints(),
                               [](auto& d) { return Vor_String(d.constraints[0].value, 3); }),
          Resources::override, Copies::never},
@@ -236,7 +236,7 @@ TEST_F(Starters, ConstraintsAndProfileCutsHandTheirEditsToTheDatasOwnCall) {
     constraints.apply = [&](const EditConstrData& edited) { gap = edited.constraints[0].value; };
     user.whenOpens(8715)
         .does([](CDialog& dialog) {
-            dynamic_cast<Vor_Spread&>(*dialog.item(namedValuesGrid)).userEnters(2, 1, "4");
+            dynamic_cast<Vor_Spread&>(*dialog.item(namedValuesGrid)).userEnters(2, 3, "4");
         })
         .presses(IDOK);
     EXPECT_TRUE(StartDlgEditConstrModal(constraints));

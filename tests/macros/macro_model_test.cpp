@@ -36,6 +36,12 @@ TEST(MacroModel, RefusesBadOrTakenItems) {
     EXPECT_EQ(plate->setGroupName("a\x95"), Acad::eInvalidInput);
     EXPECT_TRUE(*plate == *same);
 
+    EXPECT_EQ(plate->setVariables({{"A", 1, true, true, {}}, {"a", 2, true, true, {}}}),
+              Acad::eInvalidInput);
+    EXPECT_EQ(plate->setCuts({{"A", TwCutType::plane, {}}, {"B", TwCutType::plane, {0, 1}}}),
+              Acad::eInvalidInput);
+    EXPECT_TRUE(*plate == *same);
+
     Vor_BoltModule bolts("B");
     EXPECT_EQ(bolts.addPattern({{}, "P", Vor_PatternType::row, 2, 1, false, false}),
               Acad::eInvalidInput);

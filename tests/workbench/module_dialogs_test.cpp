@@ -96,6 +96,12 @@ const Row rows[] = {
      }},
     {"cutstock", [] { return stockDialog(false); }},
     {"cutstock_saving", [] { return stockDialog(true); }},
+    {"levels",
+     [] {
+         auto dialog = std::make_unique<LevelsDialog>();
+         dialog->data().levels = {{"0.0 m", 0, true}, {"3.5 m", 3500, true}};
+         return std::unique_ptr<CDialog>(std::move(dialog));
+     }},
     {"bracing", [] { return std::unique_ptr<CDialog>(new BracingDialog); }},
     {"table",
      [] {

@@ -229,7 +229,7 @@ TEST_F(StartersTest, ChangesOfAMacroGoToItsPage) {
     EXPECT_EQ(run(StarterTitles::macro, type(1, "24")), Outcome::changed);
     EXPECT_EQ(asBoltModule(macro().findModule("Bolts"))->boltDiameter(), 24);
     EXPECT_TRUE(page->isChanged());
-    EXPECT_EQ(run(constraintsModal, type(1, "321")), Outcome::changed);
+    EXPECT_EQ(run(constraintsModal, type(3, "321")), Outcome::changed);
     EXPECT_EQ(page->value("Plate.Height"), "321");
     EXPECT_EQ(run(profilesOfObjects, type(1, "IPE-400")), Outcome::changed);
     EXPECT_EQ(data().member().sectionName, "IPE-400");
@@ -240,20 +240,87 @@ TEST_F(StartersTest, CutsChangeWithTheirType) {
     openProgram();
     EXPECT_EQ(run(macroCuts,
                   [&](QWidget& shown) {
-                      valuesOf(shown).grid().setData(namedValuesValueColumn, 2, "-7.5");
+                      valuesOf(shown).grid().setData(namedValuesValueColumn, 5, "-7.5");
                       valuesOf(shown).press(IDOK);
                   }),
               Outcome::cancelled)
         << "nothing was changed by the user";
     EXPECT_EQ(run(macroCuts,
                   [&](QWidget& shown) {
-                      QTest::keyClick(QApplication::focusWidget(), Qt::Key_Down);
+                      for (int i = 0; i < 3; ++i)  // module, name, type
+                          QTest::keyClick(QApplication::focusWidget(), Qt::Key_Down);
                       QTest::keyClicks(QApplication::focusWidget(), "-7.5");
                       QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
                       press(shown, IDOK);
                   }),
               Outcome::changed);
     EXPECT_EQ(macro().findModule("Plate1")->findCut("Cope")->offsets[cutOffset], -7.5);
+}
+
+TEST_F(StartersTest, EntriesComeAndGoByKeysThatATextKeepsForItself) {
+    openProgram();
+    const Outcome outcome = run(levels, [&](QWidget& shown) {
+        Vor_Spread& grid = valuesOf(shown).grid();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&shown) && grid.hasFocus());
+        const auto press = [](Qt::Key key) {
+            QTest::keyClick(QApplication::focusWidget(), key);
+            QTest::qWait(20);
+        };
+        const int before = grid.nrRows();
+        QTest::keyClicks(QApplication::focusWidget(), "Cellar");
+        press(Qt::Key_Home);
+        press(Qt::Key_Insert);
+        press(Qt::Key_Delete);
+        EXPECT_EQ(grid.nrRows(), before);
+        press(Qt::Key_Return);
+        press(Qt::Key_Insert);
+        EXPECT_EQ(grid.nrRows(), before + 3);
+        press(Qt::Key_Down);
+        QTest::keyClicks(QApplication::focusWidget(), "-2500");
+        press(Qt::Key_Return);
+        for (int i = 0; i < 2; ++i) {
+            grid.userMoves(namedValuesValueColumn, grid.nrRows());
+            press(Qt::Key_Delete);
+        }
+        EXPECT_EQ(grid.nrRows(), before - 3);
+        StartersTest::press(shown, IDOK);
+    });
+    EXPECT_EQ(outcome, Outcome::changed);
+    const auto& made = data().objects.levels->levels;
+    ASSERT_EQ(made.length(), 2);
+    EXPECT_EQ(made[0].name, "ellar");
+    EXPECT_EQ(made[1], (TwLevel{"ellar", -2500, true}));
+}
+
+TEST_F(StartersTest, CutsAndConstraintsThatComeOrGoDoSoInTheMacro) {
+    openProgram();
+    const auto at = [](int row, int button, std::initializer_list<const char*> texts) {
+        return [=](QWidget& shown) {
+            NamedValuesDialog& dialog = valuesOf(shown);
+            dialog.grid().userMoves(namedValuesValueColumn, row);
+            dialog.press(button);
+            int next = dialog.grid().currentRow();
+            for (const char* text : texts)
+                EXPECT_TRUE(dialog.grid().userEnters(namedValuesValueColumn, next++, text)) << text;
+            dialog.press(IDOK);
+        };
+    };
+    const Vor_Array<CutConstraint> cuts = macro().findModule("Plate1")->cuts();
+    EXPECT_EQ(run(macroCuts, at(2, namedValuesInsert, {"Plate1", "Own", "Round", "12"})),
+              Outcome::changed);
+    const CutConstraint* own = macro().findModule("Plate1")->findCut("Own");
+    ASSERT_TRUE(own);
+    EXPECT_EQ(own->offsets[cutRadius], 12);
+    EXPECT_EQ(run(macroCuts, at(8, namedValuesDelete, {})), Outcome::changed);
+    EXPECT_EQ(macro().findModule("Plate1")->cuts(), cuts);
+
+    const Vor_Array<ConstraintVariable> before = macro().module(0).variables();
+    EXPECT_EQ(run(constraintsModal, at(2, namedValuesInsert, {"Own", "7.5"})), Outcome::changed);
+    const ConstraintVariable* variable = macro().module(0).findVariable("Own");
+    ASSERT_TRUE(variable);
+    EXPECT_EQ(variable->value, 7.5);
+    EXPECT_EQ(run(constraintsModal, at(5, namedValuesDelete, {})), Outcome::changed);
+    EXPECT_EQ(macro().module(0).variables(), before);
 }
 
 // --- modeless dialogs ---------------------------------------------------------------------------

@@ -46,6 +46,32 @@ Outcome destroyAllMacros(ModuleData& data) {
 
 namespace {
 
+/// What the dialog cannot know: how much a module may hold.
+void tellUnlessOk(ErrorStatus status, const Vor_String& module) {
+    constexpr int keptText = 26932;
+    if (status == Acad::eOk) return;
+    Vor_String message = dialString(keptText);
+    message.replaceSubString("%1", module);
+    acutPrint(message + "\n");
+}
+
+/// A new one, or that of the module with the edited values. One without a button stays so.
+ConstraintVariable variableOf(const EditConstraint& edited, const Vor_Module& module) {
+    const Vor_FlexState flex = edited.isFixed ? Vor_FlexState::fixed : Vor_FlexState::flexible;
+    const ConstraintVariable* before = module.findVariable(edited.name);
+    if (!before) return {edited.name, edited.value, true, true, flex};
+    const bool hasButton = before->flex != Vor_FlexState::none;
+    return {edited.name, edited.value, before->inDialog, before->isEditable,
+            hasButton ? flex : Vor_FlexState::none};
+}
+
+void setConstraints(Vor_Module& module, const EditConstrData& confirmed) {
+    Vor_Array<ConstraintVariable> variables;
+    for (const EditConstraint& each : confirmed.constraints)
+        variables.append(variableOf(each, module));
+    tellUnlessOk(module.setVariables(std::move(variables)), module.name());
+}
+
 /// Those of the first module that has any; confirmed ones go into the macro.
 EditConstrData constraintsOf(runs::MacroRun& run, ModuleData& data) {
     EditConstrData edited;
@@ -60,11 +86,7 @@ EditConstrData constraintsOf(runs::MacroRun& run, ModuleData& data) {
     edited.apply = [&data, path = run.path()](const EditConstrData& confirmed) {
         data.changeMacro(path, [&](Vor_DbMacro& dbMacro) {
             Vor_Module* module = dbMacro.macroWrite()->findModuleWrite(confirmed.moduleName);
-            if (!module) return;
-            for (const EditConstraint& each : confirmed.constraints) {
-                module->setVariable(each.name, each.value);
-                module->setFixed(each.name, each.isFixed);  // refused where there is no button
-            }
+            if (module) setConstraints(*module, confirmed);
         });
     };
     return edited;
@@ -94,21 +116,38 @@ Outcome endConstraints(ModuleData&) {
 
 // --- cuts and members ---------------------------------------------------------------------------
 
+namespace {
+
+DlgMacroCutsData cutsOf(const Vor_Macro& macro) {
+    DlgMacroCutsData made;
+    for (int i = 0; i < macro.moduleCount(); ++i) {
+        const Vor_Module& module = macro.module(i);
+        made.moduleNames.append(module.name());
+        for (const CutConstraint& cut : module.cuts()) made.cuts.append({module.name(), cut});
+    }
+    return made;
+}
+
+void setCuts(Vor_Macro& macro, const DlgMacroCutsData& edited) {
+    for (const Vor_String& name : edited.moduleNames) {
+        Vor_Array<CutConstraint> cuts;
+        for (const MacroCut& each : edited.cuts)
+            if (each.moduleName.equal(name)) cuts.append(each.cut);
+        if (Vor_Module* module = macro.findModuleWrite(name))
+            tellUnlessOk(module->setCuts(std::move(cuts)), name);
+    }
+}
+
+}  // namespace
+
 Outcome macroCuts(ModuleData& data) {
     runs::MacroRun* run = data.macro();
     if (!run) return Outcome::noMacro;
-    DlgMacroCutsData edited;
-    const Vor_Macro& macro = *run->macro().macroRead();
-    for (int i = 0; i < macro.moduleCount(); ++i)
-        for (const CutConstraint& cut : macro.module(i).cuts())
-            edited.cuts.append({macro.module(i).name(), cut});
+    DlgMacroCutsData edited = cutsOf(*run->macro().macroRead());
     bool isChanged = false;
     if (!StartDlgMacroCuts(edited, isChanged) || !isChanged) return Outcome::cancelled;
-    data.changeMacro(run->path(), [&](Vor_DbMacro& dbMacro) {
-        for (const MacroCut& each : edited.cuts)
-            if (Vor_Module* module = dbMacro.macroWrite()->findModuleWrite(each.moduleName))
-                module->setCut(each.cut);
-    });
+    data.changeMacro(run->path(),
+                     [&](Vor_DbMacro& dbMacro) { setCuts(*dbMacro.macroWrite(), edited); });
     return Outcome::changed;
 }
 

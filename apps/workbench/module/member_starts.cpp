@@ -103,8 +103,9 @@ TwDlgCis2Data cis2Of(const Vor_PrPl& member) {
 
 Outcome memberFeatures(ModuleData& data) {
     auto& edited = data.objects.memberFeatures;
+    if (!edited && !data.macro()) return Outcome::noMacro;
     if (!edited) edited = featuresOf(data);
-    return edited->features.isEmpty() ? Outcome::noMacro : changedIf(StartDlgProfFeatures(*edited));
+    return changedIf(StartDlgProfFeatures(*edited));
 }
 
 namespace {

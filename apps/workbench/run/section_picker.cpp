@@ -8,6 +8,7 @@
 
 #include "core_api/sections/section_tables.h"
 #include "shell/words.h"
+#include "window/dialog_buttons.h"
 #include "window/dialog_font.h"
 #include "window/say.h"
 
@@ -28,18 +29,12 @@ SectionPicker::SectionPicker(const QString& present, QWidget* parent) : QDialog(
     connect(m_tables, &QListWidget::currentRowChanged, this, [this](int row) { showTable(row); });
     connect(m_sizes, &QTableWidget::itemDoubleClicked, this, [this] { accept(); });
 
-    auto* buttons = new QDialogButtonBox;
-    buttons->addButton(say(1), QDialogButtonBox::AcceptRole);
-    buttons->addButton(say(2), QDialogButtonBox::RejectRole);
-    connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
-    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
-
     auto* lists = new QHBoxLayout;
     lists->addWidget(m_tables);
     lists->addWidget(m_sizes, 1);
     auto* layout = new QVBoxLayout(this);
     layout->addLayout(lists, 1);
-    layout->addWidget(buttons);
+    layout->addWidget(dialogButtons(*this));
     m_tables->setCurrentRow(0);
     select(present);
 }

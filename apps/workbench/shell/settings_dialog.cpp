@@ -11,6 +11,7 @@
 
 #include "core_api/texts/texts.h"
 #include "shell/words.h"
+#include "window/dialog_buttons.h"
 #include "window/dialog_font.h"
 #include "window/say.h"
 
@@ -56,12 +57,7 @@ SettingsDialog::SettingsDialog(const WorkbenchSettings& settings, QWidget* paren
     m_diagnostics->setChecked(settings.diagnostics);
     form->addRow(QString(), m_diagnostics);
 
-    auto* buttons = new QDialogButtonBox;
-    buttons->addButton(say(1), QDialogButtonBox::AcceptRole);
-    buttons->addButton(say(2), QDialogButtonBox::RejectRole);
-    connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
-    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
-    form->addRow(buttons);
+    form->addRow(dialogButtons(*this));
 }
 
 void SettingsDialog::chooseFolder() {

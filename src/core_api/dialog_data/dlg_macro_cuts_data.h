@@ -2,7 +2,7 @@
 #pragma once
 
 #include "core_api/macros/cut_constraint.h"
-#include "core_api/text/vor_array.h"
+#include "core_api/text/vor_string_array.h"
 
 struct MacroCut {
     Vor_String moduleName;
@@ -16,4 +16,6 @@ class VORMANT_API DlgMacroCutsData {
     virtual ~DlgMacroCutsData() = default;
 
     Vor_Array<MacroCut> cuts;
+    /// The modules that can have cuts. Without them cuts are changed, but neither come nor go.
+    Vor_StringArray moduleNames;
 };

@@ -1,5 +1,7 @@
 #include "core_api/macros/vor_module.h"
 
+#include <utility>
+
 #include "core_api/macros/named_items.h"
 
 namespace {
@@ -15,6 +17,18 @@ bool areCutOffsetsGood(const CutConstraint& cut) {
         if (!good) return false;
     }
     return true;
+}
+
+/// `add` adds to `items`, whose old ones come back when it refuses one.
+template <class Item, class Add>
+ErrorStatus replaceAll(Vor_Array<Item>& items, const Vor_Array<Item>& others, Add add) {
+    Vor_Array<Item> before = std::exchange(items, {});
+    for (const Item& each : others) {
+        if (add(each) == Acad::eOk) continue;
+        items = std::move(before);
+        return Acad::eInvalidInput;
+    }
+    return Acad::eOk;
 }
 
 }  // namespace
@@ -63,12 +77,13 @@ ErrorStatus Vor_Module::setVariable(const ConstraintVariable& variable) {
     return Acad::eOk;
 }
 
-ErrorStatus Vor_Module::setCut(const CutConstraint& cut) {
-    CutConstraint* old = findNamed(m_cuts, cut.name);
-    if (!old || !areCutOffsetsGood(cut)) return Acad::eInvalidInput;
-    old->type = cut.type;  // the name stays as it was spelt when it was added
-    old->offsets = cut.offsets;
-    return Acad::eOk;
+ErrorStatus Vor_Module::setVariables(Vor_Array<ConstraintVariable> variables) {
+    return replaceAll(m_variables, variables,
+                      [this](const auto& each) { return addVariable(each); });
+}
+
+ErrorStatus Vor_Module::setCuts(Vor_Array<CutConstraint> cuts) {
+    return replaceAll(m_cuts, cuts, [this](const auto& each) { return addCut(each); });
 }
 
 ErrorStatus Vor_Module::setCutOffset(std::string_view name, TwCutOffsetType offset, double value) {

@@ -43,10 +43,11 @@ class VORMANT_API Vor_Module {
     ErrorStatus setVariable(std::string_view name, double value);
     /// Puts `variable` with its flags in the place of the one of its name.
     ErrorStatus setVariable(const ConstraintVariable& variable);
-    /// Puts `cut` in the place of the one of its name; eInvalidInput, with the old one kept, for a
-    /// value that its type lacks or out of range.
-    ErrorStatus setCut(const CutConstraint& cut);
     ErrorStatus setCutOffset(std::string_view name, TwCutOffsetType offset, double value);
+    /// Puts these in the place of all; eInvalidInput, with the old ones kept, when one of them
+    /// could not be added.
+    ErrorStatus setVariables(Vor_Array<ConstraintVariable> variables);
+    ErrorStatus setCuts(Vor_Array<CutConstraint> cuts);
     /// For a variable with a flex/fix button; eInvalidInput for any other.
     ErrorStatus setFixed(std::string_view name, bool fixed);
 

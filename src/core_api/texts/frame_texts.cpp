@@ -144,6 +144,19 @@ constexpr TextRow rows[] = {
     {21128, {"Offset at end", "Afstand eind", "Abstand am Ende", "Décalage à la fin"}},
     {21129, {"Gusset thickness", "Dikte schetsplaat", "Knotenblechdicke", "Épaisseur du gousset"}},
     {21130, {"Bolted", "Gebout", "Geschraubt", "Boulonné"}},
+    {26930, {"Cut", "Snede", "Schnitt", "Coupe"}},
+    {26931, {"Constraint", "Randvoorwaarde", "Abhängigkeit", "Contrainte"}},
+    {26932,
+     {"\"%1\" stays as it was: a module takes at most 1000 entries of a kind, with names of at "
+      "most "
+      "255 characters.",
+      "\"%1\" blijft zoals het was: een module heeft hoogstens 1000 regels van een soort, met "
+      "namen "
+      "van hoogstens 255 tekens.",
+      "\"%1\" bleibt, wie es war: Ein Modul hat höchstens 1000 Einträge einer Art, mit Namen von "
+      "höchstens 255 Zeichen.",
+      "\"%1\" reste tel quel : un module contient au plus 1000 éléments par type, aux noms de 255 "
+      "caractères au plus."}},
 };
 
 }  // namespace

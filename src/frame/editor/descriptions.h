@@ -17,7 +17,7 @@
 #include "frame/editor/editor_data.h"
 #include "frame/editor/named_value.h"
 
-// Macros: macro_descriptions.cpp.
+// Macros: macro_descriptions.cpp, macro_list_descriptions.cpp.
 NamedValues describe(MacroData& data);
 NamedValues describe(AdvancedProfiles& data);
 NamedValues describe(ObjectProfile& data);

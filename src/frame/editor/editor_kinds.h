@@ -4,8 +4,8 @@
 #include "frame/editor/named_values_dialog.h"
 
 inline constexpr EditorKind macroEditor = editorKind(8131, 21010, "DLG_MACRO");
-inline constexpr EditorKind constraintsEditor = editorKind(8715, 21011, "DLG_EDITCONSTR");
-inline constexpr EditorKind cutsEditor = editorKind(8716, 21012, "DLG_MACROCUTS");
+inline constexpr EditorKind constraintsEditor = listEditorKind(8715, 21011, "DLG_EDITCONSTR");
+inline constexpr EditorKind cutsEditor = listEditorKind(8716, 21012, "DLG_MACROCUTS");
 inline constexpr EditorKind advancedProfilesEditor = editorKind(8717, 21013, "DLG_PROFADV");
 inline constexpr EditorKind objectProfileEditor = editorKind(8718, 21013, "DLG_PROFADVOBJECTS");
 inline constexpr EditorKind profCutsEditor = editorKind(8719, 21014, "DLG_PROFCUTS");

@@ -1,13 +1,11 @@
 #include "core_api/text/text_helpers.h"
 #include "frame/editor/descriptions.h"
-#include "frame/editor/entry_list.h"
 
 namespace {
 
-constexpr int fixedText = 21040, diameterText = 21059, holeOffsetText = 21060,
-              firstBoltsText = 21061, secondBoltsText = 21062, sectionText = 21063,
-              materialText = 21064, memberNameText = 21065, forAllText = 21066, cutTypeText = 21041;
-constexpr int firstOffsetWord = 21042;  // nine, in the order of TwCutOffsetType
+constexpr int diameterText = 21059, holeOffsetText = 21060, firstBoltsText = 21061,
+              secondBoltsText = 21062, sectionText = 21063, materialText = 21064,
+              memberNameText = 21065, forAllText = 21066;
 constexpr int highestCount = 1000;
 
 Vor_String named(const Vor_String& owner, int text) {
@@ -90,63 +88,6 @@ NamedValues describeProfiles(MacroTabData& tab, const Vor_String& onlyGroup) {
     return values;
 }
 
-/// Offsets that the new type lacks count for nothing and go.
-void setCutType(CutConstraint& cut, TwCutType type) {
-    cut.type = type;
-    for (int i = 0; i < cutOffsetCount; ++i)
-        if (!hasCutOffset(type, static_cast<TwCutOffsetType>(i)))
-            cut.offsets[static_cast<size_t>(i)] = 0;
-}
-
-NamedValue cutOffsetValue(CutConstraint& cut, TwCutOffsetType offset) {
-    const bool isLength = !isCutOffsetInRange(offset, -1);
-    double& value = cut.offsets[static_cast<size_t>(offset)];
-    return numberValue(firstOffsetWord + offset, value, isLength ? lengths : distances);
-}
-
-NamedValues describeCut(CutConstraint& cut, const Vor_String& owner) {
-    NamedValue type = choice(
-        cutTypeText, {21051, 21052, 21053, 21054, 21055, 21056, 21057},
-        [&cut] { return static_cast<int>(cut.type); },
-        [&cut](int index) { setCutType(cut, static_cast<TwCutType>(index)); });
-    type.reshapes = true;
-    NamedValues values{type.of(owner)};
-    AcArray<TwCutOffsetType> offsets;
-    getCutOffsets(cut.type, offsets);
-    for (const TwCutOffsetType offset : offsets)
-        values.push_back(cutOffsetValue(cut, offset).of(owner));
-    return values;
-}
-
-struct Column {
-    int heading;
-    Vor_StringArray* texts;
-};
-
-/// Entries that lie in several lists parallel by index; the first list has their names.
-NamedValues parallelLists(int heading, const std::vector<Column>& columns) {
-    Vor_StringArray& names = *columns[0].texts;
-    for (const Column& each : columns)
-        if (each.texts->length() < names.length()) each.texts->setLength(names.length());
-    const auto insert = [columns, &names](int from, int to) {
-        const Vor_String name = from < 0 ? Vor_String() : freeName(names, names[from]);
-        for (const Column& each : columns)
-            each.texts->insertAt(to, from < 0 ? Vor_String() : (*each.texts)[from]);
-        names[to] = name;
-    };
-    const auto remove = [columns](int index) {
-        for (const Column& each : columns) each.texts->removeAt(index);
-    };
-    return listValues(heading, EntryList{names.length(), insert, remove}, [&](int index) {
-        const Vor_String owner = entryOwner(names[index], index);
-        NamedValues rows;
-        for (const Column& each : columns)
-            rows.push_back(textValue(each.heading, (*each.texts)[index]).of(owner));
-        rows[0].reshapes = true;
-        return rows;
-    });
-}
-
 }  // namespace
 
 NamedValues describe(MacroData& data) {
@@ -184,46 +125,8 @@ NamedValues describe(ObjectProfile& data) {
             yesNoValue(forAllText, data.forAll)};
 }
 
-NamedValues describe(DlgMacroCutsData& data) {
-    NamedValues values;
-    for (MacroCut& each : data.cuts)
-        add(values, describeCut(each.cut, each.moduleName + ", " + each.cut.name));
-    return values;
-}
-
-NamedValues describe(DynArrayData& data) {
-    NamedValues values{choiceValue(21070, data.mode, {21071, 21072})};
-    for (int i = 0; i < DynArrayData::textCount; ++i)
-        values.push_back(textValue(21073 + i, data.texts[static_cast<size_t>(i)]));
-    add(values, listValues(21071, data.entries, [](Vor_String& distance, int index) -> NamedValues {
-            return {textValue(dialString(21078) + " " + Vor_String(index + 1, 0), distance)};
-        }));
-    return values;
-}
-
-NamedValues describe(EditConstrData& data) {
-    NamedValues values;
-    for (EditConstraint& each : data.constraints) {
-        values.push_back(numberValue(each.name, each.value, each.isAngle ? angles : distances));
-        values.push_back(yesNoValue(fixedText, each.isFixed).of(each.name));
-    }
-    return values;
-}
-
 NamedValues describe(MacroChoice& data) {
     NamedValues values{indexValue(87, data.chosen, data.names)};
     if (data.hasAlternative) values.push_back(yesNoValue(1309, data.isAlternative));
-    return values;
-}
-
-NamedValues describe(TwAutoStandardsData& data) {
-    constexpr int nameText = 87, valueText = 86, filterText = 347, overrideText = 1765;
-    NamedValues values = parallelLists(1762, {{nameText, &data.dwgGenVars()},
-                                              {valueText, &data.dwgGenValues()},
-                                              {filterText, &data.dwgGenFilters()}});
-    add(values, parallelLists(1763, {{nameText, &data.stdGenVars()},
-                                     {valueText, &data.stdGenValues()},
-                                     {overrideText, &data.stdGenOverrides()},
-                                     {filterText, &data.stdGenFilters()}}));
     return values;
 }

@@ -4,29 +4,6 @@
 
 #include "core_api/text/text_helpers.h"
 
-namespace {
-
-NamedValue chosen(const Vor_String& name, Vor_StringArray words, std::function<int()> read,
-                  std::function<void(int)> write) {
-    NamedValue made;
-    made.kind = NamedValue::Kind::choice;
-    made.name = name;
-    made.choices = std::move(words);
-    made.read = [words = made.choices, read = std::move(read)] {
-        const int index = read();
-        return words.isIndex(index) ? words[index] : Vor_String();
-    };
-    made.write = [words = made.choices, write = std::move(write)](const Vor_String& text) {
-        const int index = words.find(text, true);
-        if (index < 0) return false;
-        write(index);
-        return true;
-    };
-    return made;
-}
-
-}  // namespace
-
 NamedValue& NamedValue::of(const Vor_String& owner) {
     if (!owner.isEmpty()) name = owner + ": " + name;
     return *this;
@@ -97,14 +74,33 @@ NamedValue yesNoValue(const ValueName& name, bool& value) {
     return made;
 }
 
+NamedValue choice(const ValueName& name, const Vor_StringArray& words, std::function<int()> read,
+                  std::function<void(int)> write) {
+    NamedValue made;
+    made.kind = NamedValue::Kind::choice;
+    made.name = name.text;
+    made.choices = words;
+    made.read = [words, read = std::move(read)] {
+        const int index = read();
+        return words.isIndex(index) ? words[index] : Vor_String();
+    };
+    made.write = [words, write = std::move(write)](const Vor_String& text) {
+        const int index = words.find(text, true);
+        if (index < 0) return false;
+        write(index);
+        return true;
+    };
+    return made;
+}
+
 NamedValue indexValue(const ValueName& name, int& index, const Vor_StringArray& words) {
-    return chosen(
-        name.text, words, [&index] { return index; }, [&index](int picked) { index = picked; });
+    return choice(
+        name, words, [&index] { return index; }, [&index](int picked) { index = picked; });
 }
 
 NamedValue choice(const ValueName& name, std::initializer_list<int> words,
                   std::function<int()> read, std::function<void(int)> write) {
     Vor_StringArray texts;
     for (const int word : words) texts.append(dialString(word));
-    return chosen(name.text, std::move(texts), std::move(read), std::move(write));
+    return choice(name, texts, std::move(read), std::move(write));
 }

@@ -77,6 +77,8 @@ NamedValue wholeValue(const ValueName& name, int& value, int least, int most);
 NamedValue yesNoValue(const ValueName& name, bool& value);
 /// One of `words`; `index` counts from 0, -1 for none.
 NamedValue indexValue(const ValueName& name, int& index, const Vor_StringArray& words);
+NamedValue choice(const ValueName& name, const Vor_StringArray& words, std::function<int()> read,
+                  std::function<void(int)> write);
 NamedValue choice(const ValueName& name, std::initializer_list<int> words,
                   std::function<int()> read, std::function<void(int)> write);
 
