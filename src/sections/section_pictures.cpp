@@ -1,16 +1,21 @@
 #include "sections/section_pictures.h"
 
+#include <set>
 #include <utility>
 
 #include "core_api/files.h"
 #include "core_api/settings.h"
 #include "core_api/text/text_helpers.h"
+#include "core_api/texts/texts.h"
 #include "platform/files.h"
+#include "platform/host/host.h"
 #include "platform/window/controls.h"
 #include "sections/section_names.h"
 #include "sections/section_types.h"
 
 namespace {
+
+constexpr int wordNotKept = 26951;
 
 /// What the picture files of a section begin with.
 Vor_String pictureName(const Vor_String& drawnAs, const Vor_String& section) {
@@ -29,10 +34,19 @@ bool isOutOfDate(const Vor_String& copy, std::int64_t sourceTime) {
     return ObjectExportGetFileTime(copy, time) != Acad::eOk || time < sourceTime;
 }
 
-bool copyFile(const Vor_String& from, const Vor_String& to) {
-    std::string error;
+bool copyFile(const Vor_String& from, const Vor_String& to, std::string& error) {
     const auto bytes = files::readWhole(from, error);
     return bytes && files::createFolder(getPath(to), error) && files::writeWhole(to, *bytes, error);
+}
+
+/// Once for each section: its picture is wanted whenever a dialog shows it.
+void tellNotKept(const Vor_String& source, const std::string& why) {
+    static std::set<std::string> told;
+    if (!told.insert(source.str()).second) return;
+    Vor_String message = dialString(wordNotKept);
+    message.replaceSubString("%1", source);
+    message.replaceSubString("%2", why);
+    acutPrint((message + "\n").view());
 }
 
 }  // namespace
@@ -57,7 +71,11 @@ bool makeUserSectionPicture(const Vor_String& name, Vor_String& file) {
     std::int64_t sourceTime = 0;
     if (!staysInFolder(name) || ObjectExportGetFileTime(source, sourceTime) != Acad::eOk)
         return false;
-    if (isOutOfDate(iconPath(made), sourceTime) && !copyFile(source, iconPath(made))) return false;
+    std::string error;
+    if (isOutOfDate(iconPath(made), sourceTime) && !copyFile(source, iconPath(made), error)) {
+        tellNotKept(source, error);
+        return false;
+    }
     file = made;
     return true;
 }

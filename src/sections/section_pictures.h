@@ -18,7 +18,8 @@ VORMANT_API Vor_String sectionPicture(const Vor_String& drawnAs, const Vor_Strin
 
 /// Copies the picture of a user section (its name without folder and extension) from the library to
 /// the icons folder, unless the copy there is as new. False, with `file` as it was, when there is
-/// none or it cannot be copied; else `file` is the name of the copy.
+/// none or it cannot be copied, which is told on the command line (a program's own folder may be
+/// read-only); else `file` is the name of the copy.
 VORMANT_API bool makeUserSectionPicture(const Vor_String& name, Vor_String& file);
 
 /// The path of a picture in the icons folder.

@@ -1,11 +1,12 @@
 // Which picture a section shows, and how that of a user section gets to the others.
 #include "sections/section_pictures.h"
 
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
 #include "core_api/settings.h"
 #include "platform/window/controls.h"
 #include "sections/section_names.h"
+#include "support/printed.h"
 #include "support/temporary_folder.h"
 
 namespace {
@@ -77,7 +78,11 @@ TEST_F(SectionPictures, ThatCannotBeCopiedAreUnknown) {
     writeSource("first", seconds(0));
     fs::remove_all(folder.path() / "vor");
     folder.write("vor", "a file where the folder should be");
-    EXPECT_EQ(small("User Sections\\Box.dwg"), "Unknown-small.bmp");
+    Printed host;
+    const HostScope installed(host);
+    for (int i = 0; i < 2; ++i) EXPECT_EQ(small("User Sections\\Box.dwg"), "Unknown-small.bmp");
+    EXPECT_THAT(host.text, testing::HasSubstr("User Sections\\Box.bmp: the picture of this user "));
+    EXPECT_EQ(std::ranges::count(host.text, '\n'), 1) << "told once: " << host.text;
 }
 
 TEST_F(SectionPictures, AreNeverWrittenOutsideTheirFolder) {

@@ -3,9 +3,12 @@
 
 #include <gmock/gmock.h>
 
+#include "core_api/drawing/section_outline.h"
 #include "core_api/settings.h"
 #include "frame/starters.h"
 #include "platform/window/bitmap.h"
+#include "sections/section_area.h"
+#include "sections/section_check.h"
 #include "support/printed.h"
 #include "support/temporary_folder.h"
 #include "support/test_user.h"
@@ -253,6 +256,49 @@ TEST_F(SizeDialogTest, SaysWhatIsTakenOverWhenThereAreMoreValuesThanFields) {
     EXPECT_TRUE(run());
     EXPECT_EQ(table.rows[1][0], "6");
     EXPECT_EQ(table.rows[1][19], "13");
+}
+
+TEST_F(SizeDialogTest, SaysWhatNamesFromValuesLose) {
+    for (const auto& [name, hint] : std::initializer_list<std::pair<const char*, const char*>>{
+             {"HEA 220", ""},
+             {"HE 220 A",
+              "Made from its values, HE 220 A would be called HE 220. An own name can keep its "
+              "form."}}) {
+        table = wideFlanges();
+        table.setUserNames(1, name);
+        opens()
+            .does([hint = hint](CDialog& dialog) { EXPECT_EQ(text(dialog, Dlg::formLabel), hint); })
+            .presses(IDCANCEL);
+        run();
+    }
+}
+
+// The sizes of the sample library are called HE 220 A after the standard; people ask for HEA 225.
+TEST_F(SizeDialogTest, AddsASizeToTheSampleLibraryUnderEitherName) {
+    gSettings.setLibDir(VORMANT_SOURCE_DIR "/library/");
+    const struct {
+        bool isOwn;
+        const char* system;
+        const char* user;
+    } cases[] = {{false, "225", "HE 225"}, {true, "HEA 225", "HEA 225"}};
+    for (const auto& c : cases) {
+        ASSERT_TRUE(table.readFromFile("HEA"));
+        ASSERT_TRUE(table.findSysName("220", row));
+        auto& answer = opens();
+        answer.types(Dlg::firstValueField, "215").types(Dlg::firstValueField + 1, "225");
+        if (c.isOwn) answer.presses(Dlg::ownName).types(Dlg::nameField, c.user);
+        answer.presses(IDOK);
+        ASSERT_TRUE(run());
+        int added = -1;
+        ASSERT_TRUE(table.findSysName(c.system, added));
+        EXPECT_EQ(added, row) << "all sizes of the table are in use";
+        EXPECT_EQ(table.rows[added][2].str(), c.user);
+        EXPECT_EQ(table.rows[added - 1][0], c.isOwn ? "1000" : "220") << "sorted by its name";
+        EXPECT_TRUE(checkSectionTable(table).empty());
+        const double values[] = {215, 225, 7, 11, 18};
+        EXPECT_NEAR(sectionArea(table, added).value_or(0), *sectionArea(1, values), 1e-9);
+        EXPECT_FALSE(drawing::sectionOutline(1, values).isEmpty());
+    }
 }
 
 TEST_F(SizeDialogTest, ShowsThePictureOfTheType) {

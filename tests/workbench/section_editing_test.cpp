@@ -103,6 +103,25 @@ TEST_F(SectionEditing, AddsASizeThatIsThereTheNextDay) {
     EXPECT_EQ(width, "215");
 }
 
+TEST_F(SectionEditing, DrawsASizeOfAnOwnNameAndFindsItByThat) {
+    EXPECT_TRUE(page->select("HEA-220"));
+    const QImage before = page->drawing().figure().grab().toImage();
+    press(addSize, {[&](QWidget& dialog) {
+              fill(dialog, SizeDialog::firstValueField, "215");
+              fill(dialog, SizeDialog::firstValueField + 1, "225");
+              auto* own = dialog.findChild<QWidget*>(QString::number(SizeDialog::ownName));
+              QTest::mouseClick(own, Qt::LeftButton, {}, QPoint(8, own->height() / 2));
+              fill(dialog, SizeDialog::nameField, "HEA 225");
+              saveGrab(dialog, "own-name");
+              StartersTest::press(dialog, IDOK);
+          }});
+    EXPECT_EQ(page->section(), "HEA-HEA 225");
+    EXPECT_EQ(page->drawing().reason(), "");
+    EXPECT_NE(page->drawing().figure().grab().toImage(), before);
+    EXPECT_TRUE(gSectionTables.find("hea 225")) << "by the name that was typed";
+    saveGrab(*window, "own-name-drawn");
+}
+
 TEST_F(SectionEditing, CancelAddsNothing) {
     const std::string before = file();
     press(addSize, {[&](QWidget& dialog) {

@@ -93,6 +93,16 @@ constexpr TextRow rows[] = {
      {"Edit library…", "Bibliotheek bewerken…", "Bibliothek bearbeiten…",
       "Modifier la bibliothèque…"}},
     {25331, {"Add size…", "Maat toevoegen…", "Größe hinzufügen…", "Ajouter une taille…"}},
+    {26950,
+     {"Made from its values, %1 would be called %2. An own name can keep its form.",
+      "Uit zijn waarden gemaakt zou %1 %2 heten. Een eigen naam kan de vorm houden.",
+      "Aus seinen Werten gebildet hieße %1 nur %2. Ein eigener Name kann die Form behalten.",
+      "Formé de ses valeurs, %1 s'appellerait %2. Un nom libre peut garder sa forme."}},
+    {26951,
+     {"%1: the picture of this user section cannot be kept; it is shown without one: %2",
+      "%1: de afbeelding van dit eigen profiel kan niet worden bewaard en wordt niet getoond: %2",
+      "%1: das Bild dieses eigenen Profils kann nicht abgelegt werden und wird nicht gezeigt: %2",
+      "%1 : l'image de ce profilé propre ne peut pas être conservée et n'est pas montrée : %2"}},
 };
 
 }  // namespace

@@ -69,4 +69,5 @@ enum SectionDialogWord {
     wordSizeTaken = 25322,
     wordNoNumber = 25323,
     wordIncomplete = 25324,
+    wordOtherForm = 26950,
 };

@@ -18,7 +18,7 @@ using Dlg = SizeDialog;
 constexpr int valuesTop = 7, valueHeight = 17;
 
 constexpr auto makeControls() {
-    std::array<ControlTemplate, 2 * Dlg::mostValues + 9> made{};
+    std::array<ControlTemplate, 2 * Dlg::mostValues + 10> made{};
     size_t at = 0;
     for (int i = 0; i < Dlg::mostValues; ++i) {
         const int top = valuesTop + i * valueHeight;
@@ -35,14 +35,15 @@ constexpr auto makeControls() {
     made[at++] = {Control::radioButton, Dlg::ownName, dialText(wordOwnName), {208, 156, 168, 10}};
     made[at++] = {Control::label, Dlg::nameLabel, {}, {208, 173, 40, 10}};
     made[at++] = {Control::edit, Dlg::nameField, {}, {252, 171, 124, 13}};
-    made[at++] = {Control::label, Dlg::furtherLabel, {}, {7, 198, 238, 22}};
-    made[at++] = {Control::button, IDOK, dialText(wordOk), {258, 203, 60, 14}, styleDefault};
-    made[at++] = {Control::button, IDCANCEL, dialText(wordCancel), {324, 203, 60, 14}};
+    made[at++] = {Control::label, Dlg::formLabel, {}, {200, 195, 184, 22}};
+    made[at++] = {Control::label, Dlg::furtherLabel, {}, {7, 198, 186, 22}};
+    made[at++] = {Control::button, IDOK, dialText(wordOk), {258, 222, 60, 14}, styleDefault};
+    made[at++] = {Control::button, IDCANCEL, dialText(wordCancel), {324, 222, 60, 14}};
     return made;
 }
 constexpr auto controls = makeControls();
 constexpr DialogResource resource{
-    Dlg::resourceNumber, dialText(wordNewSize), {0, 0, 391, 224}, controls};
+    Dlg::resourceNumber, dialText(wordNewSize), {0, 0, 391, 243}, controls};
 
 }  // namespace
 
@@ -59,6 +60,7 @@ void SizeDialog::onInit() {
                        PictureSize::big);
     showValues();
     showFurtherValues();
+    showOtherForm();
     const Vor_StringArray row = pattern();
     const int column = currentNameColumn();
     if (row.isIndex(column)) item(nameField)->setText(row[column]);
@@ -109,6 +111,19 @@ void SizeDialog::showFurtherValues() {
     item(furtherLabel)->setText(text);
 }
 
+/// Some names have more to them than values, as HE 200 A has: what is made from values loses it.
+void SizeDialog::showOtherForm() {
+    const Vor_StringArray row = pattern();
+    const int column = currentNameColumn();
+    if (m_naming.values.isEmpty() || !row.isIndex(column)) return;
+    const Vor_String made = nameFromValues(typedValues());
+    if (made == row[column]) return;
+    Vor_String text = dialString(wordOtherForm);
+    text.replaceSubString("%1", row[column]);
+    text.replaceSubString("%2", made);
+    item(formLabel)->setText(text);
+}
+
 // --- what is typed ------------------------------------------------------------------------------
 
 bool SizeDialog::isNamedByValues() const {
@@ -121,12 +136,16 @@ Vor_StringArray SizeDialog::typedValues() const {
     return values;
 }
 
-void SizeDialog::showName() {
-    if (!isNamedByValues()) return;
+/// In the working language.
+Vor_String SizeDialog::nameFromValues(const Vor_StringArray& values) const {
     const int language = currentNameColumn() - Vor_ProfValuesTable::firstNameColumn;
     const Vor_String prefix =
         m_naming.prefixes.isIndex(language) ? m_naming.prefixes[language] : Vor_String();
-    item(nameField)->setText(prefix + m_naming.nameOf(typedValues()));
+    return prefix + m_naming.nameOf(values);
+}
+
+void SizeDialog::showName() {
+    if (isNamedByValues()) item(nameField)->setText(nameFromValues(typedValues()));
 }
 
 NewSize SizeDialog::typedSize() const {

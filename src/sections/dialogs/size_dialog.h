@@ -24,6 +24,7 @@ class SizeDialog : public CDialog {
         ownName = 1005,
         sectionPictureItem = 1006,
         furtherLabel = 1007,
+        formLabel = 1008,
         firstValueLabel = 1020,  ///< and those after it
         firstValueField = 1040,
     };
@@ -46,6 +47,8 @@ class SizeDialog : public CDialog {
     int shownValues() const;
     void showValues();
     void showFurtherValues();
+    void showOtherForm();
+    Vor_String nameFromValues(const Vor_StringArray& values) const;
     void showName();
     Vor_StringArray typedValues() const;
     NewSize typedSize() const;
