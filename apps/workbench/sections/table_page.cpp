@@ -6,6 +6,7 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
+#include "core_api/settings.h"
 #include "core_api/text/text_helpers.h"
 #include "core_api/texts/texts.h"
 #include "platform/paths.h"
@@ -36,6 +37,13 @@ class ValueItem : public QStandardItem {
         return order.compare(text(), other.text()) < 0;
     }
 };
+
+/// Which library is open says the window.
+Vor_String inLibrary(const Vor_String& path) {
+    const Vor_String& library = gSettings.libDir();
+    return !library.isEmpty() && path.beginsWith(library) ? path.getSubStringAt(library.length())
+                                                          : path;
+}
 
 }  // namespace
 
@@ -76,7 +84,11 @@ QWidget* TablePage::makeHeading(const Vor_String& path) {
     auto* heading = new QWidget;
     auto* line = new QHBoxLayout(heading);
     line->setContentsMargins(4, 2, 4, 2);
-    auto* file = new QLabel(QString::fromStdString(paths::asWritten(path)));
+    const auto shown = [](const Vor_String& each) {
+        return QString::fromStdString(paths::asWritten(each));
+    };
+    auto* file = new QLabel(shown(inLibrary(path)));
+    file->setToolTip(shown(path));
     file->setTextInteractionFlags(Qt::TextSelectableByMouse);
     line->addWidget(file, 1);
     m_notOfLibrary = new QLabel(say(wordOnlyToLookAt));
