@@ -172,14 +172,15 @@ bool readRows(const Vor_String& path, Rows& rows, Vor_String& message) {
 
 bool saveItem(const DlgCSP2Data& data, int item, const FileKind& kind, const Vor_String& path,
               Vor_String& message) {
-    return saveRows(path, rowsOf(data.tables[kind.table], data.itemIds[item]), message);
+    return saveRows(path, rowsOf(data.tables[static_cast<size_t>(kind.table)], data.itemIds[item]),
+                    message);
 }
 
 bool readItem(DlgCSP2Data& data, int item, const FileKind& kind, const Vor_String& path,
               Vor_String& message) {
     Rows rows;
     const bool isRead = readRows(path, rows, message);
-    replaceRows(data.tables[kind.table], data.itemIds[item], rows);
+    replaceRows(data.tables[static_cast<size_t>(kind.table)], data.itemIds[item], rows);
     return isRead;
 }
 
