@@ -7,10 +7,13 @@
 #include <QFile>
 #include <QLineEdit>
 #include <QMenuBar>
+#include <QTableWidget>
 #include <QTemporaryDir>
 #include <QTest>
+#include <set>
 
 #include "core_api/settings.h"
+#include "macro/kind_words.h"
 #include "macro/macro_page.h"
 #include "run/run_page.h"
 #include "shell/main_window.h"
@@ -157,6 +160,26 @@ TEST_F(Workbench, RunsStandardsOnMacrosAndLeavesTheFileUntilSaved) {
     EXPECT_TRUE(page->save());
     EXPECT_NE(content(), before);
     EXPECT_FALSE(page->isChanged());
+}
+
+TEST_F(Workbench, ValuesOfMacrosAreOfAKindThatReadersUnderstand) {
+    for (const Language language :
+         {Language::english, Language::dutch, Language::german, Language::french}) {
+        gSettings.current().language = language;
+        std::set<QString> words;
+        for (int code = 1; mapTypeValueType(static_cast<TwMapType>(code)); ++code) {
+            const QString word = kindWord(static_cast<TwMapType>(code));
+            EXPECT_FALSE(word.isEmpty() || word.contains('#') || word.contains('%')) << code;
+            EXPECT_TRUE(words.insert(word).second) << word.toStdString();
+        }
+    }
+    gSettings.current().language = Language::german;
+    ASSERT_TRUE(m_window.openLibrary(VORMANT_SOURCE_DIR "/library"));
+    QWidget* page = m_window.openMacro(gSettings.libDir() + "Macros\\EndPlate.macro");
+    ASSERT_TRUE(page);
+    auto* objects = page->findChild<QTableWidget*>("macroObjects");
+    EXPECT_FALSE(objects->findItems("Schraubendurchmesser", Qt::MatchExactly).isEmpty());
+    gSettings.current().language = Language::english;
 }
 
 TEST_F(Workbench, SpeaksAnotherLanguageAtOnce) {

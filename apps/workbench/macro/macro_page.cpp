@@ -6,6 +6,7 @@
 #include <QVBoxLayout>
 
 #include "core_api/text/text_helpers.h"
+#include "macro/kind_words.h"
 #include "mapping/mapping_file.h"
 #include "mapping/start_mapping_dialog.h"
 #include "mapping/tw_ss_mapping.h"
@@ -146,7 +147,7 @@ void MacroPage::fillObjects() {
         const QString before =
             m_objects->item(row, valueColumn) ? m_objects->item(row, valueColumn)->text() : "";
         m_objects->setItem(row, objectColumn, new QTableWidgetItem(nameOf(object)));
-        m_objects->setItem(row, kindColumn, new QTableWidgetItem(toQt(mapTypeName(object.kind()))));
+        m_objects->setItem(row, kindColumn, new QTableWidgetItem(kindWord(object.kind())));
         auto* shown = new QTableWidgetItem(toQt(value));
         QFont font = dialogFont();
         font.setBold(!before.isEmpty() && before != shown->text());

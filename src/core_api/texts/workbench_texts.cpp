@@ -133,6 +133,17 @@ constexpr TextRow rows[] = {
      {"not in this library: only to look at", "niet in deze bibliotheek: alleen om te bekijken",
       "nicht in dieser Bibliothek: nur zum Ansehen",
       "pas dans cette bibliothèque : à consulter seulement"}},
+    {26964, {"Cut: %1", "Snede: %1", "Schnitt: %1", "Coupe : %1"}},
+    {26965, {"General variable", "Algemene variabele", "Allgemeine Variable", "Variable générale"}},
+    {26966,
+     {"Value of the section", "Maat van het profiel", "Maß des Profils", "Valeur du profilé"}},
+    {26967,
+     {"Reversed, first direction", "Omgekeerd, eerste richting", "Umgekehrt, erste Richtung",
+      "Inversé, première direction"}},
+    {26968,
+     {"Reversed, second direction", "Omgekeerd, tweede richting", "Umgekehrt, zweite Richtung",
+      "Inversé, seconde direction"}},
+    {26969, {"Bolt diameter", "Boutdiameter", "Schraubendurchmesser", "Diamètre des boulons"}},
 };
 
 }  // namespace
