@@ -3,6 +3,7 @@
 #include "core_api/text/text_helpers.h"
 #include "platform/files.h"
 #include "platform/host/host.h"
+#include "spread/tw_sheet_editor_dlg.h"
 #include "spread/tw_sheet_settings.h"
 #include "spread/vor_spread.h"
 
@@ -47,6 +48,7 @@ void startNewSheet(Vor_Spread& sheet, const Vor_String& settingsName) {
     const TwSheetSettings settings = settingsOf(settingsName);
     settings.writeToSheet(sheet);
     applyFont(sheet, settings);
+    if (auto* window = dynamic_cast<TwSheetEditorDlg*>(sheet.parent())) window->growToSheet();
 }
 
 void showTextTips(Vor_Spread& sheet) {

@@ -1,5 +1,7 @@
 #include "spread/tw_sheet_editor_dlg.h"
 
+#include <algorithm>
+
 #include "core_api/texts/dial_text.h"
 #include "core_api/texts/sheet_text_numbers.h"
 #include "platform/host/host.h"
@@ -28,6 +30,21 @@ TwSheetEditorDlg::~TwSheetEditorDlg() {
 
 void TwSheetEditorDlg::onInit() {
     m_spread.attach(this, gridItem, true);
+}
+
+void TwSheetEditorDlg::growToSheet() {
+    const control::Grid& grid = m_spread.grid();
+    const control::ViewSettings& view = grid.view();
+    int width = grid.colWidth(control::headerIndex) + Vor_Spread::scrollBarWidth;
+    int height = grid.rowHeight(control::headerIndex) + Vor_Spread::scrollBarWidth;
+    for (int col = 1; col <= std::min(view.visibleCols, grid.cols()); ++col)
+        width += grid.colWidth(col);
+    for (int row = 1; row <= std::min(view.visibleRows, grid.rows()); ++row)
+        height += grid.rowHeight(row);
+    CRect place = rect();
+    place.right += std::max(width - m_spread.rect().width(), 0);
+    place.bottom += std::max(height - m_spread.rect().height(), 0);
+    move(place);
 }
 
 bool TwSheetEditorHolder::open() {

@@ -15,6 +15,8 @@ class VORMANT_API TwSheetEditorDlg : public CDialog {
     ~TwSheetEditorDlg() override;
 
     Vor_Spread& spread() { return m_spread; }
+    /// Grows, if need be, until the sheet shows as many columns and rows as it wants to at first.
+    void growToSheet();
 
   protected:
     void onInit() override;

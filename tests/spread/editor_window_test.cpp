@@ -8,6 +8,7 @@
 #include "platform/window/window_system.h"
 #include "spread/editor/sheet_editor.h"
 #include "spread/find_replace_dlg.h"
+#include "spread/sheet_preparation.h"
 #include "spread/tw_sheet_editor_dlg.h"
 #include "support/temporary_folder.h"
 #include "support/test_user.h"
@@ -86,6 +87,20 @@ TEST_F(EditorWindow, OpensOnceAndLeavesTheKeyboardToTheHost) {
     EXPECT_TRUE(dialog->isVisible());
     TwSheetEditorHolder other;
     EXPECT_EQ(other.spread(), nullptr);
+}
+
+TEST_F(EditorWindow, GrowsUntilANewSheetShowsWhatItWantsToShow) {
+    const CSize before = grid->rect().size();
+    prepareSheet(*grid, "", true);
+    EXPECT_EQ(grid->rect().size(), before) << "four columns and five rows fit already";
+    grid->setNrCols(4, false);
+    for (int col = 1; col <= 4; ++col) grid->grid().setColWidth(col, 200);
+    grid->grid().setRowHeight(5, 500);
+    grid->grid().setRowHeight(6, 5000);
+    prepareSheet(*grid, "", true);
+    EXPECT_GE(grid->clientWidth(), 4 * 200 + grid->grid().colWidth(control::headerIndex));
+    EXPECT_GE(grid->rect().height(), 4 * 20 + 500);
+    EXPECT_LT(grid->rect().height(), 5000) << "the sixth row may lie below";
 }
 
 TEST_F(EditorWindow, FindsFromCellToCellAndInsideTheOneBeingEdited) {
