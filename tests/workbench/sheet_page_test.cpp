@@ -2,6 +2,8 @@
 #include <QHeaderView>
 #include <QInputDialog>
 #include <QTimer>
+#include <QToolButton>
+#include <QToolTip>
 
 #include "sheet/cell_reference.h"
 #include "sheet/function_dialog.h"
@@ -306,6 +308,51 @@ TEST_F(SheetWindow, TextsAreFoundRoundTheEndAndReplacedAsOneStep) {
     find.wanted().setText("M20");
     EXPECT_EQ(find.replaceAll(), 1);
     EXPECT_EQ(find.message(), "1 cell changed.");
+}
+
+TEST_F(SheetWindow, TabGoesRoundTheFindBarAndEscapeBackToTheGrid) {
+    key(Qt::Key_F, Qt::ControlModifier);
+    FindBar& find = page->findBar();
+    type("A1", "bolt");
+    find.open();
+    const QList<QPushButton*> buttons = find.findChildren<QPushButton*>();
+    ASSERT_EQ(buttons.size(), 3);
+    const QList<QWidget*> order{&find.wanted(), &find.replacement(),
+                                buttons[0],     buttons[1],
+                                buttons[2],     find.findChild<QToolButton*>()};
+    for (qsizetype i = 0; i <= order.size(); ++i, key(Qt::Key_Tab))
+        EXPECT_EQ(&focus(), order[i % order.size()]) << i;
+    EXPECT_EQ(&focus(), &find.replacement());
+    key(Qt::Key_Backtab);
+    key(Qt::Key_Backtab);
+    EXPECT_EQ(&focus(), order.back()) << "backwards round the beginning";
+    find.wanted().setText("no such text");
+    buttons[0]->setFocus();
+    key(Qt::Key_Return);
+    EXPECT_TRUE(find.message().contains("no such text")) << "Enter presses the button";
+    key(Qt::Key_Escape);
+    EXPECT_FALSE(find.isVisible());
+    EXPECT_EQ(&focus(), &page->view());
+}
+
+TEST_F(SheetWindow, TextsThatAreCutShowAfterTheDelayOfTheSheet) {
+    type("A1", "a text that is longer than its column");
+    type("B1", "neighbour");
+    QWidget* cells = page->view().viewport();
+    const auto delay = [&] {
+        page->view().sync();
+        return cells->style()->styleHint(QStyle::SH_ToolTip_WakeUpDelay, nullptr, cells);
+    };
+    const int usual = page->style()->styleHint(QStyle::SH_ToolTip_WakeUpDelay, nullptr, page);
+    const std::pair<int, int> cases[] = {{3000, 3000}, {0, usual}, {10, 10}};
+    for (const auto& [wanted, shown] : cases) {
+        page->grid().view().textTipDelay = wanted;
+        EXPECT_EQ(delay(), shown) << wanted;
+    }
+    QTest::mouseMove(cells, cells->rect().bottomRight() - QPoint(5, 5));
+    QTest::mouseMove(cells, QPoint(20, 8));
+    QTRY_COMPARE(QToolTip::text(), "a text that is longer than its column");
+    QToolTip::hideText();
 }
 
 TEST_F(SheetWindow, SizesByTheMouseAndSettingsAreStepsToo) {

@@ -90,8 +90,8 @@ void GridView::sync() {
     }
     followActive();
     m_editor.follow();
-    if (const int delay = grid().view().textTipDelay; delay > 0)
-        viewport()->setProperty(tipDelayProperty, delay);
+    const int delay = grid().view().textTipDelay;
+    viewport()->setProperty(tipDelayProperty, delay > 0 ? QVariant(delay) : QVariant());
     viewport()->update();
     horizontalHeader()->viewport()->update();
     verticalHeader()->viewport()->update();

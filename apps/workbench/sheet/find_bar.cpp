@@ -32,7 +32,9 @@ FindBar::FindBar(SheetSpread& spread, std::function<void()> changed, std::functi
         auto* made = new QPushButton(say(number));
         connect(made, &QPushButton::clicked, this, action);
         layout->addWidget(made, row, col);
+        m_tabOrder += made;
     };
+    m_tabOrder = {m_wanted, m_replacement};
     button(sayFindNext, 0, 2, [this] { findNext(); });
     button(sayReplaceOne, 1, 2, [this] { replace(); });
     button(sayReplaceAll, 1, 3, [this] { replaceAll(); });
@@ -42,6 +44,7 @@ FindBar::FindBar(SheetSpread& spread, std::function<void()> changed, std::functi
     close->setAutoRaise(true);
     connect(close, &QToolButton::clicked, this, m_closed);
     layout->addWidget(close, 0, 5);
+    m_tabOrder += close;
     layout->setColumnStretch(1, 1);
     layout->setColumnStretch(4, 1);
     connect(m_wanted, &QLineEdit::returnPressed, this, [this] { findNext(); });
@@ -56,7 +59,18 @@ void FindBar::open() {
 
 void FindBar::keyPressEvent(QKeyEvent* event) {
     if (event->key() == Qt::Key_Escape) return m_closed();
+    auto* button = qobject_cast<QAbstractButton*>(focusWidget());
+    if (button && (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter))
+        return button->click();
     QWidget::keyPressEvent(event);
+}
+
+bool FindBar::focusNextPrevChild(bool next) {
+    const qsizetype count = m_tabOrder.size();
+    const qsizetype at = m_tabOrder.indexOf(focusWidget());
+    const qsizetype to = next ? (at + 1) % count : (at <= 0 ? count : at) - 1;
+    m_tabOrder[to]->setFocus(next ? Qt::TabFocusReason : Qt::BacktabFocusReason);
+    return true;
 }
 
 void FindBar::tell(int number, const QString& about) {

@@ -30,6 +30,8 @@ class FindBar : public QWidget {
 
   protected:
     void keyPressEvent(QKeyEvent* event) override;
+    /// Tab stays in the bar; Escape leaves it.
+    bool focusNextPrevChild(bool next) override;
 
   private:
     std::optional<std::string> textOf(QLineEdit& field);
@@ -43,4 +45,5 @@ class FindBar : public QWidget {
     QLineEdit* m_wanted;
     QLineEdit* m_replacement;
     QLabel* m_message;
+    QList<QWidget*> m_tabOrder;
 };
