@@ -160,6 +160,10 @@ void addSheetCommands(CLI::App& sheet, Calls& calls) {
     convert.add_option("TO", calls.convert.to, "The file to write")
         ->required()
         ->check(refusedWhenEmpty);
+    convert.footer(
+        "From CSV a field that starts with = is a formula, a numeric field a number, all else a "
+        "text:\n"
+        "007 is the number 7, and \"=\"\"007\"\"\" keeps its digits.");
     onCall(convert, calls, [&calls] { return convertSheet(calls.convert); });
 }
 
