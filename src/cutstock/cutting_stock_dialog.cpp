@@ -30,57 +30,59 @@ constexpr ControlTemplate picture(int table, Dlg::Part part, CPoint at, int imag
             image,
             dialText(tip)};
 }
+// The bands are 96 units apart, as steps of 16 are whole pixels in every font and at half scales
+// too: what is alike in the three of them also looks alike.
 constexpr ControlTemplate insertRow(int table, int top) {
     return picture(table, Dlg::insertRowButton, {142, top}, imageInsertRow, 616);
 }
 constexpr ControlTemplate deleteRow(int table, int top) {
-    return picture(table, Dlg::deleteRowButton, {160, top}, imageDeleteRow, 617);
+    return picture(table, Dlg::deleteRowButton, {162, top}, imageDeleteRow, 617);
 }
 constexpr ControlTemplate openFile(int table, int top) {
-    return picture(table, Dlg::openButton, {184, top}, imageOpen, 618);
+    return picture(table, Dlg::openButton, {190, top}, imageOpen, 618);
 }
 constexpr ControlTemplate saveFile(int table, int top) {
-    return picture(table, Dlg::saveButton, {202, top}, imageSave, 619);
+    return picture(table, Dlg::saveButton, {210, top}, imageSave, 619);
 }
 constexpr ControlTemplate sheet(int table, int top) {
     return {
-        Control::placeholder, Dlg::idOf(table, Dlg::sheet), {}, {142, top, 240, 50}, 0, anchorWide};
+        Control::placeholder, Dlg::idOf(table, Dlg::sheet), {}, {142, top, 240, 61}, 0, anchorWide};
 }
 constexpr ControlTemplate frame(int table, int top, int caption) {
-    return {Control::group, Dlg::idOf(table, Dlg::frame), dialText(caption), {137, top, 250, 82}, 0,
+    return {Control::group, Dlg::idOf(table, Dlg::frame), dialText(caption), {137, top, 250, 93}, 0,
             anchorWide};
 }
 
 // Frames stand behind what they are around, the outermost last: the first one lies on top.
 constexpr ControlTemplate controls[] = {
     {Control::label, Dlg::itemLabel, dialText(621), {7, 7, 118, 10}},
-    {Control::list, Dlg::itemList, {}, {7, 19, 118, 199}, 0, anchorTall},
-    {Control::button, Dlg::addItemButton, dialText(622), {7, 223, 118, 14}, 0, anchorBottomLeft},
-    {Control::button, Dlg::deleteItemButton, dialText(623), {7, 241, 118, 14}, 0, anchorBottomLeft},
+    {Control::list, Dlg::itemList, {}, {7, 19, 118, 232}, 0, anchorTall},
+    {Control::button, Dlg::addItemButton, dialText(622), {7, 256, 118, 14}, 0, anchorBottomLeft},
+    {Control::button, Dlg::deleteItemButton, dialText(623), {7, 274, 118, 14}, 0, anchorBottomLeft},
     insertRow(0, 28),
     deleteRow(0, 28),
     sheet(0, 45),
-    insertRow(1, 113),
-    deleteRow(1, 113),
-    openFile(1, 113),
-    saveFile(1, 113),
-    sheet(1, 130),
-    insertRow(2, 198),
-    deleteRow(2, 198),
-    openFile(2, 198),
-    saveFile(2, 198),
-    sheet(2, 215),
-    {Control::checkBox, Dlg::askNamesCheck, dialText(630), {7, 263, 118, 12}, 0, anchorBottomLeft},
-    {Control::button, Dlg::actionButton, {}, {7, 279, 118, 14}, 0, anchorBottomLeft},
-    {Control::button, IDOK, dialText(1), {263, 279, 62, 14}, styleDefault, anchorBottomRight},
-    {Control::button, IDCANCEL, dialText(2), {331, 279, 62, 14}, 0, anchorBottomRight},
+    insertRow(1, 124),
+    deleteRow(1, 124),
+    openFile(1, 124),
+    saveFile(1, 124),
+    sheet(1, 141),
+    insertRow(2, 220),
+    deleteRow(2, 220),
+    openFile(2, 220),
+    saveFile(2, 220),
+    sheet(2, 237),
+    {Control::checkBox, Dlg::askNamesCheck, dialText(630), {7, 296, 118, 12}, 0, anchorBottomLeft},
+    {Control::button, Dlg::actionButton, {}, {7, 312, 118, 14}, 0, anchorBottomLeft},
+    {Control::button, IDOK, dialText(1), {263, 312, 62, 14}, styleDefault, anchorBottomRight},
+    {Control::button, IDCANCEL, dialText(2), {331, 312, 62, 14}, 0, anchorBottomRight},
     frame(0, 17, 625),
-    frame(1, 102, 626),
-    frame(2, 187, 627),
-    {Control::group, Dlg::tablesFrame, dialText(624), {131, 5, 262, 268}, 0, anchorAll},
+    frame(1, 113, 626),
+    frame(2, 209, 627),
+    {Control::group, Dlg::tablesFrame, dialText(624), {131, 5, 262, 301}, 0, anchorAll},
 };
 constexpr DialogResource resource{
-    Dlg::resourceNumber, dialText(620), {0, 0, 400, 300}, controls, true};
+    Dlg::resourceNumber, dialText(620), {0, 0, 400, 333}, controls, true};
 constexpr CRect leastSize{0, 0, 300, 262};  // dialog units
 
 constexpr Dlg::Part tableParts[] = {Dlg::frame,           Dlg::sheet,      Dlg::insertRowButton,
