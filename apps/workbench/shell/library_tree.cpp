@@ -4,6 +4,7 @@
 
 #include "core_api/files.h"
 #include "core_api/settings.h"
+#include "cutstock/cutting_stock_library.h"
 #include "window/dialog_font.h"
 #include "window/say.h"
 
@@ -33,6 +34,12 @@ bool showMatching(QTreeWidgetItem* item, const QString& text) {
     return isShown;
 }
 
+bool hasChild(const QTreeWidgetItem& item, const QString& text) {
+    for (int i = 0; i < item.childCount(); ++i)
+        if (item.child(i)->text(0).compare(text, Qt::CaseInsensitive) == 0) return true;
+    return false;
+}
+
 }  // namespace
 
 LibraryTree::LibraryTree(QWidget* parent) : QTreeWidget(parent) {
@@ -58,6 +65,7 @@ void LibraryTree::refresh() {
     clear();
     if (gSettings.libDir().isEmpty()) return;
     for (const LibraryFolder& folder : libraryFolders()) add(folder);
+    addStockItems();
     eachItem(*this, [&](QTreeWidgetItem* item) {
         const bool isTop = !item->parent();
         item->setExpanded(open.contains(keyOf(item)) || (isFirst && isTop));
@@ -83,6 +91,26 @@ void LibraryTree::add(const LibraryFolder& folder) {
         item->setData(0, kindRole, static_cast<int>(folder.kind));
         item->setToolTip(0, relative);
     }
+}
+
+// Items that have no files yet lead to the list that names them.
+void LibraryTree::addStockItems() {
+    DlgCSP2Data stock;
+    Vor_String message;  // is told when the items are opened
+    if (!cutstock::CuttingStockLibrary().loadItems(stock, message)) return;
+    QTreeWidgetItem* root = rootOf(LibraryKind::cuttingStock);
+    for (const Vor_String& name : stock.itemNames) {
+        if (hasChild(*root, toQt(name))) continue;
+        auto* item = new QTreeWidgetItem(root, {toQt(name)});
+        item->setData(0, pathRole, toQt(cutstock::CuttingStockLibrary::path()));
+        item->setData(0, kindRole, static_cast<int>(LibraryKind::cuttingStock));
+    }
+}
+
+QTreeWidgetItem* LibraryTree::rootOf(LibraryKind kind) const {
+    int at = 0;
+    while (topLevelItem(at)->data(0, kindRole).toInt() != static_cast<int>(kind)) ++at;
+    return topLevelItem(at);
 }
 
 QTreeWidgetItem* LibraryTree::folderItem(QTreeWidgetItem* root, const QString& folder) {

@@ -28,6 +28,8 @@ class LibraryTree : public QTreeWidget {
 
   private:
     void add(const LibraryFolder& folder);
+    void addStockItems();
+    QTreeWidgetItem* rootOf(LibraryKind kind) const;
     QTreeWidgetItem* folderItem(QTreeWidgetItem* root, const QString& folder);
 
     std::function<void(LibraryKind, const Vor_String&)> m_opener;

@@ -191,6 +191,9 @@ void MainWindow::watchLibrary() {
          {"Connection Standards", "Macros", "prof", "Dialog Templates", "Cutting Stock",
           "Connection Standards/Childs", "Connection Standards/Parents"})
         if (QFileInfo(root + "/" + name).isDir()) folders += root + "/" + name;
+    const QDir stock(root + "/Cutting Stock");
+    for (const QString& item : stock.entryList(QDir::Dirs | QDir::NoDotAndDotDot))
+        folders += stock.filePath(item);
     m_watcher.addPaths(folders);
 }
 
