@@ -63,6 +63,22 @@ TEST(SectionCheck, FindsWhatCannotBe) {
          "3:8 error: the wall"},
         {std::string("14\n") + header + "Leg\tThickness\tAngle\n1\t1\ta\ta\ta\ta\t20\t2\t190\n",
          "3:9 error: the angle"},
+        {std::string("8\n") + header +
+             "Width\tThickness\tmass kg/m\tArea cm2\n"
+             "1\t1\ta\t\t\t\t100\t10\t7.9\t\n",  // as catalogues round
+         ""},
+        {std::string("8\n") + header +
+             "Width\tThickness\tMass kg/m\n"
+             "1\t1\ta\t\t\t\t100\t10\t8.0\n",
+         "3:9 warning: Mass kg/m is \"8.0\"; the values give 7.85"},
+        {std::string("8\n") + header +
+             "Width\tThickness\tArea cm2\n"
+             "1\t1\ta\t\t\t\t100\t10\t1000\n",
+         "3:9 warning: Area cm2 is \"1000\"; the values give 10"},
+        {std::string("12\n") + header +
+             "Height\tWidth\tLip height\tThickness\tArea cm2\n"
+             "1\t1\ta\t\t\t\t200\t70\t20\t2\t7\n",  // has bends
+         ""},
         {"9\n", "2:0 error: the section table has no column names"},
     };
     const TemporaryFolder folder;
