@@ -70,22 +70,65 @@ TEST_F(BillOutput, SheetsGrowByAHundredRowsAndAreTrimmedToTheLastOne) {
     EXPECT_TRUE(output.wasSaved());
 }
 
-TEST_F(BillOutput, KindsSayWhatCellsHold) {
-    start({"Pos", "Mass", "Name", "As it is"}, {1, 2, 3, 0});
-    output.onAddRow({"7", "12.345", "007", "1.50", "beyond"});
-    output.onAddRow({"no number", "", "x", ""});
-    EXPECT_EQ(output.sheet()->nrCols(), 5) << "a longer row widens the sheet";
-    EXPECT_EQ(cell(1, 1, Reading::data), "7");
-    EXPECT_EQ(cell(2, 1, Reading::data), "12.3");
+TEST_F(BillOutput, LongerRowsWidenTheSheet) {
+    start({"Pos", "Mass"}, {1, 2});
+    output.onAddRow({"7", "12.345", "007"});
+    output.onAddRow({"8", ""});
+    EXPECT_EQ(output.sheet()->nrCols(), 3);
     EXPECT_EQ(cell(3, 1), "007");
-    EXPECT_EQ(cell(4, 1), "1.50");
-    EXPECT_EQ(cell(5, 1), "beyond");
-    EXPECT_EQ(cell(1, 2), "");
-    EXPECT_EQ(look(1, 1).type.decimals, 0);
-    EXPECT_EQ(look(2, 1).type.decimals, 1);
-    EXPECT_EQ(look(2, 1).type.most, 99999999999999.0);
-    EXPECT_EQ(look(3, 1).type.maxLength, 200);
-    EXPECT_EQ(look(5, 1).type, control::editType(100)) << "no kind, so the sheet's own";
+    EXPECT_EQ(look(3, 1).type, control::editType(100)) << "no kind, so the sheet's own";
+    EXPECT_EQ(look(2, 2).type.most, 99999999999999.0);
+    EXPECT_EQ(cell(2, 2), "");
+}
+
+TEST_F(BillOutput, EachKindRoundsOrKeepsWhatItIsGiven) {
+    const std::string longText(300, 'x');
+    const struct {
+        int kind;
+        std::string given, value, shown;
+    } cases[] = {
+        // Halves away from zero, by the digits that were given.
+        {1, "2.5", "3", "3"},
+        {1, "-2.5", "-3", "-3"},
+        {1, "2.4999", "2", "2"},
+        {1, "-0.4", "0", "0"},
+        {1, "1e3", "1000", "1000"},
+        {1, " +7 ", "7", "7"},
+        {1, "99999999999999.4", "99999999999999", "99999999999999"},
+        {2, "2.45", "2.5", "2.5"},
+        {2, "-2.45", "-2.5", "-2.5"},
+        {2, "2.4499996", "2.4", "2.4"},
+        {2, "1.15", "1.2", "1.2"},
+        {2, "8.35", "8.4", "8.4"},
+        {2, "123456789012.25", "123456789012.3", "123456789012.3"},
+        {2, "7", "7", "7.0"},
+        {2, "-0.04", "0", "0.0"},
+        // What is no number, or too large, is none of these cells.
+        {1, "100000000000000", "", ""},
+        {1, "7,5", "", ""},
+        {2, "x", "", ""},
+        // Texts stay as they are, and so do all other kinds.
+        {3, "007", "007", "007"},
+        {3, "2.50", "2.50", "2.50"},
+        {3, "=1+1", "=1+1", "=1+1"},
+        {3, longText, longText, longText},
+        {0, "2.450", "2.450", "2.450"},
+        {4, "2.45", "2.45", "2.45"},
+        {-1, "007", "007", "007"},
+    };
+    for (const auto& each : cases) {
+        start({"Column"}, {each.kind});
+        output.onAddRow({each.given});
+        EXPECT_EQ(cell(1, 1), each.value) << each.kind << " given " << each.given;
+        EXPECT_EQ(cell(1, 1, Reading::data), each.shown) << each.kind << " given " << each.given;
+        const control::CellType& type = look(1, 1).type;
+        if (each.kind == 1 || each.kind == 2) {
+            EXPECT_EQ(type.decimals, each.kind - 1) << each.given;
+            EXPECT_TRUE(type.isNumber());
+        } else {
+            EXPECT_EQ(type, control::editType(each.kind == 3 ? 200 : 100)) << each.kind;
+        }
+    }
 }
 
 TEST_F(BillOutput, SubtotalsAreFramedAndColouredWhereTheySaySomething) {

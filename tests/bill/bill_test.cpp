@@ -81,15 +81,15 @@ TEST(BillFromParts, EqualPiecesAreCountedTogetherInTheirGroups) {
                                              bolt("M8", 2),
                                              bolt("m20", 6)};
     const Vor_Bill bill = billFromParts(parts, options);
-    EXPECT_THAT(fed(bill), ElementsAre("start",                          //
-                                       "row 1|Cap|PL 10|300.5|1|2.359",  //
+    EXPECT_THAT(fed(bill), ElementsAre("start",                             //
+                                       "row 1|Cap|PL 10|300.5|1|2.358925",  //
                                        "row 2|Cap, Fin|PL 10|200|3|4.71",
-                                       "subtotal Plate 2 |Subtotal Plate|||4|7.069",  //
-                                       "-",                                           //
-                                       "row 3|Bolts|M8||2|",                          //
-                                       "row 4|Bolts|M20||10|",                        //
-                                       "subtotal Bolt 2 |Subtotal Bolt|||12|",        //
-                                       "total 4 |Total|||16|7.069",                   //
+                                       "subtotal Plate 2 |Subtotal Plate|||4|7.068925",  //
+                                       "-",                                              //
+                                       "row 3|Bolts|M8||2|",                             //
+                                       "row 4|Bolts|M20||10|",                           //
+                                       "subtotal Bolt 2 |Subtotal Bolt|||12|",           //
+                                       "total 4 |Total|||16|7.068925",                   //
                                        "end"));
     EXPECT_EQ(bill.columns[3].kind, BillColumnKind::decimal) << "a length is no whole number";
     EXPECT_EQ(bill.piece(3)->count, 10);
@@ -170,6 +170,20 @@ TEST(BillFromTable, HeadingsInAnyLanguageSayWhatIsSummedUpAndDrawn) {
     EXPECT_EQ(bill->piece(2)->kind, BillPartKind::profile);
     EXPECT_EQ(bill->piece(2)->length, 1000);
     EXPECT_EQ(bill->piece(3)->diameter, 20);
+}
+
+TEST(BillFromTable, SmallAmountsAddUpInsteadOfBeingRoundedAway) {
+    Vor_Array<Vor_StringArray> shims;
+    for (int i = 0; i < 100; ++i) shims.append({"Shim", "1", "0.0004"});
+    TableBillOptions options;
+    options.groupBy = "Name";
+    options.countTogether = true;
+    std::string error;
+    const auto bill = billFromTable({"Name", "Count", "Total mass"}, shims, options, error);
+    ASSERT_TRUE(bill) << error;
+    ASSERT_EQ(bill->rows.size(), 1U);
+    EXPECT_EQ(line(bill->rows[0].cells), "Shim|100|0.04");
+    EXPECT_EQ(line(bill->totals), "Total|100|0.04");
 }
 
 TEST(BillFromTable, ColumnsAreNumbersWhenAllTheirCellsAre) {

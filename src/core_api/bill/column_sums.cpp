@@ -32,6 +32,6 @@ Vor_String subtotalLabel(const Vor_String& group) {
 }
 
 Vor_String billNumber(double number) {
-    constexpr int decimals = 3;
+    constexpr int decimals = 6;
     return {number, decimals};
 }

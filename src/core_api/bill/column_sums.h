@@ -29,5 +29,6 @@ class ColumnSums {
 /// "Subtotal Plate".
 Vor_String subtotalLabel(const Vor_String& group);
 
-/// A number as rows of bills hold it: in three decimals at most, more than any output shows.
+/// A number as rows of bills hold it: in six decimals at most. Sheets round it once more, so it
+/// has more digits than they show, and sums of thousands of small masses lose none.
 Vor_String billNumber(double number);
