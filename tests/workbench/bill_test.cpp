@@ -4,12 +4,15 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QMenu>
 #include <QProcess>
 #include <QProgressDialog>
 #include <QSpinBox>
 #include <QTableWidget>
 
 #include "bill/bill_dialog.h"
+#include "bill/bill_window_button.h"
+#include "dialog_problems.h"
 #include "platform/files.h"
 #include "platform/paths.h"
 #include "starters_fixture.h"
@@ -137,6 +140,81 @@ TEST_F(BillWindow, WhatFailedIsToldOnceInAMessage) {
     ASSERT_TRUE(window->bills().last()) << "what could not be written is still shown";
     EXPECT_EQ(window->bills().last()->output().sheet()->nrRows(), 5);
 }
+
+BillWindowButton* exportButton(const QWidget& shown) {
+    for (auto* each : shown.findChildren<QPushButton*>())
+        if (auto* found = dynamic_cast<BillWindowButton*>(each)) return found;
+    return nullptr;
+}
+
+TEST_F(BillWindow, ItsButtonExportsWhatIsShown) {
+    ASSERT_TRUE(make("Macros\\EndPlate.macro", "Frame 7.sss", true));
+    QWidget& shown = *shownWindows().at(0);
+    BillWindowButton* button = exportButton(shown);
+    ASSERT_TRUE(button);
+    EXPECT_TRUE(window->bills().last()->output().sheet()->setData(2, 1, "Renamed"));
+    const QList<QAction*> entries = button->menu()->actions();
+    const struct {
+        const char *file, *begin;
+    } exports[] = {{"Out.xlsx", "PK"}, {"Out.csv", "Pos.,Name"}, {"Out.pdf", "%PDF"}};
+    for (size_t i = 0; i < std::size(exports); ++i) {
+        TestUser user;
+        user.whenAskedForFile("Export").chooses({inside(exports[i].file)});
+        entries[static_cast<int>(i)]->trigger();
+        EXPECT_TRUE(content(inside(exports[i].file)).startsWith(exports[i].begin));
+        EXPECT_THAT(printed().toStdString(), HasSubstr(exports[i].file));
+    }
+    EXPECT_TRUE(content(inside("Out.csv")).contains("Renamed"));
+    const QString before = printed();
+    TestUser user;
+    user.whenAskedForFile("Export").chooses({inside("none\\Out.csv")});
+    user.whenTold("none").presses(IDOK);
+    entries[1]->trigger();
+    user.whenAskedForFile("Export").chooses({});
+    entries[0]->trigger();
+    EXPECT_EQ(printed(), before) << "what failed, or was not wanted, is not said to be written";
+}
+
+TEST_F(BillWindow, ItsButtonPreviewsAndPrints) {
+    ASSERT_TRUE(make("Macros\\EndPlate.macro", "Bill.sss"));
+    QWidget& shown = *shownWindows().at(0);
+    std::vector<std::string> opened;
+    const auto note = [&](QWidget& asked) {
+        opened.emplace_back(asked.metaObject()->className());
+        escape(asked);
+    };
+    whileVisiting([&] { exportButton(shown)->menu()->actions()[4]->trigger(); }, note);
+    shown.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&shown));
+    whileVisiting([&] { QTest::keyClick(&shown, Qt::Key_P, Qt::ControlModifier); }, note);
+    EXPECT_THAT(opened, ElementsAre("QPrintPreviewDialog", "QPrintDialog"));
+}
+
+class BillWindowLooks : public BillWindow, public testing::WithParamInterface<Language> {
+  protected:
+    void SetUp() override { openProgram(GetParam()); }
+};
+
+TEST_P(BillWindowLooks, TheButtonStandsInLineAndFits) {
+    ASSERT_TRUE(make("Macros\\EndPlate.macro", "Bill.sss", true));
+    QWidget& shown = *shownWindows().at(0);
+    const QWidget& button = *exportButton(shown);
+    const QWidget& ok = *shown.findChild<QWidget*>(QString::number(IDOK));
+    for (const int wider : {0, 200}) {
+        shown.resize(shown.width() + wider, shown.height() + wider);
+        QTest::qWait(30);
+        EXPECT_THAT(windowProblems(shown), testing::IsEmpty());
+        EXPECT_THAT(dialogProblems(shown), testing::IsEmpty());
+        EXPECT_EQ(button.y(), ok.y());
+        EXPECT_LT(button.geometry().right(), ok.x());
+        EXPECT_GT(button.width(), button.sizeHint().width());
+    }
+    saveGrab(shown, "bill-window-" + std::to_string(static_cast<int>(GetParam())));
+}
+
+INSTANTIATE_TEST_SUITE_P(All, BillWindowLooks,
+                         testing::Values(Language::english, Language::dutch, Language::german,
+                                         Language::french));
 
 TEST_F(BillWindow, AnOpenMacroIsTakenAsItIsOnItsPage) {
     auto* page = dynamic_cast<MacroPage*>(openMacro("EndPlate"));

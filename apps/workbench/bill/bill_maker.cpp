@@ -3,14 +3,14 @@
 #include <QProgressDialog>
 
 #include "bill/bill_dialog.h"
+#include "bill/bill_window_button.h"
 #include "bill/bill_words.h"
 #include "core_api/text/text_helpers.h"
 #include "platform/host/host.h"
-#include "platform/paths.h"
 #include "platform/window/message_box.h"
-#include "sheet/sheet_file.h"
 #include "sheet/sheet_printing.h"
 #include "window/dialog_font.h"
+#include "window/machine_path.h"
 #include "window/say.h"
 
 namespace {
@@ -24,12 +24,9 @@ constexpr int untilProgressShows = 300;  // milliseconds
 /// Every row would be told too often, with pictures every hundredth too seldom.
 constexpr int rowsBetween = 10;
 
-bool printPdf(const Vor_String& document, const Vor_String& pdf, std::string& error) {
-    SheetFile file;
+bool printPdf(Vor_Spread& sheet, const Vor_String& pdf, std::string& error) {
     QString why;
-    if (!file.open(document.str(), error)) return false;
-    const QString path = QString::fromStdString(paths::toMachine(pdf));
-    if (writeSheetPdf(file.spread(), path, why)) return true;
+    if (writeSheetPdf(sheet, machinePath(pdf.str()), why)) return true;
     error = fromQt(why);
     return false;
 }
@@ -55,6 +52,13 @@ bool BillMaker::make(bills::BillChoice choice, const bills::BillTarget& target, 
     return write(*bill, target, parent);
 }
 
+/// Also when the file was not written: what is shown can go elsewhere.
+void BillMaker::offerExports(const Vor_String& file) {
+    Vor_Spread* sheet = m_sheet->output().sheet();
+    auto* window = sheet ? dynamic_cast<TwSheetEditorDlg*>(sheet->parent()) : nullptr;
+    if (window) BillWindowButton::addTo(*window, file);
+}
+
 bool BillMaker::write(Vor_Bill& bill, const bills::BillTarget& target, QWidget* parent) {
     m_sheet = std::make_unique<bills::BillSheet>(target);
     QProgressDialog progress(say(sayBillMaking), say(2), 0, static_cast<int>(bill.rows.size()),
@@ -72,9 +76,10 @@ bool BillMaker::write(Vor_Bill& bill, const bills::BillTarget& target, QWidget* 
         m_sheet.reset();
         return false;
     }
+    offerExports(target.file);
     const bool isPdf = bills::billFormat(target.file) == bills::BillFormat::pdf;
     if (written == BillFeed::failed ||
-        (isPdf && !printPdf(m_sheet->document(), target.file, error)))
+        (isPdf && !printPdf(*m_sheet->output().sheet(), target.file, error)))
         return complain(error);
     acutPrint(fromQt(say(sayBillSaved).arg(toQt(target.file))) + "\n");
     tellRowsWithoutMass(bill);

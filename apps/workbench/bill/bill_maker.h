@@ -23,6 +23,7 @@ class BillMaker {
     void close() { m_sheet.reset(); }
 
   private:
+    void offerExports(const Vor_String& file);
     bool write(Vor_Bill& bill, const bills::BillTarget& target, QWidget* parent);
 
     bills::OpenMacro m_openMacro;

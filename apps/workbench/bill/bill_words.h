@@ -21,4 +21,5 @@ enum BillWord {
     sayBillTableFilter,
     sayBillNoFile,
     sayBillReplace,
+    sayBillExport = 26980,
 };

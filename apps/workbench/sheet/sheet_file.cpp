@@ -4,7 +4,6 @@
 
 #include "core_api/text/text_helpers.h"
 #include "platform/encodings.h"
-#include "sheets/sheet_writing.h"
 #include "spread/editor/csv_import.h"
 #include "spread/sheet_preparation.h"
 
@@ -88,15 +87,6 @@ bool SheetFile::save(const std::string& path, std::string& error) {
     m_isImported = false;
     m_spread.editor().markSaved();
     return true;
-}
-
-bool SheetFile::exportTo(const std::string& path, std::string& error) const {
-    const control::Grid& grid = m_spread.grid();
-    const auto content =
-        endsWith(path, ".csv") ? sheets::sheetAsCsv(grid, error) : sheets::sheetAsXlsx(grid, error);
-    if (content) return files::writeWhole(path, *content, error);
-    error = path + ": " + error;
-    return false;
 }
 
 bool SheetFile::isChangedOnDisk() const {

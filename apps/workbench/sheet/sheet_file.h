@@ -1,4 +1,4 @@
-// A sheet and the file it comes from: opening, saving, importing and exporting, and whether another
+// A sheet and the file it comes from: opening, saving and importing, and whether another
 // program changed the file meanwhile. Paths are the module's own (platform/paths.h); reasons are in
 // Windows-1252.
 #pragma once
@@ -18,8 +18,6 @@ class SheetFile {
     bool open(const std::string& path, std::string& error);
     /// Writes a document. False with the reason, and the old file whole.
     bool save(const std::string& path, std::string& error);
-    /// By the extension: ".csv" or ".xlsx".
-    bool exportTo(const std::string& path, std::string& error) const;
 
     /// Empty while the sheet has no file.
     const std::string& path() const { return m_path; }

@@ -10,6 +10,7 @@
 #include "platform/window/message_box.h"
 #include "sheet/say.h"
 #include "sheet/sheet_commands.h"
+#include "sheet/sheet_export.h"
 #include "sheet/sheet_printing.h"
 #include "spread/editor/block_statistics.h"
 #include "window/machine_path.h"
@@ -214,11 +215,7 @@ bool SheetPage::exportTo(const std::string& path) {
     if (!commitEdit()) return false;
     const QString shown = machinePath(path);
     const bool isPdf = shown.endsWith(".pdf", Qt::CaseInsensitive);
-    QString failure;
-    if (std::string error; isPdf)
-        writeSheetPdf(spread(), shown, failure);
-    else if (!m_file->exportTo(path, error))
-        failure = toQt(error);
+    const QString failure = exportSheet(spread(), path);
     if (failure.isEmpty()) tell(say(sayExported).arg(shown));
     if (isPdf || !failure.isEmpty()) tellPrinted(failure);
     return failure.isEmpty();

@@ -18,7 +18,7 @@ namespace {
 constexpr double millimetresPerInch = 25.4;
 constexpr int pdfResolution = 300;
 
-TwSheetSettings settingsOf(const SheetSpread& spread) {
+TwSheetSettings settingsOf(const Vor_Spread& spread) {
     TwSheetSettings settings;
     settings.readFromSheet(spread);
     return settings;
@@ -29,7 +29,7 @@ printing::Paper paperOf(const QPageSize& size) {
     return {millimetres.width(), millimetres.height()};
 }
 
-printing::PrintJob jobFor(SheetSpread& spread, const printing::Paper& paper) {
+printing::PrintJob jobFor(Vor_Spread& spread, const printing::Paper& paper) {
     return printing::PrintJob(spread.grid(), settingsOf(spread), paper);
 }
 
@@ -53,7 +53,7 @@ void hideTurning(QPrintPreviewDialog& dialog) {
 
 }  // namespace
 
-bool printSheet(SheetSpread& spread, QPagedPaintDevice& device) {
+bool printSheet(Vor_Spread& spread, QPagedPaintDevice& device) {
     const printing::PrintJob job = jobFor(spread, paperOf(device.pageLayout().pageSize()));
     setUp(device, job.layout().isLandscape);
     auto* printer = dynamic_cast<QPrinter*>(&device);
@@ -73,7 +73,7 @@ bool printSheet(SheetSpread& spread, QPagedPaintDevice& device) {
     return painter.end();
 }
 
-bool writeSheetPdf(SheetSpread& spread, const QString& path, QString& error) {
+bool writeSheetPdf(Vor_Spread& spread, const QString& path, QString& error) {
     QSaveFile file(path);
     bool isDone = file.open(QIODevice::WriteOnly);
     if (isDone) {
@@ -87,14 +87,14 @@ bool writeSheetPdf(SheetSpread& spread, const QString& path, QString& error) {
     return false;
 }
 
-QString askAndPrint(SheetSpread& spread, QWidget* parent) {
+QString askAndPrint(Vor_Spread& spread, QWidget* parent) {
     QPrinter printer(QPrinter::HighResolution);
     QPrintDialog dialog(&printer, parent);
     if (dialog.exec() != QDialog::Accepted || printSheet(spread, printer)) return {};
     return notPrinted(printer);
 }
 
-QString previewSheet(SheetSpread& spread, QWidget* parent) {
+QString previewSheet(Vor_Spread& spread, QWidget* parent) {
     QPrinter printer(QPrinter::HighResolution);
     QPrintPreviewDialog dialog(&printer, parent);
     dialog.resize(900, 700);
@@ -107,7 +107,7 @@ QString previewSheet(SheetSpread& spread, QWidget* parent) {
     return failure;
 }
 
-QString printProblems(SheetSpread& spread) {
+QString printProblems(Vor_Spread& spread) {
     QString lines;
     const printing::PrintJob job = jobFor(spread, {});
     for (const std::string& problem : job.problems()) lines += toQt(problem) + "\n";

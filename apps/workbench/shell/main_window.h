@@ -17,6 +17,7 @@
 #include "window/qt_window_system.h"
 
 class QLineEdit;
+struct ExportFormat;
 class RunPage;
 class SheetPage;
 class TablePage;
@@ -89,7 +90,7 @@ class MainWindow : public QMainWindow {
     // main_window_sheets.cpp
     void addSheetFileActions(QMenu& file);
     void askForFile();
-    void exportSheet(const char* extension, int filterName);
+    void exportSheet(const ExportFormat& format);
     SheetPage* showSheet(SheetPage* page);
     void showTitle(SheetPage& page);
     void followPage();

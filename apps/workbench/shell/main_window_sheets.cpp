@@ -9,9 +9,9 @@
 #include "core_api/text/text_helpers.h"
 #include "macro/macro_page.h"
 #include "platform/paths.h"
-#include "platform/window/file_question.h"
 #include "sheet/say.h"
 #include "sheet/sheet_commands.h"
+#include "sheet/sheet_export.h"
 #include "sheet/sheet_page.h"
 #include "sheet/sheet_printing.h"
 #include "shell/main_window.h"
@@ -37,12 +37,8 @@ void MainWindow::addSheetFileActions(QMenu& file) {
     addForSheet(file, saySaveAs, Qt::CTRL | Qt::SHIFT | Qt::Key_S,
                 [](SheetPage& page) { page.saveAs(); });
     QMenu& exports = *file.addMenu(say(sayExportAs));
-    const std::pair<const char*, int> formats[] = {
-        {"xlsx", sayXlsxFilter}, {"csv", sayCsvFilter}, {"pdf", sayPdfFilter}};
-    for (const auto& [extension, name] : formats)
-        m_sheetActions += exports.addAction(
-            say(name) + " (*." + extension + ")…", this,
-            [this, extension = extension, name = name] { exportSheet(extension, name); });
+    addExports(exports, [this](const ExportFormat& format) { exportSheet(format); });
+    m_sheetActions += exports.actions();
     m_sheetActions += exports.menuAction();
     file.addSeparator();
     addForSheet(file, sayPrintPreview, {},
@@ -124,19 +120,12 @@ void MainWindow::askForFile() {
         openFile(chosen);
 }
 
-void MainWindow::exportSheet(const char* extension, int filterName) {
+void MainWindow::exportSheet(const ExportFormat& format) {
     SheetPage* page = currentSheet();
     if (!page || !page->commitEdit()) return;
-    const Vor_String path(page->file().path());
-    FileQuestion question;
-    question.kind = FileQuestion::Kind::save;
-    question.title = fromQt(sayTitle(sayExportAs));
-    question.filterName = fromQt(say(filterName));
-    question.extension = extension;
-    question.folder = getPath(path).str();
-    question.preset = fromQt(QFileInfo(page->title()).completeBaseName() + "." + extension);
-    const auto chosen = chooseFiles(question, nullptr);
-    if (!chosen.empty()) page->exportTo(chosen.front());
+    const std::string path = askForExport(format, getPath(Vor_String(page->file().path())),
+                                          QFileInfo(page->title()).completeBaseName());
+    if (!path.empty()) page->exportTo(path);
 }
 
 // --- files dropped on the window

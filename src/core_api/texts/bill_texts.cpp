@@ -62,6 +62,10 @@ constexpr TextRow rows[] = {
     {25138,
      {"%1 is there already. Replace it?", "%1 bestaat al. Vervangen?",
       "%1 gibt es schon. Ersetzen?", "%1 existe déjà. Le remplacer ?"}},
+
+    {26980,
+     {"E&xport and print", "E&xporteren en afdrukken", "E&xportieren und drucken",
+      "E&xporter et imprimer"}},
 };
 
 }  // namespace

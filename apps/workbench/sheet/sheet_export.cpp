@@ -1,0 +1,50 @@
+#include "sheet/sheet_export.h"
+
+#include <QMenu>
+
+#include "platform/files.h"
+#include "platform/window/file_question.h"
+#include "sheet/say.h"
+#include "sheet/sheet_file.h"
+#include "sheet/sheet_printing.h"
+#include "sheets/sheet_writing.h"
+#include "window/machine_path.h"
+
+namespace {
+
+constexpr ExportFormat formats[] = {
+    {"xlsx", sayXlsxFilter}, {"csv", sayCsvFilter}, {"pdf", sayPdfFilter}};
+
+}  // namespace
+
+void addExports(QMenu& menu, const std::function<void(const ExportFormat&)>& chosen) {
+    for (const ExportFormat& format : formats)
+        menu.addAction(say(format.name) + " (*." + format.extension + ")…",
+                       [chosen, &format] { chosen(format); });
+}
+
+std::string askForExport(const ExportFormat& format, const Vor_String& folder,
+                         const QString& name) {
+    FileQuestion question;
+    question.kind = FileQuestion::Kind::save;
+    question.title = fromQt(sayTitle(sayExportAs));
+    question.filterName = fromQt(say(format.name));
+    question.extension = format.extension;
+    question.folder = folder.str();
+    question.preset = fromQt(name + "." + format.extension);
+    return chooseFile(question, nullptr);
+}
+
+QString exportSheet(Vor_Spread& sheet, const std::string& path) {
+    const QString shown = machinePath(path);
+    if (shown.endsWith(".pdf", Qt::CaseInsensitive)) {
+        QString failure;
+        writeSheetPdf(sheet, shown, failure);
+        return failure;
+    }
+    std::string error;
+    const auto content = isCsvPath(path) ? sheets::sheetAsCsv(sheet.grid(), error)
+                                         : sheets::sheetAsXlsx(sheet.grid(), error);
+    if (!content) return toQt(path + ": " + error);
+    return files::writeWhole(path, *content, error) ? QString() : toQt(error);
+}
