@@ -6,6 +6,7 @@
 #include <iostream>
 
 #include "bill/bill_command.h"
+#include "core_api/texts/language_codes.h"
 #include "cutstock/cutstock_commands.h"
 #include "io/suggestion.h"
 #include "mapping/mapping_commands.h"
@@ -236,6 +237,11 @@ void addBillCommand(CLI::App& app, Calls& calls) {
     bill.add_option("--settings", request.settings,
                     "A settings file: NAME.twd in the library, or a path")
         ->type_name("NAME");
+    bill.add_option("--language", request.language, "Of headings and sums: en, nl, de or fr")
+        ->type_name("CODE")
+        ->check([](const std::string& code) {
+            return languageOfCode(code) ? std::string() : "choose " + std::string(languageCodes);
+        });
     bill.add_flag("--json", request.json, "Print one JSON object that sums the bill up");
     onLibraryCall(bill, calls, [&calls] { return makeBill(calls.bill); });
 }

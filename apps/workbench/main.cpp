@@ -11,6 +11,7 @@
 #include <utility>
 
 #include "core_api/program_data.h"
+#include "core_api/texts/language_codes.h"
 #include "platform/paths.h"
 #include "sheet/sheet_file.h"
 #include "sheet/sheet_printing.h"
@@ -114,13 +115,12 @@ int main(int argc, char** argv) {
     parser.process(application);
 
     if (parser.isSet(language)) {
-        const qsizetype code = QStringList{"en", "nl", "de", "fr"}.indexOf(parser.value(language));
-        if (code < 0) {
-            std::fprintf(stderr, "vormant-workbench: --language %s: choose en, nl, de or fr\n",
-                         qPrintable(parser.value(language)));
+        settings.sessionLanguage = languageOfCode(parser.value(language).toStdString());
+        if (!settings.sessionLanguage) {
+            std::fprintf(stderr, "vormant-workbench: --language %s: choose %s\n",
+                         qPrintable(parser.value(language)), languageCodes.data());
             return 2;
         }
-        settings.sessionLanguage = static_cast<Language>(code);
     }
     useProgramData();
     MainWindow window(settings);

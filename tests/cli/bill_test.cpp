@@ -36,6 +36,24 @@ TEST_F(Bill, MacrosAreCountedAsOftenAsTheyAreNamed) {
               "Plate,PL 10,2,4.71\nBolts,M20,10,\n");
 }
 
+TEST_F(Bill, HeadingsKindsAndSumsAreInTheLanguageThatIsNamed) {
+    const auto firstLines = [&](const char* code) {
+        const auto result = call({"EndPlate", "--language", code, "--columns", "name,kind,count"});
+        EXPECT_EQ(result.exitCode, 0) << result.err;
+        return result.out.substr(0, result.out.find('\n', result.out.find('\n') + 1));
+    };
+    EXPECT_EQ(firstLines("en"), "Name,Kind,Count\nPlate,Plate,1");
+    EXPECT_EQ(firstLines("nl"), "Naam,Soort,Aantal\nPlate,Plaat,1");
+    EXPECT_EQ(firstLines("DE"), "Name,Art,Anzahl\nPlate,Blech,1");
+    EXPECT_EQ(firstLines("fr"), "Nom,Genre,Nombre\nPlate,Platine,1");
+    const auto result = call(
+        {"EndPlate", "--language", "de", "-o", folder / "b.csv", "--columns", "Werkstoff,count"});
+    EXPECT_EQ(result.exitCode, 0) << result.err;
+    EXPECT_THAT(folder.read("b.csv"),
+                AllOf(HasSubstr("Werkstoff,Anzahl\n"), HasSubstr("Zwischensumme Blech,1\n"),
+                      HasSubstr("Summe,5\n")));
+}
+
 TEST_F(Bill, DocumentsHaveRowsSubtotalsAndVariables) {
     const std::string file = folder / "Frame 12.sss";
     const auto result =
@@ -96,6 +114,7 @@ TEST_F(Bill, WrongCallsSayWhatThereIs) {
         {{"EndPlate", "--json"}, 2, "--output FILE"},
         {{"EndPlate", "-o", "x.sss", "--picture-height", "5000"}, 2, "--picture-height"},
         {{"EndPlate", "-o", "x.sss", "--settings", "None"}, 1, "no settings \"None\""},
+        {{"EndPlate", "--language", "it"}, 2, "choose en, nl, de or fr"},
         {{"EndPlate", table}, 2, "macros, or of one CSV file"},
         {{table, "--group", "Material"},
          1,

@@ -7,6 +7,7 @@
 #include "core_api/settings.h"
 #include "core_api/text/delimited_text.h"
 #include "core_api/text/text_helpers.h"
+#include "core_api/texts/language_codes.h"
 
 #include "io/output.h"
 #include "io/suggestion.h"
@@ -39,6 +40,8 @@ class BillCall {
     explicit BillCall(const BillRequest& request) : m_request(request) {}
 
     ExitCode run() {
+        if (const auto language = languageOfCode(m_request.language))
+            gSettings.current().language = *language;
         if (const ExitCode code = takeChoice(); code != ExitCode::done) return code;
         std::string error;
         bool isWrongCall = false;

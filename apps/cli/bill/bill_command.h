@@ -15,6 +15,7 @@ struct BillRequest {
     std::string group;
     std::string title;
     std::string settings;
+    std::string language;  ///< a code (language_codes.h); empty: the usual one
     bool pictures = false;
     int pictureHeight = 0;
     bool json = false;

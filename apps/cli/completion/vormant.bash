@@ -40,6 +40,7 @@ _vormant() {
         --group)
             mapfile -t COMPREPLY < <(compgen -W "none kind section material" -- "$word")
             return ;;
+        --language) mapfile -t COMPREPLY < <(compgen -W "en nl de fr" -- "$word"); return ;;
     esac
     case $command in
         "") options+=" --version standards sheet mapping sections cutstock bill" ;;
@@ -61,7 +62,7 @@ _vormant() {
         "sheet eval") options+=" --cell --jsonl --input" ;;
         "mapping show") options+=" --key --macro --json" ;;
         bill)
-            options+=" --output --columns --group --pictures --picture-height --title --settings --json" ;;
+            options+=" --output --columns --group --pictures --picture-height --title --settings --language --json" ;;
         "mapping set") options+=" --key --macro --attach" ;;
     esac
     if [[ $command == bill && $word != -* ]]; then
