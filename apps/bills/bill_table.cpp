@@ -22,6 +22,10 @@ class TableReader {
                 case cli::CsvReader::Got::record: {
                     Vor_StringArray record;
                     if (!take(fields, record)) return std::nullopt;
+                    if (isFirst && hasOtherSeparators(record))
+                        return fail(
+                            "the columns are not separated by commas; save the table with commas "
+                            "and decimal points");
                     if (isFirst)
                         table.header = std::move(record);
                     else
@@ -38,6 +42,12 @@ class TableReader {
     }
 
   private:
+    /// As programs write them where the comma is for decimals: all would be one column.
+    static bool hasOtherSeparators(const Vor_StringArray& header) {
+        return header.length() == 1 &&
+               header[0].view().find_first_of(";\t") != std::string_view::npos;
+    }
+
     bool take(const std::vector<std::string_view>& fields, Vor_StringArray& record) {
         record.reserve(static_cast<int>(fields.size()));
         for (const std::string_view field : fields) {

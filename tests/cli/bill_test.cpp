@@ -122,6 +122,10 @@ TEST_F(Bill, WrongCallsSayWhatThereIs) {
         {{folder / "none.csv"}, 1, "none.csv"},
         {{folder.write("bad.csv", "A,B\n1,\"2\n")}, 1, "bad.csv:2: a quoted field has no end"},
         {{folder.write("empty.csv", "")}, 1, "the file is empty"},
+        {{folder.write("semi.csv", "Section;Length\nIPE-200;6,5\n")},
+         1,
+         "semi.csv:1: the columns are not separated by commas"},
+        {{folder.write("tabs.csv", "Section\tLength\n")}, 1, "save the table with commas"},
         {{folder.write("far.csv", "\xE4\xB8\xAD\n")}, 1, "far.csv:1: character U+4E2D"},
         {{folder.write("bad.macro", "nothing")}, 1, "bad.macro:1:"},
     };

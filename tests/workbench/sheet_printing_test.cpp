@@ -3,7 +3,9 @@
 #include <QComboBox>
 #include <QDialogButtonBox>
 #include <QDir>
+#include <QImage>
 #include <QMenuBar>
+#include <QPainter>
 #include <QPrintDialog>
 #include <QPrintPreviewDialog>
 #include <QPrintPreviewWidget>
@@ -11,6 +13,8 @@
 #include <QRegularExpression>
 #include <QToolButton>
 
+#include "platform/window/bitmap.h"
+#include "sheet/page_painter.h"
 #include "sheet/say.h"
 #include "sheet_fixture.h"
 #include "spread/control/document.h"
@@ -58,6 +62,24 @@ QPointF placeOf(const QString& file, const QString& word) {
     constexpr double millimetresPerPoint = 25.4 / 72;
     return QPointF(found.captured(1).toDouble(), found.captured(2).toDouble()) *
            millimetresPerPoint;
+}
+
+TEST(PrintedPictures, LeaveTheLinesOfTheirCellsVisible) {
+    const std::string white = packBitmap(CBitmap(100, 100));
+    printing::PrintedPage page;
+    for (const double top : {0.0, 20.0}) {
+        page.body.emplace_back();
+        page.body.back().place = {10, 10 + top, 40, 20};
+    }
+    page.body.back().picture = "#1";
+    page.body.back().keptPicture = &white;
+    QImage paper(600, 600, QImage::Format_RGB32);
+    paper.fill(Qt::white);
+    QPainter painter(&paper);
+    paintPage(painter, page, 10);
+    painter.end();
+    EXPECT_EQ(paper.pixelColor(150, 350), QColor(Qt::white)) << "inside the picture";
+    EXPECT_NE(paper.pixelColor(150, 300), QColor(Qt::white)) << "the line above it";
 }
 
 class SheetOnPaper : public SheetWindow {

@@ -26,9 +26,10 @@ class PagePainter {
         const QColor background =
             toQt(cell.look.background, cell.isHeading ? QColor(235, 235, 235) : QColor(Qt::white));
         if (background != Qt::white) m_painter.fillRect(place, background);
+        if (!cell.picture.empty()) drawPicture(cell, place);
+        // Over the picture, whose paper would hide the line to the row above.
         if (hasLines || cell.isHeading) drawFrame(place, hairline, QColor(150, 150, 150));
-        if (!cell.picture.empty()) return drawPicture(cell, place);
-        if (!cell.text.empty()) drawText(cell, place);
+        if (cell.picture.empty() && !cell.text.empty()) drawText(cell, place);
     }
     void drawBorders(const PrintedCell& cell) {
         if (cell.look.borderStyle == 0) return;
