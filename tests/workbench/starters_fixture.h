@@ -28,8 +28,8 @@ struct StarterTitles {
                          constraintsModal = 24035, constraints = 24036, endConstraints = 24037,
                          macroCuts = 24038, profilesOfObjects = 24040, rowsOfTexts = 24050,
                          readSheetFile = 24051, evaluate = 24053, dstvPoints = 24066,
-                         constructionGrid = 24070, levels = 24071, bracing = 24073,
-                         runStandard = 24081, selfTest = 24082;
+                         saveCuttingStock = 24067, constructionGrid = 24070, levels = 24071,
+                         bracing = 24073, runStandard = 24081, selfTest = 24082;
 };
 
 /// The settings as they were, and the user's own left alone, once the test is over.

@@ -113,6 +113,20 @@ TEST_F(StockOfTheLibrary, KeepsWhatWasEditedAndShowsNewItemsInTheTree) {
          }});
 }
 
+TEST_F(StockOfTheLibrary, IsSavedAsAWholeByItsOwnEntry) {
+    const auto saveAll = [](QWidget& shown) {
+        auto* box = qobject_cast<QMessageBox*>(&shown);
+        if (box) return escape(shown);
+        press(shown, Dlg::actionButton);
+        press(shown, IDOK);
+    };
+    EXPECT_EQ(run(saveCuttingStock, saveAll), Outcome::changed);
+    for (const char* made : {"IPE 200/stock2.shp", "HEA 200/stock2.shp", "L 70x7/stock2.shp"})
+        EXPECT_TRUE(has(made)) << made;
+    EXPECT_EQ(read("IPE 200/stock2.shp"), read("IPE 200/stock1.shp"));
+    EXPECT_FALSE(has("IPE 200/stock3.shp"));  // OK finds nothing changed
+}
+
 TEST_F(StockOfTheLibrary, IsLeftAloneByCancel) {
     const std::string before = read("Items.dat");
     open("Items.dat", {[](QWidget& dialog) {

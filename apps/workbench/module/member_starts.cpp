@@ -118,11 +118,10 @@ bool mayReplace(const cutstock::CuttingStockLibrary& library) {
                         MessageIcon::question, MessageButtons::yesNo}) == IDYES;
 }
 
-}  // namespace
-
-Outcome cuttingStock(ModuleData& data) {
+Outcome editStock(ModuleData& data, bool savesAll) {
     cutstock::CuttingStockLibrary library;
     DlgCSP2Data edited;
+    edited.savesAll = savesAll;
     Vor_String message;
     if (!library.load(edited, message)) {  // not shown, so that nothing can replace it
         showWarning(dialString(cuttingStockTitle), message);
@@ -135,6 +134,16 @@ Outcome cuttingStock(ModuleData& data) {
         showWarning(dialString(cuttingStockTitle), message);
     }
     return Outcome::cancelled;
+}
+
+}  // namespace
+
+Outcome cuttingStock(ModuleData& data) {
+    return editStock(data, false);
+}
+
+Outcome saveCuttingStock(ModuleData& data) {
+    return editStock(data, true);
 }
 
 Outcome cis2(ModuleData& data) {

@@ -40,6 +40,7 @@ Outcome sectionSize(ModuleData& data);
 Outcome memberCuts(ModuleData& data);
 Outcome memberFeatures(ModuleData& data);
 Outcome cuttingStock(ModuleData& data);
+Outcome saveCuttingStock(ModuleData& data);
 Outcome cis2(ModuleData& data);
 Outcome dstvPoints(ModuleData& data);
 Outcome constructionGrid(ModuleData& data);

@@ -44,6 +44,7 @@ constexpr Starter all[] = {
     {Group::sections, 24062, starts::memberCuts},
     {Group::sections, 24063, starts::memberFeatures},
     {Group::sections, 24064, starts::cuttingStock},
+    {Group::sections, 24067, starts::saveCuttingStock},
     {Group::sections, 24065, starts::cis2},
     {Group::sections, 24066, starts::dstvPoints},
     {Group::buildings, 24070, starts::constructionGrid},
