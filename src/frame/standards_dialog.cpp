@@ -107,7 +107,8 @@ ErrorStatus StandardsDialog::getFromVars() {
     }
     int position = 0;
     for (TwVarCell& variable : m_spread.varCells()) {
-        const ErrorStatus status = variable.isLocal() ? variable.setNewValue(m_spread, VarValue())
+        // A variable that was only declared has no value yet.
+        const ErrorStatus status = variable.isLocal() ? variable.setValueToSS(m_spread)
                                                       : bind(variable, position++);
         if (status != Acad::eOk) return status;
     }

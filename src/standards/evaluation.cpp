@@ -11,7 +11,7 @@
 struct TwStandardsSS::Turn {
     const PreparedStandard& prepared;
     const PreparedEquation& equation;
-    const std::optional<formula::Value>& result;  ///< of a formula that need not stand in its cell
+    const formula::Value* result;  ///< of a formula that need not stand in its cell, else null
     Vor_String reason;
     bool isReported = false;  ///< the failure is one that users are told
 
@@ -47,9 +47,9 @@ void TwStandardsSS::evaluateAll(PreparedStandard& prepared) {
     for (PreparedEquation& known : prepared.equations()) {
         const PreparedEquation& equation =
             m_fillsNow ? prepared.equationIn(known, m_varCells, grid(), changed) : known;
-        if (equation.text.view().empty()) continue;
-        const auto result = hiddenResult(equation);
+        const formula::Value* result = hiddenResult(equation);
         if (result && !tellsAll && takeNumber(equation, *result)) continue;
+        if (equation.text.view().empty()) continue;
         (void)evaluate(prepared, equation, result);
     }
     m_fillsNow = true;
@@ -70,9 +70,9 @@ void TwStandardsSS::findNumberPlaces() {
     }
 }
 
-/// What the formula gives where it need not stand in its cell.
-std::optional<formula::Value> TwStandardsSS::hiddenResult(const PreparedEquation& equation) {
-    if (m_fillsNow || equation.kind != PreparedEquation::Kind::ordinary) return std::nullopt;
+/// What the formula gives where it need not stand in its cell, else null.
+inline const formula::Value* TwStandardsSS::hiddenResult(const PreparedEquation& equation) {
+    if (m_fillsNow || equation.kind != PreparedEquation::Kind::ordinary) return nullptr;
     const Vor_FunctionTimer timer(gCalcCellCalcFunctions);
     return grid().evaluate(*equation.program, equation.cell.col, equation.cell.row);
 }
@@ -93,7 +93,7 @@ bool TwStandardsSS::takeNumber(const PreparedEquation& equation, const formula::
 
 ErrorStatus TwStandardsSS::evaluate(const PreparedStandard& prepared,
                                     const PreparedEquation& equation,
-                                    const std::optional<formula::Value>& result) {
+                                    const formula::Value* result) {
     using Kind = PreparedEquation::Kind;
     Turn turn{prepared, equation, result, {}, false};
     ErrorStatus status = Acad::eOk;

@@ -135,7 +135,7 @@ ErrorStatus TwStandardsSS::calcCell(int column, int row) {
     m_assignedIn.resize(static_cast<size_t>(m_varCells.length()));
     return evaluate(*m_prepared,
                     m_prepared->prepare(SharedText(text), {column, row}, m_varCells, grid()),
-                    std::nullopt);
+                    nullptr);
 }
 
 ErrorStatus TwStandardsSS::getVarCoordName(const Vor_String& name, Vor_String& coordinate) const {

@@ -74,9 +74,9 @@ class TwStandardsSS : public Vor_Spread {
 
     void findNumberPlaces();
     void evaluateAll(PreparedStandard& prepared);
-    std::optional<formula::Value> hiddenResult(const PreparedEquation& equation);
+    const formula::Value* hiddenResult(const PreparedEquation& equation);
     ErrorStatus evaluate(const PreparedStandard& prepared, const PreparedEquation& equation,
-                         const std::optional<formula::Value>& result);
+                         const formula::Value* result);
     ErrorStatus assign(Turn& turn);
     bool takeNumber(const PreparedEquation& equation, const formula::Value& result);
     void setEquationType(const PreparedEquation& equation);

@@ -160,7 +160,7 @@ class Grid {
     /// As above with a program compiled before for this very cell, inside the sheet; shares `text`.
     void setFormula(int col, int row, const formula::ProgramRef& program, TextBlock* text);
     /// What a formula of the cell would give, without putting it there (Sheet::evaluate).
-    std::optional<formula::Value> evaluate(const formula::Program& program, int col, int row) {
+    const formula::Value* evaluate(const formula::Program& program, int col, int row) {
         return m_sheet->evaluate(program, col, row);
     }
     bool recalculateCell(int col, int row) { return m_sheet->recalculateCell(col, row); }
@@ -321,7 +321,11 @@ class Grid {
     void changeHeaderLooks(Band& band, int from, int to, int count, const ChangeLook& change);
     void changeColumnLooks(int col, const ChangeLook& change);
     void changeCellLooks(const Block& block, const ChangeLook& change);
-    LookIndex ownLook(int col, int row, const CellType& type);
+    // Of a cell in column `col`; null is one that is not stored.
+    LookIndex shownLook(const Cell* cell, int col) const {
+        return cell && cell->look != inheritedLook ? cell->look : m_sides->columnLook(col);
+    }
+    LookIndex ownLook(const Cell* cell, int col, const CellType& type);
     void noteTouched(int col, int row);
     void noteStructure();
     void dropBeyond(int lastCol, int lastRow);

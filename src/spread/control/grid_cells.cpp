@@ -175,7 +175,7 @@ bool Grid::writeNumber(int col, int row, const CellType& type, double number) {
         return false;
     }
     noteTouched(col, row);
-    m_sheet->put(col, row, Value(number), ownLook(col, row, type));
+    m_sheet->put(col, row, Value(number), ownLook(m_sheet->find(col, row), col, type));
     return true;
 }
 
@@ -184,14 +184,13 @@ bool Grid::writeEmpty(int col, int row, const CellType& type) {
     const Cell* cell = m_sheet->find(col, row);
     if (!cell || (cell->type == ValueType::empty && !cell->formula)) return setType(col, row, type);
     noteTouched(col, row);
-    m_sheet->put(col, row, Value(), ownLook(col, row, type));
+    m_sheet->put(col, row, Value(), ownLook(cell, col, type));
     return true;
 }
 
 Cell* Grid::plainCell(int col, int row, const CellType& type) {
-    if (!isInside(col, row) || !(look(col, row).type == type)) return nullptr;
-    Cell* cell = m_sheet->plainCell(col, row);
-    if (!cell) return nullptr;
+    Cell* cell = isInside(col, row) ? m_sheet->plainCell(col, row) : nullptr;
+    if (!cell || !(m_looks[shownLook(cell, col)].type == type)) return nullptr;
     m_changed = true;
     // One that has another look than in the document was noted when it got that.
     const Cell* original = m_document ? m_document->sheet().find(col, row) : nullptr;

@@ -52,25 +52,24 @@ LookIndex bandLook(const Band& band, int index) {
 LookIndex Grid::lookIndex(int col, int row) const {
     if (isHeader(row)) return isHeader(col) ? m_sides->cols.look : bandLook(m_sides->cols, col);
     if (isHeader(col)) return bandLook(m_sides->rows, row);
-    const Cell* cell = m_sheet->find(col, row);
-    if (cell && cell->look != inheritedLook) return cell->look;
-    return m_sides->columnLook(col);
+    return shownLook(m_sheet->find(col, row), col);
 }
 
 bool Grid::setType(int col, int row, const CellType& type) {
     if (!isInside(col, row)) return setType(Block{col, row, col, row}, type);
-    const LookIndex look = ownLook(col, row, type);
-    if (look == m_sheet->look(col, row)) return true;
+    const Cell* cell = m_sheet->find(col, row);
+    const LookIndex look = ownLook(cell, col, type);
+    if (look == (cell ? cell->look : inheritedLook)) return true;
     noteTouched(col, row);
     m_sheet->setLook(col, row, look);
     return true;
 }
 
 /// The look that the cell itself has to hold so that it is of `type`.
-LookIndex Grid::ownLook(int col, int row, const CellType& type) {
-    const LookIndex own = m_sheet->look(col, row);
-    const LookIndex shown = own != inheritedLook ? own : m_sides->columnLook(col);
-    return m_looks[shown].type == type ? own : m_looks.withType(shown, type);
+LookIndex Grid::ownLook(const Cell* cell, int col, const CellType& type) {
+    const LookIndex shown = shownLook(cell, col);
+    if (!(m_looks[shown].type == type)) return m_looks.withType(shown, type);
+    return cell ? cell->look : inheritedLook;
 }
 
 bool Grid::setType(const Block& block, const CellType& type) {

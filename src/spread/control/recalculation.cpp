@@ -124,23 +124,15 @@ inline bool Sheet::tryCalculate(uint32_t id) {
     CellStore::Block& block = *m_cells.blockOf(slot.col, slot.row);
     Cell& cell = block.cells[CellStore::rowInBlock(slot.row)];
     if (!cell.dirty) return true;
-    bool blocked = false;
-    const Value result = m_evaluator.run(*slot.program, slot.col, slot.row, blocked);
-    if (!blocked) {
-        m_cells.setValue(cell, result);
+    const Value* result = m_evaluator.run(*slot.program, slot.col, slot.row);
+    if (result) {
+        m_cells.setValue(cell, *result);
         CellStore::setDirty(block, cell, false);
         slot.inProgress = false;
         if (m_recordsOrder) m_newOrder.push_back(id);
     }
     m_calculation.endCalculation();
-    return !blocked;
-}
-
-std::optional<Value> Sheet::evaluate(const formula::Program& program, int col, int row) {
-    m_calculation.endCalculation();
-    bool blocked = false;
-    const Value result = m_evaluator.run(program, col, row, blocked);
-    return blocked ? std::nullopt : std::optional(result);
+    return result != nullptr;
 }
 
 // Calculates `first`, and before it whatever dirty formula it reads. The path of formulas that

@@ -61,9 +61,12 @@ class Sheet {
     bool setFormula(int col, int row, std::string_view text, formula::ParseError& error);
     /// As above with a program compiled before for this very cell.
     void setFormula(int col, int row, const formula::ProgramRef& program, TextBlock* text);
-    /// What `program` gives as a formula of the cell, without putting it there. Nothing when it
-    /// reads formulas that have to be calculated first. A text lives until the next calculation.
-    std::optional<Value> evaluate(const formula::Program& program, int col, int row);
+    /// What `program` gives as a formula of the cell, without putting it there; it lives until the
+    /// next calculation. Null when it reads formulas that have to be calculated first.
+    const Value* evaluate(const formula::Program& program, int col, int row) {
+        m_calculation.endCalculation();
+        return m_evaluator.run(program, col, row);
+    }
     /// As setFormula for a document that is being loaded: calculated later, or `cached` kept as its
     /// value. A text that does not compile (its function may be registered later) is kept too; the
     /// cell shows #NAME?.

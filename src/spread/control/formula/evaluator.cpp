@@ -52,32 +52,26 @@ inline Value areaOfOne(control::CellAddress cell) {
     return Value::area({cell.row, cell.row, col, col});
 }
 
-/// What a cell shows for the result of its formula: nothing is shown as 0.
-Value shownResult(const Value& result) {
-    return result.isEmpty() || result.isMissing() ? Value(0.0) : result;
-}
-
 }  // namespace
 
-Value Evaluator::run(const Program& program, int col, int row, bool& blocked) {
+const Value* Evaluator::run(const Program& program, int col, int row) {
     const auto needed = static_cast<size_t>(program.stackDepth()) + 1;
     if (m_stack.size() < needed) m_stack.resize(std::max<size_t>(needed, 64));
     m_calculation.m_hostCol = col;
     m_calculation.m_hostRow = row;
     m_calculation.m_dirtyAreas.clear();
     m_calculation.m_workLeft = Calculation::mostWork;
-    const Value* top = execute(program);
-    if (top && m_calculation.m_workLeft < 0) [[unlikely]] {
-        blocked = false;
-        return ErrorCode::num;
+    const Value* end = execute(program);
+    if (!end) return nullptr;
+    Value& result = m_stack[0];
+    if (m_calculation.m_workLeft < 0) [[unlikely]] {
+        result = ErrorCode::num;
+    } else if (!result.isSingle()) {
+        result = single(result);
+        if (!m_calculation.m_dirtyAreas.empty()) return nullptr;
     }
-    if (top && !top[-1].isSingle()) {
-        const Value result = single(top[-1]);
-        blocked = !m_calculation.m_dirtyAreas.empty();
-        return shownResult(result);
-    }
-    blocked = !top;
-    return top ? shownResult(top[-1]) : Value();
+    if (result.isEmpty() || result.isMissing()) result = 0.0;  // a cell shows nothing as 0
+    return &result;
 }
 
 inline Value Evaluator::area(const Instruction& first, const Instruction& second) const {
@@ -126,7 +120,7 @@ inline bool Evaluator::compare(const Instruction& i, Value& a, const Value& b) {
 
 // The end of the stack, with the result below it; null when a cell was met that has to be
 // calculated first. The stack grows upwards from m_stack; `top` is one past its last value.
-const Value* Evaluator::execute(const Program& program) {
+Value* Evaluator::execute(const Program& program) {
     const auto& dirty = m_calculation.m_dirtyAreas;
     const control::CellStore& cells = *m_calculation.m_cells;
     const int hostCol = m_calculation.m_hostCol;
@@ -287,6 +281,8 @@ const Value* Evaluator::execute(const Program& program) {
             case Op::plus:
             case Op::corner:
                 break;
+            default:
+                __builtin_unreachable();
         }
         ++i;
     }

@@ -13,14 +13,14 @@ class Evaluator {
   public:
     explicit Evaluator(Calculation& calculation) : m_calculation(calculation) {}
 
-    /// The result of `program` in the cell (col, row), a single value. When the formula reads
-    /// cells that are not calculated yet it gives up: `blocked` says so, and the calculation's
-    /// dirtyAreas() hold them. Lives until the calculation ends.
-    Value run(const Program& program, int col, int row, bool& blocked);
+    /// The result of `program` in the cell (col, row), a single value that lives until the
+    /// calculation ends. Null when the formula reads cells that are not calculated yet: then the
+    /// calculation's dirtyAreas() hold them.
+    const Value* run(const Program& program, int col, int row);
 
   private:
     using Args = std::span<const Value>;
-    const Value* execute(const Program& program);
+    Value* execute(const Program& program);
     // Rare ways are kept out of line, so that the loop of execute() stays small.
     [[gnu::noinline]] bool operate(const Instruction& i, Value& a, const Value& b);
     template <Op op>
