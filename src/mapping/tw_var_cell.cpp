@@ -20,6 +20,12 @@ std::optional<TwValueType> typeOfDeclaration(std::string_view text) {
     return std::nullopt;
 }
 
+std::string_view withoutOuter(char symbol, std::string_view text) {
+    const size_t first = text.find_first_not_of(symbol);
+    if (first == std::string_view::npos) return {};
+    return text.substr(first, text.find_last_not_of(symbol) - first + 1);
+}
+
 ErrorStatus statusOf(bool done) {
     return done ? Acad::eOk : Acad::eInvalidInput;
 }
@@ -32,10 +38,10 @@ TwVarCell::TwVarCell(const Vor_String& name, TwCellType cellType, TwValueType va
 
 ErrorStatus TwVarCell::initialize(Vor_Spread& spread, const int& column, const int& row,
                                   const TwCellType& cellType) {
-    Vor_String text;
-    if (!spread.getCellText(column, row, text, Vor_Spread::Reading::value))
-        return Acad::eInvalidInput;
-    text = stripSymbols(text, ' ', true, false);
+    if (!spread.isAttached() || !spread.grid().isInside(column, row)) return Acad::eInvalidInput;
+    std::string buffer;
+    const std::string_view text =
+        withoutOuter(' ', spread.grid().text(column, row, control::Reading::value, buffer));
     const auto type = typeOfDeclaration(text);
     if (!type) return Acad::eInvalidInput;
     m_name = getSubstrAfter(text, " ");

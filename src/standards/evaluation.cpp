@@ -28,7 +28,7 @@ namespace {
 std::string_view formulaShown(const PreparedStandard& prepared, const PreparedEquation& equation) {
     switch (equation.kind) {
         case PreparedEquation::Kind::childCall:
-            return equation.expression;
+            return equation.expression();
         case PreparedEquation::Kind::irregular:
             return {};
         default:
@@ -103,7 +103,7 @@ ErrorStatus TwStandardsSS::evaluate(const PreparedStandard& prepared,
             break;
         case Kind::childCall: {
             const Vor_FunctionTimer timer(gCalcCellCalcNativeFunctions);
-            status = runChild(equation.expression, *equation.detail, equation.cell, turn.reason);
+            status = runChild(equation.expression(), *equation.detail, equation.cell, turn.reason);
             turn.isReported = status != Acad::eOk;
             break;
         }
@@ -113,14 +113,14 @@ ErrorStatus TwStandardsSS::evaluate(const PreparedStandard& prepared,
             break;
     }
     if (turn.isReported)
-        reportEquationFailure(m_filePath, equation.cell.row, equation.name, equation.expression);
+        reportEquationFailure(m_filePath, equation.cell.row, equation.name(), equation.expression());
     RunObserver* observer = runObserver();
     if (observer && (status != Acad::eOk || observer->wantsEveryEquation())) {
         const auto [column, row] = equation.cell;
         const bool isChildCall = equation.kind == Kind::childCall;
         const auto wasCalculated = equation.kind == Kind::ordinary;
         observer->equationDone(
-            {row, column, equation.text.view(), equation.name, formulaShown(prepared, equation),
+            {row, column, equation.text.view(), equation.name(), formulaShown(prepared, equation),
              wasCalculated ? m_varCells[equation.target].value().view() : std::string_view(),
              isChildCall, status == Acad::eOk, turn.reason});
     }

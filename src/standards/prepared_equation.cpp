@@ -6,28 +6,26 @@
 
 namespace {
 
-bool split(PreparedEquation& equation) {
-    const Vor_FunctionTimer timer(gCalcCellSplitSymbol);
-    const std::string_view text = equation.text.view();
+struct Parts {
+    std::string_view name, expression;
+    bool hasSymbol = false;
+};
+
+Parts split(std::string_view text) {
     const size_t symbol = text.find('=');
-    if (symbol == std::string_view::npos) {
-        equation.expression = text;
-        return false;
-    }
-    equation.name = trimmed(text.substr(0, symbol));
-    equation.expression = trimmed(text.substr(symbol + 1));
-    return true;
+    if (symbol == std::string_view::npos) return {{}, text, false};
+    return {trimmed(text.substr(0, symbol)), trimmed(text.substr(symbol + 1)), true};
 }
 
-int findTarget(const PreparedEquation& equation, const VariableReferences& references) {
+int findTarget(std::string_view name, const VariableReferences& references) {
     const Vor_FunctionTimer timer(gCalcCellFindVarCell);
-    return references.find(equation.name);
+    return references.find(name);
 }
 
-bool findNative(PreparedEquation& equation) {
+bool findNative(std::string_view expression, PreparedEquation& equation) {
     const Vor_FunctionTimer timer(gCalcCellFindFunctions);
     Vor_String function;
-    if (!findNativeFunction(equation.expression, function)) return false;
+    if (!findNativeFunction(expression, function)) return false;
     equation.detail = std::make_unique<Vor_String>(std::move(function));
     return true;
 }
@@ -47,16 +45,15 @@ formula::ProgramRef parsedWithNames(std::string_view expression,
     return formula::parseWithNames(expression, settings, references);
 }
 
-void compile(PreparedEquation& equation, const VariableReferences& references,
-             const control::Sheet& sheet) {
+void compile(std::string_view expression, PreparedEquation& equation,
+             const VariableReferences& references, const control::Sheet& sheet) {
     const auto [col, row] = equation.cell;
     formula::ParseSettings settings = sheet.parseSettings(col, row);
     settings.isShared = false;
-    equation.program = parsedWithNames(equation.expression, settings, references);
+    equation.program = parsedWithNames(expression, settings, references);
     formula::ParseError error;
     if (!equation.program)
-        equation.program =
-            formula::parse(translated(equation.expression, references), settings, error);
+        equation.program = formula::parse(translated(expression, references), settings, error);
     equation.kind =
         equation.program ? PreparedEquation::Kind::ordinary : PreparedEquation::Kind::refused;
     if (!equation.program) equation.detail = std::make_unique<Vor_String>(error.message);
@@ -64,8 +61,16 @@ void compile(PreparedEquation& equation, const VariableReferences& references,
 
 }  // namespace
 
+std::string_view PreparedEquation::name() const {
+    return split(text.view()).name;
+}
+
+std::string_view PreparedEquation::expression() const {
+    return split(text.view()).expression;
+}
+
 const SharedText& PreparedEquation::formula(const VariableReferences& references) const {
-    if (!m_formula.block()) m_formula = SharedText(translated(expression, references));
+    if (!m_formula.block()) m_formula = SharedText(translated(expression(), references));
     return m_formula;
 }
 
@@ -97,22 +102,26 @@ PreparedEquation prepareEquation(SharedText text, control::CellAddress cell,
     PreparedEquation equation;
     equation.cell = cell;
     equation.text = std::move(text);
-    const bool hasSymbol = split(equation);
-    equation.target = findTarget(equation, references);
-    if (findNative(equation)) {
+    Parts parts;
+    {
+        const Vor_FunctionTimer timer(gCalcCellSplitSymbol);
+        parts = split(equation.text.view());
+    }
+    equation.target = findTarget(parts.name, references);
+    if (findNative(parts.expression, equation)) {
         equation.kind = PreparedEquation::Kind::childCall;
-    } else if (!hasSymbol) {
+    } else if (!parts.hasSymbol) {
         equation.detail = std::make_unique<Vor_String>(
             "there is no \"=\" in it: write Name=expression, or move labels out "
             "of the rows below \"Calc\"");
     } else if (equation.target < 0) {
         equation.detail = std::make_unique<Vor_String>(
-            Vor_String("no variable \"") + equation.name +
+            Vor_String("no variable \"") + parts.name +
             "\" is declared: declare it below \"Input\", \"Output\" or \"Local\"");
     } else {
         const Vor_FunctionTimer timer(gCalcCellCalcFunctionsPrepare);
         equation.givesText = variables[equation.target].valueType() == TwValueType::String;
-        compile(equation, references, sheet);
+        compile(parts.expression, equation, references, sheet);
     }
     return equation;
 }

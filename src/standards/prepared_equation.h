@@ -19,11 +19,14 @@ struct PreparedEquation {
         refused,    ///< the control cannot make a formula of it
     };
 
+    /// Before the "="; empty without one.
+    std::string_view name() const;
+    /// After the "=", or the whole text.
+    std::string_view expression() const;
+
     control::CellAddress cell;
-    SharedText text;              ///< what the cell showed
-    std::string_view name;        ///< before the "="; empty without one
-    std::string_view expression;  ///< after the "=", or the whole text
-    int target = -1;              ///< the variable of that name, or -1
+    SharedText text;  ///< what the cell showed
+    int target = -1;  ///< the variable of that name, or -1
     Kind kind = Kind::irregular;
     /// The target is a String: the equation cell shows text.
     bool givesText = false;

@@ -38,7 +38,7 @@ class ChildWalk {
             ChildCall call;
             Vor_String reason;
             if (equation.kind != PreparedEquation::Kind::childCall ||
-                !parseChildCall(equation.expression, *equation.detail, call, reason))
+                !parseChildCall(equation.expression(), *equation.detail, call, reason))
                 continue;
             const Vor_String circle = circleThrough(child.sheet.findChildFile(call.file));
             if (!circle.isEmpty()) return circle;
@@ -95,7 +95,7 @@ void checkBinding(StandardCheck& check, control::CellAddress cell, const TwVarCe
 void checkChildCall(StandardCheck& check, const PreparedEquation& equation) {
     ChildCall call;
     Vor_String reason;
-    if (!parseChildCall(equation.expression, *equation.detail, call, reason)) {
+    if (!parseChildCall(equation.expression(), *equation.detail, call, reason)) {
         check.error(equation.cell, reason);
         return;
     }

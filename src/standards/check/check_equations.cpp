@@ -89,12 +89,12 @@ void checkEquations(StandardCheck& check) {
             case PreparedEquation::Kind::irregular:
             case PreparedEquation::Kind::refused:
                 check.error(equation.cell, describeRefusal(check, equation));
-                if (equation.name.empty()) continue;  // a label uses nothing
+                if (equation.name().empty()) continue;  // a label uses nothing
                 break;
             case PreparedEquation::Kind::ordinary:
                 break;
         }
-        names.each(equation.expression, [&](int variable, bool quoted) {
+        names.each(equation.expression(), [&](int variable, bool quoted) {
             check.read(variable, equation.cell);
             if (quoted) checkQuoted(check, equation, variable);
         });
