@@ -113,7 +113,8 @@ ErrorStatus TwStandardsSS::evaluate(const PreparedStandard& prepared,
             break;
     }
     if (turn.isReported)
-        reportEquationFailure(m_filePath, equation.cell.row, equation.name(), equation.expression());
+        reportEquationFailure(m_filePath, equation.cell.row, equation.name(),
+                              equation.expression());
     RunObserver* observer = runObserver();
     if (observer && (status != Acad::eOk || observer->wantsEveryEquation())) {
         const auto [column, row] = equation.cell;

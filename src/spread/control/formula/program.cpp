@@ -5,6 +5,8 @@
 #include <memory>
 #include <new>
 
+#include "platform/small_blocks.h"
+
 namespace formula {
 
 using control::TextBlock;
@@ -13,6 +15,16 @@ namespace {
 
 bool hasConstant(Op op) {
     return op == Op::number || op == Op::text || op == Op::call || op == Op::callCustom;
+}
+
+size_t bytesOf(size_t instructions, size_t constants) {
+    return sizeof(Program) + instructions * sizeof(Instruction) + constants * sizeof(Constant);
+}
+
+SmallBlocks& memory() {
+    // Never destroyed: sheets of static lifetime give programs back after main.
+    static auto* blocks = new SmallBlocks;
+    return *blocks;
 }
 
 }  // namespace
@@ -24,9 +36,8 @@ void releaseTexts(std::span<const Instruction> instructions, std::span<const Con
 }
 
 Program* Program::make(const Code& code) {
-    void* memory = ::operator new(sizeof(Program) + code.instructions.size_bytes() +
-                                  code.constants.size_bytes());
-    auto* program = new (memory) Program;
+    void* place = memory().take(bytesOf(code.instructions.size(), code.constants.size()));
+    auto* program = new (place) Program;
     program->m_size = static_cast<uint32_t>(code.instructions.size()) & 0x3FFFFFFFU;
     program->m_constantCount = static_cast<uint16_t>(code.constants.size());
     program->m_stackDepth = static_cast<uint16_t>(code.stackDepth);
@@ -40,8 +51,9 @@ Program* Program::make(const Code& code) {
 }
 
 void Program::release(Program* program) {
+    const size_t bytes = bytesOf(program->code().size(), program->constants().size());
     program->~Program();
-    ::operator delete(program);
+    memory().giveBack(program, bytes);
 }
 
 /// Every living program by its code, in an open table that holds the hashes too: looking for a
