@@ -321,6 +321,16 @@ TEST_F(StartersTest, CutsAndConstraintsThatComeOrGoDoSoInTheMacro) {
     EXPECT_EQ(variable->value, 7.5);
     EXPECT_EQ(run(constraintsModal, at(5, namedValuesDelete, {})), Outcome::changed);
     EXPECT_EQ(macro().module(0).variables(), before);
+
+    const auto deleteAll = [&](QWidget& shown) {
+        valuesOf(shown).grid().userSelects({1, 2, 2, valuesOf(shown).grid().nrRows()});
+        valuesOf(shown).press(namedValuesDelete);
+        valuesOf(shown).press(IDOK);
+    };
+    EXPECT_EQ(run(constraintsModal, deleteAll), Outcome::changed);
+    EXPECT_TRUE(macro().module(0).variables().isEmpty());
+    EXPECT_EQ(run(constraintsModal, at(1, namedValuesInsert, {"Again"})), Outcome::changed);
+    EXPECT_TRUE(macro().module(0).findVariable("Again")) << "not in the next module that has some";
 }
 
 // --- modeless dialogs ---------------------------------------------------------------------------

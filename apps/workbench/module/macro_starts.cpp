@@ -72,18 +72,28 @@ void setConstraints(Vor_Module& module, const EditConstrData& confirmed) {
     tellUnlessOk(module.setVariables(std::move(variables)), module.name());
 }
 
-/// Those of the first module that has any; confirmed ones go into the macro.
+/// The one that was edited last, else the first that has any, else the first; null without modules.
+const Vor_Module* moduleWithConstraints(runs::MacroRun& run, const ModuleData& data) {
+    const Vor_Macro& macro = *run.macro().macroRead();
+    const auto& last = data.objects.constrained;
+    const Vor_Module* edited = last.macro == run.path() ? macro.findModule(last.name) : nullptr;
+    if (edited) return edited;
+    for (int i = 0; i < macro.moduleCount(); ++i)
+        if (!macro.module(i).variables().isEmpty()) return &macro.module(i);
+    return macro.moduleCount() > 0 ? &macro.module(0) : nullptr;
+}
+
+/// Confirmed ones go into the macro.
 EditConstrData constraintsOf(runs::MacroRun& run, ModuleData& data) {
     EditConstrData edited;
-    const Vor_Macro& macro = *run.macro().macroRead();
-    for (int i = 0; i < macro.moduleCount() && edited.constraints.isEmpty(); ++i) {
-        const Vor_Module& module = macro.module(i);
-        edited.moduleName = module.name();
-        for (const ConstraintVariable& each : module.variables())
+    if (const Vor_Module* module = moduleWithConstraints(run, data)) {
+        edited.moduleName = module->name();
+        for (const ConstraintVariable& each : module->variables())
             edited.constraints.append(
                 {each.name, each.value, false, each.flex == Vor_FlexState::fixed});
     }
     edited.apply = [&data, path = run.path()](const EditConstrData& confirmed) {
+        data.objects.constrained = {path, confirmed.moduleName};
         data.changeMacro(path, [&](Vor_DbMacro& dbMacro) {
             Vor_Module* module = dbMacro.macroWrite()->findModuleWrite(confirmed.moduleName);
             if (module) setConstraints(*module, confirmed);

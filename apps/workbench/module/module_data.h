@@ -15,6 +15,11 @@ class MacroPage;
 
 /// Once given, each keeps what the user changed.
 struct ModuleObjects {
+    /// The module whose constraints were confirmed last: one that has lost all can get some again.
+    struct ConstrainedModule {
+        Vor_String macro;
+        Vor_String name;
+    } constrained;
     std::optional<DynArrayData> array;
     std::optional<TwAutoStandardsData> generalVariables;
     std::optional<Vor_Array<Vor_StringArray>> rows;
