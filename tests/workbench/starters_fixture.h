@@ -9,6 +9,7 @@
 #include <QPointer>
 #include <QTest>
 #include <QTimer>
+#include <algorithm>
 #include <filesystem>
 #include <set>
 
@@ -70,10 +71,13 @@ class StartersTest : public testing::Test, public StarterTitles {
     void whileVisiting(const std::function<void()>& action, const Visit& visit) {
         std::vector<QPointer<QWidget>> seen;
         for (QWidget* each : shownWindows()) seen.emplace_back(each);
+        const auto isSeen = [&](QWidget* each) {
+            return std::count(seen.begin(), seen.end(), each) > 0;
+        };
         QTimer look;
         look.callOnTimeout([&] {
             for (QWidget* each : shownWindows()) {
-                if (std::count(seen.begin(), seen.end(), each) > 0) continue;
+                if (isSeen(each)) continue;
                 if (QApplication::activeModalWidget() && QApplication::activeModalWidget() != each)
                     continue;
                 seen.emplace_back(each);
@@ -84,6 +88,8 @@ class StartersTest : public testing::Test, public StarterTitles {
         look.start(10);
         action();
         QTest::qWait(40);
+        // On a busy machine a window that stays open may be shown later.
+        EXPECT_TRUE(QTest::qWaitFor([&] { return std::ranges::all_of(shownWindows(), isSeen); }));
     }
     Outcome run(int title, const Visit& visit) {
         Outcome outcome = Outcome::failed;

@@ -124,8 +124,8 @@ TEST_P(EveryStarter, OpensAGoodDialogAndLeavesAllAsItWasAfterEscape) {
         const Vor_Macro macroBefore = macro();
         const Outcome outcome = run(each.title, [&](QWidget& shown) { visit(shown, name); });
         EXPECT_EQ(outcome, expectedAfterEscape(each.title));
-        QTest::qWait(80);  // what is closed with a delay
-        EXPECT_THAT(shownWindows(), IsEmpty());
+        QTest::qWait(80);  // what is closed with a delay, longer on a busy machine
+        EXPECT_TRUE(QTest::qWaitFor([&] { return shownWindows().empty(); }));
         EXPECT_TRUE(data().macro()->macroData() == before);
         EXPECT_TRUE(macro() == macroBefore);
         EXPECT_FALSE(printed().isEmpty());
