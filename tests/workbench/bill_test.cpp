@@ -260,6 +260,8 @@ TEST_F(BillWindow, TheMenuOpensTheWindowWithTheMacroInFront) {
         if (!dialog) return;
         wasSeen = true;
         EXPECT_TRUE(dialog->choice().macros[0].endsWith("BasePlate.macro"));
+        for (const auto* button : dialog->findChildren<QPushButton*>())
+            EXPECT_EQ(button->isDefault(), button->text() == "OK") << "Enter makes the bill";
         escape(*dialog);
     });
     look.start(10);

@@ -42,6 +42,7 @@ QWidget* withChooser(QLineEdit* edit, Ask ask) {
     layout->setContentsMargins(0, 0, 0, 0);
     auto* choose = new QPushButton("…");
     choose->setFixedWidth(28);
+    choose->setAutoDefault(false);  // Enter makes the bill
     QObject::connect(choose, &QPushButton::clicked, row, ask);
     layout->addWidget(edit);
     layout->addWidget(choose);
