@@ -118,6 +118,79 @@ TEST(PrintJob, PlacesCellsUnderRepeatedHeadings) {
     EXPECT_EQ(plain.page(0).frame, printing::Rect());
 }
 
+// Where a text may be drawn: from its own column to the last that it may reach, "1-3".
+TEST(PrintJob, TextsReachOverEmptyCells) {
+    const auto right = [](control::Grid& grid) {
+        grid.changeLooks({1, 1, 1, 1}, [](control::Look& look) { look.alignment = 2; });
+    };
+    const struct {
+        const char* text;
+        void (*also)(control::Grid&);
+        int cols;  ///< that its room takes, 64 pixels each
+    } cases[] = {
+        {"text", nullptr, 3},
+        {"two\nlines", nullptr, 1},
+        {"12345678.5", nullptr, 1},
+        {"text", right, 1},
+        {"text",
+         [](Grid& grid) {
+             grid.addSpan({1, 1, 1, 2});
+         },
+         1},
+        {"text",
+         [](Grid& grid) {
+             grid.addSpan({3, 1, 1, 2});
+         },
+         2},
+        {"text", [](Grid& grid) { grid.setData(2, 1, "neighbour"); }, 1},
+        {"text",
+         [](Grid& grid) {
+             grid.setData(2, 1, "hidden");
+             grid.setColHidden(2, true);
+         },
+         1},
+        {"text", [](Grid& grid) { grid.setColHidden(2, true); }, 2},
+    };
+    for (const auto& each : cases) {
+        Grid grid;
+        fill(grid, 4, 3);
+        grid.setData(1, 1, each.text);
+        grid.setData(4, 1, "end");
+        if (each.also) each.also(grid);
+        TwSheetSettings settings;
+        const auto printed = PrintJob(grid, settings, {}).page(0);
+        const PrintedCell* cell = find(printed.body, each.text);
+        ASSERT_TRUE(cell);
+        EXPECT_NEAR(cell->room.width, each.cols * 64 * printing::millimetresPerPixel, 1e-9)
+            << each.text << " " << &each - cases;
+        EXPECT_EQ(cell->isNumber, each.text[0] == '1');
+    }
+}
+
+TEST(PrintJob, LongTextsComeOntoThePaperWhole) {
+    Grid grid;
+    grid.setCols(30);
+    grid.setRows(2);
+    grid.setData(1, 2, "short");
+    grid.setData(2, 1, std::string(40, 'x'));  // 276 pixels in 64
+    TwSheetSettings settings;
+    settings.rowHeader = settings.colHeader = false;
+    EXPECT_EQ(pagesText(PrintJob(grid, settings, {}).layout()), "portrait 100% 1-6x1-2");
+
+    // What reaches over the edge of a page goes on on the next.
+    settings.smartPrint = false;
+    grid.setColWidth(1, 600);
+    const PrintJob job(grid, settings, {});
+    EXPECT_EQ(pagesText(job.layout()), "portrait 100% 1-3x1-2 4-6x1-2");
+    const auto second = job.page(1);
+    const double pixel = printing::millimetresPerPixel;
+    const PrintedCell* rest = find(second.body, std::string(40, 'x'));
+    ASSERT_TRUE(rest && rest->isRest);
+    EXPECT_NEAR(rest->place.left, 9 - 2 * 64 * pixel, 1e-9);
+    EXPECT_NEAR(rest->room.left, 9, 1e-9);
+    EXPECT_NEAR(rest->room.width, 3 * 64 * pixel, 1e-9);
+}
+
 TEST(PrintJob, HeadersAndFootersShowVariables) {
     TemporaryFolder folder;
     Grid band;

@@ -178,6 +178,66 @@ TEST_F(SheetOnPaper, MarginsAndSwitchesCountInPdfFiles) {
     EXPECT_NEAR(placeOf(path("a.pdf"), "Beams").y(), 40, 2);
 }
 
+/// A page as it is painted, four dots to a millimetre.
+class PaintedPage {
+  public:
+    PaintedPage(control::Grid& grid, const TwSheetSettings& settings, int page = 0)
+        : m_job(grid, settings, {}), m_page(m_job.page(page)) {
+        m_image.fill(Qt::white);
+        QPainter painter(&m_image);
+        paintPage(painter, m_page, dots);
+    }
+    /// Whether anything dark lies in the middle of a row of the sheet, between two pixels of it.
+    bool hasInk(int row, int from, int to) const {
+        const auto at = [&](double millimetres) { return static_cast<int>(millimetres * dots); };
+        const double pixel = printing::millimetresPerPixel, left = m_job.layout().body.left;
+        const double top = m_job.layout().body.top + (row - 1) * 20 * pixel;
+        for (int y = at(top + 5 * pixel); y < at(top + 15 * pixel); ++y)
+            for (int x = at(left + from * pixel); x < at(left + to * pixel); ++x)
+                if (qGray(m_image.pixel(x, y)) < 100) return true;
+        return false;
+    }
+    /// Whether the line left of a pixel goes through the whole row.
+    bool hasLine(int row, int at) const {
+        const double pixel = printing::millimetresPerPixel, body = m_job.layout().body.left;
+        const int x = qRound((body + at * pixel) * dots);
+        const double top = m_job.layout().body.top + (row - 1) * 20 * pixel;
+        for (int y = qRound((top + 2 * pixel) * dots); y < qRound((top + 4 * pixel) * dots); ++y)
+            if (qGray(m_image.pixel(x, y)) > 230 && qGray(m_image.pixel(x - 1, y)) > 230)
+                return false;
+        return true;
+    }
+
+  private:
+    static constexpr int dots = 4;
+    printing::PrintJob m_job;
+    printing::PrintedPage m_page;
+    QImage m_image{210 * dots, 297 * dots, QImage::Format_RGB32};
+};
+
+TEST(PagePainter, TextsReachOverTheirNeighboursAsOnTheScreen) {
+    control::Grid grid;
+    grid.setCols(6);
+    grid.setRows(4);
+    const char* text = "a title of the sheet";  // some 120 pixels
+    for (int row = 1; row <= 4; ++row) grid.setData(1, row, text);
+    grid.setData(2, 2, "x");
+    grid.changeLooks({2, 3, 2, 3}, [](control::Look& look) { look.background = 0xE0FFE0; });
+    grid.setData(1, 4, "1234567890.12345");
+    grid.setData(6, 1, "end");
+    TwSheetSettings settings;
+    settings.rowHeader = settings.colHeader = false;
+    const PaintedPage page(grid, settings);
+    EXPECT_TRUE(page.hasInk(1, 66, 110)) << "over the empty cell";
+    EXPECT_FALSE(page.hasLine(1, 64)) << "no line through the text";
+    EXPECT_TRUE(page.hasLine(1, 192)) << "the lines behind it stay";
+    EXPECT_FALSE(page.hasInk(2, 80, 126)) << "not over a text";
+    EXPECT_TRUE(page.hasLine(2, 64));
+    EXPECT_TRUE(page.hasInk(3, 66, 110)) << "over the colour of the neighbour";
+    EXPECT_TRUE(page.hasInk(4, 4, 60));
+    EXPECT_FALSE(page.hasInk(4, 66, 126)) << "a number is not drawn over others";
+}
+
 TEST_F(SheetOnPaper, SomePagesArePrinted) {
     whenOpens<QPrintDialog>([&](QPrintDialog& dialog) {
         dialog.findChild<QAbstractButton*>("printRange")->setChecked(true);

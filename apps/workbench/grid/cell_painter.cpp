@@ -7,6 +7,7 @@
 
 #include "grid/grid_steps.h"
 #include "platform/window/bitmap.h"
+#include "spread/control/text_overflow.h"
 #include "window/dialog_font.h"
 
 using control::CellAddress;
@@ -21,7 +22,6 @@ constexpr int margin = 4;  // as the control fits its columns (text_fit.cpp)
 constexpr int arrowWidth = 18;
 constexpr int boxSize = 13;
 constexpr int noteMark = 6;
-constexpr int farthestOverflow = 40;  // columns that a text may reach over
 const QColor errorColour(192, 0, 0);
 const QColor usualLines(208, 208, 208);
 
@@ -168,35 +168,17 @@ void CellPainter::drawContent(const Drawing& d) const {
             }
             return drawText(d, d.rect);
         default:
-            if (isRoom(d.cell.col, d.cell.row)) return drawTextFromTheLeft(d);
+            if (isRoomForText(m_grid, d.cell.col, d.cell.row)) return drawTextFromTheLeft(d);
             return drawText(d, d.rect);
     }
 }
 
 // --- texts --------------------------------------------------------------------------------------
 
-// Nothing stands in it that a text from the left would cover.
-bool CellPainter::isRoom(int col, int row) const {
-    if (col > m_grid.cols() || !m_grid.sheet().value(col, row).isEmpty()) return false;
-    const CellKind kind = m_grid.look(col, row).type.kind;
-    const bool isPlain = kind == CellKind::general || kind == CellKind::edit ||
-                         kind == CellKind::staticText || kind == CellKind::number;
-    return isPlain && !m_grid.spanAt(col, row);
-}
-
-bool CellPainter::mayOverflow(CellAddress cell) const {
-    const Look& look = m_grid.look(cell.col, cell.row);
-    const control::Value value = m_grid.sheet().value(cell.col, cell.row);
-    const bool isPlain = look.type.kind == CellKind::general || look.type.kind == CellKind::edit ||
-                         look.type.kind == CellKind::staticText;
-    return isPlain && value.isText() && look.alignment <= 1 &&
-           value.text().find('\n') == std::string_view::npos && !m_grid.spanAt(cell.col, cell.row);
-}
-
 bool CellPainter::isCutOff(CellAddress cell, int width) const {
     const Look& look = m_grid.look(cell.col, cell.row);
     if (!m_grid.sheet().cells().find(cell.col, cell.row)) return false;
-    if (mayOverflow(cell) && isRoom(cell.col + 1, cell.row)) return false;
+    if (lastColumnForText(m_grid, cell) > cell.col) return false;
     const QSize size = fontOf(look).metrics.size(Qt::TextExpandTabs, textOf(m_grid, cell));
     return size.width() > width - 2 * margin;
 }
@@ -213,7 +195,7 @@ void CellPainter::drawText(const Drawing& d, const QRect& room) const {
         // A number that is cut would be another number.
         if (type == control::ValueType::number)
             text = QString(std::max(inner.width() / font.metrics.horizontalAdvance('#'), 1), '#');
-        else if (!mayOverflow(d.cell) || !isRoom(d.cell.col + 1, d.cell.row))
+        else if (lastColumnForText(m_grid, d.cell) == d.cell.col)
             text = font.metrics.elidedText(text, Qt::ElideRight, inner.width());
     }
     const bool isTall = hasLines && font.metrics.size(0, text).height() > inner.height();
@@ -233,20 +215,22 @@ struct CellPainter::Reach {
 
 // The text that stands in a cell, its own or one from the left, when it may reach over others.
 std::optional<CellPainter::Reach> CellPainter::reachInto(CellAddress cell) const {
-    Reach reach{cell, 0, 0};
-    while (isRoom(reach.from.col, reach.from.row)) {
-        if (--reach.from.col < 1 || cell.col - reach.from.col > farthestOverflow)
-            return std::nullopt;
-        reach.before += zoomed(m_grid.colWidth(reach.from.col), m_zoom);
-    }
-    if (!mayOverflow(reach.from)) return std::nullopt;
-    const Look& look = m_grid.look(reach.from.col, reach.from.row);
-    reach.end = margin + fontOf(look).metrics.horizontalAdvance(textOf(m_grid, reach.from));
+    std::optional<CellAddress> from;
+    if (isRoomForText(m_grid, cell.col, cell.row))
+        from = overflowingInto(m_grid, cell);
+    else if (mayOverflow(m_grid, cell))
+        from = cell;
+    if (!from) return std::nullopt;
+    Reach reach{*from, 0, 0};
+    for (int col = from->col; col < cell.col; ++col)
+        reach.before += zoomed(m_grid.colWidth(col), m_zoom);
+    const Look& look = m_grid.look(from->col, from->row);
+    reach.end = margin + fontOf(look).metrics.horizontalAdvance(textOf(m_grid, *from));
     return reach;
 }
 
 bool CellPainter::goesOnToTheRight(const Drawing& d) const {
-    if (!isRoom(d.cell.col + 1, d.cell.row)) return false;
+    if (!isRoomForText(m_grid, d.cell.col + 1, d.cell.row)) return false;
     const std::optional<Reach> reach = reachInto(d.cell);
     return reach && reach->end > reach->before + d.rect.width();
 }

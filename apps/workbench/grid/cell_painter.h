@@ -48,8 +48,6 @@ class CellPainter : public QStyledItemDelegate {
 
     const CellFont& fontOf(const control::Look& look) const { return cellFont(look.font, m_zoom); }
     QColor textColour(const Drawing& d, control::CellAddress cell) const;
-    bool mayOverflow(control::CellAddress cell) const;
-    bool isRoom(int col, int row) const;
     struct Reach;
     std::optional<Reach> reachInto(control::CellAddress cell) const;
     bool goesOnToTheRight(const Drawing& d) const;

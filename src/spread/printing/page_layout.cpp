@@ -3,6 +3,9 @@
 #include <algorithm>
 #include <functional>
 
+#include "spread/control/text_fit.h"
+#include "spread/control/text_overflow.h"
+
 namespace printing {
 
 using control::Grid;
@@ -59,6 +62,23 @@ UsedArea usedArea(const Grid& grid) {
     return {std::min(used.col, grid.cols()), std::min(used.row, grid.rows())};
 }
 
+// As far as the texts near the last column reach, so that they come onto the paper whole.
+int lastTextCol(const Grid& grid, UsedArea used) {
+    constexpr int nearby = 40;
+    int last = used.col;
+    for (int row = 1; used.col > 0 && row <= used.row; ++row) {
+        int col = used.col;
+        while (col > 1 && col > used.col - nearby && control::isRoomForText(grid, col, row)) --col;
+        const int limit = control::lastColumnForText(grid, {col, row});
+        if (limit <= used.col) continue;
+        const std::string text = grid.text(col, row, control::Reading::data);
+        int rest = control::fittedSize(text, grid.look(col, row)).width - grid.colWidth(col);
+        for (int reached = col; rest > 0 && reached < limit; rest -= grid.colWidth(reached))
+            last = std::max(last, ++reached);
+    }
+    return last;
+}
+
 struct Fit {
     bool isLandscape;
     double scale;
@@ -83,7 +103,7 @@ Fit smartFit(double pixels, const std::function<double(bool)>& widthOf) {
 PageLayout layOutPages(const Grid& grid, const TwSheetSettings& settings, Paper paper,
                        double headerHeight, double footerHeight) {
     const UsedArea used = usedArea(grid);
-    const PrintedLines cols(used.col, [&](int col) { return grid.colWidth(col); });
+    const PrintedLines cols(lastTextCol(grid, used), [&](int col) { return grid.colWidth(col); });
     const PrintedLines rows(used.row, [&](int row) { return grid.rowHeight(row); });
     const int headWidth = settings.rowHeader ? grid.colWidth(headerIndex) : 0;
     const int headHeight = settings.colHeader ? grid.rowHeight(headerIndex) : 0;

@@ -45,7 +45,8 @@ struct PageLayout {
 /// Heights of the page header and footer in millimetres. With smart print a sheet that is too wide
 /// for the paper is turned, then made smaller (down to a half), until its columns fit on one page;
 /// when even that is too little, and without smart print, the columns go on on further pages. What
-/// is printed ends with the last row and column that hold anything. Header rows and columns of the
+/// is printed ends with the last row and column that hold anything, a text that reaches over empty
+/// cells included. Header rows and columns of the
 /// sheet come again on every page.
 VORMANT_API PageLayout layOutPages(const control::Grid& grid, const TwSheetSettings& settings,
                                    Paper paper, double headerHeight, double footerHeight);

@@ -7,6 +7,7 @@
 #include "platform/encodings.h"
 #include "platform/files.h"
 #include "spread/control/formula/lexer.h"
+#include "spread/control/text_overflow.h"
 
 namespace printing {
 
@@ -67,14 +68,19 @@ class CellPlacer {
                 (bottom - top) * m_pixel};
     }
 
+    PrintedCell printed(const Rect& place, control::CellAddress cell, Look look) const {
+        PrintedCell made;
+        made.place = made.room = place;
+        made.text = m_grid.text(cell.col, cell.row, Reading::data);
+        made.look = std::move(look);
+        made.pixel = m_pixel;
+        return made;
+    }
+
     PrintedCell heading(int col, int row, int left, int top, int right, int bottom) const {
-        PrintedCell cell{rect(left, top, right, bottom),
-                         m_grid.text(col, row, Reading::data),
-                         m_grid.look(col, row),
-                         m_pixel,
-                         true,
-                         {},
-                         nullptr};
+        PrintedCell cell =
+            printed(rect(left, top, right, bottom), {col, row}, m_grid.look(col, row));
+        cell.isHeading = true;
         if (!cell.text.empty()) return cell;
         if (row != headerIndex)
             cell.text = std::to_string(row);
@@ -118,13 +124,36 @@ class CellPlacer {
             col = span->col;
             row = span->row;
         }
-        cells.push_back({rect(m_x[c], m_y[r], m_x[lastCol + 1], m_y[lastRow + 1]),
-                         m_grid.text(col, row, Reading::data),
-                         alignedLook(col, row),
-                         m_pixel,
-                         false,
-                         {},
-                         nullptr});
+        PrintedCell cell = printed(rect(m_x[c], m_y[r], m_x[lastCol + 1], m_y[lastRow + 1]),
+                                   {col, row}, alignedLook(col, row));
+        cell.isNumber = m_grid.sheet().value(col, row).type() == ValueType::number;
+        const int last = lastColumnForText(m_grid, {col, row});
+        if (last > col) cell.room = roomUpTo(last, c, r);
+        cells.push_back(std::move(cell));
+        if (c == 0) placeRest({col, row}, r, cells);
+    }
+
+    // From column `c` of the page to the last of the page up to `lastCol` of the sheet.
+    Rect roomUpTo(int lastCol, size_t c, size_t r) const {
+        size_t last = c;
+        while (last + 1 < m_page.cols.size() && m_page.cols[last + 1] <= lastCol) ++last;
+        return rect(m_x[c], m_y[r], m_x[last + 1], m_y[r + 1]);
+    }
+
+    // A text of the page before that reaches over the edge goes on here.
+    void placeRest(control::CellAddress first, size_t r, std::vector<PrintedCell>& cells) const {
+        if (!isRoomForText(m_grid, first.col, first.row)) return;
+        const auto from = overflowingInto(m_grid, first);
+        if (!from) return;
+        int before = 0;
+        for (int col = from->col; col < first.col; ++col) before += m_grid.colWidth(col);
+        const int left = m_x[0] - before;
+        PrintedCell rest =
+            printed(rect(left, m_y[r], left + m_grid.colWidth(from->col), m_y[r + 1]), *from,
+                    alignedLook(from->col, from->row));
+        rest.room = roomUpTo(lastColumnForText(m_grid, *from), 0, r);
+        rest.isRest = true;
+        cells.push_back(std::move(rest));
     }
 
     const Grid& m_grid;
