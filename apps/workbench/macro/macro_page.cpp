@@ -46,8 +46,8 @@ MacroPage::MacroPage(std::unique_ptr<runs::MacroRun> macro, QWidget* parent)
     auto* both = new QSplitter(Qt::Horizontal);
     both->addWidget(m_objects);
     both->addWidget(makeCalculationView(m_model));
-    both->setStretchFactor(0, 2);
-    both->setStretchFactor(1, 3);
+    both->setStretchFactor(0, 1);
+    both->setStretchFactor(1, 1);
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(makeHeading());
     layout->addWidget(makeRunBar());

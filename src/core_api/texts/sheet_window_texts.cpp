@@ -84,7 +84,7 @@ constexpr TextRow rows[] = {
     {23050, {"Fill &series", "Reeks &doorvoeren", "Rei&he ausfüllen", "Remplir une &série"}},
     {23051, {"Sor&t…", "&Sorteren…", "&Sortieren…", "&Trier…"}},
     {23052, {"Sort by", "Sorteren op", "Sortieren nach", "Trier par"}},
-    {23053, {"Then by", "Daarna op", "Danach nach", "Puis par"}},
+    {23053, {"Then by", "Daarna op", "Dann nach", "Puis par"}},
     {23054, {"Ascending", "Oplopend", "Aufsteigend", "Croissant"}},
     {23055, {"Descending", "Aflopend", "Absteigend", "Décroissant"}},
     {23056,
