@@ -165,13 +165,14 @@ TEST_F(SheetWindow, LargeSheetsOpenAtOnceAndAreEditedWithoutAPause) {
     EXPECT_LT(milliseconds("type and enter", [&] { keys("12"), key(Qt::Key_Return), draw(); }),
               500);
     EXPECT_LT(milliseconds("undo", [&] { key(Qt::Key_Z, Qt::ControlModifier), draw(); }), 500);
-    EXPECT_LT(milliseconds("select all",
-                           [&] {
-                               key(Qt::Key_A, Qt::ControlModifier);
-                               EXPECT_TRUE(QTest::qWaitFor([&] { return !page->summary().isEmpty(); }));
-                               draw();
-                           }),
-              1000);
+    EXPECT_LT(
+        milliseconds("select all",
+                     [&] {
+                         key(Qt::Key_A, Qt::ControlModifier);
+                         EXPECT_TRUE(QTest::qWaitFor([&] { return !page->summary().isEmpty(); }));
+                         draw();
+                     }),
+        1000);
     EXPECT_EQ(page->grid().rows(), rows);
 }
 

@@ -56,6 +56,8 @@ void checkWords(const QWidget& widget, Problems& problems) {
     static const QRegularExpression wordless("^#\\d+$|%\\d");
     for (const QString& text : textsOf(widget))
         if (wordless.match(text).hasMatch()) problems.push_back("no words: " + text.toStdString());
+    const QString title = widget.windowTitle();
+    if (title.contains('&')) problems.push_back("a title with a mark: " + title.toStdString());
 }
 
 // --- what is cut off

@@ -10,7 +10,7 @@
 HelpWindow::HelpWindow(QWidget* parent) : QTextBrowser(parent) {
     setWindowFlag(Qt::Window);
     setAttribute(Qt::WA_DeleteOnClose);
-    setWindowTitle(say(wordManual));
+    setWindowTitle(sayTitle(wordManual));
     resize(760, 640);
     setOpenExternalLinks(true);
 }

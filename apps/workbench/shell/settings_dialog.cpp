@@ -23,7 +23,7 @@ constexpr int scales[] = {100, 125, 150, 175, 200};
 
 SettingsDialog::SettingsDialog(const WorkbenchSettings& settings, QWidget* parent)
     : QDialog(parent), m_settings(settings) {
-    setWindowTitle(say(wordSettings));
+    setWindowTitle(sayTitle(wordSettings));
     auto* form = new QFormLayout(this);
 
     m_library = new QLineEdit(QString::fromStdString(settings.library));
