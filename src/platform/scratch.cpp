@@ -10,23 +10,9 @@
 
 #include "platform/file_error.h"
 #include "platform/paths.h"
+#include "platform/write_bytes.h"
 
 namespace files {
-
-namespace {
-
-int writeAll(int descriptor, std::string_view content) {
-    while (!content.empty()) {
-        const ssize_t written = ::write(descriptor, content.data(), content.size());
-        if (written < 0 && errno == EINTR) continue;
-        if (written < 0) return errno;
-        if (written == 0) return EIO;
-        content.remove_prefix(static_cast<std::size_t>(written));
-    }
-    return 0;
-}
-
-}  // namespace
 
 std::optional<ScratchFolder> ScratchFolder::make(std::string& error) {
     std::error_code failure;
@@ -60,7 +46,7 @@ bool writeScratch(std::string_view path, std::string_view content, std::string& 
         error = errorText("write", path, errno);
         return false;
     }
-    int failure = writeAll(descriptor, content);
+    int failure = writeBytes(descriptor, content);
     if (::close(descriptor) != 0 && failure == 0) failure = errno;
     if (failure == 0) return true;
     ::unlink(machine.c_str());

@@ -12,6 +12,7 @@
 #include "platform/file_error.h"
 #include "platform/files.h"
 #include "platform/paths.h"
+#include "platform/write_bytes.h"
 
 namespace files {
 
@@ -59,18 +60,6 @@ std::optional<unsigned> permissionsOf(const std::string& machine) {
     return status.st_mode & 07777u;
 }
 
-int writeAll(int descriptor, std::string_view content) {
-    while (!content.empty()) {
-        std::size_t written = 0;
-        const int error = steps().write(descriptor, content, written);
-        if (error == EINTR) continue;
-        if (error != 0) return error;
-        if (written == 0) return EIO;  // no error and no progress: not again for ever
-        content.remove_prefix(written);
-    }
-    return steps().flush(descriptor);
-}
-
 int writeNew(const std::string& target, std::string_view content) {
     std::string temporary;
     int descriptor = -1;
@@ -80,7 +69,8 @@ int writeNew(const std::string& target, std::string_view content) {
         error = steps().open(temporary, permissionsOf(target), descriptor);
     }
     if (error != 0) return error;
-    error = writeAll(descriptor, content);
+    error = writeBytes(descriptor, content);
+    if (error == 0) error = steps().flush(descriptor);
     // Some disks report a failed write only here; the descriptor is gone either way.
     const int closeError = steps().close(descriptor);
     if (error == 0) error = closeError;
@@ -101,6 +91,18 @@ void flushFolder(const std::string& target) {
 }
 
 }  // namespace
+
+int writeBytes(int descriptor, std::string_view content) {
+    while (!content.empty()) {
+        std::size_t written = 0;
+        const int error = steps().write(descriptor, content, written);
+        if (error == EINTR) continue;
+        if (error != 0) return error;
+        if (written == 0) return EIO;  // no error and no progress: not again for ever
+        content.remove_prefix(written);
+    }
+    return 0;
+}
 
 int WriteSteps::open(const std::string& path, std::optional<unsigned> permissions,
                      int& descriptor) {
