@@ -22,6 +22,10 @@ inline void require(bool holds) {
 /// a line that fills half of the buffer, so that they are moved within it.
 struct Feeding {
     explicit Feeding(unsigned char byte) : pieceSize(1 + byte % 32), isMoved(byte >= 128) {}
+    /// The lines as they are fed.
+    std::string lines(std::string_view text) const {
+        return (isMoved ? std::string(halfBuffer, ' ') + '\n' : "") + std::string(text);
+    }
     size_t pieceSize;
     bool isMoved;
     static constexpr size_t halfBuffer = size_t{128} << 10;

@@ -35,9 +35,7 @@ std::string resultsOf(std::string_view text, size_t pieceSize, bool allGood) {
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     if (size == 0) return 0;
     const Feeding feeding(data[0]);
-    std::string text(feeding.isMoved ? Feeding::halfBuffer : 0, ' ');
-    if (feeding.isMoved) text += '\n';
-    text.append(reinterpret_cast<const char*>(data) + 1, size - 1);
+    const std::string text = feeding.lines({reinterpret_cast<const char*>(data) + 1, size - 1});
     const std::string results = resultsOf(text, feeding.pieceSize, false);
     require(resultsOf(results, feeding.pieceSize, true) == results);
     return 0;

@@ -26,9 +26,7 @@ std::optional<cli::ImportedTable> tableOf(std::string_view text, size_t pieceSiz
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     if (size == 0) return 0;
     const Feeding feeding(data[0]);
-    std::string text(feeding.isMoved ? Feeding::halfBuffer : 0, ' ');
-    if (feeding.isMoved) text += '\n';
-    text.append(reinterpret_cast<const char*>(data) + 1, size - 1);
+    const std::string text = feeding.lines({reinterpret_cast<const char*>(data) + 1, size - 1});
     const auto first = tableOf(text, feeding.pieceSize);
     if (!first) return 0;
     const std::string exported = cli::tableAsJson(first->table);
