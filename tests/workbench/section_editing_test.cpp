@@ -35,21 +35,9 @@ class SectionEditing : public StartersTest {
 
     /// Presses a button of the page and works with the windows that open.
     void press(int button, const std::vector<Visit>& visits) {
-        size_t next = 0;
-        std::set<QWidget*> seen;
-        QTimer look;
-        look.callOnTimeout([&] {
-            QWidget* asked = QApplication::activeModalWidget();
-            if (!asked || !asked->isActiveWindow() || !seen.insert(asked).second) return;
-            if (next < visits.size()) return visits[next++](*asked);
-            ADD_FAILURE() << "an unexpected window: " << asked->windowTitle().toStdString();
-            escape(*asked);
-        });
-        look.start(10);
         auto* pressed = page->findChild<QPushButton*>(QString::number(button));
         ASSERT_TRUE(pressed);
-        QTest::mouseClick(pressed, Qt::LeftButton);
-        EXPECT_EQ(next, visits.size());
+        visitInTurn([&] { QTest::mouseClick(pressed, Qt::LeftButton); }, visits);
     }
     static void fill(QWidget& dialog, int id, const char* text) {
         auto* field = dialog.findChild<QLineEdit*>(QString::number(id));
@@ -120,6 +108,29 @@ TEST_F(SectionEditing, DrawsASizeOfAnOwnNameAndFindsItByThat) {
     EXPECT_NE(page->drawing().figure().grab().toImage(), before);
     EXPECT_TRUE(gSectionTables.find("hea 225")) << "by the name that was typed";
     saveGrab(*window, "own-name-drawn");
+}
+
+TEST_F(SectionEditing, WhatWasTypedIsKeptUntilTheTableCanBeWritten) {
+    const std::filesystem::path folder = paths::toMachine(gSettings.libDir() + "prof");
+    const auto away = folder.parent_path() / "away";
+    const auto type = [&](QWidget& dialog) {
+        fill(dialog, SizeDialog::firstValueField + 1, "225");
+        std::filesystem::rename(folder, away);
+        std::ofstream(folder) << "in the way";
+        QTest::keyClick(&dialog, Qt::Key_Return);
+    };
+    const auto clearTheWay = [&] {
+        std::filesystem::remove(folder);
+        std::filesystem::rename(away, folder);
+    };
+    press(addSize, {type, answers("Cancel", "cannot create folder")});
+    clearTheWay();
+    EXPECT_FALSE(sizes().contains("225"));
+    press(addSize, {type, answers("Retry", "cannot create folder"), [&](QWidget& question) {
+                        clearTheWay();
+                        answers("Retry", "cannot create folder")(question);
+                    }});
+    EXPECT_TRUE(sizes().contains("225"));
 }
 
 TEST_F(SectionEditing, CancelAddsNothing) {

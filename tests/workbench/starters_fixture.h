@@ -6,6 +6,7 @@
 #include <stdlib.h>
 
 #include <QApplication>
+#include <QMessageBox>
 #include <QPointer>
 #include <QTest>
 #include <QTimer>
@@ -90,6 +91,36 @@ class StartersTest : public testing::Test, public StarterTitles {
         QTest::qWait(40);
         // On a busy machine a window that stays open may be shown later.
         EXPECT_TRUE(QTest::qWaitFor([&] { return std::ranges::all_of(shownWindows(), isSeen); }));
+    }
+    /// Works with the windows that ask meanwhile, in this order; all of them have to come.
+    static void visitInTurn(const std::function<void()>& action, const std::vector<Visit>& visits) {
+        size_t next = 0;
+        std::set<QWidget*> seen;
+        QTimer look;
+        look.callOnTimeout([&] {
+            QWidget* asked = QApplication::activeModalWidget();
+            if (!asked || !asked->isActiveWindow() || !seen.insert(asked).second) return;
+            if (next == visits.size()) ADD_FAILURE() << "an unexpected window";
+            const Visit visit = next < visits.size() ? visits[next++] : Visit(escape);
+            // What opens during a visit has its own. A window left open is an unexpected one then.
+            QTimer::singleShot(0, asked, [visit, asked, &seen] {
+                visit(*asked);
+                seen.erase(asked);
+            });
+        });
+        look.start(10);
+        action();
+        EXPECT_EQ(next, visits.size());
+    }
+    static Visit answers(const char* button, const char* said) {
+        return [=](QWidget& shown) {
+            auto* box = qobject_cast<QMessageBox*>(&shown);
+            ASSERT_TRUE(box) << said;
+            EXPECT_THAT(box->text().toStdString(), testing::HasSubstr(said));
+            for (QAbstractButton* each : box->buttons())
+                if (each->text().remove('&') == button) return each->click();
+            FAIL() << button;
+        };
     }
     Outcome run(int title, const Visit& visit) {
         Outcome outcome = Outcome::failed;

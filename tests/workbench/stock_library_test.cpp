@@ -39,25 +39,9 @@ class StockOfTheLibrary : public StartersTest {
     }
     /// Activates the entry and works with the windows that open, in this order.
     void open(const char* text, const std::vector<Visit>& visits) {
-        size_t next = 0;
-        std::set<QWidget*> seen;
-        QTimer look;
-        look.callOnTimeout([&] {
-            QWidget* asked = QApplication::activeModalWidget();
-            if (!asked || !asked->isActiveWindow() || !seen.insert(asked).second) return;
-            if (next == visits.size()) ADD_FAILURE() << "an unexpected window";
-            const Visit visit = next < visits.size() ? visits[next++] : Visit(escape);
-            // What opens during a visit has its own. A window left open is an unexpected one then.
-            QTimer::singleShot(0, asked, [visit, asked, &seen] {
-                visit(*asked);
-                seen.erase(asked);
-            });
-        });
-        look.start(10);
         QTreeWidgetItem* item = entry(text);
         ASSERT_TRUE(item) << text;
-        emit window->tree().itemActivated(item, 0);
-        EXPECT_EQ(next, visits.size());
+        visitInTurn([&] { emit window->tree().itemActivated(item, 0); }, visits);
     }
     static Vor_Spread& grid(QWidget& dialog, int table) {
         return dynamic_cast<Vor_Spread&>(*dialogOf(dialog)->item(Dlg::idOf(table, Dlg::sheet)));
@@ -70,16 +54,6 @@ class StockOfTheLibrary : public StartersTest {
         ASSERT_TRUE(field);
         QTest::keyClicks(field, name);
         QTest::keyClick(field, Qt::Key_Return);
-    }
-    static Visit answers(const char* button, const char* said) {
-        return [=](QWidget& shown) {
-            auto* box = qobject_cast<QMessageBox*>(&shown);
-            ASSERT_TRUE(box) << said;
-            EXPECT_THAT(box->text().toStdString(), HasSubstr(said));
-            for (QAbstractButton* each : box->buttons())
-                if (each->text().remove('&') == button) return each->click();
-            FAIL() << button;
-        };
     }
 };
 

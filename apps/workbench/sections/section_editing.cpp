@@ -10,11 +10,6 @@ namespace {
 
 constexpr int newSizeWord = 796;
 
-bool complain(const Vor_String& message) {
-    showWarning(dialString(newSizeWord), message);
-    return false;
-}
-
 /// The first row that `before` has not.
 int newRow(const Vor_ProfValuesTable& before, const Vor_ProfValuesTable& now) {
     int row = 0;
@@ -22,9 +17,13 @@ int newRow(const Vor_ProfValuesTable& before, const Vor_ProfValuesTable& now) {
     return row;
 }
 
+/// What stands in the way of writing may be removed meanwhile, so that nothing is typed again.
 bool keep(const Vor_ProfValuesTable& table) {
     Vor_String message;
-    if (!table.writeToFile(table.tableName, &message)) return complain(message);
+    while (!table.writeToFile(table.tableName, &message))
+        if (showMessage({dialString(newSizeWord).str(), message.str(), MessageIcon::exclamation,
+                         MessageButtons::retryCancel}) != IDRETRY)
+            return false;
     return table.setToGlobals(&gSectionTables) == Acad::eOk;
 }
 
@@ -40,7 +39,7 @@ std::optional<Vor_String> addSectionSize(const Vor_String& pattern) {
     Vor_ProfValuesTable table;
     Vor_String message;
     if (!table.readFromFile(getSubstrBefore(pattern, "-"), &message)) {
-        complain(message);
+        showWarning(dialString(newSizeWord), message);
         return std::nullopt;
     }
     const Vor_ProfValuesTable before = table;
