@@ -103,7 +103,8 @@ int main(int argc, char** argv) {
         "Connection standards, sections and bills for steel detailers");
     parser.addHelpOption();
     parser.addVersionOption();
-    const QCommandLineOption open("open", "Standard, macro, section table or sheet to open", "file");
+    const QCommandLineOption open("open", "Standard, macro, section table or sheet to open",
+                                  "file");
     const QCommandLineOption language("language", "Language of the texts: en, nl, de or fr",
                                       "code");
     const QCommandLineOption screenshot("screenshot", "Draw the window into a picture and end",
@@ -111,7 +112,8 @@ int main(int argc, char** argv) {
     const QCommandLineOption dialog("dialog", "Dialog to open: library, size or stock", "name");
     parser.addOptions({open, language, dialog, screenshot});
     parser.addPositionalArgument("library", "Folder of the library to open", "[library]");
-    parser.addPositionalArgument("files", "Standards, macros, section tables or sheets to open", "[file…]");
+    parser.addPositionalArgument("files", "Standards, macros, section tables or sheets to open",
+                                 "[file…]");
     parser.process(application);
 
     if (parser.isSet(language)) {

@@ -108,8 +108,8 @@ ErrorStatus StandardsDialog::getFromVars() {
     int position = 0;
     for (TwVarCell& variable : m_spread.varCells()) {
         // A variable that was only declared has no value yet.
-        const ErrorStatus status = variable.isLocal() ? variable.setValueToSS(m_spread)
-                                                      : bind(variable, position++);
+        const ErrorStatus status =
+            variable.isLocal() ? variable.setValueToSS(m_spread) : bind(variable, position++);
         if (status != Acad::eOk) return status;
     }
     m_spread.replaceGenVars();
