@@ -1,11 +1,11 @@
 #include "bill/tw_ss_bill_output.h"
 
 #include <algorithm>
-#include <array>
-#include <ctime>
 
 #include "bill/bill_title.h"
 #include "core_api/bill/bill_pictures.h"
+#include "core_api/texts/date_text.h"
+#include "platform/clock.h"
 #include "platform/files.h"
 #include "platform/host/host.h"
 #include "spread/sheet_preparation.h"
@@ -25,15 +25,6 @@ constexpr int pictureColumn = 2;
 constexpr int pictureMark = 251;  // bitmap resource
 constexpr int subtotalSides = 31, subtotalStyle = 1;
 constexpr control::Colour subtotalColour = control::rgb(164, 208, 255);
-
-Vor_String now() {
-    const std::time_t time = std::time(nullptr);
-    std::tm local{};
-    localtime_r(&time, &local);
-    std::array<char, 80> text{};
-    std::strftime(text.data(), text.size(), "%d %B, %Y (%H:%M)", &local);
-    return text.data();
-}
 
 void putInFront(Vor_StringArray& texts, const Vor_StringArray& front) {
     Vor_StringArray all = front;
@@ -184,7 +175,8 @@ void TwSSBillOutput::finishColumns(Vor_Spread& spread) {
 
 void TwSSBillOutput::setSheetVariables(Vor_Spread& spread) {
     putInFront(m_variableNames, {"Date", "Title", "BillFilename"});
-    putInFront(m_variableValues, {now(), billTitle(m_fileName), m_fileName});
+    putInFront(m_variableValues,
+               {dateText(platform::calendarTime()), billTitle(m_fileName), m_fileName});
     setVariables(spread, m_variableNames, m_variableValues);
 }
 

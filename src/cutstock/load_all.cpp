@@ -1,16 +1,15 @@
 #include "cutstock/load_all.h"
 
-#include <ctime>
-
 #include "core_api/text/text_helpers.h"
+#include "core_api/texts/date_text.h"
 #include "core_api/texts/texts.h"
+#include "platform/clock.h"
 
 namespace cutstock {
 
 namespace {
 
 constexpr int titleText = 652, headingText = 285, forItemText = 634, loadedText = 636;
-constexpr int januaryText = 25210;
 constexpr size_t ruleLength = 116;
 
 /// What the report says of a kind of file.
@@ -74,13 +73,7 @@ class Loading {
 }  // namespace
 
 Vor_String timeText(std::int64_t nanoseconds) {
-    const std::time_t seconds = static_cast<std::time_t>(nanoseconds / 1'000'000'000);
-    std::tm local{};
-    localtime_r(&seconds, &local);
-    char day[8], rest[32];
-    std::strftime(day, sizeof day, "%d ", &local);
-    std::strftime(rest, sizeof rest, ", %Y (%H:%M)", &local);
-    return day + dialString(januaryText + local.tm_mon) + rest;
+    return dateText(platform::calendarTime(nanoseconds / 1'000'000'000));
 }
 
 LoadedAll loadAll(DlgCSP2Data& data) {

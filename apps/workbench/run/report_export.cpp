@@ -1,12 +1,13 @@
 #include "run/report_export.h"
 
 #include <QAbstractTextDocumentLayout>
-#include <QDate>
 #include <QPageLayout>
 #include <QPdfWriter>
 #include <QSaveFile>
 #include <QTextDocument>
 
+#include "core_api/texts/date_text.h"
+#include "platform/clock.h"
 #include "runs/html_report.h"
 
 namespace {
@@ -14,7 +15,7 @@ namespace {
 QByteArray htmlOf(const runs::Calculation& calculation, const QString& author) {
     runs::ReportHeading heading;
     heading.author = author.toStdString();
-    heading.date = QDate::currentDate().toString(Qt::ISODate).toStdString();
+    heading.date = isoDate(platform::calendarTime()).str();
     return QByteArray::fromStdString(htmlReport(calculation, heading));
 }
 

@@ -7,6 +7,7 @@
 #include <new>
 #include <random>
 
+#include "platform/clock.h"
 #include "spread/control/formula/coerce.h"
 #include "spread/control/formula/lexer.h"
 #include "spread/control/sheet.h"
@@ -159,10 +160,9 @@ std::optional<Area> Calculation::parseReference(std::string_view text, bool a1, 
 }
 
 double Calculation::now() const {
-    const auto now = std::chrono::system_clock::now();
+    const auto now = platform::now();
     const std::time_t seconds = std::chrono::system_clock::to_time_t(now);
-    std::tm local{};
-    localtime_r(&seconds, &local);
+    const std::tm local = platform::calendarTime(seconds);
     const auto fraction = now - std::chrono::time_point_cast<std::chrono::seconds>(now);
     // Day 25569 is 1970-01-01.
     return 25569.0 + (static_cast<double>(seconds + local.tm_gmtoff) +

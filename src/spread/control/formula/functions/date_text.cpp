@@ -2,8 +2,8 @@
 
 #include <array>
 #include <charconv>
-#include <chrono>
 
+#include "platform/clock.h"
 #include "spread/control/formula/functions/calendar.h"
 
 namespace formula {
@@ -23,8 +23,7 @@ std::string_view trimmed(std::string_view text) {
 }
 
 int thisYear() {
-    const auto today = std::chrono::floor<std::chrono::days>(std::chrono::system_clock::now());
-    return static_cast<int>(std::chrono::year_month_day(today).year());
+    return platform::calendarTime().tm_year + 1900;
 }
 
 /// A run of digits, a word, or the separators between two of them.
