@@ -8,6 +8,7 @@
 #include "core_api/settings.h"
 #include "macros/sample_macro.h"
 #include "sections/section_area.h"
+#include "test_folders.h"
 
 namespace {
 

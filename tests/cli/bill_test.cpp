@@ -5,6 +5,7 @@
 #include <nlohmann/json.hpp>
 
 #include "program.h"
+#include "test_folders.h"
 #include "zip_entry.h"
 
 namespace {

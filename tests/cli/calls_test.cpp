@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "program.h"
+#include "test_folders.h"
 
 namespace {
 

@@ -1,4 +1,5 @@
 #include "program.h"
+#include "test_folders.h"
 
 #include <fcntl.h>
 #include <gtest/gtest.h>

@@ -5,6 +5,7 @@
 #include <nlohmann/json.hpp>
 
 #include "library.h"
+#include "test_folders.h"
 
 namespace {
 

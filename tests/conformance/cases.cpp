@@ -10,6 +10,7 @@
 #include "core_api/text/number_text.h"
 #include "io/texts.h"
 #include "platform/encodings.h"
+#include "test_folders.h"
 
 namespace conformance {
 

@@ -7,6 +7,7 @@
 #include "core_api/text/text_helpers.h"
 #include "support/printed.h"
 #include "support/temporary_folder.h"
+#include "test_folders.h"
 
 namespace {
 

@@ -7,6 +7,7 @@
 #include "cutstock/item_rows.h"
 #include "cutstock/stock_library.h"
 #include "platform/paths.h"
+#include "test_folders.h"
 
 namespace {
 

@@ -5,6 +5,7 @@
 
 #include "core_api/settings.h"
 #include "platform/paths.h"
+#include "test_folders.h"
 
 class SampleLibrary : public testing::Test {
   protected:

@@ -11,6 +11,7 @@
 #include "standards/standards_check.h"
 #include "standards/standards_commands.h"
 #include "support/test_user.h"
+#include "test_folders.h"
 
 namespace {
 

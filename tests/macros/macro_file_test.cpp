@@ -13,6 +13,7 @@
 #include "core_api/macros/macro_limits.h"
 #include "macros/sample_macro.h"
 #include "support/temporary_folder.h"
+#include "test_folders.h"
 
 namespace {
 

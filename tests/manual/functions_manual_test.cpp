@@ -8,6 +8,7 @@
 #include "manual/page.h"
 #include "spread/control/formula/function.h"
 #include "support/formula_sheet.h"
+#include "test_folders.h"
 
 namespace {
 

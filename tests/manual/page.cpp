@@ -8,6 +8,7 @@
 #include <iterator>
 
 #include "core_api/text/text_helpers.h"
+#include "test_folders.h"
 
 namespace manual {
 

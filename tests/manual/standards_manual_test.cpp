@@ -4,6 +4,7 @@
 #include "core_api/settings.h"
 #include "manual/page.h"
 #include "standards/tw_standards_ss.h"
+#include "test_folders.h"
 
 namespace {
 

@@ -10,6 +10,7 @@
 
 #include "manual/page.h"
 #include "support/temporary_folder.h"
+#include "test_folders.h"
 
 namespace {
 

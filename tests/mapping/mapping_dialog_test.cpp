@@ -13,6 +13,7 @@
 #include "support/printed.h"
 #include "support/standard_file.h"
 #include "support/test_user.h"
+#include "test_folders.h"
 
 namespace {
 

@@ -15,6 +15,7 @@
 #include "core_api/text/text_helpers.h"
 #include "sections/section_types.h"
 #include "support/temporary_folder.h"
+#include "test_folders.h"
 
 namespace {
 

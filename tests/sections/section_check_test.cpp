@@ -7,6 +7,7 @@
 #include "core_api/files.h"
 #include "sections/vor_prof_values_table.h"
 #include "support/temporary_folder.h"
+#include "test_folders.h"
 
 namespace {
 

@@ -6,6 +6,7 @@
 #include "core_api/text/text_helpers.h"
 #include "core_api/texts/texts.h"
 #include "sections/vor_prof_values_table.h"
+#include "test_folders.h"
 
 namespace {
 

@@ -12,6 +12,7 @@
 #include "support/printed.h"
 #include "support/temporary_folder.h"
 #include "support/test_user.h"
+#include "test_folders.h"
 
 namespace {
 

@@ -17,6 +17,7 @@
 #include "platform/paths.h"
 #include "starters_fixture.h"
 #include "support/test_user.h"
+#include "test_folders.h"
 
 namespace {
 

@@ -17,6 +17,7 @@
 #include "sections/dialogs/size_dialog.h"
 #include "spread/formulas/formulas_dialog.h"
 #include "support/temporary_folder.h"
+#include "test_folders.h"
 #include "window/qt_window_system.h"
 
 namespace {

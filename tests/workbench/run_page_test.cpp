@@ -18,6 +18,7 @@
 #include "run/run_page.h"
 #include "shell/main_window.h"
 #include "support/test_user.h"
+#include "test_folders.h"
 #include "window/dialog_font.h"
 
 namespace {

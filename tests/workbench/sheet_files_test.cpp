@@ -5,6 +5,7 @@
 #include "core_api/settings.h"
 #include "run/run_page.h"
 #include "sheet_fixture.h"
+#include "test_folders.h"
 
 namespace {
 

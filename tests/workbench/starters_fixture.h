@@ -23,6 +23,7 @@
 #include "shell/main_window.h"
 #include "shell/starters_menu.h"
 #include "support/temporary_folder.h"
+#include "test_folders.h"
 
 struct StarterTitles {
     static constexpr int macro = 24030, macroModeless = 24031, takeMacroData = 24032,

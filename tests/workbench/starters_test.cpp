@@ -12,6 +12,7 @@
 #include "frame/open_macro_dialogs.h"
 #include "frame/string_array_dialog.h"
 #include "starters_fixture.h"
+#include "test_folders.h"
 #include "window/dialog_font.h"
 #include "window/dialog_navigation.h"
 
