@@ -5,16 +5,14 @@
 
 #include "io/texts.h"
 #include "io/typed_paths.h"
+#include "platform/terminal_text.h"
 
 namespace cli {
 
 namespace {
 
 void writeError(const std::string& line) {
-    std::string text = shortened(line);
-    // Names can hold anything; a terminal would take some of it for orders.
-    for (char& c : text)
-        if ((c >= 0 && c < ' ' && c != '\n' && c != '\t') || c == '\x7F') c = '?';
+    const std::string text = terminalText(shortened(line));
     std::fwrite(text.data(), 1, text.size(), stderr);
 }
 

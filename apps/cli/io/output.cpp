@@ -6,10 +6,16 @@
 #include <cstring>
 
 #include "console.h"
+#include "platform/terminal_text.h"
 
 namespace cli {
 
+Output::Output() : m_isTerminal(::isatty(STDOUT_FILENO) == 1) {
+    m_buffer.reserve(2 * flushAt);
+}
+
 void Output::flush() {
+    if (m_isTerminal) m_buffer = terminalText(m_buffer);
     std::string_view left = m_buffer;
     while (!left.empty() && m_error == 0) {
         const ssize_t count = ::write(STDOUT_FILENO, left.data(), left.size());

@@ -1,5 +1,6 @@
 // The standard output through one large buffer. Writing never stops half way: a failure (a full
-// disk) is remembered and told once, at the end.
+// disk) is remembered and told once, at the end. Files and pipes get every byte as it is; on a
+// terminal the control characters of texts are shown as "?".
 #pragma once
 
 #include <cstddef>
@@ -10,7 +11,7 @@ namespace cli {
 
 class Output {
   public:
-    Output() { m_buffer.reserve(2 * flushAt); }
+    Output();
     Output(const Output&) = delete;
     Output& operator=(const Output&) = delete;
 
@@ -35,6 +36,7 @@ class Output {
     static constexpr size_t flushAt = size_t{128} << 10;
 
     std::string m_buffer;
+    bool m_isTerminal;
     int m_error = 0;
 };
 

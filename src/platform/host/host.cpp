@@ -5,6 +5,7 @@
 #include <string>
 
 #include "platform/encodings.h"
+#include "platform/terminal_text.h"
 
 namespace {
 
@@ -29,7 +30,7 @@ Host* Host::install(Host* host) {
 }
 
 void Host::print(std::string_view text) {
-    const std::string utf8 = encodings::toUtf8(text);
+    const std::string utf8 = terminalText(encodings::toUtf8(text));
     std::fwrite(utf8.data(), 1, utf8.size(), stderr);
 }
 
