@@ -58,26 +58,6 @@ void showTextTips(Vor_Spread& sheet) {
     view.noteIndicators = false;
 }
 
-/// True, with `reference` at the copy, when there is such a file and it was copied, or lies in
-/// `folder` already.
-bool copyBeside(const Vor_String& folder, Vor_String& reference) {
-    if (reference.isEmpty() || !files::exists(reference)) return false;
-    const Vor_String copy = folder + getFileName(reference);
-    const auto copyFile = [](const Vor_String& from, const Vor_String& to) {
-        if (from.equal(to)) return true;
-        std::string error;
-        const auto content = files::readWhole(from, error);
-        if (content && files::writeWhole(to, *content, error)) return true;
-        acutPrint(error + "\n");
-        return false;
-    };
-    if (!copyFile(reference, copy)) return false;
-    const Vor_String picture = changeExtension(reference, "bmp");
-    if (files::exists(picture)) copyFile(picture, changeExtension(copy, "bmp"));
-    reference = copy;
-    return true;
-}
-
 }  // namespace
 
 bool prepareSheet(Vor_Spread& sheet, const Vor_String& settingsName, bool isNew) {
@@ -98,14 +78,35 @@ bool setVariables(Vor_Spread& sheet, const Vor_StringArray& names, const Vor_Str
 }
 
 bool saveSheet(Vor_Spread& sheet, const Vor_String& path) {
-    if (!sheet.saveToFile(path)) return false;
-    sheet.setBool(sheetChanged, false);
+    std::string inLastError;
+    return saveSheet(sheet, path, HeaderFiles::asNamed, inLastError);
+}
+
+bool saveSheet(Vor_Spread& sheet, const Vor_String& path, HeaderFiles headers, std::string& error) {
     TwSheetSettings settings;
     settings.readFromSheet(sheet);
+    const Vor_String before = settings.headerFile + settings.footerFile;
     const Vor_String folder = getPath(path);
-    const bool hasHeader = copyBeside(folder, settings.headerFile);
-    const bool hasFooter = copyBeside(folder, settings.footerFile);
+    HeaderCopies copies(folder, headers);
+    // Without its folder the sheet cannot be saved either, and that is what the user asked for.
+    const bool hasFolder = folder.isEmpty() || files::isFolder(folder);
+    for (Vor_String* reference : {&settings.headerFile, &settings.footerFile}) {
+        if (!hasFolder || copies.add(*reference) || copies.problem().empty()) continue;
+        if (headers == HeaderFiles::allOrNothing) {
+            error = copies.problem();
+            copies.undo();
+            return false;
+        }
+        acutPrint(copies.problem() + "\n");
+    }
+    // Behind its copies, so that a sheet that was saved has them.
+    if (!sheet.saveToFile(path)) {
+        error = sheet.lastError();
+        copies.undo();
+        return false;
+    }
+    sheet.setBool(sheetChanged, false);
     // The saved file keeps the references it had: other copies of the sheet still need them.
-    if (hasHeader || hasFooter) settings.writeToSheet(sheet);
+    if (settings.headerFile + settings.footerFile != before) settings.writeToSheet(sheet);
     return true;
 }

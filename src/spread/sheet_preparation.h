@@ -3,6 +3,7 @@
 #pragma once
 
 #include "core_api/text/vor_string_array.h"
+#include "spread/header_copies.h"
 
 class Vor_Spread;
 
@@ -13,6 +14,10 @@ VORMANT_API bool prepareSheet(Vor_Spread& sheet, const Vor_String& settingsName,
 VORMANT_API bool setVariables(Vor_Spread& sheet, const Vor_StringArray& names,
                               const Vor_StringArray& values);
 /// Saves the sheet, and copies of its header and footer files with their pictures beside it, which
-/// the sheet refers to from then on. False when the sheet could not be saved (lastError() says
-/// why); a file that cannot be copied is told on the command line and referred to where it was.
+/// the sheet refers to from then on. False, with nothing written, when the sheet could not be saved
+/// (lastError() says why); a file that cannot be copied is reported on the command line and
+/// referred to where it was.
 VORMANT_API bool saveSheet(Vor_Spread& sheet, const Vor_String& path);
+/// The same with a choice of what is copied; `error` says why nothing was saved.
+VORMANT_API bool saveSheet(Vor_Spread& sheet, const Vor_String& path, HeaderFiles headers,
+                           std::string& error);

@@ -78,10 +78,11 @@ Vor_String settingsPath(const Vor_String& name) {
 }
 
 /// A header or footer may lie beside the settings file that names it, so that both can be moved.
+/// It goes before one of the same name in the folder that a program was started in.
 void lookBesideSettings(Vor_String& reference) {
+    const bool isWholePath = reference.beginsWith("\\") || reference.hasSubString(":");
     const Vor_String beside = settingsFolder() + reference;
-    if (reference.isEmpty() || files::exists(reference) || !files::exists(beside)) return;
-    reference = beside;
+    if (!reference.isEmpty() && !isWholePath && files::exists(beside)) reference = beside;
 }
 
 }  // namespace

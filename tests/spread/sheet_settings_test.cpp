@@ -256,6 +256,64 @@ TEST_F(SheetSettings, SavingTakesHeadersAndFootersAlong) {
     EXPECT_FALSE(saveSheet(sheet, folder.inside("nowhere\\a.sss")));
 }
 
+TEST_F(SheetSettings, CopiesOfHeadersReplaceNothing) {
+    const auto save = [&](const char* header, HeaderFiles which) {
+        prepareSheet(sheet, "none", true);
+        TwSheetSettings settings;
+        settings.readFromSheet(sheet);
+        settings.headerFile = header ? folder.inside(header) : "";
+        settings.writeToSheet(sheet);
+        std::string error;
+        const bool isSaved = saveSheet(sheet, folder.inside("bills\\a.sss"), which, error);
+        EXPECT_EQ(isSaved, error.empty()) << error;
+        settings.readFromSheet(sheet);
+        const std::string reference = settings.headerFile.str();
+        return (isSaved ? "saved " : "not saved ") +
+               reference.substr(std::min(reference.rfind('\\') + 1, reference.size()));
+    };
+    const std::string document = "vormant-sheet 1\nsize 1 1\ncells\nend 0\n";
+    folder.write("forms/head.sss", document);
+    folder.write("bills/head.sss", "the user's own");
+    const auto all = HeaderFiles::allOrNothing;
+    EXPECT_EQ(save("forms\\head.sss", all), "saved head 2.sss");
+    EXPECT_EQ(save("forms\\head.sss", all), "saved head 2.sss") << "the same serves again";
+    EXPECT_EQ(folder.read("bills/head.sss"), "the user's own");
+    EXPECT_EQ(folder.read("bills/head 2.sss"), document);
+    folder.write("forms/head.sss", document + "\n");
+    EXPECT_EQ(save("forms\\head.sss", HeaderFiles::asNamed), "saved head 3.sss") << "renewed";
+    // A picture keeps the name of its sheet.
+    folder.write("forms/head.sss", document);
+    folder.write("forms/head.bmp", "no picture");
+    folder.write("bills/head 2.bmp", "another");
+    EXPECT_EQ(save("forms\\head.sss", HeaderFiles::asNamed), "saved head 4.sss");
+    EXPECT_EQ(folder.read("bills/head 4.bmp"), "no picture");
+    // What is no sheet and no bitmap is nobody's header.
+    folder.write("forms/secret", "key");
+    for (const char* bad : {"forms\\secret", "forms\\head.sss", "forms\\none.sss"}) {
+        std::filesystem::remove(folder.path() / "bills/a.sss");
+        const std::string name = std::string(bad).substr(6);
+        EXPECT_EQ(save(bad, all), "not saved " + name);
+        EXPECT_FALSE(std::filesystem::exists(folder.path() / "bills/a.sss"));
+        EXPECT_EQ(save(bad, HeaderFiles::sheetsOnly), "saved " + name);
+        EXPECT_FALSE(std::filesystem::exists(folder.path() / "bills/secret"));
+    }
+}
+
+TEST_F(SheetSettings, AHeaderGoesAgainWhenItsSheetCannotBeSaved) {
+    const std::string document = "vormant-sheet 1\nsize 1 1\ncells\nend 0\n";
+    folder.write("forms/head.sss", document);
+    std::filesystem::create_directories(folder.path() / "bills/a.sss");
+    prepareSheet(sheet, "none", true);
+    TwSheetSettings settings;
+    settings.readFromSheet(sheet);
+    settings.headerFile = folder.inside("forms\\head.sss");
+    settings.writeToSheet(sheet);
+    std::string error;
+    EXPECT_FALSE(saveSheet(sheet, folder.inside("bills\\a.sss"), HeaderFiles::allOrNothing, error));
+    EXPECT_NE(error, "");
+    EXPECT_FALSE(std::filesystem::exists(folder.path() / "bills/head.sss"));
+}
+
 TEST_F(SheetSettings, NameHeadersThatLieBesideTheirFile) {
     TwSheetSettings settings;
     settings.headerFile = "Head.sss";

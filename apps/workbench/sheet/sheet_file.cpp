@@ -78,10 +78,7 @@ bool SheetFile::import(const std::string& path, std::string& error) {
 }
 
 bool SheetFile::save(const std::string& path, std::string& error) {
-    if (!saveSheet(m_spread, path)) {
-        error = m_spread.lastError();
-        return false;
-    }
+    if (!saveSheet(m_spread, path, HeaderFiles::sheetsOnly, error)) return false;
     m_path = path;
     m_stamp = files::stampOf(path);
     m_isImported = false;
