@@ -11,6 +11,8 @@
 #include <iterator>
 #include <unordered_map>
 
+#include "core_api/drawing/canvas.h"
+#include "platform/clock.h"
 #include "platform/encodings.h"
 #include "platform/files.h"
 #include "platform/window/bitmap.h"
@@ -102,6 +104,22 @@ void setNumberFormat(lxw_format* format, const control::CellType& type) {
     }
 }
 
+constexpr int pictureMark = 251;  // bitmap resource
+
+/// The arrow from a row to its picture, as the screen draws the resource.
+const std::string& markBitmap() {
+    static const std::string bytes = [] {
+        constexpr CBitmap::Pixel ink = 0x44525F;
+        drawing::Canvas canvas(18, 18);
+        const drawing::Point line[] = {{4, 3}, {4, 12}, {13, 12}};
+        canvas.stroke(line, 1.6, ink);
+        const drawing::Contour head[] = {{{10, 8.5}, {14, 12}, {10, 15.5}}};
+        canvas.fill(head, ink);
+        return encodeBitmap(canvas.bitmap());
+    }();
+    return bytes;
+}
+
 /// One workbook being filled from a grid.
 class Workbook {
   public:
@@ -113,6 +131,16 @@ class Workbook {
     Workbook& operator=(const Workbook&) = delete;
     ~Workbook() {
         if (m_book) workbook_close(m_book);
+    }
+
+    /// Of the clock only where it is fixed: the same sheet gives the same bytes.
+    void setCreated() {
+        if (!m_book) return;
+        constexpr std::int64_t firstOfArchives = 315532800;  // 1980, as its files are dated
+        lxw_doc_properties properties{};
+        properties.created =
+            static_cast<std::time_t>(platform::fixedTime().value_or(firstOfArchives));
+        note(workbook_set_properties(m_book, &properties), {});
     }
 
     void keepFirstRowInSight() {
@@ -229,6 +257,9 @@ class Workbook {
             const control::Look& look = m_grid.look(col, row);
             if (look.type.kind == control::CellKind::picture)
                 writePicture(col, row, look.type.text);
+            if (look.type.kind == control::CellKind::pictureHandle &&
+                look.type.picture == pictureMark)
+                insertPicture(col, row, markBitmap());
         });
     }
 
@@ -242,6 +273,10 @@ class Workbook {
         if (!kept && !file) return;
         std::string bytes = kept ? *kept : std::move(*file);
         if (const auto bitmap = decodeBitmap(bytes, error)) bytes = encodeBitmap(*bitmap);
+        insertPicture(col, row, bytes);
+    }
+
+    void insertPicture(int col, int row, const std::string& bytes) {
         lxw_image_options options{};
         options.object_position = LXW_OBJECT_MOVE_DONT_SIZE;
         const lxw_error result = worksheet_insert_image_buffer_opt(
@@ -340,6 +375,7 @@ std::optional<std::string> sheetAsXlsx(const control::Grid& sheet, std::string& 
         return std::nullopt;
     }
     Workbook workbook(grid, file.path());
+    workbook.setCreated();
     if (withHeader) workbook.keepFirstRowInSight();
     if (!workbook.write(error)) return std::nullopt;
     std::ifstream stream(file.path(), std::ios::binary);

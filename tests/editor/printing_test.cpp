@@ -58,6 +58,36 @@ TEST(PageLayout, FitsColumnsAndCutsRows) {
     }
 }
 
+TEST(PageLayout, KeepsARowAndItsPictureTogether) {
+    const struct {
+        int picture, height;  // the row and its pixels
+        const char* pages;
+    } cases[] = {
+        {53, 20, "portrait 100% 1-10x1-53 1-10x54-60"},
+        {54, 20, "portrait 100% 1-10x1-52 1-10x53-60"},
+        {55, 20, "portrait 100% 1-10x1-53 1-10x54-60"},
+        {40, 400, "portrait 100% 1-10x1-38 1-10x39-60"},
+        {40, 1060, "portrait 100% 1-10x1-39 1-10x40-40 1-10x41-60"},
+        {1, 1000, "portrait 100% 1-10x1-4 1-10x5-57 1-10x58-60"},
+    };
+    control::CellType picture;
+    picture.kind = control::CellKind::picture;
+    for (const auto& each : cases) {
+        Grid grid;
+        fill(grid, 10, 60);
+        grid.setType({2, each.picture, 2, each.picture}, picture);
+        grid.setRowHeight(each.picture, each.height);
+        EXPECT_EQ(pagesText(printing::layOutPages(grid, {}, {}, 0, 0)), each.pages)
+            << each.picture << " " << each.height;
+    }
+    // Rows of nothing but pictures: no chain of them.
+    Grid grid;
+    fill(grid, 10, 60);
+    grid.setType({2, 1, 2, 60}, picture);
+    EXPECT_EQ(pagesText(printing::layOutPages(grid, {}, {}, 0, 0)),
+              "portrait 100% 1-10x1-53 1-10x54-60");
+}
+
 TEST(PageLayout, LeavesOutWhatIsHiddenOrEmptyAndPrintsWhatIsTooLarge) {
     Grid grid;
     fill(grid, 5, 9);

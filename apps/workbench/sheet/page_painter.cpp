@@ -7,6 +7,7 @@
 
 #include "grid/cell_font.h"
 #include "grid/cell_painter.h"
+#include "grid/cell_pictures.h"
 #include "window/dialog_font.h"
 #include "window/machine_path.h"
 
@@ -88,6 +89,7 @@ class PagePainter {
         if (background != Qt::white) m_painter.fillRect(place, background);
         // Below the lines, as its paper would hide the one to the row above.
         if (!cell.picture.empty()) drawPicture(cell, place);
+        if (cell.look.type.kind == control::CellKind::pictureHandle) drawBitmap(cell, place);
         if (!hasLines && !cell.isHeading) return;
         const bool hasLeft = !hasTextAt(place.left(), place.top());
         const bool hasRight = !hasTextAt(place.right(), place.top());
@@ -145,8 +147,20 @@ class PagePainter {
         m_painter.drawImage(QRectF(place.topLeft(), size), image);
     }
 
+    // One of the module's own, in the middle as on the screen.
+    void drawBitmap(const PrintedCell& cell, const QRectF& place) {
+        const double pixel = cell.pixel * m_dots;
+        m_painter.save();
+        m_painter.translate(place.topLeft());
+        m_painter.scale(pixel, pixel);
+        const QSize room = (place.size() / pixel).toSize();
+        m_pictures.drawNumber(m_painter, QRect(QPoint(), room), cell.look.type.picture);
+        m_painter.restore();
+    }
+
     QPainter& m_painter;
     double m_dots;
+    CellPictures m_pictures;
     std::vector<QLineF> m_overflows;  ///< from where to where, at the top of their row
 };
 

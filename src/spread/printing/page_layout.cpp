@@ -30,13 +30,23 @@ struct PrintedLines {
     }
 };
 
-// Cuts lines into groups that fit into `room` pixels; a line that is larger stands alone.
-std::vector<std::vector<int>> groups(const PrintedLines& lines, double room) {
+// Cuts lines into groups that fit into `room` pixels; a line that is larger stands alone. A line
+// that belongs to the one before it comes into the same group, unless both are too large for one.
+std::vector<std::vector<int>> groups(
+    const PrintedLines& lines, double room,
+    const std::function<bool(int)>& belongsToLast = [](int) { return false; }) {
     std::vector<std::vector<int>> all(1);
     double used = 0;
-    for (size_t i = 0; i < lines.numbers.size(); ++i) {
+    const auto isTooMuch = [&](double size) {
         constexpr double tolerance = 1e-6;
-        if (used + lines.sizes[i] > room + tolerance && !all.back().empty()) {
+        return size > room + tolerance;
+    };
+    for (size_t i = 0; i < lines.numbers.size(); ++i) {
+        double needed = lines.sizes[i];
+        if (i + 1 < lines.numbers.size() && belongsToLast(lines.numbers[i + 1]) &&
+            !isTooMuch(needed + lines.sizes[i + 1]))
+            needed += lines.sizes[i + 1];
+        if (isTooMuch(used + needed) && !all.back().empty()) {
             all.emplace_back();
             used = 0;
         }
@@ -44,6 +54,18 @@ std::vector<std::vector<int>> groups(const PrintedLines& lines, double room) {
         used += lines.sizes[i];
     }
     return all;
+}
+
+// A picture belongs to the row above it where that is not one of pictures itself.
+bool hasPicture(const Grid& grid, int row) {
+    const int cols = grid.sheet().cells().lastCol();
+    for (int col = 1; col <= cols; ++col)
+        if (grid.look(col, row).type.kind == control::CellKind::picture) return true;
+    return false;
+}
+
+bool isPictureOfRowAbove(const Grid& grid, int row) {
+    return row > 1 && hasPicture(grid, row) && !hasPicture(grid, row - 1);
 }
 
 struct UsedArea {
@@ -125,7 +147,8 @@ PageLayout layOutPages(const Grid& grid, const TwSheetSettings& settings, Paper 
                             1.0)};
     const double pixel = layout.millimetres(1);
     const auto across = groups(cols, layout.body.width / pixel - headWidth);
-    const auto downwards = groups(rows, layout.body.height / pixel - headHeight);
+    const auto downwards = groups(rows, layout.body.height / pixel - headHeight,
+                                  [&](int row) { return isPictureOfRowAbove(grid, row); });
     for (const std::vector<int>& pageCols : across)
         for (const std::vector<int>& pageRows : downwards)
             layout.pages.push_back({pageCols, pageRows});

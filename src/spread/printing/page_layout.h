@@ -46,8 +46,8 @@ struct PageLayout {
 /// for the paper is turned, then made smaller (down to a half), until its columns fit on one page;
 /// when even that is too little, and without smart print, the columns go on on further pages. What
 /// is printed ends with the last row and column that hold anything, a text that reaches over empty
-/// cells included. Header rows and columns of the
-/// sheet come again on every page.
+/// cells included. A row of pictures comes on the page of the row above it. Header rows and columns
+/// of the sheet come again on every page.
 VORMANT_API PageLayout layOutPages(const control::Grid& grid, const TwSheetSettings& settings,
                                    Paper paper, double headerHeight, double footerHeight);
 
