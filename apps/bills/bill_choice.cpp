@@ -1,10 +1,14 @@
 #include "bills/bill_choice.h"
 
+#include <algorithm>
+#include <filesystem>
+
 #include "bills/bill_table.h"
 #include "core_api/bill/bill_from_table.h"
 #include "core_api/bill/macro_parts.h"
 #include "core_api/macros/macro_file.h"
 #include "core_api/text/text_helpers.h"
+#include "platform/paths.h"
 #include "sections/section_area.h"
 
 namespace bills {
@@ -41,6 +45,7 @@ class BillMaker {
         std::string why;
         auto bill = billFromTable(table->header, table->rows, options, why);
         if (!bill) m_error = m_choice.table.str() + ": " + why;
+        m_isWrongCall = !bill;  // the table has a header: a column that was named is none of it
         return bill;
     }
 
@@ -114,6 +119,17 @@ std::optional<Vor_Bill> makeBill(const BillChoice& choice, std::string& error, b
     auto bill = maker.make();
     if (isWrongCall) *isWrongCall = maker.isWrongCall();
     return bill;
+}
+
+bool isSource(const BillChoice& choice, const Vor_String& target) {
+    const auto isTarget = [&](const Vor_String& file) { return isSameFile(file, target); };
+    return (choice.isTable() && isTarget(choice.table)) ||
+           std::any_of(choice.macros.begin(), choice.macros.end(), isTarget);
+}
+
+bool isSameFile(const Vor_String& a, const Vor_String& b) {
+    std::error_code error;  // one of them does not exist
+    return std::filesystem::equivalent(paths::toMachine(a), paths::toMachine(b), error);
 }
 
 Vor_StringArray rowsWithoutMass(const Vor_Bill& bill) {

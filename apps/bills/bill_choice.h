@@ -35,6 +35,11 @@ struct BillChoice {
 std::optional<Vor_Bill> makeBill(const BillChoice& choice, std::string& error,
                                  bool* isWrongCall = nullptr);
 
+/// Whether `target` is one of the files that the bill is made of, under whatever name.
+bool isSource(const BillChoice& choice, const Vor_String& target);
+/// Both paths lead to the same file.
+bool isSameFile(const Vor_String& a, const Vor_String& b);
+
 /// The rows of which no mass is known although there is a column for it, by what they show.
 Vor_StringArray rowsWithoutMass(const Vor_Bill& bill);
 

@@ -1,5 +1,6 @@
 #include "bills/bill_sheet.h"
 
+#include "bills/bill_choice.h"
 #include "core_api/settings.h"
 #include "core_api/text/text_helpers.h"
 #include "platform/files.h"
@@ -10,8 +11,6 @@
 namespace bills {
 
 namespace {
-
-constexpr int titleVariable = 1, fileVariable = 2;
 
 /// Lets the module look for a settings file where it lies: where its path says, or in the add-on's
 /// folder, or else in the library.
@@ -32,9 +31,9 @@ class SettingsFolder {
     SettingsFolder& operator=(const SettingsFolder&) = delete;
 
     const Vor_String& name() const { return m_name; }
-    bool exists() const {
-        return files::exists(ensureEndBSlash(gSettings.vorDir()) + m_name + ".twd");
-    }
+    Vor_String path() const { return ensureEndBSlash(gSettings.vorDir()) + m_name + ".twd"; }
+    /// A folder of that name is no settings file, but no reason to do without one either.
+    bool exists() const { return files::exists(path()) || files::isFolder(path()); }
 
   private:
     Vor_String m_before;
@@ -62,7 +61,8 @@ std::optional<BillFormat> billFormat(const Vor_String& file) {
 
 BillSheet::BillSheet(const BillTarget& target)
     : m_target(target), m_format(billFormat(target.file).value_or(BillFormat::document)) {
-    m_output.leaveFailuresToCaller();
+    m_output.leaveFailuresToCaller(isPrinted() ? HeaderFiles::allOrNothing
+                                               : HeaderFiles::sheetsOnly);
 }
 
 /// What is no document itself is made of one, which has its name and so its title.
@@ -76,49 +76,76 @@ bool BillSheet::chooseDocument(std::string& error) {
 }
 
 BillFeed BillSheet::write(Vor_Bill& bill, const BillProgress& progress, std::string& error) {
+    if (!chooseDocument(error) || !begin(bill, error)) return BillFeed::failed;
+    const BillFeed fed = feed(bill, progress, error);
+    return fed == BillFeed::done && !exportIt(error) ? BillFeed::failed : fed;
+}
+
+/// The window with an empty sheet that has the settings: those of the file where there is one.
+bool BillSheet::begin(const Vor_Bill& bill, std::string& error) {
     const SettingsFolder settings(m_target.settings);
-    if (!m_target.settings.isEmpty() && !settings.exists()) {
+    const bool areRequired = settings.exists();
+    if (!m_target.settings.isEmpty() && !areRequired) {
         error = "there are no settings \"" + m_target.settings.str() + "\" in " +
                 gSettings.vorDir().str();
-        return BillFeed::failed;
+        return false;
     }
-    if (!chooseDocument(error)) return BillFeed::failed;
+    TwSheetSettings wanted;
+    if (areRequired && (!files::readWhole(settings.path(), error) ||
+                        !wanted.readFromFile(settings.name()) || !areHeadersUsable(wanted, error)))
+        return false;
     if (m_output.init(m_document, bill.columnNames(), {}, kindsOf(bill), settings.name(), {}, {}) !=
         Acad::eOk) {
         error = "the window of the bill cannot be opened";
-        return BillFeed::failed;
+        return false;
     }
+    m_output.setNames(bill.title, m_target.file);
+    if (!areRequired || hasSettings(wanted)) return true;
+    error = "cannot read " + settings.path().str() + ": it has just changed; try again";
+    return false;
+}
+
+bool BillSheet::hasSettings(const TwSheetSettings& wanted) const {
+    const Vor_Spread& sheet = *m_output.sheet();
+    TwSheetSettings got;
+    got.readFromSheet(sheet);
+    return got == wanted && sheet.fontName().equal(wanted.defaultFont, true) &&
+           sheet.fontHeight() == wanted.defaultTextHeight;
+}
+
+/// False when the bill would take the place of what stands above or below its pages, or when that
+/// does not lie beside the settings: a bare name never means the folder of the call.
+bool BillSheet::areHeadersUsable(const TwSheetSettings& settings, std::string& error) const {
+    for (const Vor_String& file : {settings.headerFile, settings.footerFile}) {
+        if (file.isEmpty()) continue;
+        if (isSameFile(file, m_target.file))
+            error = m_target.file.str() +
+                    ": is the page header or footer of the bill; choose another file for the bill";
+        else if (isPrinted() && getPath(file).isEmpty())
+            error = "cannot read " + file.str() +
+                    ": it does not lie beside the settings; put the page header or footer there";
+        if (!error.empty()) return false;
+    }
+    return true;
+}
+
+BillFeed BillSheet::feed(Vor_Bill& bill, const BillProgress& progress, std::string& error) {
     AcTransaction transaction;
     if (m_target.hasPictures)
         m_output.setVars(-1, m_target.pictureHeight, 0, true, true, &bill, &transaction);
     const BillFeed fed = feedBill(bill, m_output, progress);
     m_output.setVars(-1, 0, 0, true, true, nullptr, nullptr);
-    if (fed == BillFeed::cancelled) return fed;
-    const bool isWritten = fed == BillFeed::done && m_output.wasSaved();
-    if (!isWritten) error = m_output.sheet() ? m_output.sheet()->lastError() : "";
-    return isWritten && nameIt(bill, error) && exportIt(error) ? BillFeed::done : BillFeed::failed;
-}
-
-/// A title of its own, and the file that was asked for, in the variables of page headers.
-bool BillSheet::nameIt(const Vor_Bill& bill, std::string& error) {
-    if (bill.title.isEmpty() && m_document == m_target.file) return true;
-    Vor_Spread& sheet = *m_output.sheet();
-    TwSheetSettings settings;
-    settings.readFromSheet(sheet);
-    if (settings.varValues.length() <= fileVariable) return true;
-    if (!bill.title.isEmpty()) settings.varValues[titleVariable] = bill.title;
-    settings.varValues[fileVariable] = m_target.file;
-    settings.writeToSheet(sheet);
-    if (saveSheet(sheet, m_document)) return true;
-    error = sheet.lastError();
-    return false;
+    if (fed == BillFeed::cancelled || (fed == BillFeed::done && m_output.wasSaved())) return fed;
+    error = m_output.saveFailure();
+    return BillFeed::failed;
 }
 
 bool BillSheet::exportIt(std::string& error) {
     if (m_format == BillFormat::document || m_format == BillFormat::pdf) return true;
     const control::Grid& grid = m_output.sheet()->grid();
-    const auto content = m_format == BillFormat::csv ? sheets::sheetAsCsv(grid, error)
-                                                     : sheets::sheetAsXlsx(grid, error);
+    const auto content = m_format == BillFormat::csv
+                             ? sheets::sheetAsCsv(grid, sheets::CsvTexts::guarded, error)
+                             : sheets::sheetAsXlsx(grid, error);
     if (!content) {
         error = m_target.file.str() + ": " + error;
         return false;

@@ -7,6 +7,7 @@
 #include "bill/tw_ss_bill_output.h"
 #include "core_api/bill/feed_bill.h"
 #include "platform/scratch.h"
+#include "spread/tw_sheet_settings.h"
 
 namespace bills {
 
@@ -27,8 +28,9 @@ class BillSheet {
     BillSheet(const BillSheet&) = delete;
     BillSheet& operator=(const BillSheet&) = delete;
 
-    /// Fills the sheet and writes the file, all but a PDF. failed with the reason in `error`; a
-    /// file that was there before is as it was then, and when cancelled.
+    /// Fills the sheet and writes the file, all but a PDF: with the copies of its page header and
+    /// footer and all its pictures, or not at all. failed with the reason in `error`; a file that
+    /// was there before is as it was then, and when cancelled.
     BillFeed write(Vor_Bill& bill, const BillProgress& progress, std::string& error);
 
     /// The document of the sheet: the file itself, or one that goes with this object, for programs
@@ -37,8 +39,14 @@ class BillSheet {
     TwSSBillOutput& output() { return m_output; }
 
   private:
+    bool isPrinted() const {
+        return m_format == BillFormat::document || m_format == BillFormat::pdf;
+    }
     bool chooseDocument(std::string& error);
-    bool nameIt(const Vor_Bill& bill, std::string& error);
+    bool begin(const Vor_Bill& bill, std::string& error);
+    bool hasSettings(const TwSheetSettings& wanted) const;
+    bool areHeadersUsable(const TwSheetSettings& settings, std::string& error) const;
+    BillFeed feed(Vor_Bill& bill, const BillProgress& progress, std::string& error);
     bool exportIt(std::string& error);
 
     BillTarget m_target;

@@ -17,6 +17,7 @@ p { margin-top: 5px; margin-bottom: 5px; }
 .quiet { color: #606060; }
 .failed { color: #a00000; font-weight: bold; }
 .numbers { color: #404080; }
+* { mso-number-format: "\@"; } /* a spreadsheet that opens the page takes no text for a formula */
 </style>
 )";
 

@@ -12,7 +12,7 @@ using cli::appendNumber;
 using cli::appendUtf8;
 using formula::Value;
 
-void appendCell(std::string& line, const control::Grid& grid, int col, int row) {
+void appendCell(std::string& line, const control::Grid& grid, int col, int row, CsvTexts texts) {
     const Value value = grid.sheet().value(col, row);
     std::string text;
     if (const auto formulaText = grid.sheet().formula(col, row)) {
@@ -27,7 +27,7 @@ void appendCell(std::string& line, const control::Grid& grid, int col, int row) 
         line += formula::errorText(value.error());
     } else if (value.isText()) {
         appendUtf8(text, value.text());
-        appendField(line, text, ',');
+        (texts == CsvTexts::exact ? appendTextField : appendGuardedField)(line, text, ',');
     }
 }
 
@@ -41,7 +41,8 @@ std::string cellName(control::CellAddress address) {
     return getAlfabet(address.col).str() + std::to_string(address.row);
 }
 
-std::optional<std::string> sheetAsCsv(const control::Grid& sheet, std::string& error) {
+std::optional<std::string> sheetAsCsv(const control::Grid& sheet, CsvTexts texts,
+                                      std::string& error) {
     const auto withHeader = withHeaderRow(sheet);
     const control::Grid& grid = withHeader ? *withHeader : sheet;
     constexpr long long maxFields = 100'000'000;
@@ -54,7 +55,7 @@ std::optional<std::string> sheetAsCsv(const control::Grid& sheet, std::string& e
     for (int row = 1; row <= rows; ++row) {
         for (int col = 1; col <= cols; ++col) {
             if (col > 1) text += ',';
-            appendCell(text, grid, col, row);
+            appendCell(text, grid, col, row, texts);
         }
         text += '\n';
     }

@@ -77,10 +77,10 @@ int printDocument(int argc, char** argv) {
     std::string failure = "the name of the document cannot be used";
     QString error;
     if (path && file.open(*path, failure)) {
-        const QString problems = printProblems(file.spread());
-        if (!problems.isEmpty())
-            std::fprintf(stderr, "vormant-workbench: %s\n", qPrintable(problems));
-        if (writeSheetPdf(file.spread(), QString::fromLocal8Bit(argv[3]), error)) return 0;
+        // Pages without their header are not what was asked for.
+        error = printProblems(file.spread());
+        if (error.isEmpty() && writeSheetPdf(file.spread(), QString::fromLocal8Bit(argv[3]), error))
+            return 0;
     } else {
         error = toQt(failure);
     }

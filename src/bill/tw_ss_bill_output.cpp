@@ -4,16 +4,20 @@
 
 #include "bill/bill_title.h"
 #include "core_api/bill/bill_pictures.h"
+#include "core_api/text/text_helpers.h"
+#include "core_api/texts/bill_text_numbers.h"
 #include "core_api/texts/date_text.h"
+#include "core_api/texts/texts.h"
 #include "platform/clock.h"
 #include "platform/files.h"
 #include "platform/host/host.h"
+#include "spread/control/formula/lexer.h"
 #include "spread/sheet_preparation.h"
 #include "spread/tw_sheet_settings.h"
 
 namespace {
 
-enum ColumnKind { wholeNumbers = 1, oneDecimal = 2, texts = 3 };
+enum ColumnKind { wholeNumbers = 1, oneDecimal = 2, anyText = 3 };
 
 constexpr int linesOfBills = 7;  // grid type
 constexpr control::Colour lineColour = control::rgb(50, 50, 50);
@@ -21,7 +25,8 @@ constexpr int rowsToGrow = 100;
 constexpr int initHeadroom = 20;  // pixels round a picture
 constexpr unsigned secondNumberStyle = 1;
 constexpr int textLength = 200;
-constexpr int pictureColumn = 2;
+constexpr int pictureColumn = 2;  // unless there is only one
+constexpr size_t mostReported = 3;
 constexpr int pictureMark = 251;  // bitmap resource
 constexpr int subtotalSides = 31, subtotalStyle = 1;
 constexpr control::Colour subtotalColour = control::rgb(164, 208, 255);
@@ -52,6 +57,9 @@ ErrorStatus TwSSBillOutput::init(Vor_String file, const Vor_StringArray& columns
     spread->grid().changeSides().pictures.clear();
     m_currentRow = 0;
     m_wasSaved = false;
+    m_saveFailure.clear();
+    m_lostPictures = m_refusedCount = 0;
+    m_refused.clear();
     prepareSheet(*spread, settings, true);
     TwSheetSettings read;
     read.readFromFile(settings);
@@ -80,8 +88,19 @@ void TwSSBillOutput::setVars(int row, int height, int width, bool withSizes, boo
     m_transaction = transaction;
 }
 
+void TwSSBillOutput::leaveFailuresToCaller(HeaderFiles headers) {
+    m_printsFailures = false;
+    m_headers = headers;
+}
+
+void TwSSBillOutput::setNames(Vor_String title, Vor_String file) {
+    m_shownTitle = std::move(title);
+    m_shownFile = std::move(file);
+}
+
 ErrorStatus TwSSBillOutput::onStartFeed() {
-    if (makesPictures()) initBMPDialog(m_pictureHeight + initHeadroom);
+    if (makesPictures() && initBMPDialog(m_pictureHeight + initHeadroom) != Acad::eOk)
+        ++m_lostPictures;
     return Acad::eOk;
 }
 
@@ -105,7 +124,7 @@ void TwSSBillOutput::setRowProperties(const int& row) {
             case oneDecimal:
                 spread.setNumberCell(col, row, 1, secondNumberStyle);
                 break;
-            case texts:
+            case anyText:
                 spread.setTextCell(col, row, textLength, 0);
                 break;
             default:
@@ -128,22 +147,53 @@ void TwSSBillOutput::addRow(const Vor_StringArray& cells, const Vor_String& imag
     nextRow(*spread);
     setRowProperties(m_currentRow);
     spread->setRow(m_currentRow, cells, true);
-    if (!imageFile.isEmpty() && files::exists(imageFile)) addPicture(*spread, imageFile);
+    keepRefusedNumbers(*spread, cells);
+    if (!imageFile.isEmpty() && !addPicture(*spread, imageFile)) ++m_lostPictures;
 }
 
-void TwSSBillOutput::addPicture(Vor_Spread& spread, const Vor_String& imageFile) {
-    if (spread.nrCols() < pictureColumn) return;
+void TwSSBillOutput::keepRefusedNumbers(Vor_Spread& spread, const Vor_StringArray& cells) {
+    std::string buffer;
+    const int count = std::min(cells.length(), m_columnKinds.length());
+    for (int col = 1; col <= count; ++col) {
+        const int kind = m_columnKinds[col - 1];
+        const bool isNumber = kind == wholeNumbers || kind == oneDecimal;
+        if (!isNumber || trimmed(cells[col - 1]).empty() ||
+            !spread.grid().text(col, m_currentRow, control::Reading::value, buffer).empty())
+            continue;
+        spread.grid().setNote(col, m_currentRow, cells[col - 1]);
+        if (++m_refusedCount > static_cast<int>(mostReported)) continue;
+        Vor_String line = dialString(texts::billRefusedNumber);
+        line.replaceSubString("%1", std::to_string(m_currentRow));
+        line.replaceSubString("%2", formula::columnLetters(col));
+        line.replaceSubString("%3", cells[col - 1]);
+        m_refused.push_back(line);
+    }
+}
+
+void TwSSBillOutput::reportRefusedNumbers() const {
+    for (const Vor_String& line : m_refused) acutPrint(line + "\n");
+    const int others = m_refusedCount - static_cast<int>(m_refused.size());
+    if (others == 0) return;
+    Vor_String line = dialString(texts::billMoreRefused);
+    line.replaceSubString("%1", std::to_string(others));
+    acutPrint(line + "\n");
+}
+
+bool TwSSBillOutput::addPicture(Vor_Spread& spread, const Vor_String& imageFile) {
+    if (!files::exists(imageFile)) return false;
     nextRow(spread);
-    spread.setPictureCell(pictureColumn, m_currentRow, imageFile);
-    spread.setIconCell(1, m_currentRow, pictureMark, false);
+    if (spread.nrCols() < pictureColumn) return spread.setPictureCell(1, m_currentRow, imageFile);
+    if (!spread.setPictureCell(pictureColumn, m_currentRow, imageFile)) return false;
+    return spread.setIconCell(1, m_currentRow, pictureMark, false);
 }
 
 void TwSSBillOutput::onAddRow(const Vor_StringArray& cells) {
     if (!makesPictures()) return addRow(cells, {});
     Vor_String file = nextPictureFile();
-    if (createImage(m_pictureRow, m_pictureHeight, m_pictureWidth, m_withSizes, m_withName, m_bill,
-                    m_transaction, file) != Acad::eOk)
-        file.clear();
+    const ErrorStatus made = createImage(m_pictureRow, m_pictureHeight, m_pictureWidth, m_withSizes,
+                                         m_withName, m_bill, m_transaction, file);
+    if (made == Acad::eFileAccessErr) ++m_lostPictures;
+    if (made != Acad::eOk) file.clear();
     addRow(cells, file);
     std::string ignored;
     if (!file.isEmpty()) files::removeFile(file, ignored);
@@ -171,13 +221,25 @@ void TwSSBillOutput::finishColumns(Vor_Spread& spread) {
     spread.setStaticCell({-1, header, -1, header});
     for (int col = 1; col <= spread.nrCols(); ++col)
         spread.setColWidthInPixels(col, spread.grid().fitWidth(col));
+    // Its pictures have no other column to reach into.
+    if (spread.nrCols() < pictureColumn && m_pictureWidth > spread.colWidthInPixels(1))
+        spread.setColWidthInPixels(1, m_pictureWidth);
 }
 
 void TwSSBillOutput::setSheetVariables(Vor_Spread& spread) {
     putInFront(m_variableNames, {"Date", "Title", "BillFilename"});
-    putInFront(m_variableValues,
-               {dateText(platform::calendarTime()), billTitle(m_fileName), m_fileName});
+    const Vor_String title = m_shownTitle.isEmpty() ? billTitle(m_fileName) : m_shownTitle;
+    const Vor_String file = m_shownFile.isEmpty() ? m_fileName : m_shownFile;
+    putInFront(m_variableValues, {dateText(platform::calendarTime()), title, file});
     setVariables(spread, m_variableNames, m_variableValues);
+}
+
+bool TwSSBillOutput::save(Vor_Spread& spread) {
+    if (m_lostPictures > 0 && !m_printsFailures) {
+        m_saveFailure = dialString(texts::billLostPictures).str();
+        return false;
+    }
+    return saveSheet(spread, m_fileName, m_headers, m_saveFailure);
 }
 
 ErrorStatus TwSSBillOutput::onEndFeed() {
@@ -187,7 +249,8 @@ ErrorStatus TwSSBillOutput::onEndFeed() {
     if (m_currentRow < spread->nrRows()) spread->setNrRows(m_currentRow);
     finishColumns(*spread);
     setSheetVariables(*spread);
-    m_wasSaved = saveSheet(*spread, m_fileName);
-    if (!m_wasSaved && m_printsFailures) acutPrint(spread->lastError() + "\n");
+    m_wasSaved = save(*spread);
+    if (!m_wasSaved && m_printsFailures) acutPrint(m_saveFailure + "\n");
+    reportRefusedNumbers();
     return Acad::eOk;
 }

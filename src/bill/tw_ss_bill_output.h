@@ -2,15 +2,19 @@
 // editor window, pictures of the pieces below them, and the sheet is saved at the end.
 //
 // The output never stops a feed: rows without a sheet are dropped, and a picture that cannot be
-// made leaves its row without one.
+// made leaves its row without one. A text that a column of numbers cannot take leaves its cell
+// empty, but for a note with the text.
 #pragma once
 
 #include <memory>
+#include <string>
+#include <vector>
 
 #include "core_api/bill/vor_bill.h"
 #include "core_api/bill/vor_list_output_callback.h"
 #include "platform/host/ac_array.h"
 #include "platform/host/transaction.h"
+#include "spread/header_copies.h"
 #include "spread/tw_sheet_editor_dlg.h"
 
 class VORMANT_API TwSSBillOutput : public Vor_ListOutputCallback {
@@ -38,7 +42,7 @@ class VORMANT_API TwSSBillOutput : public Vor_ListOutputCallback {
     ErrorStatus onStartFeed() override;
     /// Trims the sheet, fits its columns, gives the page headers their variables and saves.
     /// eInvalidInput when there is no sheet. When it could not be saved wasSaved() tells, and the
-    /// reason is printed.
+    /// reason is printed. So are numbers that their columns could not take.
     ErrorStatus onEndFeed() override;
     void onAddRow(const Vor_StringArray& cells) override;
     void onAddSubTotals(const Vor_StringArray& cells, const Vor_StringArray& names, bool isTotal,
@@ -46,10 +50,17 @@ class VORMANT_API TwSSBillOutput : public Vor_ListOutputCallback {
 
     /// The sheet, for whoever shows or exports it afterwards; null without a window.
     Vor_Spread* sheet() const { return getSSPointer(); }
-    /// The last feed ended with the sheet saved; else the sheet's lastError() says why not.
+    /// The last feed ended with the sheet saved; else saveFailure() says why not.
     bool wasSaved() const { return m_wasSaved; }
-    /// For callers that tell the user themselves: the reason is not printed at the end.
-    void leaveFailuresToCaller() { m_printsFailures = false; }
+    const std::string& saveFailure() const { return m_saveFailure; }
+
+    /// For callers that tell the user themselves: why the sheet was not saved is not printed, nor
+    /// is it saved without a picture that could be drawn, and `headers` says what of the page
+    /// header and footer has to go with it.
+    void leaveFailuresToCaller(HeaderFiles headers);
+    /// What page headers call the bill and its file, where these are not its title and the file of
+    /// init(): a title of its own, or an export of the sheet. Empty texts change nothing.
+    void setNames(Vor_String title, Vor_String file);
 
   private:
     void addRow(const Vor_StringArray& cells, const Vor_String& imageFile);
@@ -57,7 +68,10 @@ class VORMANT_API TwSSBillOutput : public Vor_ListOutputCallback {
     Vor_Spread* getSSPointer() const;
     bool makesPictures() const { return m_bill && m_transaction; }
     void nextRow(Vor_Spread& spread);
-    void addPicture(Vor_Spread& spread, const Vor_String& imageFile);
+    void keepRefusedNumbers(Vor_Spread& spread, const Vor_StringArray& cells);
+    bool addPicture(Vor_Spread& spread, const Vor_String& imageFile);
+    bool save(Vor_Spread& spread);
+    void reportRefusedNumbers() const;
     void finishColumns(Vor_Spread& spread);
     void setSheetVariables(Vor_Spread& spread);
 
@@ -75,5 +89,12 @@ class VORMANT_API TwSSBillOutput : public Vor_ListOutputCallback {
     Vor_StringArray m_variableNames;
     Vor_StringArray m_variableValues;
     bool m_wasSaved = false;
+    std::string m_saveFailure;
+    int m_lostPictures = 0;
+    std::vector<Vor_String> m_refused;  ///< the first texts that a column of numbers did not take
+    int m_refusedCount = 0;
     bool m_printsFailures = true;
+    HeaderFiles m_headers = HeaderFiles::asNamed;
+    Vor_String m_shownTitle;
+    Vor_String m_shownFile;
 };

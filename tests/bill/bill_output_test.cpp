@@ -147,6 +147,47 @@ TEST_F(BillOutput, SubtotalsAreFramedAndColouredWhereTheySaySomething) {
     }
 }
 
+TEST_F(BillOutput, RowsComeWithoutTheFramesAndSpansThatWereThere) {
+    start({"Name", "Count", "Free"}, {3, 1});
+    Vor_Spread& sheet = *output.sheet();
+    sheet.setBorder({1, 1, 3, 2}, 31, 1);
+    sheet.addCellSpan({1, 1, 2, 1});
+    output.onAddRow({"Plate", "1"});
+    for (const int col : {1, 2}) {
+        EXPECT_EQ(look(col, 1).borderStyle, 0) << col;
+        EXPECT_EQ(sheet.grid().spanAt(col, 1), nullptr) << col;
+    }
+    EXPECT_EQ(look(3, 1).borderStyle, 1) << "a column without a kind is left alone";
+    EXPECT_EQ(look(1, 2).borderStyle, 1) << "not yet fed";
+}
+
+TEST_F(BillOutput, TextsInColumnsOfNumbersLeaveANoteAndAreReported) {
+    Printed printed;
+    const HostScope scope(printed);
+    start({"Name", "Count", "Mass"}, {3, 1, 2});
+    output.onAddRow({"7,5", "7,5", " "});
+    output.onAddRow({"", "8", "1e15"});
+    output.onAddSubTotals({"Total", "x", "y"}, {}, true, 2);
+    output.onEndFeed();
+    EXPECT_EQ(cell(2, 1), "");
+    const control::Grid& grid = output.sheet()->grid();
+    EXPECT_EQ(grid.note(1, 1), "");
+    EXPECT_EQ(grid.note(2, 1), "7,5");
+    EXPECT_EQ(grid.note(3, 1), "");
+    EXPECT_EQ(grid.note(2, 2), "");
+    EXPECT_EQ(grid.note(3, 2), "1e15");
+    EXPECT_EQ(grid.note(3, 3), "y");
+    EXPECT_THAT(printed.text,
+                testing::AllOf(HasSubstr("row 1, column B: \"7,5\" is no number"),
+                               HasSubstr("row 2, column C: \"1e15\""),
+                               HasSubstr("row 3, column B: \"x\""), HasSubstr("1 more text")));
+    printed.text.clear();
+    start({"Count"}, {1});
+    output.onAddRow({"1"});
+    output.onEndFeed();
+    EXPECT_EQ(printed.text, "") << "another bill begins anew";
+}
+
 TEST_F(BillOutput, VariablesStandBeforeTheCallersAndTheSheetIsSavedWithThem) {
     start({"Name"}, {3});
     output.onAddRow({"A plate with a name that is wider than its column"});
@@ -164,6 +205,17 @@ TEST_F(BillOutput, VariablesStandBeforeTheCallersAndTheSheetIsSavedWithThem) {
     const std::string date = settings.varValues[0].str();
     EXPECT_THAT(date, testing::MatchesRegex(
                           "[0-9][0-9] [A-Z][a-z]+, 20[0-9][0-9] .[0-9][0-9]:[0-9][0-9]."));
+    gSettings.current().language = Language::french;
+    ::setenv("SOURCE_DATE_EPOCH", "0", 1);
+    start({"Nom"}, {3});
+    output.setNames("Portique", "Autre.pdf");
+    output.onEndFeed();
+    ::unsetenv("SOURCE_DATE_EPOCH");
+    gSettings.current().language = Language::english;
+    settings.readFromSheet(*output.sheet());
+    EXPECT_EQ(settings.varValues[0].str(), "01 janvier, 1970 (00:00)");
+    EXPECT_EQ(settings.varValues[1].str(), "Portique");
+    EXPECT_EQ(settings.varValues[2].str(), "Autre.pdf");
     EXPECT_EQ(loaded.colWidthInPixels(1), loaded.grid().fitWidth(1));
     EXPECT_GT(loaded.colWidthInPixels(1), 200);
     EXPECT_EQ(loaded.grid().look(1, Vor_Spread::headerIndex).type.kind,
@@ -297,6 +349,36 @@ TEST_F(BillOutput, PiecesThatLookAlikeShareTheirPictureAndNoOthersDo) {
     EXPECT_EQ(pictures[0], pictures[1]);
     EXPECT_EQ(pictures[0], pictures[2]);
     EXPECT_EQ(std::set(pictures.begin(), pictures.end()).size(), 6U);
+}
+
+TEST_F(BillOutput, OneColumnHasItsPicturesToo) {
+    Vor_Bill bill = pictureBill();
+    bill.columns.resize(1);
+    for (BillRow& row : bill.rows) row.cells.setLength(1);
+    AcTransaction transaction;
+    output.init(folder.inside("One.sss"), bill.columnNames(), {}, {3}, {}, {}, {});
+    output.setVars(-1, 90, 200, true, true, &bill, &transaction);
+    ASSERT_EQ(feedBill(bill, output), BillFeed::done);
+    ASSERT_EQ(output.sheet()->nrRows(), 4);
+    EXPECT_EQ(look(1, 2).type.kind, control::CellKind::picture);
+    EXPECT_EQ(output.sheet()->colWidthInPixels(1), 200) << "nothing of it is cut";
+}
+
+TEST_F(BillOutput, ProgramsAreToldOfPicturesThatWereLost) {
+    Vor_Bill bill = pictureBill();
+    AcTransaction transaction;
+    for (const bool byProgram : {false, true}) {
+        TwSSBillOutput own;
+        if (byProgram) own.leaveFailuresToCaller(HeaderFiles::asNamed);
+        const Vor_String file = folder.inside(byProgram ? "b.sss" : "a.sss");
+        own.init(file, bill.columnNames(), {}, {}, {}, {}, {});
+        own.setVars(-1, 90, 0, true, true, &bill, &transaction);
+        ::setenv("TMPDIR", "/no such folder", 1);
+        ASSERT_EQ(feedBill(bill, own), BillFeed::done);
+        ::unsetenv("TMPDIR");
+        EXPECT_EQ(own.wasSaved(), !byProgram) << own.saveFailure();
+        EXPECT_EQ(files::exists(file), !byProgram);
+    }
 }
 
 TEST_F(BillOutput, ASubtotalOrPictureBeforeNewRowsDoesNotShowInThem) {

@@ -118,8 +118,10 @@ TEST_F(Bill, WrongCallsSayWhatThereIs) {
         {{"EndPlate", "--language", "it"}, 2, "choose en, nl, de or fr"},
         {{"EndPlate", table}, 2, "macros, or of one CSV file"},
         {{table, "--group", "Material"},
-         1,
+         2,
          "the columns are Section, Length, Count, Colour, Total"},
+        {{table, "--columns", "Mass"}, 2, "no column \"Mass\"; the columns are Section, "},
+        {{table, "-o", table}, 2, "t.csv: is what the bill is made of; choose another file"},
         {{folder / "none.csv"}, 1, "none.csv"},
         {{folder.write("bad.csv", "A,B\n1,\"2\n")}, 1, "bad.csv:2: a quoted field has no end"},
         {{folder.write("empty.csv", "")}, 1, "the file is empty"},
@@ -136,6 +138,57 @@ TEST_F(Bill, WrongCallsSayWhatThereIs) {
         EXPECT_THAT(result.err, AllOf(HasSubstr(each.message), testing::StartsWith("vormant: ")));
         EXPECT_EQ(result.out, "");
     }
+}
+
+TEST_F(Bill, NoSpreadsheetRunsWhatATableHolds) {
+    const std::string harmful = folder.write(
+        "h.csv",
+        "Name,=Head,Count\n=1+1,+1,1\n@A1,-3,1\n-3 mm,\"\tx\",1\n'=q,'a,1\n\"\rx\",-,-2\n");
+    const std::string guarded =
+        "Name,'=Head,Count\n'=1+1,'+1,1\n'@A1,-3,1\n'-3 mm,'\tx,1\n''=q,'a,1\n\"'\rx\",-,-2\n";
+    EXPECT_EQ(call({harmful}).out, guarded);
+    EXPECT_EQ(call({harmful, "-o", folder / "b.csv"}).exitCode, 0);
+    EXPECT_EQ(folder.read("b.csv"), guarded + "Total,,2\n");
+    EXPECT_EQ(call({harmful, "-o", folder / "b.xlsx"}).exitCode, 0);
+    const std::string archive = folder.read("b.xlsx");
+    EXPECT_THAT(zipEntry(archive, "xl/worksheets/sheet1.xml"), Not(HasSubstr("<f>")));
+    EXPECT_THAT(zipEntry(archive, "xl/sharedStrings.xml"), HasSubstr("<t>=1+1</t>"));
+}
+
+TEST_F(Bill, ASetIsWholeOrNotThereAndReplacesNothingOfTheUser) {
+    const std::string own = folder.write("Bill header.sss", "the user's own");
+    ASSERT_EQ(call({table, "-o", folder / "b.sss"}).exitCode, 0);
+    EXPECT_EQ(folder.read("Bill header.sss"), "the user's own");
+    EXPECT_EQ(folder.read("Bill header 2.sss"),
+              folder.read(VORMANT_SOURCE_DIR "/library/Bill header.sss"));
+    const auto setting = [](const std::string& header) {
+        return "headerFile\xA4"
+               "4\xA4" +
+               header + "\xA4";
+    };
+    const struct {
+        std::string settings, message;
+    } cases[] = {
+        {folder.write("s/Secret.twd", setting(folder.write("key", "secret"))),
+         "key:1: this is no sheet"},
+        {folder.write("s/Gone.twd", setting(folder / "none.sss")), "none.sss: it is not there"},
+        {folder.write("s/Bare.twd", setting("Bill header.sss")),
+         "does not lie beside the settings"},
+        {folder.write("s/Self.twd", setting(folder.write("c/new.sss", ""))), "is the page header"},
+        {folder.write("Dir.twd/x", "").substr(0, folder.path().string().size() + 8), "cannot read"},
+    };
+    for (const auto& each : cases) {
+        const auto before = folder.names();
+        const auto result = call({table, "-o", folder / "c/new.sss", "--settings", each.settings});
+        EXPECT_EQ(result.exitCode, 1) << each.settings;
+        EXPECT_THAT(result.err, HasSubstr(each.message));
+        EXPECT_EQ(folder.names(), before);
+        EXPECT_EQ(folder.read("c/new.sss"), "");
+    }
+    // Copies come first; a sheet that fails takes them along.
+    std::filesystem::create_directories(folder.path() / "d/b.sss");
+    EXPECT_EQ(call({table, "-o", folder / "d/b.sss"}).exitCode, 1);
+    EXPECT_FALSE(std::filesystem::exists(folder.path() / "d/Bill header.sss"));
 }
 
 TEST_F(Bill, AFileThatCannotBeReplacedStaysAndIsToldOnce) {

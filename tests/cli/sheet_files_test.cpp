@@ -54,6 +54,18 @@ TEST(SheetConvert, CsvIsReadByWhatItsFieldsLookLike) {
               "name,12,-1500,\"=IF(B1>1,\"\"x,y\"\",0)\"\n,,,\n\"two\nlines\",,TRUE,=B1*2\n");
 }
 
+TEST(SheetConvert, TextsThatReadLikeFormulasStayTextsThroughCsv) {
+    const program::Folder folder;
+    const std::string document =
+        "vormant-sheet 1\nsize 1 10\ncells\nA1 \"=1+1\nA2 \"'=1+1\nA3 \"''=\nA4 \"=\nA5 \"'tis\n"
+        "A6 \"+1 x\nA7 \"-x\nA8 \"@x\nA9 \"\\tx\nA10 =1+1\t2\nend 10\n";
+    const auto file = folder.write("a.tws", document);
+    ASSERT_EQ(program::run({"sheet", "convert", file, folder / "a.csv"}).exitCode, 0);
+    EXPECT_EQ(folder.read("a.csv"), "'=1+1\n''=1+1\n'''=\n'=\n'tis\n+1 x\n-x\n@x\n\tx\n=1+1\n");
+    ASSERT_EQ(program::run({"sheet", "convert", folder / "a.csv", folder / "b.tws"}).exitCode, 0);
+    EXPECT_EQ(folder.read("b.tws"), document);
+}
+
 TEST(SheetConvert, WorkbooksKeepFormulasResultsAndFormats) {
     const program::Folder folder;
     const auto file = folder.write(

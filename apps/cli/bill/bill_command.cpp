@@ -43,6 +43,10 @@ class BillCall {
         if (const auto language = languageOfCode(m_request.language))
             gSettings.current().language = *language;
         if (const ExitCode code = takeChoice(); code != ExitCode::done) return code;
+        if (!m_request.output.empty() && bills::isSource(m_choice, m_target.file)) {
+            complainAt(m_request.output, 0, "is what the bill is made of; choose another file");
+            return ExitCode::wrongCall;
+        }
         std::string error;
         bool isWrongCall = false;
         auto bill = bills::makeBill(m_choice, error, &isWrongCall);
@@ -158,7 +162,7 @@ class BillCall {
                 std::string field;
                 appendUtf8(field, cells[i]);
                 if (i > 0) text += ',';
-                appendField(text, field, ',');
+                appendGuardedField(text, field, ',');
             }
             output.write(text + "\n");
         };

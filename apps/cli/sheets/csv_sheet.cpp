@@ -1,4 +1,5 @@
 #include "console.h"
+#include "core_api/text/delimited_text.h"
 #include "core_api/text/text_helpers.h"
 #include "io/csv.h"
 #include "io/texts.h"
@@ -23,7 +24,7 @@ bool placeField(control::Grid& grid, int col, int row, std::string_view field, s
         return false;
     }
     if (isNumber(text)) return grid.writeValue(col, row, textToDouble(text));
-    return grid.writeValue(col, row, Value::borrowedText(text));
+    return grid.writeValue(col, row, Value::borrowedText(textOfField(text)));
 }
 
 bool placeRecord(control::Grid& grid, int row, const std::vector<std::string_view>& fields,

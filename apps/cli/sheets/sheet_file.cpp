@@ -44,8 +44,9 @@ bool saveSheet(const control::Grid& grid, const std::string& path, SheetFormat f
         complainText(error);
         return false;
     }
-    const auto content = format == SheetFormat::csv ? sheets::sheetAsCsv(grid, error)
-                                                    : sheets::sheetAsXlsx(grid, error);
+    const auto content = format == SheetFormat::csv
+                             ? sheets::sheetAsCsv(grid, sheets::CsvTexts::exact, error)
+                             : sheets::sheetAsXlsx(grid, error);
     if (!content) {
         complainAt(path, 0, error);
         return false;

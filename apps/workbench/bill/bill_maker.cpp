@@ -46,6 +46,8 @@ bool BillMaker::askAndMake(const Vor_StringArray& macros, QWidget* parent) {
 
 bool BillMaker::make(bills::BillChoice choice, const bills::BillTarget& target, QWidget* parent) {
     choice.openMacro = m_openMacro;
+    if (bills::isSource(choice, target.file))
+        return complain(fromQt(say(sayBillIsSource).arg(machinePath(target.file.str()))));
     std::string error;
     auto bill = bills::makeBill(choice, error);
     if (!bill) return complain(error);

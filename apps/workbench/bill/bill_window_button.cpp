@@ -75,7 +75,8 @@ void BillWindowButton::exportAs(const ExportFormat& format) {
     const std::string path = askForExport(format, getPath(m_file), name);
     if (path.empty()) return;
     const bool hasPages = Vor_String(path).endsWith(".pdf");
-    tell(exportSheet(m_sheet, path), say(sayExported).arg(machinePath(path)));
+    tell(exportSheet(m_sheet, path, sheets::CsvTexts::guarded),
+         say(sayExported).arg(machinePath(path)));
     if (hasPages) tell({}, printProblems(m_sheet));
 }
 

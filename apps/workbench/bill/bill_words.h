@@ -22,4 +22,5 @@ enum BillWord {
     sayBillNoFile,
     sayBillReplace,
     sayBillExport = 26980,
+    sayBillIsSource,
 };

@@ -215,7 +215,7 @@ bool SheetPage::exportTo(const std::string& path) {
     if (!commitEdit()) return false;
     const QString shown = machinePath(path);
     const bool isPdf = shown.endsWith(".pdf", Qt::CaseInsensitive);
-    const QString failure = exportSheet(spread(), path);
+    const QString failure = exportSheet(spread(), path, sheets::CsvTexts::exact);
     if (failure.isEmpty()) tell(say(sayExported).arg(shown));
     if (isPdf || !failure.isEmpty()) tellPrinted(failure);
     return failure.isEmpty();

@@ -90,7 +90,8 @@ ErrorStatus createImage(int& row, int& height, int& width, bool& withSizes, bool
     const std::string& picture =
         pictures().drawn().fileOf(*piece, {usedWidth, usedHeight, withSizes, withName});
     std::string error;
-    if (picture.empty() || !files::writeScratch(file, picture, error)) return Acad::eInvalidInput;
+    if (picture.empty()) return Acad::eInvalidInput;
+    if (!files::writeScratch(file, picture, error)) return Acad::eFileAccessErr;
     height = usedHeight;
     width = usedWidth;
     return Acad::eOk;

@@ -24,7 +24,8 @@ inline constexpr int usualPictureWidth = 320;
 /// it; `withName`: its name and section stand above it.
 ///
 /// eInvalidInput, without a file, when not made ready for so high a picture, outside a transaction,
-/// for a row that no piece is known for, or one of which nothing can be drawn.
+/// for a row that no piece is known for, or one of which nothing can be drawn; eFileAccessErr when
+/// the file cannot be written.
 VORMANT_API ErrorStatus createImage(int& row, int& height, int& width, bool& withSizes,
                                     bool& withName, const Vor_Bill* bill,
                                     AcTransaction* transaction, const Vor_String& file);

@@ -1,5 +1,7 @@
 #include "core_api/text/delimited_text.h"
 
+#include "core_api/text/text_helpers.h"
+
 #include <algorithm>
 
 bool DelimitedText::next(std::vector<std::string>& fields) {
@@ -61,4 +63,35 @@ void appendField(std::string& row, std::string_view field, char separator) {
         row += c;
     }
     row += '"';
+}
+
+namespace {
+
+bool isFormulaBehindApostrophes(std::string_view text) {
+    const size_t first = text.find_first_not_of('\'');
+    return first != text.npos && text[first] == '=';
+}
+
+bool isRunBySpreadsheets(std::string_view text) {
+    constexpr std::string_view starts = "+@\t\r\n";
+    if (text.empty()) return false;
+    if (starts.find(text[0]) != starts.npos) return true;
+    return text.size() > 1 && text[0] == '-' && !isNumber(text);
+}
+
+}  // namespace
+
+void appendTextField(std::string& row, std::string_view text, char separator) {
+    if (!isFormulaBehindApostrophes(text)) return appendField(row, text, separator);
+    appendField(row, "'" + std::string(text), separator);
+}
+
+std::string_view textOfField(std::string_view field) {
+    const bool isMarked = field.starts_with('\'') && isFormulaBehindApostrophes(field);
+    return field.substr(isMarked ? 1 : 0);
+}
+
+void appendGuardedField(std::string& row, std::string_view text, char separator) {
+    if (!isRunBySpreadsheets(text)) return appendTextField(row, text, separator);
+    appendField(row, "'" + std::string(text), separator);
 }

@@ -35,3 +35,17 @@ class VORMANT_API DelimitedText {
 
 /// Appends a field to a row, in quotes where it would not read back otherwise.
 VORMANT_API void appendField(std::string& row, std::string_view field, char separator);
+
+// --- sheets -------------------------------------------------------------------------------------
+//
+// A field that starts with "=" is a formula. A text that does has an apostrophe before it, and so
+// has a text with apostrophes before its "=", so that every text comes back as it was.
+
+VORMANT_API void appendTextField(std::string& row, std::string_view text, char separator);
+/// The text of a field that holds one with such an apostrophe; other fields as they are.
+VORMANT_API std::string_view textOfField(std::string_view field);
+
+/// For exports that people open in spreadsheets: an apostrophe also stands before a text that some
+/// of these take for a formula: one that starts with "+", "@", a tab, a line end, or with "-"
+/// unless it is a number.
+VORMANT_API void appendGuardedField(std::string& row, std::string_view text, char separator);

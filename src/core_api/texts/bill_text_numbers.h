@@ -8,6 +8,9 @@ enum BillText {
     billPlate = 25111,     ///< the kinds of pieces follow in their order
     billSubtotal = 25114,
     billTotal = 25115,
+    billRefusedNumber = 26982,  ///< %1: the row of the sheet, %2: the column, %3: what was given
+    billMoreRefused = 26983,    ///< %1: how many
+    billLostPictures = 26984,
 };
 
 }  // namespace texts

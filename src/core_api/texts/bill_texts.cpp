@@ -66,6 +66,34 @@ constexpr TextRow rows[] = {
     {26980,
      {"E&xport and print", "E&xporteren en afdrukken", "E&xportieren und drucken",
       "E&xporter et imprimer"}},
+    {26981,
+     {"The bill is made of %1. Choose another file for it.",
+      "De stuklijst wordt gemaakt van %1. Kies er een ander bestand voor.",
+      "Die Stückliste wird aus %1 erstellt. Wählen Sie eine andere Datei für sie.",
+      "La nomenclature est faite de %1. Choisissez un autre fichier pour elle."}},
+    {26982,
+     {"row %1, column %2: \"%3\" is no number that fits into the column; the cell is empty, its "
+      "note holds the text",
+      "rij %1, kolom %2: \"%3\" is geen getal dat in de kolom past; de cel is leeg, de notitie "
+      "bevat de tekst",
+      "Zeile %1, Spalte %2: \"%3\" ist keine Zahl, die in die Spalte passt; die Zelle ist leer, "
+      "ihre Notiz enthält den Text",
+      "ligne %1, colonne %2 : \"%3\" n'est pas un nombre qui tient dans la colonne ; la cellule "
+      "est vide, sa note contient le texte"}},
+    {26983,
+     {"%1 more texts are no numbers; see the notes of the cells",
+      "nog %1 teksten zijn geen getallen; zie de notities van de cellen",
+      "weitere %1 Texte sind keine Zahlen; siehe die Notizen der Zellen",
+      "%1 autres textes ne sont pas des nombres ; voir les notes des cellules"}},
+    {26984,
+     {"the pictures of the bill cannot be kept in the folder for temporary files; make room there "
+      "and try again",
+      "de afbeeldingen van de stuklijst kunnen niet in de map voor tijdelijke bestanden worden "
+      "bewaard; maak daar ruimte en probeer het opnieuw",
+      "die Bilder der Stückliste können nicht im Ordner für temporäre Dateien abgelegt werden; "
+      "schaffen Sie dort Platz und versuchen Sie es erneut",
+      "les images de la nomenclature ne peuvent pas être mises dans le dossier des fichiers "
+      "temporaires ; faites-y de la place et réessayez"}},
 };
 
 }  // namespace

@@ -169,7 +169,7 @@ void putField(control::Grid& grid, int col, int row, std::string_view field, boo
     if (const auto number = numberOf(field, decimalComma))
         cell.setNumber(*number);
     else
-        cell.setText(field);
+        cell.setText(textOfField(field));
     cell.put(grid, col, row);
 }
 
