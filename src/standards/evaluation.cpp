@@ -36,6 +36,16 @@ std::string_view formulaShown(const PreparedStandard& prepared, const PreparedEq
     }
 }
 
+/// A formula in A1 notation as a sheet that shows R1C1 has it; nothing for other sheets.
+SharedText inStyleOf(const control::Sheet& sheet, std::string_view formula,
+                     control::CellAddress cell) {
+    using formula::ReferenceStyle;
+    if (sheet.referenceStyle() == ReferenceStyle::a1) return {};
+    const auto text = formula::convertStyle(formula, ReferenceStyle::a1, sheet.referenceStyle(),
+                                            cell.col, cell.row);
+    return text ? SharedText(*text) : SharedText();
+}
+
 }  // namespace
 
 void TwStandardsSS::evaluateAll(PreparedStandard& prepared) {
@@ -145,7 +155,10 @@ ErrorStatus TwStandardsSS::assign(Turn& turn) {
         target.typedValue().take(equationCellType(equation.givesText), *turn.result);
     } else {
         setEquationType(equation);
-        grid().setFormula(column, row, equation.program, turn.prepared.formulaOf(equation).block());
+        const SharedText& formula = turn.prepared.formulaOf(equation);
+        const SharedText converted = inStyleOf(grid().sheet(), formula.view(), equation.cell);
+        grid().setFormula(column, row, equation.program,
+                          (converted.block() ? converted : formula).block());
         target.typedValue().readFrom(grid(), column, row);
     }
     if (target.setValueToSS(*this) == Acad::eOk) return Acad::eOk;

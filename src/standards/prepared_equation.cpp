@@ -49,6 +49,7 @@ void compile(std::string_view expression, PreparedEquation& equation,
              const VariableReferences& references, const control::Sheet& sheet) {
     const auto [col, row] = equation.cell;
     formula::ParseSettings settings = sheet.parseSettings(col, row);
+    settings.style = formula::ReferenceStyle::a1;  // variables become A1 references in every sheet
     settings.isShared = false;
     equation.program = parsedWithNames(expression, settings, references);
     formula::ParseError error;

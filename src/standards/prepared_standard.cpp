@@ -42,6 +42,15 @@ bool readsOnlyAbove(const formula::Program& program, control::CellAddress host, 
     return true;
 }
 
+/// The same of every formula that stands in the sheet.
+bool formulasReadOnlyAbove(const control::Sheet& sheet, int firstRow) {
+    bool onlyAbove = true;
+    sheet.eachFormula([&](const formula::Program& program, int col, int row) {
+        onlyAbove = onlyAbove && readsOnlyAbove(program, {col, row}, firstRow);
+    });
+    return onlyAbove;
+}
+
 bool readsCalc(const control::Grid& grid, control::CellAddress cell) {
     std::string buffer;
     return encodings::equalFolded(grid.text(cell.col, cell.row, control::Reading::value, buffer),
@@ -151,9 +160,10 @@ bool PreparedStandard::knowsAllTexts(const TwVarCells& variables, const control:
 
 bool PreparedStandard::needsNoEquationCells(const TwVarCells& variables,
                                             const control::Grid& grid) {
-    if (!knowsAllTexts(variables, grid)) return false;
+    const int firstRow = m_layout.equationRows().first;
+    if (!knowsAllTexts(variables, grid) || !formulasReadOnlyAbove(grid.sheet(), firstRow))
+        return false;
     if (!m_readsEquationCells) {
-        const int firstRow = m_layout.equationRows().first;
         const auto reads = [&](const PreparedEquation& equation) {
             return equation.program && !readsOnlyAbove(*equation.program, equation.cell, firstRow);
         };

@@ -41,8 +41,8 @@ class PreparedStandard {
     const PreparedEquation& equationIn(PreparedEquation& known, const TwVarCells& variables,
                                        const control::Grid& grid, PreparedEquation& changed);
     /// All cells hold the texts that their equations were prepared from (now, where they were not
-    /// yet), and no equation reads a cell of the equation area: the results that those cells show
-    /// serve people alone.
+    /// yet), and neither an equation nor a formula elsewhere on the sheet reads a cell of the
+    /// equation area: the results that those cells show serve people alone.
     bool needsNoEquationCells(const TwVarCells& variables, const control::Grid& grid);
     /// The formula of an equation that was prepared here.
     const SharedText& formulaOf(const PreparedEquation& equation) const {

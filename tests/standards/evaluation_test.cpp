@@ -213,6 +213,44 @@ TEST_F(Evaluation, EquationsMayLookAtTheCellsOfOthersEvenWhenNobodyElseDoes) {
     }
 }
 
+TEST_F(Evaluation, FormulaCellsMayLookAtTheCellsOfEquations) {
+    using Formulas = std::vector<std::pair<std::string, std::string>>;
+    const std::pair<Formulas, const char*> cases[] = {
+        {{{"C1", "A7*10"}}, "20"},
+        {{{"C1", "C2*10"}, {"C2", "D7+1"}, {"D7", "A7"}}, "30"},
+        {{{"C1", "SUM(A6:A7)"}}, "2"},
+        {{{"C1", "SUM(A6:INDEX(A:A,7))"}}, "2"},
+        {{{"C1", "INDIRECT(\"A7\")"}}, "2"},
+        {{{"C1", "OFFSET(A1,6,0)"}}, "2"},
+        {{{"C1", "SUMIF(A6,\"Calc\",A7)&SUMIF(A1:A2,\">0\",A6)"}}, "20"},
+        {{{"C1", "B4"}, {"B4", "A4"}}, "2"},  // the variable alone
+    };
+    for (const bool fills : {true, false}) {
+        for (const int style : {0, 2}) {
+            for (const auto& [formulas, expected] : cases) {
+                load(withFormulas(standardOf({}, {"String C", "Double B"}, {}, {"B=2", "C=C1"}),
+                                  formulas));
+                sheet.setFillsEquationCells(fills);
+                sheet.setRefStyle(style);
+                ASSERT_EQ(sheet.calcCells(), Acad::eOk);
+                EXPECT_EQ(value("C"), expected) << formulas[0].second << " " << fills << style;
+            }
+        }
+    }
+}
+
+TEST_F(Evaluation, EquationsAreWrittenInA1WhateverTheSheetShows) {
+    load(standardOf({"Double A"}, {"Double B", "String S"}, {}, {"B=A*2+A2", "S=B&\"R1C1\""}),
+         {"5"});
+    sheet.setRefStyle(2);
+    ASSERT_EQ(sheet.calcCells(), Acad::eOk);
+    EXPECT_EQ(value("S"), "15R1C1");
+    EXPECT_EQ(cell(1, 8, Vor_Spread::Reading::formula), "R[-6]C*2+R[-6]C");
+    sheet.setRefStyle(0);
+    EXPECT_EQ(cell(1, 8, Vor_Spread::Reading::formula), "A2*2+A2");
+    EXPECT_TRUE(boxes.empty());
+}
+
 TEST_F(Evaluation, DeclarationsAreReadFromTheSheetAsItIs) {
     const std::string document = standardOf({"Double A"}, {"Double B"}, {}, {"B=Q", "B=A"});
     for (const char* declaration : {"Double A", "Double Q", "Double A"}) {

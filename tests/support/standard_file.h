@@ -29,6 +29,19 @@ inline std::string documentOf(const std::vector<std::vector<std::string>>& rows)
            "\ncells\n" + cells + "end " + std::to_string(count) + "\n";
 }
 
+/// `document`, as documentOf gives it, with formulas in cells that were empty: address and text
+/// without "=". The sheet gets four columns.
+inline std::string withFormulas(std::string document,
+                                const std::vector<std::pair<std::string, std::string>>& formulas) {
+    const size_t size = document.find("size ") + 5;
+    document.replace(size, document.find(' ', size) - size, "4");
+    const size_t end = document.rfind("end ");
+    const size_t count = std::stoul(document.substr(end + 4)) + formulas.size();
+    document.erase(end);
+    for (const auto& [cell, formula] : formulas) document += cell + " =" + formula + "\n";
+    return document + "end " + std::to_string(count) + "\n";
+}
+
 /// Sections in the usual order, each list of texts below its marker, one a row.
 inline std::string standardOf(const std::vector<std::string>& inputs,
                               const std::vector<std::string>& outputs,

@@ -82,6 +82,13 @@ class Sheet {
     bool isArrayFormula(int col, int row) const;
     bool setArrayFormula(int col, int row, std::string_view text, formula::ParseError& error);
     int formulaCount() const { return m_liveFormulas; }
+    /// Calls visit(program, col, row) for every formula, in no particular order.
+    template <class Visit>
+    void eachFormula(Visit&& visit) const {
+        if (m_liveFormulas == 0) return;
+        for (const FormulaSlot& slot : m_slots)
+            if (slot.live) visit(*slot.program, int{slot.col}, int{slot.row});
+    }
     /// Every formula; the cells keep what they show.
     void removeFormulas();
 
