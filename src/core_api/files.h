@@ -1,5 +1,4 @@
-// Files as the core module offers them, by host-style path (case ignored where the exact name does
-// not exist): whole files of lines, record files, listings. Text is Windows-1252; lines end in "\n"
+// Files as the core module offers them, by host-style path (platform/paths.h): whole files of lines, record files, listings. Text is Windows-1252; lines end in "\n"
 // when written, and "\r\n" is accepted; files above textFileLimit are refused. Writing is all or
 // nothing. On failure outputs stay as they were and `message`, when asked for, says what failed,
 // where and what to do.

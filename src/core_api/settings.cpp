@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "core_api/text/text_helpers.h"
+#include "platform/paths.h"
 
 Vor_Settings gSettings;
 
@@ -13,6 +14,13 @@ Vor_String folderPath(std::string_view folder) {
     std::replace(path.begin(), path.end(), '/', '\\');
     return ensureEndBSlash(path);
 }
+
+std::string_view libraryFolder() {
+    return gSettings.libDir().view();
+}
+
+// Paths are made before and after any program sets the library.
+[[maybe_unused]] const bool isLibraryKnown = (paths::setLibrary(libraryFolder), true);
 
 }  // namespace
 

@@ -17,7 +17,8 @@ class VORMANT_API Vor_Settings {
   public:
     /// The library folder, ending in a backslash; empty until it is set.
     const Vor_String& libDir() const { return m_libDir; }
-    /// Takes a host-style path with or without its closing backslash.
+    /// Takes a host-style path with or without its closing backslash. Names below it forgive letter
+    /// case (platform/paths.h).
     void setLibDir(std::string_view folder);
 
     /// The add-on's own folder (pictures, sheet settings), as libDir.

@@ -32,9 +32,10 @@ std::optional<struct stat> statusOf(std::string_view path) {
     struct stat status {};
     if (path.find('\0') != std::string_view::npos) return std::nullopt;
     // Asked at every run of a standard: one system call when the exact name exists.
-    if (::stat(paths::asWritten(path).c_str(), &status) == 0 ||
-        ::stat(paths::toMachine(path).c_str(), &status) == 0)
-        return status;
+    const std::string written = paths::asWritten(path);
+    if (::stat(written.c_str(), &status) == 0) return status;
+    const std::string found = paths::toMachine(path);
+    if (found != written && ::stat(found.c_str(), &status) == 0) return status;
     return std::nullopt;
 }
 

@@ -7,6 +7,7 @@
 #include <cstdint>
 #include <ctime>
 #include <unordered_map>
+#include <unordered_set>
 
 #include "platform/encodings.h"
 
@@ -35,11 +36,11 @@ std::string findFolded(const std::string& folder, std::string_view name) {
     return best;
 }
 
-/// The path with every component that does not exist as written replaced by one that does, case
-/// aside, up to the first that has no match.
-std::string resolveFolded(const std::string& path) {
-    std::string resolved;
-    for (size_t at = 0; at < path.size();) {
+/// The path with every component behind the first `from` characters that does not exist as written
+/// replaced by one that does, case aside, up to the first that has no match.
+std::string resolveFolded(const std::string& path, size_t from) {
+    std::string resolved = path.substr(0, from);
+    for (size_t at = from; at < path.size();) {
         if (path[at] == '/') {
             resolved += '/';
             at = std::min(path.find_first_not_of('/', at), path.size());
@@ -105,7 +106,54 @@ class Misses {
     std::unordered_map<std::string, Miss> m_known;
 };
 
+std::string_view (*libraryFolder)() = nullptr;
+
+/// The library folder's machine path, which ends in a slash; empty when there is none.
+const std::string& library() {
+    static std::string inside;
+    static std::string machine;
+    const std::string_view folder = libraryFolder ? libraryFolder() : std::string_view();
+    if (folder != inside) {
+        inside = folder;
+        machine = asWritten(folder);
+    }
+    return machine;
+}
+
+/// The machine paths that were given as such.
+std::unordered_set<std::string>& exactPaths() {
+    static std::unordered_set<std::string> given;
+    return given;
+}
+
+/// False for a name that climbs out of the folder it is relative to.
+bool staysInside(std::string_view relative) {
+    int depth = 0;
+    while (!relative.empty()) {
+        const size_t end = std::min(relative.find('/'), relative.size());
+        const std::string_view name = relative.substr(0, end);
+        if (name == "..")
+            --depth;
+        else if (!name.empty() && name != ".")
+            ++depth;
+        if (depth < 0) return false;
+        relative.remove_prefix(std::min(end + 1, relative.size()));
+    }
+    return true;
+}
+
+bool forgivesCase(const std::string& path) {
+    const std::string& folder = library();
+    return !folder.empty() && path.starts_with(folder) &&
+           staysInside(std::string_view(path).substr(folder.size())) &&
+           !exactPaths().contains(path);
+}
+
 }  // namespace
+
+void setLibrary(std::string_view (*folder)()) {
+    libraryFolder = folder;
+}
 
 std::string asWritten(std::string_view inside) {
     std::string path = encodings::toUtf8(inside);
@@ -115,17 +163,20 @@ std::string asWritten(std::string_view inside) {
 
 std::string toMachine(std::string_view inside) {
     std::string path = asWritten(inside);
-    if (path.empty() || path.find('\0') != std::string::npos || existsExactly(path)) return path;
+    if (path.find('\0') != std::string::npos || !forgivesCase(path) || existsExactly(path))
+        return path;
     static Misses misses;
     if (const std::string* known = misses.find(path)) return *known;
-    std::string resolved = resolveFolded(path);
+    std::string resolved = resolveFolded(path, library().size());
     misses.add(path, resolved);
     return resolved;
 }
 
 std::optional<std::string> toInside(std::string_view machine) {
     auto inside = encodings::fromUtf8(machine);
-    if (inside) std::replace(inside->begin(), inside->end(), '/', '\\');
+    if (!inside) return inside;
+    std::replace(inside->begin(), inside->end(), '/', '\\');
+    exactPaths().insert(asWritten(*inside));
     return inside;
 }
 

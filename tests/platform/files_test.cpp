@@ -122,8 +122,51 @@ TEST(ReadWhole, RefusesWithAReason) {
     EXPECT_FALSE(files::readWhole(std::string_view("a\0b", 3), error));
 }
 
+/// Makes a folder the library while it lives.
+class Library {
+  public:
+    explicit Library(std::string folder) {
+        current() = std::move(folder);
+        paths::setLibrary([] { return std::string_view(current()); });
+    }
+    ~Library() { paths::setLibrary(nullptr); }
+
+  private:
+    static std::string& current() {
+        static std::string folder;
+        return folder;
+    }
+};
+
+TEST(Paths, OnlyNamesOfTheLibraryForgiveCase) {
+    const TemporaryFolder folder;
+    folder.write("out/report.csv", "mine");
+    folder.write("library/Data/Bolts.txt", "");
+    folder.write("library/mine.csv", "");
+    const Library library(folder.inside("library\\"));
+    const auto chosen = paths::toInside((folder.path() / "library/Mine.csv").string());
+    const struct {
+        std::string inside;
+        const char* machine;
+    } cases[] = {
+        {folder.inside("out\Report.csv"), "out/Report.csv"},
+        {folder.inside("OUT\report.csv"), "OUT/report.csv"},
+        {folder.inside("LIBRARY\data\bolts.txt"), "LIBRARY/data/bolts.txt"},
+        {folder.inside("library\data\bolts.txt"), "library/Data/Bolts.txt"},
+        {folder.inside("library\data\..\..\OUT\report.csv"), "library/data/../../OUT/report.csv"},
+        {*chosen, "library/Mine.csv"},
+    };
+    for (const auto& c : cases)
+        EXPECT_EQ(paths::toMachine(c.inside), folder.path().string() + "/" + c.machine);
+    std::string error;
+    EXPECT_TRUE(files::writeWhole(folder.inside("out\Report.csv"), "theirs", error)) << error;
+    EXPECT_EQ(folder.read("out/report.csv"), "mine");
+    EXPECT_FALSE(files::exists(folder.inside("OUT\report.csv")));
+}
+
 TEST(Paths, MatchIgnoresCaseOneComponentAtATime) {
     const TemporaryFolder folder;
+    const Library library(folder.inside());
     folder.write("Connection Standards/Data/Bolts.txt", "");
     folder.write("connection standards/x.txt", "");  // a second match: byte order decides
     folder.write(
@@ -156,6 +199,7 @@ TEST(Paths, MatchIgnoresCaseOneComponentAtATime) {
 
 TEST(Paths, AFileThatWasMissedIsFoundWhenItComes) {
     const TemporaryFolder folder;
+    const Library library(folder.inside());
     const auto age = [&] {
         std::filesystem::last_write_time(
             folder.path(), std::filesystem::file_time_type::clock::now() - std::chrono::hours(1));
