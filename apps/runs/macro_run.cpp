@@ -44,6 +44,18 @@ std::unique_ptr<MacroRun> MacroRun::open(const Vor_String& path, Vor_String& fai
     return run;
 }
 
+std::unique_ptr<MacroRun> MacroRun::openToChange(const Vor_String& path, Vor_String& failure) {
+    std::string error;
+    auto change = files::ExclusiveChange::take(macroFilePath(path), error);
+    if (!change) {
+        failure = error;
+        return nullptr;
+    }
+    auto run = open(path, failure);
+    if (run) run->m_change = std::move(change);
+    return run;
+}
+
 bool MacroRun::run(const Vor_String& standard, const Vor_String& key,
                    const Vor_StringArray& genNames, const Vor_StringArray& genValues,
                    RunReport& report) {

@@ -3,10 +3,12 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 
 #include "core_api/macros/macro_data.h"
 #include "core_api/macros/vor_db_macro.h"
 #include "mapping/tw_dlg_standards_data.h"
+#include "platform/exclusive_change.h"
 #include "platform/host/transaction.h"
 #include "runs/run_report.h"
 
@@ -16,6 +18,8 @@ class MacroRun {
   public:
     /// Null, with the reason in `failure`, when the file cannot be read. Host-style path.
     static std::unique_ptr<MacroRun> open(const Vor_String& path, Vor_String& failure);
+    /// The same for who writes it back soon: other programs wait until this object goes.
+    static std::unique_ptr<MacroRun> openToChange(const Vor_String& path, Vor_String& failure);
 
     const Vor_String& path() const { return m_path; }
     Vor_DbMacro& macro() { return m_macro; }
@@ -38,6 +42,7 @@ class MacroRun {
     MacroRun() = default;
 
     Vor_String m_path;
+    std::optional<files::ExclusiveChange> m_change;
     Vor_DbMacro m_macro;
     MacroData m_macroData;
     AcTransaction m_transaction;

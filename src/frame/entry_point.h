@@ -6,7 +6,7 @@
 
 namespace AcRx {
 
-enum AppMsgCode { kInitAppMsg = 1, kUnloadAppMsg = 2 };
+enum AppMsgCode : int { kInitAppMsg = 1, kUnloadAppMsg = 2 };
 enum AppRetCode { kRetOK = 0 };
 
 }  // namespace AcRx

@@ -5,6 +5,7 @@
 #include "mapping/mapping_file.h"
 #include "mapping/module_group_access.h"
 #include "mapping/tw_dlg_standards_data.h"
+#include "platform/exclusive_change.h"
 
 namespace {
 
@@ -147,6 +148,12 @@ ErrorStatus TwSSMapping::getMappingFromFile(const Vor_String& standardsName,
 
 ErrorStatus TwSSMapping::setMappingToFile(const Vor_String& standardsName, const Vor_String& key,
                                           Vor_String* message) const {
+    std::string error;
+    const auto change = files::ExclusiveChange::take(mappingFilePath(standardsName), error);
+    if (!change) {
+        if (message) *message = error;
+        return Acad::eInvalidInput;
+    }
     const auto stored = readMappingLines(standardsName, message);
     if (!stored && ObjectExportFileExists(mappingFilePath(standardsName)))
         return Acad::eInvalidInput;

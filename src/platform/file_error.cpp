@@ -25,6 +25,10 @@ std::string_view adviceFor(int error) {
             return "a part of the path is a file, not a folder";
         case ENAMETOOLONG:
             return "choose a shorter name";
+        case folderIsBusy:
+            return "try again when it is done";
+        case fileHasChanged:
+            return "read it again and repeat the change";
         case EMFILE:
         case ENFILE:
             return "close other files and try again";
@@ -33,12 +37,18 @@ std::string_view adviceFor(int error) {
     }
 }
 
+std::string whatHappened(int error) {
+    if (error == folderIsBusy) return "another program is writing in its folder";
+    if (error == fileHasChanged) return "another program has changed it meanwhile";
+    return std::generic_category().message(error);
+}
+
 }  // namespace
 
 std::string errorText(std::string_view action, std::string_view path, int error) {
     std::string text = "cannot ";
     text.append(action).append(" ").append(path).append(": ");
-    text.append(std::generic_category().message(error)).append("; ").append(adviceFor(error));
+    text.append(whatHappened(error)).append("; ").append(adviceFor(error));
     return text;
 }
 

@@ -7,7 +7,9 @@
 #include <cerrno>
 #include <ctime>
 
+#include "platform/changed_files.h"
 #include "platform/file_error.h"
+#include "platform/folders.h"
 #include "platform/paths.h"
 
 namespace files {
@@ -97,6 +99,12 @@ std::optional<Stamp> stampOf(std::string_view path) {
     return status && !S_ISDIR(status->st_mode) ? std::optional(stampOf(*status)) : std::nullopt;
 }
 
+std::optional<Stamp> machineStampOf(const std::string& machine) {
+    struct stat status {};
+    if (::stat(machine.c_str(), &status) != 0 || S_ISDIR(status.st_mode)) return std::nullopt;
+    return stampOf(status);
+}
+
 std::optional<Stamp> folderStampOf(std::string_view path) {
     const auto status = statusOf(path);
     return status && S_ISDIR(status->st_mode) ? std::optional(stampOf(*status)) : std::nullopt;
@@ -145,25 +153,20 @@ bool createFolder(std::string_view path, std::string& error) {
         error = errorText("create folder", path, ENOENT);
         return false;
     }
-    const std::string machine = paths::toMachine(path);
-    for (std::size_t end = 0; end < machine.size();) {
-        end = machine.find('/', end + 1);
-        const std::string part = machine.substr(0, end);
-        struct stat status {};
-        if (::stat(part.c_str(), &status) == 0 && S_ISDIR(status.st_mode)) continue;
-        if (::mkdir(part.c_str(), 0777) == 0) continue;
-        if (errno == EEXIST && ::stat(part.c_str(), &status) == 0 && S_ISDIR(status.st_mode))
-            continue;  // somebody else made it just now
-        error = errorText("create folder", path, errno);
-        return false;
-    }
-    return true;
+    std::vector<std::string> made;
+    const int code = makeFolders(paths::toMachine(path), made);
+    if (code != 0) error = errorText("create folder", path, code);
+    return code == 0;
 }
 
 bool removeFile(std::string_view path, std::string& error) {
-    if (::unlink(paths::toMachine(path).c_str()) == 0 || errno == ENOENT) return true;
-    error = errorText("remove", path, errno);
-    return false;
+    const std::string machine = paths::toMachine(path);
+    const std::string target = finalPath(path);
+    int code = changedMeanwhile(target) ? fileHasChanged : 0;
+    if (code == 0 && ::unlink(machine.c_str()) != 0 && errno != ENOENT) code = errno;
+    if (code != 0) error = errorText("remove", path, code);
+    noteWritten(target);
+    return code == 0;
 }
 
 }  // namespace files

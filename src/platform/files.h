@@ -1,6 +1,7 @@
 // Files on this machine, under their inside paths (platform/paths.h). Errors are one text: what
 // failed, which file, what to do. All writing goes through writeWhole, which leaves the old file
 // or the new one, never half.
+// Who reads a file, changes and writes it takes it exclusively first (platform/exclusive_change.h).
 #pragma once
 
 #include <cstdint>
@@ -48,7 +49,8 @@ VORMANT_API std::optional<std::string> readWhole(std::string_view path, std::str
                                                  Stamp* opened = nullptr);
 
 /// Replaces the file by `content`, or creates it. False, with `error` set and the old file
-/// untouched, on any failure. A link is followed, the file's permissions are kept.
+/// untouched, on any failure. A link is followed, the file's permissions are kept. What a dead
+/// program left half written in the folder is cleared away.
 VORMANT_API bool writeWhole(std::string_view path, std::string_view content, std::string& error);
 
 /// Creates the folder and those above it; true when it is there already.
@@ -76,6 +78,8 @@ class VORMANT_API WriteSteps {
     virtual int flush(int descriptor);
     virtual int close(int descriptor);
     virtual int rename(const std::string& from, const std::string& to);
+    /// The same, but EEXIST when there is a file `to`.
+    virtual int renameNew(const std::string& from, const std::string& to);
 };
 
 /// Makes `steps` (borrowed; null for the real ones) the ones used and returns those before, null

@@ -7,11 +7,13 @@
 #include <cerrno>
 #include <chrono>
 #include <cstdio>
-#include <cstdlib>
 
+#include "platform/changed_files.h"
 #include "platform/file_error.h"
 #include "platform/files.h"
-#include "platform/paths.h"
+#include "platform/folder_lock.h"
+#include "platform/folders.h"
+#include "platform/temporary_files.h"
 #include "platform/write_bytes.h"
 
 namespace files {
@@ -29,38 +31,26 @@ int errnoIf(bool failed) {
     return failed ? errno : 0;
 }
 
-// Where the bytes end up: a link is followed, so that renaming does not replace it by a file.
-std::string finalPath(std::string_view path) {
-    const std::string machine = paths::toMachine(path);
-    char* real = ::realpath(machine.c_str(), nullptr);
-    if (!real) return machine;
-    const std::string resolved(real);
-    std::free(real);
-    return resolved;
-}
-
-std::string folderOf(const std::string& machine) {
-    const std::size_t slash = machine.rfind('/');
-    return slash == std::string::npos ? std::string() : machine.substr(0, slash + 1);
-}
-
-// A name that is free even beside a crashed or a second writer; short, so that it fits wherever
-// the real name fits.
-std::string temporaryName() {
-    const auto ticks = std::chrono::steady_clock::now().time_since_epoch().count();
-    char name[48];
-    std::snprintf(name, sizeof name, ".%lx-%llx.tmp", static_cast<unsigned long>(::getpid()),
-                  static_cast<unsigned long long>(ticks));
-    return name;
-}
-
 std::optional<unsigned> permissionsOf(const std::string& machine) {
     struct stat status {};
     if (::stat(machine.c_str(), &status) != 0) return std::nullopt;
     return status.st_mode & 07777u;
 }
 
-int writeNew(const std::string& target, std::string_view content) {
+/// Puts a written file in the place of its target, or refuses.
+int putInPlace(const std::string& temporary, const std::string& target) {
+    int error = 0;
+    // Who changes a file in steps holds its folder. Others are waited for, but not for ever: what
+    // this writes does not depend on what is there.
+    const auto lock = FolderLock::take(folderOf(target), std::chrono::seconds(5), error);
+    if (changedMeanwhile(target)) return fileHasChanged;
+    if (!isBegunAsNew(target)) return steps().rename(temporary, target);
+    error = steps().renameNew(temporary, target);
+    return error == EEXIST ? fileHasChanged : error;
+}
+
+int replace(const std::string& target, std::string_view content) {
+    removeLeftovers(folderOf(target));
     std::string temporary;
     int descriptor = -1;
     int error = EEXIST;
@@ -69,25 +59,27 @@ int writeNew(const std::string& target, std::string_view content) {
         error = steps().open(temporary, permissionsOf(target), descriptor);
     }
     if (error != 0) return error;
+    markInUse(descriptor);
     error = writeBytes(descriptor, content);
     if (error == 0) error = steps().flush(descriptor);
     // Some disks report a failed write only here; the descriptor is gone either way.
     const int closeError = steps().close(descriptor);
     if (error == 0) error = closeError;
-    if (error == 0) error = steps().rename(temporary, target);
+    if (error == 0) error = putInPlace(temporary, target);
     if (error != 0) ::unlink(temporary.c_str());
     return error;
 }
 
-// Makes the new name survive a power cut. The file is whole either way, so a file system that
-// cannot do this is no reason to report failure.
-void flushFolder(const std::string& target) {
-    const std::string folder = folderOf(target);
-    const int descriptor =
-        ::open(folder.empty() ? "." : folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    if (descriptor < 0) return;
-    ::fsync(descriptor);
-    ::close(descriptor);
+/// What keeps `target` from being replaced; `isOrdinary` becomes false when it is no ordinary file.
+int refusal(const std::string& target, bool& isOrdinary) {
+    struct stat status {};
+    if (::lstat(target.c_str(), &status) != 0) return 0;
+    // Renaming would put a file in the place of these, a link that leads nowhere included.
+    if (S_ISDIR(status.st_mode)) return EISDIR;
+    if (S_ISLNK(status.st_mode) && ::stat(target.c_str(), &status) != 0) return errno;
+    isOrdinary = S_ISREG(status.st_mode);
+    // Renaming needs only the folder's permission; a file its owner protected stays protected.
+    return errnoIf(::access(target.c_str(), W_OK) != 0);
 }
 
 }  // namespace
@@ -131,6 +123,14 @@ int WriteSteps::rename(const std::string& from, const std::string& to) {
     return errnoIf(std::rename(from.c_str(), to.c_str()) != 0);
 }
 
+int WriteSteps::renameNew(const std::string& from, const std::string& to) {
+    if (::renameat2(AT_FDCWD, from.c_str(), AT_FDCWD, to.c_str(), RENAME_NOREPLACE) == 0) return 0;
+    if (errno != EINVAL && errno != ENOSYS) return errno;
+    // A disk without that may have links, which replace nothing either.
+    if (::link(from.c_str(), to.c_str()) != 0) return errno;
+    return errnoIf(::unlink(from.c_str()) != 0);
+}
+
 WriteSteps* installWriteSteps(WriteSteps* steps) {
     WriteSteps* before = installedSteps;
     installedSteps = steps;
@@ -140,26 +140,19 @@ WriteSteps* installWriteSteps(WriteSteps* steps) {
 bool writeWhole(std::string_view path, std::string_view content, std::string& error) {
     const bool isName = !path.empty() && path.find('\0') == std::string_view::npos;
     const std::string target = isName ? finalPath(path) : std::string();
-    struct stat status {};
-    int code = isName ? 0 : ENOENT;
-    if (code == 0 && ::lstat(target.c_str(), &status) == 0) {
-        // Renaming would put a file in the place of these, a link that leads nowhere included.
-        if (S_ISDIR(status.st_mode)) code = EISDIR;
-        if (S_ISLNK(status.st_mode)) code = errnoIf(::stat(target.c_str(), &status) != 0);
-        if (code == 0 && !S_ISREG(status.st_mode)) {
-            error = notOrdinaryText("write", path);
-            return false;
-        }
+    bool isOrdinary = true;
+    int code = isName ? refusal(target, isOrdinary) : ENOENT;
+    if (!isOrdinary) {
+        error = notOrdinaryText("write", path);
+        return false;
     }
-    // Renaming needs only the folder's permission; a file its owner protected stays protected.
-    if (code == 0 && ::access(target.c_str(), F_OK) == 0)
-        code = errnoIf(::access(target.c_str(), W_OK) != 0);
-    if (code == 0) code = writeNew(target, content);
+    if (code == 0) code = replace(target, content);
     if (code != 0) {
         error = errorText("write", path, code);
         return false;
     }
-    flushFolder(target);
+    noteWritten(target);
+    flushFolder(folderOf(target));
     return true;
 }
 

@@ -149,19 +149,20 @@ TEST(Paths, OnlyNamesOfTheLibraryForgiveCase) {
         std::string inside;
         const char* machine;
     } cases[] = {
-        {folder.inside("out\Report.csv"), "out/Report.csv"},
-        {folder.inside("OUT\report.csv"), "OUT/report.csv"},
-        {folder.inside("LIBRARY\data\bolts.txt"), "LIBRARY/data/bolts.txt"},
-        {folder.inside("library\data\bolts.txt"), "library/Data/Bolts.txt"},
-        {folder.inside("library\data\..\..\OUT\report.csv"), "library/data/../../OUT/report.csv"},
+        {folder.inside("out\\Report.csv"), "out/Report.csv"},
+        {folder.inside("OUT\\report.csv"), "OUT/report.csv"},
+        {folder.inside("LIBRARY\\data\\bolts.txt"), "LIBRARY/data/bolts.txt"},
+        {folder.inside("library\\data\\bolts.txt"), "library/Data/Bolts.txt"},
+        {folder.inside("library\\data\\..\\..\\OUT\\report.csv"),
+         "library/data/../../OUT/report.csv"},
         {*chosen, "library/Mine.csv"},
     };
     for (const auto& c : cases)
         EXPECT_EQ(paths::toMachine(c.inside), folder.path().string() + "/" + c.machine);
     std::string error;
-    EXPECT_TRUE(files::writeWhole(folder.inside("out\Report.csv"), "theirs", error)) << error;
+    EXPECT_TRUE(files::writeWhole(folder.inside("out\\Report.csv"), "theirs", error)) << error;
     EXPECT_EQ(folder.read("out/report.csv"), "mine");
-    EXPECT_FALSE(files::exists(folder.inside("OUT\report.csv")));
+    EXPECT_FALSE(files::exists(folder.inside("OUT\\report.csv")));
 }
 
 TEST(Paths, MatchIgnoresCaseOneComponentAtATime) {
@@ -246,7 +247,7 @@ TEST(Stamps, TellFilesFromFoldersAndChanges) {
     EXPECT_NE(files::stampOf(path), before);  // same size, perhaps the same tick of the clock
     EXPECT_FALSE(files::stampOf(folder.inside()));
     EXPECT_TRUE(files::createFolder(folder.inside("x\\y\\"), error)) << error;
-    EXPECT_TRUE(files::isFolder(folder.inside("X\\Y")));
+    EXPECT_TRUE(files::isFolder(folder.inside("x\\y")));
     EXPECT_FALSE(files::createFolder(folder.inside("a.txt\\z"), error));
     EXPECT_THAT(error, HasSubstr("cannot create folder"));
 }

@@ -34,6 +34,9 @@ class FailingSteps : public files::WriteSteps {
     int rename(const std::string& from, const std::string& to) override {
         return m_failing == renaming ? m_error : WriteSteps::rename(from, to);
     }
+    int renameNew(const std::string& from, const std::string& to) override {
+        return m_failing == renaming ? m_error : WriteSteps::renameNew(from, to);
+    }
 
   private:
     Step m_failing;

@@ -2,12 +2,15 @@
 
 #include "core_api/files.h"
 #include "cutstock/cutstock_commands.h"
+#include "cutstock/cutting_stock_library.h"
 #include "cutstock/stock_items.h"
 #include "io/csv.h"
 #include "io/output.h"
 #include "io/texts.h"
 #include "io/typed_paths.h"
 #include "platform/encodings.h"
+#include "platform/exclusive_change.h"
+#include "platform/kept_file.h"
 
 namespace cli {
 
@@ -83,18 +86,48 @@ std::optional<ItemMeant> itemMeant(const ImportStockRequest& request) {
     return std::nullopt;
 }
 
-/// Where the rows go; nothing after telling why.
-std::optional<Vor_String> placeOf(const ImportStockRequest& request, const Vor_String& item,
-                                  const Vor_String& name) {
+/// Where the rows go.
+Vor_String placeIn(const Vor_String& folder, const ImportStockRequest& request,
+                   const Vor_String& name) {
     const cutstock::FileKind& kind = *kindOfExtension(request.kind);
-    const auto folder = folderOf(item);
-    if (!folder) return std::nullopt;
-    const Vor_String chosen =
-        *folder + (name.isEmpty() ? cutstock::defaultFileName(*folder, kind) : name);
-    const Vor_String path = cutstock::storedPath(chosen, kind);
-    if (request.force || !ObjectExportFileExists(path)) return path;
+    return cutstock::storedPath(
+        folder + (name.isEmpty() ? cutstock::defaultFileName(folder, kind) : name), kind);
+}
+
+/// False, after telling it, when the file is there and may not be replaced.
+bool mayWrite(const ImportStockRequest& request, const Vor_String& path) {
+    if (request.force || !ObjectExportFileExists(path)) return true;
     complainAt(shownPath(path), 0, "the file is there already; --force replaces it");
-    return std::nullopt;
+    return false;
+}
+
+/// What another program adds meanwhile stays, and of what fails nothing is left.
+bool store(const ImportStockRequest& request, const Vor_String& name, const cutstock::Rows& rows,
+           Vor_String& path) {
+    std::string error;
+    Vor_String message;
+    const Vor_String list = cutstock::CuttingStockLibrary::path();
+    const auto listChange = files::ExclusiveChange::take(list, error);
+    const auto before = listChange ? files::KeptFile::keep(list, error) : nullptr;
+    if (!before) {
+        complainText(error);
+        return false;
+    }
+    const auto item = itemMeant(request);
+    const auto folder = item ? folderOf(item->name) : std::nullopt;
+    if (!folder) return false;
+    // The item first: it may well have no files, while files without an item are seen by nobody.
+    if (item->isNew && !addToList(item->name)) return false;
+    path = placeIn(*folder, request, name);
+    const auto change = files::ExclusiveChange::take(path, error);
+    if (!change)
+        complainText(error);
+    else if (mayWrite(request, path)) {
+        if (cutstock::saveRows(path, rows, message)) return true;
+        complainText(message);
+    }
+    if (item->isNew && !before->putBack(error)) complainText(error);
+    return false;
 }
 
 }  // namespace
@@ -107,17 +140,13 @@ ExitCode importStock(const ImportStockRequest& request) {
         return ExitCode::wrongCall;
     }
     const auto item = itemMeant(request);
-    const auto path = item ? placeOf(request, item->name, *name) : std::nullopt;
-    const auto rows = path ? readCsv(request.csv) : std::nullopt;
-    // The item first: it may well have no files, while files without an item are seen by nobody.
-    if (!rows || (item->isNew && !addToList(item->name))) return ExitCode::failed;
-    Vor_String message;
-    if (!cutstock::saveRows(*path, *rows, message)) {
-        complainText(message);
-        return ExitCode::failed;
-    }
+    const auto folder = item ? folderOf(item->name) : std::nullopt;
+    if (!folder || !mayWrite(request, placeIn(*folder, request, *name))) return ExitCode::failed;
+    const auto rows = readCsv(request.csv);
+    Vor_String path;
+    if (!rows || !store(request, *name, *rows, path)) return ExitCode::failed;
     Output output;
-    output.write(shownPath(*path) + "\n");
+    output.write(shownPath(path) + "\n");
     return output.close() ? ExitCode::done : ExitCode::failed;
 }
 

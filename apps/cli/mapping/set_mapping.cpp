@@ -6,10 +6,13 @@
 #include "io/output.h"
 #include "io/suggestion.h"
 #include "io/texts.h"
+#include "io/typed_paths.h"
 #include "mapping/dialog/mapping_saver.h"
 #include "mapping/dialog/object_list.h"
 #include "mapping/mapped_standard.h"
 #include "mapping/mapping_commands.h"
+#include "mapping/mapping_file.h"
+#include "platform/exclusive_change.h"
 #include "runs/given_value.h"
 
 namespace cli {
@@ -113,6 +116,13 @@ bool attach(MappedMacro& mapped, const Vor_String& standard, const Vor_String& k
     return saveMacro(mapped.path, mapped.macro, failure) == Acad::eOk;
 }
 
+std::optional<files::ExclusiveChange> changeOf(const Vor_String& path) {
+    std::string error;
+    auto change = files::ExclusiveChange::take(path, error);
+    if (!change) complainText(error);
+    return change;
+}
+
 }  // namespace
 
 ExitCode setMapping(const SetMappingRequest& request) {
@@ -120,6 +130,12 @@ ExitCode setMapping(const SetMappingRequest& request) {
     if (!key) return ExitCode::wrongCall;
     const auto standard = openMappedStandard(request.name);
     if (!standard) return ExitCode::failed;
+    // From here on to the end, as what is written comes from what is read.
+    const auto mappingChange = changeOf(mappingFilePath(standard->name));
+    const auto macroPath = insidePath(request.macroFile);
+    if (!mappingChange || !macroPath) return ExitCode::failed;
+    const auto macroChange = request.attach ? changeOf(macroFilePath(*macroPath)) : std::nullopt;
+    if (request.attach && !macroChange) return ExitCode::failed;
     auto macro = openMappedMacro(request.macroFile);
     if (!macro) return ExitCode::failed;
 
@@ -142,6 +158,7 @@ ExitCode setMapping(const SetMappingRequest& request) {
                                    : saver.saveUnder(standard->name, mapping, *key, failure);
     if (status != Acad::eOk || (request.attach && !attach(*macro, standard->name, *key, failure))) {
         complainText(failure);
+        if (!saver.undo(failure)) complainText(failure);
         return ExitCode::failed;
     }
     saver.keep();

@@ -4,6 +4,7 @@
 #include "io/findings.h"
 #include "io/output.h"
 #include "io/typed_paths.h"
+#include "platform/exclusive_change.h"
 #include "sections/imported_table.h"
 #include "sections/section_check.h"
 #include "sections/section_commands.h"
@@ -50,6 +51,13 @@ std::optional<TableFile> placeOf(const std::string& typed) {
     return TableFile{removeExtension(getFileName(path)), path};
 }
 
+/// False, after telling it, when the table is there and may not be replaced.
+bool mayWrite(const ImportSectionsRequest& request, const TableFile& place) {
+    if (request.force || !ObjectExportFileExists(place.path)) return true;
+    complainAt(shownPath(place.path), 0, "the table is there already; --force replaces it");
+    return false;
+}
+
 bool isKnownType(const Vor_String& type) {
     return sectionTypeNumber(type) > 0 || isDrawnTemplate(type);
 }
@@ -88,12 +96,16 @@ ExitCode importSections(const ImportSectionsRequest& request) {
     }
     const auto place = placeOf(request.table);
     if (!place) return ExitCode::failed;
-    if (!request.force && ObjectExportFileExists(place->path)) {
-        complainAt(shownPath(place->path), 0, "the table is there already; --force replaces it");
-        return ExitCode::failed;
-    }
+    if (!mayWrite(request, *place)) return ExitCode::failed;
     auto imported = readImported(request);
     if (!imported) return ExitCode::failed;
+    std::string busy;
+    const auto change = files::ExclusiveChange::take(place->path, busy);
+    if (!change) {
+        complainText(busy);
+        return ExitCode::failed;
+    }
+    if (!mayWrite(request, *place)) return ExitCode::failed;  // it may have come while reading
     Table& table = imported->table;
     table.tableName = place->name;
     table.drawnAs = drawnAs(request, *imported, *place);
@@ -103,8 +115,7 @@ ExitCode importSections(const ImportSectionsRequest& request) {
     }
     if (!isSound(*imported, request)) return ExitCode::failed;
     Vor_String message;
-    if (ObjectExportCreateDirectory(getPath(place->path), &message) != Acad::eOk ||
-        !table.writeToPath(place->path, &message)) {
+    if (!table.writeToPath(place->path, &message)) {
         complainText(message);
         return ExitCode::failed;
     }

@@ -37,7 +37,8 @@ ExitCode runOnMacro(const RunRequest& request, const StandardName& standard,
         complain("--key " + request.mappingKey + ": " + error);
         return ExitCode::wrongCall;
     }
-    const auto run = runs::MacroRun::open(*path, report.failure);
+    const auto run = request.write ? runs::MacroRun::openToChange(*path, report.failure)
+                                   : runs::MacroRun::open(*path, report.failure);
     if (!run) return ExitCode::failed;
     if (!run->run(standard.mappingName(), key, data.genNames, data.genValues, report))
         return ExitCode::failed;

@@ -4,7 +4,6 @@
 
 #include "core_api/text/text_helpers.h"
 #include "mapping/mapping_file.h"
-#include "platform/files.h"
 #include "platform/host/host.h"
 
 namespace {
@@ -27,21 +26,35 @@ std::optional<Vor_String> drawKey(const Vor_String& standardsName) {
 }  // namespace
 
 MappingSaver::~MappingSaver() {
-    for (const Before& before : m_before) {
-        std::string error;
-        const bool isDone = before.content ? files::writeWhole(before.path, *before.content, error)
-                                           : files::removeFile(before.path, error);
-        if (!isDone) acutPrint(error + "\n");
-    }
+    Vor_String message;
+    if (!undo(message)) acutPrint(message + "\n");
 }
 
-bool MappingSaver::isKnown(const Vor_String& path) const {
-    return std::any_of(m_before.begin(), m_before.end(),
-                       [&](const Before& before) { return before.path == path; });
+bool MappingSaver::undo(Vor_String& message) {
+    std::string error;
+    bool isDone = true;
+    for (const Before& before : m_before) isDone = before.file->putBack(error) && isDone;
+    m_before.clear();
+    if (!isDone) message = error;
+    return isDone;
+}
+
+bool MappingSaver::begin(const Vor_String& path, Vor_String& message) {
+    const auto isSame = [&](const Before& before) { return before.path == path; };
+    if (std::any_of(m_before.begin(), m_before.end(), isSame)) return true;
+    std::string error;
+    auto change = files::ExclusiveChange::take(path, error);
+    auto file = change ? files::KeptFile::keep(path, error) : nullptr;
+    if (file)
+        m_before.push_back({path, std::move(*change), std::move(file)});
+    else
+        message = error;
+    return !m_before.empty() && isSame(m_before.back());
 }
 
 ErrorStatus MappingSaver::save(const Vor_String& standardsName, const TwSSMapping& mapping,
                                Vor_String& key, Vor_String& message) {
+    if (!begin(mappingFilePath(standardsName), message)) return Acad::eInvalidInput;
     const auto fresh = drawKey(standardsName);
     if (!fresh) {
         message = mappingFilePath(standardsName) + ": no new key could be drawn; try again";
@@ -54,15 +67,7 @@ ErrorStatus MappingSaver::save(const Vor_String& standardsName, const TwSSMappin
 
 ErrorStatus MappingSaver::saveUnder(const Vor_String& standardsName, const TwSSMapping& mapping,
                                     const Vor_String& key, Vor_String& message) {
-    const Vor_String path = mappingFilePath(standardsName);
-    Before before{path, std::nullopt};
-    std::string error;
-    if (files::exists(path) && !(before.content = files::readWhole(path, error))) {
-        message = error;
-        return Acad::eInvalidInput;
-    }
-    if (mapping.setMappingToFile(standardsName, key, &message) != Acad::eOk)
-        return Acad::eInvalidInput;
-    if (!isKnown(path)) m_before.push_back(std::move(before));
-    return Acad::eOk;
+    return begin(mappingFilePath(standardsName), message)
+               ? mapping.setMappingToFile(standardsName, key, &message)
+               : Acad::eInvalidInput;
 }

@@ -2,16 +2,18 @@
 // or none.
 #pragma once
 
-#include <optional>
-#include <string>
+#include <memory>
 #include <vector>
 
 #include "mapping/tw_ss_mapping.h"
+#include "platform/exclusive_change.h"
+#include "platform/kept_file.h"
 
 class VORMANT_API MappingSaver {
   public:
     MappingSaver() = default;
-    /// Files that were written are as before again, unless keep() was called.
+    /// Files that were written are as before again, unless keep() was called. Until then other
+    /// programs wait.
     ~MappingSaver();
     MappingSaver(const MappingSaver&) = delete;
     MappingSaver& operator=(const MappingSaver&) = delete;
@@ -24,13 +26,16 @@ class VORMANT_API MappingSaver {
     ErrorStatus saveUnder(const Vor_String& standardsName, const TwSSMapping& mapping,
                           const Vor_String& key, Vor_String& message);
     void keep() { m_before.clear(); }
+    /// Makes the files as they were. False, with the reason, when that failed for one of them.
+    bool undo(Vor_String& message);
 
   private:
     struct Before {
         Vor_String path;
-        std::optional<std::string> content;  // nothing when there was no file
+        files::ExclusiveChange change;
+        std::unique_ptr<files::KeptFile> file;
     };
-    bool isKnown(const Vor_String& path) const;
+    bool begin(const Vor_String& path, Vor_String& message);
 
     std::vector<Before> m_before;
 };

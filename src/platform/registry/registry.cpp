@@ -8,6 +8,7 @@
 
 #include "platform/encodings.h"
 #include "platform/escaped_text.h"
+#include "platform/exclusive_change.h"
 #include "platform/files.h"
 #include "platform/host/host.h"
 #include "platform/paths.h"
@@ -81,14 +82,17 @@ void load(RootFile& file) {
     if (!file.damage.empty()) acutPrint(file.damage + "\n");
 }
 
+enum class Read { ifChanged, anew };
+
 // The root's file in its present state. Null when there is no place for it.
-RootFile* current(Root root) {
+RootFile* current(Root root, Read read = Read::ifChanged) {
     static std::array<RootFile, 2> rootFiles;
     const auto path = pathOf(root);
     if (!path) return nullptr;
     RootFile& file = rootFiles[static_cast<std::size_t>(root)];
     const auto stamp = files::stampOf(*path);
-    if (file.path != *path || file.stamp != stamp) {
+    // What is written comes from what is read: no stamp is fine enough for that.
+    if (read == Read::anew || file.path != *path || file.stamp != stamp) {
         file.path = *path;
         file.stamp = stamp;
         load(file);
@@ -107,9 +111,7 @@ bool save(RootFile& file, Values values, std::string& error) {
         appendEscaped(text, value);
         text += '\n';
     }
-    const std::string folder = file.path.substr(0, file.path.rfind('\\'));
-    if (!files::createFolder(folder, error) || !files::writeWhole(file.path, text, error))
-        return false;
+    if (!files::writeWhole(file.path, text, error)) return false;
     file.values = std::move(values);
     file.stamp = files::stampOf(file.path);
     return true;
@@ -117,11 +119,14 @@ bool save(RootFile& file, Values values, std::string& error) {
 
 bool change(Root root, std::string_view key, std::string_view name, const std::string* value,
             std::string& error) {
-    RootFile* file = current(root);
-    if (!file) {
+    const auto path = pathOf(root);
+    if (!path) {
         error = "cannot keep settings: there is no configuration folder; set XDG_CONFIG_HOME";
         return false;
     }
+    const auto exclusive = files::ExclusiveChange::take(*path, error);
+    if (!exclusive) return false;
+    RootFile* file = current(root, Read::anew);
     if (!file->damage.empty()) {
         error = file->damage;
         return false;

@@ -1,0 +1,37 @@
+// An advisory lock on a folder, which every program takes that replaces a file in it. It is the
+// folder that is locked, not the file: a file that is replaced is another one afterwards, and one
+// that does not exist yet cannot be locked. The system drops the lock of a program that dies.
+#pragma once
+
+#include <sys/stat.h>
+
+#include <chrono>
+#include <memory>
+#include <string>
+
+namespace files {
+
+class FolderLock {
+  public:
+    /// Waits up to `patience` for the folder (a machine path, empty for the current one). One
+    /// thread may take the same folder again and again. Null, with an errno or folderIsBusy
+    /// (platform/file_error.h) in `code`, when the folder cannot be had. On a disk that has no
+    /// locks the lock is an empty one.
+    static std::shared_ptr<FolderLock> take(const std::string& folder,
+                                            std::chrono::milliseconds patience, int& code);
+    ~FolderLock();
+    FolderLock(const FolderLock&) = delete;
+    FolderLock& operator=(const FolderLock&) = delete;
+
+  private:
+    FolderLock(int descriptor, dev_t device, ino_t number)
+        : m_descriptor(descriptor), m_device(device), m_number(number) {}
+    static std::shared_ptr<FolderLock> heldByThread(const struct stat& folder);
+    static std::shared_ptr<FolderLock> make(int descriptor, const struct stat& folder);
+
+    int m_descriptor;
+    dev_t m_device;
+    ino_t m_number;
+};
+
+}  // namespace files
