@@ -8,6 +8,7 @@
 #include <unistd.h>
 
 #include "program.h"
+#include "test_folders.h"
 
 namespace {
 
