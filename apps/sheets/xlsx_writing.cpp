@@ -1,22 +1,20 @@
-// The only file that knows the workbook library. It writes to a file by name, so the bytes are
-// taken from one in memory and written where they belong like every other file.
-#include <sys/mman.h>
-#include <unistd.h>
-#include <xlsxwriter.h>
-
+// A workbook is made in memory from its first byte to its last, so that it is whole or not there:
+// no temporary file can be cut off, and memory that runs out ends in std::bad_alloc like everywhere
+// else. The same sheet gives the same bytes in every locale and at every time.
 #include <algorithm>
-#include <array>
-#include <cctype>
-#include <fstream>
-#include <iterator>
+#include <cmath>
 #include <unordered_map>
 
 #include "core_api/drawing/canvas.h"
-#include "platform/clock.h"
 #include "platform/encodings.h"
 #include "platform/files.h"
 #include "platform/window/bitmap.h"
+#include "sheets/file_formula.h"
 #include "sheets/sheet_writing.h"
+#include "sheets/workbook_drawings.h"
+#include "sheets/workbook_styles.h"
+#include "sheets/xml_text.h"
+#include "sheets/zip_archive.h"
 
 namespace sheets {
 
@@ -24,85 +22,9 @@ namespace {
 
 using formula::Value;
 
-/// Functions younger than the file format carry a prefix in it: those with a dot in their name but
-/// for four, and these.
-bool needsPrefix(std::string_view name) {
-    static constexpr std::array<std::string_view, 4> dottedOld = {
-        "ERROR.TYPE", "ISO.CEILING", "NETWORKDAYS.INTL", "WORKDAY.INTL"};
-    static constexpr std::array<std::string_view, 47> young = {
-        "ACOT",      "ACOTH",        "AGGREGATE", "ARABIC",      "ARRAYTOTEXT", "BASE",
-        "BITAND",    "BITLSHIFT",    "BITOR",     "BITRSHIFT",   "BITXOR",      "COMBINA",
-        "CONCAT",    "COT",          "COTH",      "CSC",         "CSCH",        "DAYS",
-        "DECIMAL",   "FORMULATEXT",  "GAMMA",     "GAUSS",       "IFNA",        "IFS",
-        "ISFORMULA", "ISOWEEKNUM",   "MAXIFS",    "MINIFS",      "MUNIT",       "NUMBERVALUE",
-        "PDURATION", "PERMUTATIONA", "PHI",       "RRI",         "SEC",         "SECH",
-        "SHEET",     "SHEETS",       "SWITCH",    "TEXTAFTER",   "TEXTBEFORE",  "TEXTJOIN",
-        "TEXTSPLIT", "UNICHAR",      "UNICODE",   "VALUETOTEXT", "XOR"};
-    static constexpr std::array<std::string_view, 2> lookups = {"XLOOKUP", "XMATCH"};
-    const auto isIn = [&](const auto& names) {
-        return std::find(names.begin(), names.end(), name) != names.end();
-    };
-    if (name.find('.') != name.npos) return !isIn(dottedOld);
-    return isIn(young) || isIn(lookups);
-}
-
-/// The formula as the file format writes it, "=" in front, UTF-8.
-std::string fileFormula(std::string_view text) {
-    std::string result = "=";
-    std::string word;
-    bool inText = false;
-    const auto endWord = [&](char next) {
-        if (next == '(' && needsPrefix(encodings::uppered(word))) result += "_xlfn.";
-        result += word;
-        word.clear();
-    };
-    for (const char c : text) {
-        if (c == '"') inText = !inText;
-        if (!inText && (std::isalnum(static_cast<unsigned char>(c)) || c == '.' || c == '_')) {
-            word += c;
-            continue;
-        }
-        endWord(c);
-        result += c;
-    }
-    endWord('\0');
-    return encodings::toUtf8(result);
-}
-
-lxw_color_t fileColour(control::Colour colour) {
-    return (colour & 0xFFU) << 16 | (colour & 0xFF00U) | (colour >> 16 & 0xFFU);
-}
-
-void setFont(lxw_format* format, const control::Look& look) {
-    const control::Font& font = look.font;
-    format_set_font_name(format, encodings::toUtf8(font.name).c_str());
-    format_set_font_size(format, font.height * 0.75);  // pixels at 96 to the inch, in points
-    if (font.weight >= 600) format_set_bold(format);
-    if (font.italic) format_set_italic(format);
-    if (font.underlined) format_set_underline(format, LXW_UNDERLINE_SINGLE);
-    if (look.textColour != control::automatic)
-        format_set_font_color(format, fileColour(look.textColour));
-}
-
-void setBorders(lxw_format* format, const control::Look& look) {
-    if (look.borderStyle == 0) return;
-    const auto has = [&](control::BorderSide side) { return (look.borderSides & side) != 0; };
-    if (has(control::borderLeft)) format_set_left(format, LXW_BORDER_THIN);
-    if (has(control::borderRight)) format_set_right(format, LXW_BORDER_THIN);
-    if (has(control::borderTop)) format_set_top(format, LXW_BORDER_THIN);
-    if (has(control::borderBottom)) format_set_bottom(format, LXW_BORDER_THIN);
-    if (look.borderColour != control::automatic)
-        format_set_border_color(format, fileColour(look.borderColour));
-}
-
-void setNumberFormat(lxw_format* format, const control::CellType& type) {
-    if (type.isNumber()) {
-        const std::string decimals(type.decimals, '0');
-        format_set_num_format(format, decimals.empty() ? "0" : ("0." + decimals).c_str());
-    } else if (type.keepsText()) {
-        format_set_num_format(format, "@");
-    }
-}
+constexpr const char* mainNamespace = "http://schemas.openxmlformats.org/spreadsheetml/2006/main";
+const std::string relationsOf =
+    "http://schemas.openxmlformats.org/officeDocument/2006/relationships";
 
 constexpr int pictureMark = 251;  // bitmap resource
 
@@ -120,269 +42,380 @@ const std::string& markBitmap() {
     return bytes;
 }
 
-/// One workbook being filled from a grid.
-class Workbook {
+/// Texts that cells refer to by number, from 0.
+class SharedTexts {
   public:
-    Workbook(const control::Grid& grid, const std::string& path)
-        : m_grid(grid), m_book(workbook_new(path.c_str())) {
-        if (m_book) m_page = workbook_add_worksheet(m_book, nullptr);
-    }
-    Workbook(const Workbook&) = delete;
-    Workbook& operator=(const Workbook&) = delete;
-    ~Workbook() {
-        if (m_book) workbook_close(m_book);
-    }
-
-    /// Of the clock only where it is fixed: the same sheet gives the same bytes.
-    void setCreated() {
-        if (!m_book) return;
-        constexpr std::int64_t firstOfArchives = 315532800;  // 1980, as its files are dated
-        lxw_doc_properties properties{};
-        properties.created =
-            static_cast<std::time_t>(platform::fixedTime().value_or(firstOfArchives));
-        note(workbook_set_properties(m_book, &properties), {});
-    }
-
-    void keepFirstRowInSight() {
-        if (!m_page) return;
-        worksheet_freeze_panes(m_page, 1, 0);
-        worksheet_repeat_rows(m_page, 0, 0);
-    }
-
-    bool write(std::string& error) {
-        if (!m_page) {
-            error = "there is not enough memory for a workbook";
-            return false;
+    int numberOf(std::string_view text) {
+        ++m_uses;
+        const auto [found, isNew] =
+            m_numbers.try_emplace(std::string(text), static_cast<int>(m_numbers.size()));
+        if (isNew) {
+            m_items += "<si>" + xmlTextElement(text) + "</si>";
         }
-        writeSizes();
-        writeSpans();
-        if (!m_error.empty()) {
-            error = m_error;
-            return false;
-        }
-        const auto [cols, rows] = usedArea(m_grid);
-        const formula::Area all{1, std::max(rows, 1), 1, static_cast<uint16_t>(std::max(cols, 1))};
-        m_grid.sheet().cells().each(
-            all, [&](int row, int col, const control::Cell& cell) { writeCell(col, row, cell); });
-        writeNotes();
-        writePictures();
-        note(workbook_close(std::exchange(m_book, nullptr)), {});
-        error = m_error;
-        return m_error.empty();
+        return found->second;
+    }
+    std::string xml() const {
+        return xmlPart(std::string("<sst xmlns=\"") + mainNamespace + "\" count=\"" +
+                       std::to_string(m_uses) + "\" uniqueCount=\"" +
+                       std::to_string(m_numbers.size()) + "\">" + m_items + "</sst>");
     }
 
   private:
-    static lxw_row_t rowOf(int row) { return static_cast<lxw_row_t>(row - 1); }
-    static lxw_col_t colOf(int col) { return static_cast<lxw_col_t>(col - 1); }
+    std::unordered_map<std::string, int> m_numbers;
+    std::string m_items;
+    long long m_uses = 0;
+};
 
-    void note(lxw_error result, const std::string& where) {
-        if (result != LXW_NO_ERROR && m_error.empty())
-            m_error = where + std::string(where.empty() ? "" : ": ") + lxw_strerror(result);
-    }
+/// One workbook being made from a grid.
+class Workbook {
+  public:
+    Workbook(const control::Grid& grid, bool hasHeaderRow)
+        : m_grid(grid), m_hasHeaderRow(hasHeaderRow), m_used(usedArea(grid)) {}
 
-    lxw_format* formatOf(control::LookIndex index) {
-        auto& format = m_formats[index];
-        if (format) return format;
-        const control::Look& look = m_grid.looks()[index];
-        format = workbook_add_format(m_book);
-        setNumberFormat(format, look.type);
-        setFont(format, look);
-        setBorders(format, look);
-        if (look.background != control::automatic) {
-            format_set_pattern(format, LXW_PATTERN_SOLID);
-            format_set_bg_color(format, fileColour(look.background));
+    std::optional<std::string> bytes(std::string& error) {
+        collectCells();
+        if (m_error.empty()) writeRows();
+        if (m_error.empty()) writeOverCells();
+        if (m_error.empty()) {
+            ZipArchive archive;
+            addParts(archive);
+            if (archive.fits()) return std::move(archive).finish();
+            m_error = "there is more in the sheet than a workbook can hold";
         }
-        static constexpr uint8_t alignments[] = {LXW_ALIGN_NONE, LXW_ALIGN_LEFT, LXW_ALIGN_RIGHT,
-                                                 LXW_ALIGN_CENTER};
-        if (look.alignment < std::size(alignments))
-            format_set_align(format, alignments[look.alignment]);
-        return format;
+        error = m_error;
+        return std::nullopt;
     }
 
-    void writeSizes() {
-        const control::SideTables& sides = m_grid.sides();
-        for (const auto& [row, pixels] : sides.rows.sizes)
-            if (row >= 1) worksheet_set_row_pixels(m_page, rowOf(row), pixelsOf(pixels), nullptr);
-        const int cols = std::max(usedArea(m_grid).cols, lastSized(sides.cols));
-        for (int col = 1; col <= cols; ++col) {
-            lxw_row_col_options options{};
-            options.hidden = sides.cols.hidden.contains(col);
-            const auto size = sides.cols.sizes.find(col);
-            const auto look = sides.columnLook(col);
-            if (size == sides.cols.sizes.end() && !options.hidden && look == control::inheritedLook)
-                continue;
-            const int pixels = size == sides.cols.sizes.end() ? m_grid.colWidth(col) : size->second;
-            worksheet_set_column_pixels_opt(
-                m_page, colOf(col), colOf(col), pixelsOf(pixels),
-                look == control::inheritedLook ? nullptr : formatOf(look), &options);
-        }
-    }
-    static uint32_t pixelsOf(int pixels) { return static_cast<uint32_t>(std::max(pixels, 0)); }
-    static int lastSized(const control::Band& band) {
-        const int sized = band.sizes.empty() ? 0 : band.sizes.rbegin()->first;
-        return std::max(sized, band.hidden.empty() ? 0 : *band.hidden.rbegin());
+  private:
+    struct Place {
+        int row = 0;
+        int col = 0;
+        const control::Cell* cell = nullptr;  ///< null for one that only has a format
+    };
+
+    void fail(const std::string& where, const char* what) {
+        if (m_error.empty()) m_error = where + ": " + what;
     }
 
-    void writeSpans() {
-        // The library writes every cell of a span.
-        constexpr long long mostCells = 2'000'000;
+    /// All that the rows hold, row by row. Those inside spans have the anchor's format, which draws
+    /// its border.
+    void collectCells() {
+        const formula::Area all{1, std::max(m_used.rows, 1), 1,
+                                static_cast<uint16_t>(std::max(m_used.cols, 1))};
+        m_grid.sheet().cells().each(all, [&](int row, int col, const control::Cell& cell) {
+            m_places.push_back({row, col, &cell});
+        });
+        constexpr long long mostSpanCells = 2'000'000;
         long long cells = 0;
         for (const auto& span : m_grid.sides().spans.all()) {
             if (span.col < 1 || span.row < 1 || (span.cols < 2 && span.rows < 2)) continue;
             cells += static_cast<long long>(span.cols) * span.rows;
-            if (cells > mostCells) m_error = "the spans hold too many cells for a workbook";
-            if (!m_error.empty()) return;
-            note(worksheet_merge_range(m_page, rowOf(span.row), colOf(span.col),
-                                       rowOf(span.row + span.rows - 1),
-                                       colOf(span.col + span.cols - 1), "",
-                                       formatOf(m_grid.lookIndex(span.col, span.row))),
-                 "the span at " + cellName({span.col, span.row}));
-        }
-    }
-
-    void writeNotes() {
-        for (const auto& [key, text] : m_grid.sides().notes) {
-            const int col = control::keyCol(key), row = control::keyRow(key);
-            if (col < 1 || row < 1) continue;
-            note(worksheet_write_comment(m_page, rowOf(row), colOf(col),
-                                         encodings::toUtf8(text).c_str()),
-                 "the note of " + cellName({col, row}));
-        }
-    }
-
-    void writePictures() {
-        const auto [cols, rows] = usedArea(m_grid);
-        const formula::Area all{1, std::max(rows, 1), 1, static_cast<uint16_t>(std::max(cols, 1))};
-        m_grid.sheet().cells().each(all, [&](int row, int col, const control::Cell&) {
-            const control::Look& look = m_grid.look(col, row);
-            if (look.type.kind == control::CellKind::picture)
-                writePicture(col, row, look.type.text);
-            if (look.type.kind == control::CellKind::pictureHandle &&
-                look.type.picture == pictureMark)
-                insertPicture(col, row, markBitmap());
-        });
-    }
-
-    // Other programs show bitmaps of 24 bits a pixel for sure; a picture that cannot be read is
-    // left out, as it is on the screen.
-    void writePicture(int col, int row, const std::string& name) {
-        std::string error;
-        std::optional<std::string> file;
-        const std::string* kept = m_grid.keptPicture(name);
-        if (!kept) file = files::readWhole(name, error);
-        if (!kept && !file) return;
-        std::string bytes = kept ? *kept : std::move(*file);
-        if (const auto bitmap = decodeBitmap(bytes, error)) bytes = encodeBitmap(*bitmap);
-        insertPicture(col, row, bytes);
-    }
-
-    void insertPicture(int col, int row, const std::string& bytes) {
-        lxw_image_options options{};
-        options.object_position = LXW_OBJECT_MOVE_DONT_SIZE;
-        const lxw_error result = worksheet_insert_image_buffer_opt(
-            m_page, rowOf(row), colOf(col), reinterpret_cast<const unsigned char*>(bytes.data()),
-            bytes.size(), &options);
-        if (result != LXW_ERROR_IMAGE_DIMENSIONS)
-            note(result, "the picture in " + cellName({col, row}));
-    }
-
-    void writeCell(int col, int row, const control::Cell& cell) {
-        lxw_format* format = formatOf(m_grid.lookIndex(col, row));
-        const auto text = m_grid.sheet().formula(col, row);
-        note(text ? writeFormula(col, row, *text, cell.value(), format)
-                  : writeValue(col, row, cell.value(), format),
-             "cell " + cellName({col, row}));
-    }
-
-    lxw_error writeValue(int col, int row, const Value& value, lxw_format* format) {
-        switch (value.type()) {
-            case formula::ValueType::number:
-                return worksheet_write_number(m_page, rowOf(row), colOf(col), value.number(),
-                                              format);
-            case formula::ValueType::boolean:
-                return worksheet_write_boolean(m_page, rowOf(row), colOf(col), value.truth(),
-                                               format);
-            case formula::ValueType::text:
-                return worksheet_write_string(m_page, rowOf(row), colOf(col),
-                                              encodings::toUtf8(value.text()).c_str(), format);
-            case formula::ValueType::error: {
-                // A plain error value can only be written as the formula that gives it.
-                const std::string error(formula::errorText(value.error()));
-                return worksheet_write_formula_str(m_page, rowOf(row), colOf(col),
-                                                   ("=" + error).c_str(), format, error.c_str());
+            if (cells > mostSpanCells) {
+                m_error = "the spans hold too many cells for a workbook";
+                return;
             }
-            default:
-                return worksheet_write_blank(m_page, rowOf(row), colOf(col), format);
+            const int lastRow = span.row + span.rows - 1, lastCol = span.col + span.cols - 1;
+            m_spans += "<mergeCell ref=\"" + cellName({span.col, span.row}) + ":" +
+                       cellName({lastCol, lastRow}) + "\"/>";
+            ++m_spanCount;
+            for (int row = span.row; row <= lastRow; ++row)
+                for (int col = span.col; col <= lastCol; ++col)
+                    m_places.push_back({row, col, nullptr});
         }
+        const auto isBefore = [](const Place& a, const Place& b) {
+            return a.row != b.row ? a.row < b.row : a.col < b.col;
+        };
+        std::stable_sort(m_places.begin(), m_places.end(), isBefore);
     }
 
-    lxw_error writeFormula(int col, int row, std::string_view text, const Value& result,
-                           lxw_format* format) {
+    int formatOf(control::LookIndex index) {
+        const auto [found, isNew] = m_formats.try_emplace(index);
+        if (isNew) found->second = m_styles.numberOf(m_grid.looks()[index]);
+        return found->second;
+    }
+
+    std::string columnsXml() {
+        constexpr double pixelsOfDigit = 7, mostDigits = 255;
+        const control::SideTables& sides = m_grid.sides();
+        const int cols = std::max(m_used.cols, lastOf(sides.cols));
+        std::string xml;
+        for (int col = 1; col <= cols; ++col) {
+            const bool isHidden = sides.cols.hidden.contains(col);
+            const bool isSized = sides.cols.sizes.contains(col);
+            const auto look = sides.columnLook(col);
+            if (!isSized && !isHidden && look == control::inheritedLook) continue;
+            const double digits = std::min(m_grid.colWidth(col) / pixelsOfDigit, mostDigits);
+            const std::string number = std::to_string(col);
+            xml += "<col min=\"" + number + "\" max=\"" + number + "\" width=\"" +
+                   xmlNumber(std::max(std::floor(digits * 256) / 256, 0.0)) + "\"";
+            if (look != control::inheritedLook)
+                xml += " style=\"" + std::to_string(formatOf(look)) + "\"";
+            xml += isHidden ? " hidden=\"1\" customWidth=\"1\"/>" : " customWidth=\"1\"/>";
+        }
+        return xml.empty() ? xml : "<cols>" + xml + "</cols>";
+    }
+    static int lastOf(const control::Band& band) {
+        const int sized = band.sizes.empty() ? 0 : band.sizes.rbegin()->first;
+        return std::max(sized, band.hidden.empty() ? 0 : *band.hidden.rbegin());
+    }
+
+    void writeRows() {
+        const control::Band& band = m_grid.sides().rows;
+        auto sized = band.sizes.lower_bound(1);
+        auto hidden = band.hidden.lower_bound(1);
+        auto place = m_places.cbegin();
+        constexpr int none = formula::maxRows + 1;
+        while (true) {
+            const int row = std::min({place == m_places.cend() ? none : place->row,
+                                      sized == band.sizes.end() ? none : sized->first,
+                                      hidden == band.hidden.end() ? none : *hidden});
+            if (row == none) break;
+            beginRow(row, sized != band.sizes.end() && sized->first == row ? sized->second : -1,
+                     hidden != band.hidden.end() && *hidden == row);
+            for (int lastCol = 0; place != m_places.cend() && place->row == row; ++place) {
+                if (place->col != lastCol) writeCell(*place);
+                lastCol = place->col;
+            }
+            m_rows += "</row>";
+            if (sized != band.sizes.end() && sized->first == row) ++sized;
+            if (hidden != band.hidden.end() && *hidden == row) ++hidden;
+        }
+    }
+    /// `pixels` below 0 for the usual height.
+    void beginRow(int row, int pixels, bool isHidden) {
+        constexpr double pointsOfPixel = 0.75, mostPoints = 409.5;
+        m_rows += "<row r=\"" + std::to_string(row) + "\"";
+        if (pixels >= 0) {
+            m_rows += " ht=\"";
+            appendXmlNumber(m_rows, std::min(pixels * pointsOfPixel, mostPoints));
+            m_rows += "\" customHeight=\"1\"";
+        }
+        m_rows += isHidden || pixels == 0 ? " hidden=\"1\">" : ">";
+    }
+
+    void writeCell(const Place& place) {
+        const std::string name = cellName({place.col, place.row});
+        m_rows += "<c r=\"" + name + "\"";
+        const int format = formatOf(m_grid.lookIndex(place.col, place.row));
+        if (format != 0) m_rows += " s=\"" + std::to_string(format) + "\"";
+        const auto formula =
+            place.cell ? m_grid.sheet().formula(place.col, place.row) : std::nullopt;
+        if (!place.cell)
+            m_rows += "/>";
+        else if (formula)
+            writeFormula(place, *formula, name);
+        else
+            writeValue(place.cell->value(), name);
+    }
+
+    void checkLength(std::string_view text, std::size_t most, const std::string& cell,
+                     const char* what) {
+        if (text.size() > most) fail("cell " + cell, what);
+    }
+    void checkText(std::string_view text, const std::string& cell) {
+        checkLength(text, 32767, cell,
+                    "its text is longer than 32767 characters, the most that a workbook holds");
+    }
+
+    void writeValue(const Value& value, const std::string& name) {
+        if (!value.isText()) return writeResult(value, {});
+        checkText(value.text(), name);
+        m_rows += " t=\"s\"><v>" + std::to_string(m_texts.numberOf(value.text())) + "</v></c>";
+    }
+
+    void writeFormula(const Place& place, std::string_view text, const std::string& name) {
         std::string converted;
         if (m_grid.sheet().referenceStyle() == formula::ReferenceStyle::r1c1) {
             converted = formula::convertStyle(text, formula::ReferenceStyle::r1c1,
-                                              formula::ReferenceStyle::a1, col, row)
+                                              formula::ReferenceStyle::a1, place.col, place.row)
                             .value_or(std::string(text));
             text = converted;
         }
         const std::string formula = fileFormula(text);
-        const double number = result.isNumber() ? result.number() : 0;
-        if (m_grid.sheet().isArrayFormula(col, row))
-            return worksheet_write_array_formula_num(m_page, rowOf(row), colOf(col), rowOf(row),
-                                                     colOf(col), formula.c_str(), format, number);
-        if (result.isNumber())
-            return worksheet_write_formula_num(m_page, rowOf(row), colOf(col), formula.c_str(),
-                                               format, number);
-        std::string shown;
-        if (result.isText()) shown = encodings::toUtf8(result.text());
-        if (result.isBoolean()) shown = result.truth() ? "TRUE" : "FALSE";
-        if (result.isError()) shown = formula::errorText(result.error());
-        return worksheet_write_formula_str(m_page, rowOf(row), colOf(col), formula.c_str(), format,
-                                           shown.c_str());
+        checkLength(formula, 8192, name,
+                    "its formula is longer than 8192 characters, the most that a workbook holds");
+        std::string xml = "<f>";
+        if (m_grid.sheet().isArrayFormula(place.col, place.row))
+            xml = "<f t=\"array\" ref=\"" + name + "\">";
+        appendXmlText(xml, formula);
+        xml += "</f>";
+        const Value result = place.cell->value();
+        if (result.isText()) checkText(result.text(), name);
+        writeResult(result, xml);
+    }
+
+    /// The rest of a cell: the type and the value, with `formula` in front of it.
+    void writeResult(const Value& value, const std::string& formula) {
+        if (value.isBoolean()) {
+            m_rows += " t=\"b\">" + formula + (value.truth() ? "<v>1</v></c>" : "<v>0</v></c>");
+        } else if (value.isNumber() && std::isfinite(value.number())) {
+            m_rows += ">" + formula + "<v>";
+            appendXmlNumber(m_rows, value.number());
+            m_rows += "</v></c>";
+        } else if (value.isNumber()) {
+            writeResult(formula::ErrorCode::num, formula);
+        } else if (value.isError()) {
+            // A circle is an error that the file format does not know.
+            m_rows += value.error() == formula::ErrorCode::circ ? " t=\"str\">" : " t=\"e\">";
+            m_rows += formula + "<v>";
+            appendXmlText(m_rows, formula::errorText(value.error()));
+            m_rows += "</v></c>";
+        } else if (value.isText()) {
+            m_rows += " t=\"str\">" + formula + "<v>";
+            appendXmlText(m_rows, value.text());
+            m_rows += "</v></c>";
+        } else {
+            m_rows += formula.empty() ? "/>" : ">" + formula + "</c>";
+        }
+    }
+
+    void writeOverCells() {
+        for (const auto& [key, text] : m_grid.sides().notes) {
+            const control::CellAddress cell{control::keyCol(key), control::keyRow(key)};
+            if (cell.col < 1 || cell.row < 1) continue;
+            checkText(text, cellName(cell));
+            m_notes.add(cell, text);
+        }
+        for (const Place& place : m_places) {
+            const control::Look& look = m_grid.look(place.col, place.row);
+            if (place.cell && look.type.kind == control::CellKind::picture)
+                addPicture({place.col, place.row}, look.type.text);
+            if (place.cell && look.type.kind == control::CellKind::pictureHandle &&
+                look.type.picture == pictureMark)
+                m_pictures.add({place.col, place.row}, markBitmap());
+        }
+    }
+
+    // Other programs show bitmaps of 24 bits a pixel for sure; a picture that cannot be read is
+    // left out, as it is on the screen.
+    void addPicture(control::CellAddress cell, const std::string& name) {
+        std::string ignored;
+        std::optional<std::string> file;
+        const std::string* kept = m_grid.keptPicture(name);
+        if (!kept) file = files::readWhole(name, ignored);
+        if (!kept && !file) return;
+        std::string bytes = kept ? *kept : std::move(*file);
+        if (const auto bitmap = decodeBitmap(bytes, ignored)) bytes = encodeBitmap(*bitmap);
+        m_pictures.add(cell, bytes);
+    }
+
+    std::string sheetXml() {
+        const std::string columns = columnsXml();
+        std::string xml = std::string("<worksheet xmlns=\"") + mainNamespace + "\" xmlns:r=\"" +
+                          relationsOf + "\"><dimension ref=\"A1";
+        if (m_used.cols > 1 || m_used.rows > 1)
+            xml += ":" + cellName({std::max(m_used.cols, 1), std::max(m_used.rows, 1)});
+        xml += "\"/><sheetViews><sheetView tabSelected=\"1\" workbookViewId=\"0\"";
+        xml += m_hasHeaderRow ? "><pane ySplit=\"1\" topLeftCell=\"A2\" activePane=\"bottomLeft\" "
+                                "state=\"frozen\"/><selection pane=\"bottomLeft\"/></sheetView>"
+                              : "/>";
+        xml += "</sheetViews><sheetFormatPr defaultRowHeight=\"15\"/>" + columns + "<sheetData>" +
+               m_rows + "</sheetData>";
+        if (m_spanCount > 0)
+            xml += "<mergeCells count=\"" + std::to_string(m_spanCount) + "\">" + m_spans +
+                   "</mergeCells>";
+        xml +=
+            "<pageMargins left=\"0.7\" right=\"0.7\" top=\"0.75\" bottom=\"0.75\" "
+            "header=\"0.3\" footer=\"0.3\"/>";
+        if (!m_pictures.isEmpty()) xml += "<drawing r:id=\"rId1\"/>";
+        if (!m_notes.isEmpty()) xml += "<legacyDrawing r:id=\"rId2\"/>";
+        return xmlPart(xml + "</worksheet>");
+    }
+
+    static std::string relation(const char* id, const std::string& type, const char* target) {
+        return std::string("<Relationship Id=\"") + id + "\" Type=\"" + relationsOf + "/" + type +
+               "\" Target=\"" + target + "\"/>";
+    }
+    static std::string relations(const std::string& all) {
+        return xmlPart(
+            "<Relationships xmlns=\"http://schemas.openxmlformats.org/package/2006/"
+            "relationships\">" +
+            all + "</Relationships>");
+    }
+
+    std::string contentTypes() const {
+        const std::string office = "application/vnd.openxmlformats-officedocument.";
+        const auto part = [&](const char* name, const std::string& type) {
+            return std::string("<Override PartName=\"/xl/") + name + "\" ContentType=\"" + office +
+                   type + "+xml\"/>";
+        };
+        std::string xml =
+            "<Types xmlns=\"http://schemas.openxmlformats.org/package/2006/content-types\">";
+        for (const auto& [extension, type] :
+             std::initializer_list<std::pair<const char*, std::string>>{
+                 {"rels", "application/vnd.openxmlformats-package.relationships+xml"},
+                 {"xml", "application/xml"},
+                 {"vml", office + "vmlDrawing"},
+                 {"bmp", "image/bmp"},
+                 {"png", "image/png"},
+                 {"jpeg", "image/jpeg"},
+                 {"gif", "image/gif"}})
+            xml += std::string("<Default Extension=\"") + extension + "\" ContentType=\"" + type +
+                   "\"/>";
+        xml += part("workbook.xml", "spreadsheetml.sheet.main") +
+               part("worksheets/sheet1.xml", "spreadsheetml.worksheet") +
+               part("styles.xml", "spreadsheetml.styles") +
+               part("sharedStrings.xml", "spreadsheetml.sharedStrings");
+        if (!m_pictures.isEmpty()) xml += part("drawings/drawing1.xml", "drawing");
+        if (!m_notes.isEmpty()) xml += part("comments1.xml", "spreadsheetml.comments");
+        return xmlPart(xml + "</Types>");
+    }
+
+    std::string workbookXml() const {
+        std::string xml = std::string("<workbook xmlns=\"") + mainNamespace + "\" xmlns:r=\"" +
+                          relationsOf +
+                          "\"><bookViews><workbookView/></bookViews><sheets><sheet name=\"Sheet1\" "
+                          "sheetId=\"1\" r:id=\"rId1\"/></sheets>";
+        if (m_hasHeaderRow)
+            xml +=
+                "<definedNames><definedName name=\"_xlnm.Print_Titles\" localSheetId=\"0\">"
+                "Sheet1!$1:$1</definedName></definedNames>";
+        return xmlPart(xml + "<calcPr calcId=\"124519\" fullCalcOnLoad=\"1\"/></workbook>");
+    }
+
+    void addParts(ZipArchive& archive) {
+        const std::string sheet = sheetXml();
+        archive.add("[Content_Types].xml", contentTypes());
+        archive.add("_rels/.rels",
+                    relations(relation("rId1", "officeDocument", "xl/workbook.xml")));
+        archive.add("xl/workbook.xml", workbookXml());
+        archive.add("xl/_rels/workbook.xml.rels",
+                    relations(relation("rId1", "worksheet", "worksheets/sheet1.xml") +
+                              relation("rId2", "styles", "styles.xml") +
+                              relation("rId3", "sharedStrings", "sharedStrings.xml")));
+        archive.add("xl/worksheets/sheet1.xml", sheet);
+        archive.add("xl/styles.xml", m_styles.xml());
+        archive.add("xl/sharedStrings.xml", m_texts.xml());
+        std::string over;
+        if (!m_pictures.isEmpty()) over += relation("rId1", "drawing", "../drawings/drawing1.xml");
+        if (!m_notes.isEmpty())
+            over += relation("rId2", "vmlDrawing", "../drawings/vmlDrawing1.vml") +
+                    relation("rId3", "comments", "../comments1.xml");
+        if (!over.empty()) archive.add("xl/worksheets/_rels/sheet1.xml.rels", relations(over));
+        if (!m_pictures.isEmpty()) m_pictures.addTo(archive);
+        if (!m_notes.isEmpty()) m_notes.addTo(archive);
     }
 
     const control::Grid& m_grid;
-    lxw_workbook* m_book;
-    lxw_worksheet* m_page = nullptr;
-    std::unordered_map<control::LookIndex, lxw_format*> m_formats;
+    bool m_hasHeaderRow;
+    UsedArea m_used;
+    std::vector<Place> m_places;
+    std::string m_rows;
+    std::string m_spans;
+    int m_spanCount = 0;
+    SharedTexts m_texts;
+    WorkbookStyles m_styles;
+    std::unordered_map<control::LookIndex, int> m_formats;
+    WorkbookPictures m_pictures;
+    WorkbookNotes m_notes;
     std::string m_error;
-};
-
-/// A file in memory, which nothing can leave behind.
-class MemoryFile {
-  public:
-    MemoryFile() : m_descriptor(::memfd_create("workbook", MFD_CLOEXEC)) {}
-    MemoryFile(const MemoryFile&) = delete;
-    MemoryFile& operator=(const MemoryFile&) = delete;
-    ~MemoryFile() {
-        if (m_descriptor >= 0) ::close(m_descriptor);
-    }
-    bool exists() const { return m_descriptor >= 0; }
-    std::string path() const { return "/proc/self/fd/" + std::to_string(m_descriptor); }
-
-  private:
-    int m_descriptor;
 };
 
 }  // namespace
 
 std::optional<std::string> sheetAsXlsx(const control::Grid& sheet, std::string& error) {
-    const MemoryFile file;
     const auto withHeader = withHeaderRow(sheet);
-    const control::Grid& grid = withHeader ? *withHeader : sheet;
-    if (!file.exists()) {
-        error = "there is not enough memory for a workbook";
-        return std::nullopt;
-    }
-    Workbook workbook(grid, file.path());
-    workbook.setCreated();
-    if (withHeader) workbook.keepFirstRowInSight();
-    if (!workbook.write(error)) return std::nullopt;
-    std::ifstream stream(file.path(), std::ios::binary);
-    std::string bytes(std::istreambuf_iterator<char>(stream), {});
-    if (!bytes.empty()) return bytes;
-    error = "the workbook was not written";
-    return std::nullopt;
+    return Workbook(withHeader ? *withHeader : sheet, withHeader != nullptr).bytes(error);
 }
 
 }  // namespace sheets

@@ -87,6 +87,50 @@ TEST(SheetConvert, WorkbooksKeepFormulasResultsAndFormats) {
     EXPECT_THAT(zipEntry(archive, "xl/styles.xml"), HasSubstr("formatCode=\"0.000\""));
 }
 
+TEST(SheetConvert, WorkbooksAreWellFormedAndExactWhateverTheyHold) {
+    const program::Folder folder;
+    std::string controls;
+    for (char c = 1; c < ' '; ++c)
+        if (c != '\t' && c != '\n' && c != '\r') controls += c;
+    const auto file = folder.write(
+        "a.tws", "vormant-sheet 1\nsize 5 5\nnote A1 \"a\x07<&\ncells\nA1 \"" + controls +
+                     "\nB1 =CHAR(7)&\"]]>\"\t\"\nC1 0.30000000000000004\nD1 =1>0\tTRUE\n"
+                     "A2 \"_x0041_\nB2 #N/A\nC2 123456789012345680\nend 7\n");
+    ASSERT_EQ(program::run({"sheet", "convert", file, folder / "a.xlsx"}).exitCode, 0);
+    const std::string archive = folder.read("a.xlsx");
+    const std::string sheet = zipEntry(archive, "xl/worksheets/sheet1.xml");
+    const std::string texts = zipEntry(archive, "xl/sharedStrings.xml");
+    const std::string notes = zipEntry(archive, "xl/comments1.xml");
+    for (const std::string& part : {sheet, texts, notes})
+        for (const char c : part) ASSERT_TRUE(c == '\n' || c < 0 || c >= ' ') << int{c};
+    EXPECT_THAT(sheet, HasSubstr("<v>_x0007_]]&gt;</v>"));
+    EXPECT_THAT(sheet, HasSubstr("<v>0.30000000000000004</v>"));
+    EXPECT_THAT(sheet, HasSubstr("t=\"b\"><f>1&gt;0</f><v>1</v>"));
+    EXPECT_THAT(sheet, HasSubstr("t=\"e\"><v>#N/A</v>"));
+    EXPECT_THAT(sheet, HasSubstr("<v>123456789012345680</v>"));
+    EXPECT_THAT(texts, HasSubstr("_x0001__x0002_"));
+    EXPECT_THAT(texts, HasSubstr("_x005F_x0041_"));
+    EXPECT_THAT(notes, HasSubstr("a_x0007_&lt;&amp;"));
+}
+
+TEST(SheetConvert, WhatAWorkbookCannotHoldIsNamed) {
+    const struct {
+        std::string cell, message;
+    } cases[] = {{"B1 \"" + std::string(32768, 'x'), "cell B1: its text is longer than 32767"},
+                 {"C2 =LEN(\"" + std::string(8190, 'x') + "\")\t8190",
+                  "cell C2: its formula is longer than 8192"}};
+    for (const auto& each : cases) {
+        const program::Folder folder;
+        const auto file = folder.write(
+            "a.tws", "vormant-sheet 1\nsize 3 3\ncells\n" + each.cell + "\nend 1\n");
+        folder.write("a.xlsx", "old");
+        const auto result = program::run({"sheet", "convert", file, folder / "a.xlsx"});
+        EXPECT_EQ(result.exitCode, 1);
+        EXPECT_THAT(result.err, HasSubstr(each.message));
+        EXPECT_EQ(folder.read("a.xlsx"), "old");
+    }
+}
+
 TEST(SheetConvert, WhatCannotBeReadLeavesTheTargetAlone) {
     const struct {
         std::string name;

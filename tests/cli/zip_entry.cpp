@@ -36,8 +36,12 @@ std::string zipEntry(std::string_view archive, std::string_view name) {
         const size_t start =
             local + 30 + numberAt(archive, local + 26, 2) + numberAt(archive, local + 28, 2);
         const bool isStored = numberAt(archive, at + 10, 2) == 0;
-        return isStored ? std::string(archive.substr(start, size))
-                        : inflated(archive.substr(start, packed), size);
+        std::string text = isStored ? std::string(archive.substr(start, size))
+                                    : inflated(archive.substr(start, packed), size);
+        EXPECT_EQ(numberAt(archive, at + 16, 4),
+                  ::crc32(0, reinterpret_cast<const Bytef*>(text.data()),
+                          static_cast<uInt>(text.size())));
+        return text;
     }
     ADD_FAILURE() << "no entry " << name;
     return {};
