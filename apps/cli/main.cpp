@@ -1,8 +1,11 @@
 #include <fcntl.h>
 #include <unistd.h>
 
+#include <new>
+
 #include "command_line.h"
 #include "core_api/program_data.h"
+#include "platform/out_of_memory.h"
 
 namespace {
 
@@ -15,10 +18,20 @@ void occupyStandardStreams() {
     }
 }
 
+/// Before anything else: what other files set up at the start can run out of memory too.
+struct NoMemoryPreparation {
+    NoMemoryPreparation() { platform::prepareForNoMemory("vormant"); }
+};
+[[gnu::init_priority(101)]] const NoMemoryPreparation preparation;
+
 }  // namespace
 
 int main(int argc, char** argv) {
     occupyStandardStreams();
-    useProgramData();
-    return static_cast<int>(cli::runCommandLine(argc, argv));
+    try {
+        useProgramData();
+        return static_cast<int>(cli::runCommandLine(argc, argv));
+    } catch (const std::bad_alloc&) {
+        return platform::reportNoMemory();
+    }
 }

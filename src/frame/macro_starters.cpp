@@ -6,36 +6,46 @@
 #include "frame/starters.h"
 #include "frame/starting.h"
 
-void StartDlgMacro(MacroData& data) {
+void StartDlgMacro(MacroData& data) try {
     MacroDialog dialog;
     runDialog(dialog, data, CopyBack::always);
+} catch (const std::bad_alloc&) {
+    noMemoryForDialog();
 }
 
-bool StartDlgMacroModeless(bool keepFocus, MacroData& data, int& slot) {
+bool StartDlgMacroModeless(bool keepFocus, MacroData& data, int& slot) try {
     const ResourceOverrideScope resources;
     return openMacroDialogs().start(keepFocus, data, slot);
+} catch (const std::bad_alloc&) {
+    return noMemoryForDialog();
 }
 
-bool EndDlgMacroModeless(int slot) {
+bool EndDlgMacroModeless(int slot) try {
     return openMacroDialogs().end(slot);
+} catch (const std::bad_alloc&) {
+    return noMemoryForDialog();
 }
 
-bool GetDlgMacroData(int slot, MacroData& data) {
+bool GetDlgMacroData(int slot, MacroData& data) try {
     const ResourceOverrideScope resources;
     return openMacroDialogs().getData(slot, data);
+} catch (const std::bad_alloc&) {
+    return noMemoryForDialog();
 }
 
-void DestroyAllMacroDlgs() {
-    openMacroDialogs().endAll();
+void DestroyAllMacroDlgs() try { openMacroDialogs().endAll(); } catch (const std::bad_alloc&) {
+    noMemoryForDialog();
 }
 
 // --- constraints --------------------------------------------------------------------------------
 
-bool StartDlgEditConstrModal(EditConstrData& data) {
+bool StartDlgEditConstrModal(EditConstrData& data) try {
     return startDialog<ConstraintsWindow>(data, CopyBack::never);
+} catch (const std::bad_alloc&) {
+    return noMemoryForDialog();
 }
 
-bool StartDlgEditConstraints(EditConstrData& data) {
+bool StartDlgEditConstraints(EditConstrData& data) try {
     const ResourceOverrideScope resources;
     auto& open = constraintsWindow();
     if (open) return true;
@@ -47,24 +57,30 @@ bool StartDlgEditConstraints(EditConstrData& data) {
     open = std::move(window);
     Host::current().focusMainWindow();
     return true;
+} catch (const std::bad_alloc&) {
+    return noMemoryForDialog();
 }
 
-void EndDlgEditConstraints() {
+void EndDlgEditConstraints() try {
     auto& open = constraintsWindow();
     if (open) {
         if (!open->destroy()) acutPrintf("Erase window failed\n");
         open.reset();
     }
     acedPostCommandPrompt();
+} catch (const std::bad_alloc&) {
+    noMemoryForDialog();
 }
 
 // --- cuts and members ---------------------------------------------------------------------------
 
-bool StartDlgMacroCuts(DlgMacroCutsData& data, bool& isChanged) {
+bool StartDlgMacroCuts(DlgMacroCutsData& data, bool& isChanged) try {
     MacroCutsDialog dialog;
     const bool isOk = runDialog(dialog, data);
     isChanged = dialog.isChanged();
     return isOk;
+} catch (const std::bad_alloc&) {
+    return noMemoryForDialog();
 }
 
 namespace {
@@ -130,18 +146,22 @@ void StartDlgMacroProfAdv(AcArray<AcDbObjectId>* objects, bool& forAll, TwMACall
     if (isOk && callBack) callBack(TwMACallBackType::apply, request, profile.properties);
 }
 
-bool StartEditProfCutsDlg(DlgProfCutsData& data) {
+bool StartEditProfCutsDlg(DlgProfCutsData& data) try {
     static bool usesForNext = false;  // the option outlives the dialog
     ProfCuts cuts{data, usesForNext};
     if (!startDialog<ProfCutsDialog>(cuts)) return false;
     usesForNext = cuts.usesForNext;
     if (cuts.cuts.apply) cuts.cuts.apply(cuts.cuts);
     return true;
+} catch (const std::bad_alloc&) {
+    return noMemoryForDialog();
 }
 
-bool StartArrayDlg(DynArrayData& data, const AcArray<AcDbObjectId>&, const Vor_String& title) {
+bool StartArrayDlg(DynArrayData& data, const AcArray<AcDbObjectId>&, const Vor_String& title) try {
     const ResourceOverrideScope resources;
     ArrayDialog dialog;
     dialog.setTitle(title);
     return runDialog(dialog, data);
+} catch (const std::bad_alloc&) {
+    return noMemoryForDialog();
 }

@@ -1,5 +1,6 @@
 #include "mapping/start_dlg_standards_ss.h"
 
+#include <new>
 #include <utility>
 
 #include "core_api/resource_override.h"
@@ -15,19 +16,25 @@ class PooledDialog {
   public:
     PooledDialog() : m_dialog(gSSDlgsMgr.getDlg()) {}
     ~PooledDialog() {
-        if (m_dialog) (void)gSSDlgsMgr.releaseDlg(m_dialog);
+        if (m_dialog && m_isWhole)
+            (void)gSSDlgsMgr.releaseDlg(m_dialog);
+        else
+            gSSDlgsMgr.dropDlg(m_dialog);
     }
     PooledDialog(const PooledDialog&) = delete;
     PooledDialog& operator=(const PooledDialog&) = delete;
 
     explicit operator bool() const { return m_dialog != nullptr; }
     StandardsDialog* operator->() const { return m_dialog; }
+    /// Until it is called the run is being worked on.
+    void setWhole() { m_isWhole = true; }
 
   private:
     StandardsDialog* m_dialog;
+    bool m_isWhole = false;
 };
 
-bool runStandard(TwDlgStandardsData& data) {
+bool runStandard(TwDlgStandardsData& data) try {
     PooledDialog dialog;
     if (!dialog) {
         setRunFailure("no spreadsheet can be made for the run");
@@ -35,20 +42,27 @@ bool runStandard(TwDlgStandardsData& data) {
     }
     RunningStandard running;
     dialog->data() = data;
-    if (dialog->run(running) != Acad::eOk) return false;
+    const bool isDone = dialog->run(running) == Acad::eOk;
+    dialog.setWhole();
+    if (!isDone) return false;
     std::swap(data, dialog->data());
     return true;
+} catch (const std::bad_alloc&) {
+    setRunFailure("out of memory");  // so short that it needs none
+    return false;
 }
 
 }  // namespace
 
-bool StartDlgStandardsSS(TwDlgStandardsData& data) {
+bool StartDlgStandardsSS(TwDlgStandardsData& data) try {
     const ResourceOverrideScope resources;
     clearRunFailure();
     const bool done = runStandard(data);
     if (done) clearRunFailure();
     if (RunObserver* observer = runObserver()) observer->runEnded(done);
     return done;
+} catch (const std::bad_alloc&) {
+    return false;
 }
 
 bool StartDlgStandardsSStest() {

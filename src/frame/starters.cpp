@@ -10,28 +10,49 @@
 #include "frame/starter_dialogs.h"
 #include "frame/starting.h"
 #include "frame/string_array_dialog.h"
+#include "platform/host/host.h"
 
-bool StartDlgCSP2(DlgCSP2Data& data) {
+bool noMemoryForDialog() {
+    constexpr int noMemoryText = 21006;
+    try {
+        acutPrintf("%s\n", dialString(noMemoryText).str().c_str());
+    } catch (const std::bad_alloc&) {
+        // There is not even enough to say so.
+    }
+    return false;
+}
+
+bool StartDlgCSP2(DlgCSP2Data& data) try {
     return startDialog<CSP2Dialog>(data);
+} catch (const std::bad_alloc&) {
+    return noMemoryForDialog();
 }
 
-bool StartDlgProfFeatures(DlgProfFeaturesData& data) {
+bool StartDlgProfFeatures(DlgProfFeaturesData& data) try {
     return startDialog<ProfFeaturesDialog>(data);
+} catch (const std::bad_alloc&) {
+    return noMemoryForDialog();
 }
 
-bool StartDlgGrid(TwGridDlgData& data) {
+bool StartDlgGrid(TwGridDlgData& data) try {
     return startDialog<GridDialog>(data);
+} catch (const std::bad_alloc&) {
+    return noMemoryForDialog();
 }
 
-bool StartDlgLevels(TwLevelsDlgData& data) {
+bool StartDlgLevels(TwLevelsDlgData& data) try {
     return startDialog<LevelsDialog>(data);
+} catch (const std::bad_alloc&) {
+    return noMemoryForDialog();
 }
 
-bool StartDlgCladdingSettings(TwCladdingDlgData& data) {
+bool StartDlgCladdingSettings(TwCladdingDlgData& data) try {
     return startDialog<CladdingDialog>(data);
+} catch (const std::bad_alloc&) {
+    return noMemoryForDialog();
 }
 
-bool StartDlgCis2Info(TwDlgCis2Data& data) {
+bool StartDlgCis2Info(TwDlgCis2Data& data) try {
     TwDlgCis2Data edited = data;
     const bool isKnown = readCis2SectionNames(edited);
     const SectionTranslation before = edited.sectionNames;
@@ -39,30 +60,42 @@ bool StartDlgCis2Info(TwDlgCis2Data& data) {
     data = edited;
     if (isKnown && edited.sectionNames != before) writeCis2SectionNames(edited.sectionNames);
     return true;
+} catch (const std::bad_alloc&) {
+    return noMemoryForDialog();
 }
 
-bool StartDlgBracing(TwBracingDlgData& data) {
+bool StartDlgBracing(TwBracingDlgData& data) try {
     return startDialog<BracingDialog>(data);
+} catch (const std::bad_alloc&) {
+    return noMemoryForDialog();
 }
 
-bool StartDlgGenVars(TwAutoStandardsData& data) {
+bool StartDlgGenVars(TwAutoStandardsData& data) try {
     return startDialog<GenVarsDialog>(data);
+} catch (const std::bad_alloc&) {
+    return noMemoryForDialog();
 }
 
-bool StartDlgSelectImage(TwSelectImageDlgData& data) {
+bool StartDlgSelectImage(TwSelectImageDlgData& data) try {
     return startDialog<SelectImageDialog>(data);
+} catch (const std::bad_alloc&) {
+    return noMemoryForDialog();
 }
 
-bool StartDlgLookUp(TwLookUpDlgData& data) {
+bool StartDlgLookUp(TwLookUpDlgData& data) try {
     const ResourceOverrideScope resources;
     LookUpDialog dialog;
     dialog.setTitle(data.title);
     return runDialog(dialog, data);
+} catch (const std::bad_alloc&) {
+    return noMemoryForDialog();
 }
 
-void StartDSTVPointsDlg() {
+void StartDSTVPointsDlg() try {
     static DstvPoints points;  // the settings outlive the dialog
     startDialog<DstvPointsDialog>(points);
+} catch (const std::bad_alloc&) {
+    noMemoryForDialog();
 }
 
 bool StartDlgDesigner(const Vor_String& path) {
@@ -75,12 +108,14 @@ bool StartDlgDesigner(const Vor_String& path) {
 
 bool startGridDialog(const Vor_StringArray& columns, const Vor_StringArray& choices,
                      Vor_Array<Vor_StringArray>& rows, bool fixedRows, Vor_String name,
-                     Vor_String title) {
+                     Vor_String title) try {
     if (columns.isEmpty()) return false;
     if (name.isEmpty()) name = "DLG_SS_STRINGARRAY";
     const ResourceOverrideScope resources;
     StringArrayDialog dialog({columns, choices, fixedRows, name, title});
     return runDialog(dialog, rows);
+} catch (const std::bad_alloc&) {
+    return noMemoryForDialog();
 }
 
 // --- macros to choose from ----------------------------------------------------------------------
@@ -118,14 +153,16 @@ bool StartDlgSelectMacro(const Vor_String& title, const Vor_StringArray& macros,
 
 // --- the section library ------------------------------------------------------------------------
 
-bool StartDlgEditLibSections(DlgEditLibData& data, const Vor_String& section) {
+bool StartDlgEditLibSections(DlgEditLibData& data, const Vor_String& section) try {
     const ResourceOverrideScope resources;
     EditLibSectionsDialog dialog;
     dialog.setSection(section);
     return runDialog(dialog, data);
+} catch (const std::bad_alloc&) {
+    return noMemoryForDialog();
 }
 
-bool StartDlgEditLibSimple(const Vor_String& section, Vor_ProfValuesTable& table, int& row) {
+bool StartDlgEditLibSimple(const Vor_String& section, Vor_ProfValuesTable& table, int& row) try {
     EditLibSimpleDialog dialog;
     dialog.setSection(section);
     SectionSize size{table, row};
@@ -133,4 +170,6 @@ bool StartDlgEditLibSimple(const Vor_String& section, Vor_ProfValuesTable& table
     if (isOk) table = size.table;
     row = dialog.data().row;
     return isOk;
+} catch (const std::bad_alloc&) {
+    return noMemoryForDialog();
 }

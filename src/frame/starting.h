@@ -1,6 +1,10 @@
 // The one way in which starters run their dialogs: the caller's data is copied into the dialog, the
-// dialog runs, and its data is copied back when it ends with OK.
+// dialog runs, and its data is copied back when it ends with OK. Hosts expect no exceptions: a
+// starter that runs out of memory reports it and counts as cancelled, with the data as it was.
 #pragma once
+
+#include <new>
+#include <utility>
 
 #include "core_api/resource_override.h"
 #include "platform/window/message_box.h"
@@ -12,9 +16,15 @@ template <class Dialog, class Data>
 bool runDialog(Dialog& dialog, Data& data, CopyBack copyBack = CopyBack::onOk) {
     dialog.data() = data;
     const bool isOk = dialog.doModal() == IDOK;
-    if (copyBack == CopyBack::always || (isOk && copyBack == CopyBack::onOk)) data = dialog.data();
+    if (copyBack == CopyBack::always || (isOk && copyBack == CopyBack::onOk)) {
+        Data taken = dialog.data();  // a copy that fails leaves the caller's alone
+        data = std::move(taken);
+    }
     return isOk;
 }
+
+/// Prints that there was no memory for a dialog. False, for the starter to hand on.
+bool noMemoryForDialog();
 
 /// The common starter: a dialog of the module's own resources.
 template <class Dialog, class Data>

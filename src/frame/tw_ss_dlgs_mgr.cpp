@@ -10,6 +10,7 @@ StandardsDialog* TwSSDlgsMgr::getDlg() {
     }
     auto dialog = StandardsDialog::make();
     if (!dialog) return nullptr;
+    m_inUse.reserve(m_dialogs.size() + 1);  // both or neither
     m_dialogs.push_back(std::move(dialog));
     m_inUse.push_back(true);
     return m_dialogs.back().get();
@@ -22,6 +23,15 @@ ErrorStatus TwSSDlgsMgr::releaseDlg(void* dlg) {
         return Acad::eOk;
     }
     return Acad::eInvalidInput;
+}
+
+void TwSSDlgsMgr::dropDlg(const StandardsDialog* dlg) {
+    for (size_t i = 0; i < m_dialogs.size(); ++i) {
+        if (m_dialogs[i].get() != dlg || !dlg) continue;
+        m_dialogs.erase(m_dialogs.begin() + static_cast<std::ptrdiff_t>(i));
+        m_inUse.erase(m_inUse.begin() + static_cast<std::ptrdiff_t>(i));
+        return;
+    }
 }
 
 ErrorStatus TwSSDlgsMgr::destroyDlg(const int& index) {

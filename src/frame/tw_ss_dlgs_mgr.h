@@ -21,6 +21,9 @@ class VORMANT_API TwSSDlgsMgr {
     StandardsDialog* getDlg();
     /// eInvalidInput when `dlg` is not in the pool. The dialog keeps its spreadsheet.
     ErrorStatus releaseDlg(void* dlg);
+    /// Instead of giving it back: for one whose run was broken off, so that its spreadsheet can
+    /// be in any state.
+    void dropDlg(const StandardsDialog* dlg);
     /// Only while none is in use.
     void destroyAll();
 

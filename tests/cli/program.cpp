@@ -30,6 +30,11 @@ int wait(pid_t child) {
 }  // namespace
 
 Result run(const std::vector<std::string>& arguments, std::string_view input) {
+    return run({.program = VORMANT_PROGRAM, .folder = ".", .environment = {}}, arguments, input);
+}
+
+Result run(const Surroundings& surroundings, const std::vector<std::string>& arguments,
+           std::string_view input) {
     const Folder streams;
     const std::string in = streams.write("in", input);
     const std::string out = streams / "out", err = streams / "err";
@@ -40,12 +45,22 @@ Result run(const std::vector<std::string>& arguments, std::string_view input) {
     posix_spawn_file_actions_addopen(&actions, 1, out.c_str(), O_WRONLY | O_CREAT, 0600);
     posix_spawn_file_actions_addopen(&actions, 2, err.c_str(), O_WRONLY | O_CREAT, 0600);
 
-    std::string name = "vormant";
+    posix_spawn_file_actions_addchdir_np(&actions, surroundings.folder.c_str());
+
+    std::string name = std::filesystem::path(surroundings.program).filename();
     std::vector<char*> argv{name.data()};
     for (const auto& argument : arguments) argv.push_back(const_cast<char*>(argument.c_str()));
     argv.push_back(nullptr);
+    // The first of two equal names counts.
+    std::vector<char*> environment;
+    for (const auto& each : surroundings.environment)
+        environment.push_back(const_cast<char*>(each.c_str()));
+    for (char** each = environ; *each; ++each) environment.push_back(*each);
+    environment.push_back(nullptr);
     pid_t child = 0;
-    EXPECT_EQ(posix_spawn(&child, VORMANT_PROGRAM, &actions, nullptr, argv.data(), environ), 0);
+    EXPECT_EQ(posix_spawn(&child, surroundings.program.c_str(), &actions, nullptr, argv.data(),
+                          environment.data()),
+              0);
     posix_spawn_file_actions_destroy(&actions);
     const int exitCode = wait(child);
     return {exitCode, contentOf(out), contentOf(err)};

@@ -17,6 +17,15 @@ struct Result {
 /// Runs the program with `arguments` and `input` as its standard input.
 Result run(const std::vector<std::string>& arguments, std::string_view input = {});
 
+/// How a program is called, where that matters.
+struct Surroundings {
+    std::string program;                   ///< its file
+    std::string folder = ".";              ///< that it is started in
+    std::vector<std::string> environment;  ///< "NAME=value", added to that of the tests
+};
+Result run(const Surroundings& surroundings, const std::vector<std::string>& arguments,
+           std::string_view input = {});
+
 /// An empty folder that goes when the test is over.
 class Folder {
   public:
