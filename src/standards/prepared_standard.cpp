@@ -96,6 +96,18 @@ PreparedStandard::PreparedStandard(Vor_Spread& spread) {
     for (const control::CellAddress cell : equations) m_equations.emplace_back().cell = cell;
 }
 
+void PreparedStandard::expectTexts(const TwVarCells& variables) {
+    const RowRange rows = m_layout.equationRows();
+    for (const TwVarCell& variable : variables) {
+        const control::CellAddress cell{variable.column(), variable.row()};
+        if (cell.row < rows.first || cell.row > rows.last) continue;
+        const auto at =
+            std::find_if(m_equations.begin(), m_equations.end(),
+                         [&](const auto& other) { return !comesBefore(other.cell, cell); });
+        if (at == m_equations.end() || at->cell != cell) m_equations.emplace(at)->cell = cell;
+    }
+}
+
 TwVarCells PreparedStandard::variables() const {
     TwVarCells variables = m_declarations;
     variables.removeAll(m_duplicates);

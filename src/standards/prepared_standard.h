@@ -28,9 +28,12 @@ class PreparedStandard {
     const Vor_Array<int>& duplicates() const { return m_duplicates; }
     const Vor_StringArray& duplicateNames() const { return m_duplicateNames; }
 
-    /// One for every cell of the equation area that is not empty; without text before it was
-    /// prepared.
+    /// One for every cell of the equation area that is not empty or holds a formula, which may
+    /// show a text when its turn comes; without text before it was prepared.
     std::vector<PreparedEquation>& equations() { return m_equations; }
+    /// Adds the cells of `variables` that lie in the equation area: empty ones among them may get a
+    /// value before their turn.
+    void expectTexts(const TwVarCells& variables);
     /// The "Calc" marker is still the first cell that reads so: neither replaced nor preceded by a
     /// value.
     bool calcMarkerHolds(const control::Grid& grid) const;

@@ -116,9 +116,11 @@ ErrorStatus TwStandardsSS::calcCells() {
     }
     const Vor_FunctionTimer timer(gCalcCells);
     m_assignedIn.assign(static_cast<size_t>(m_varCells.length()), {});
-    const std::shared_ptr<PreparedStandard> prepared =
-        m_prepared->calcMarkerHolds(grid()) ? m_prepared
-                                            : std::make_shared<PreparedStandard>(*this);
+    std::shared_ptr<PreparedStandard> prepared = m_prepared;
+    if (!prepared->calcMarkerHolds(grid())) {
+        prepared = std::make_shared<PreparedStandard>(*this);
+        prepared->expectTexts(m_varCells);
+    }
     if (!prepared->layout().has(Marker::calc)) {
         setRunFailure(m_filePath + ": no cell reads \"Calc\": add the marker above the equations");
         return Acad::eInvalidInput;

@@ -239,6 +239,17 @@ TEST_F(Evaluation, FormulaCellsMayLookAtTheCellsOfEquations) {
     }
 }
 
+TEST_F(Evaluation, AFormulaBelowCalcIsTheEquationThatItShowsWhenItsTurnComes) {
+    for (const bool fills : {true, false}) {
+        load(withFormulas(standardOf({}, {"Double B", "Double L"}, {}, {"B=4", "L=LEN(C9)"}),
+                          {{"C9", "IF(A7=4,\"B=\"&\"5\",\"\")"}}));
+        sheet.setFillsEquationCells(fills);
+        ASSERT_EQ(sheet.calcCells(), Acad::eOk);
+        EXPECT_EQ(value("L"), "3") << fills;
+        EXPECT_EQ(value("B"), "5") << fills;
+    }
+}
+
 TEST_F(Evaluation, EquationsAreWrittenInA1WhateverTheSheetShows) {
     load(standardOf({"Double A"}, {"Double B", "String S"}, {}, {"B=A*2+A2", "S=B&\"R1C1\""}),
          {"5"});
@@ -314,6 +325,12 @@ TEST_F(Evaluation, AValueThatReadsCalcIsFoundAsTheMarker) {
     ASSERT_EQ(sheet.calcCells(), Acad::eOk);
     EXPECT_GT(boxes.size(), 1U);  // the rows below it are no equations
     EXPECT_EQ(value("B"), "1");
+    // Values that are written into cells below it are equations when their turn comes.
+    boxes.clear();
+    load(standardOf({"String A", "String E"}, {"String B"}, {"String L"}, {}), {"calc", "L=5"});
+    ASSERT_EQ(sheet.calcCells(), Acad::eOk);
+    EXPECT_EQ(value("L"), "5");
+    EXPECT_EQ(boxes.size(), 4U);  // Output, Local, 5, Calc
     boxes.clear();
     load(standardOf({"String A"}, {"Double B"}, {}, {"B=2"}), {"other"});
     ASSERT_EQ(sheet.calcCells(), Acad::eOk);

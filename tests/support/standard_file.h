@@ -30,11 +30,12 @@ inline std::string documentOf(const std::vector<std::vector<std::string>>& rows)
 }
 
 /// `document`, as documentOf gives it, with formulas in cells that were empty: address and text
-/// without "=". The sheet gets four columns.
+/// without "=". The sheet gets four columns and
+/// forty rows.
 inline std::string withFormulas(std::string document,
                                 const std::vector<std::pair<std::string, std::string>>& formulas) {
     const size_t size = document.find("size ") + 5;
-    document.replace(size, document.find(' ', size) - size, "4");
+    document.replace(size, document.find('\n', size) - size, "4 40");
     const size_t end = document.rfind("end ");
     const size_t count = std::stoul(document.substr(end + 4)) + formulas.size();
     document.erase(end);
@@ -69,6 +70,7 @@ class TemporaryLibrary : public TemporaryFolder {
     /// made older than it is, as files just written are not kept in memory, and each differently.
     std::string writeStandard(const std::string& name, const std::string& document) {
         const std::string file = "Connection Standards/" + name + ".tws";
+        std::filesystem::remove(path() / file);  // writing over it would wait for the disk
         const std::string inside = write(file, document);
         std::filesystem::last_write_time(path() / file, m_longAgo += std::chrono::seconds(1));
         return inside;

@@ -1,0 +1,43 @@
+// The engine against the literal reading of a run, on random standards.
+#include <gtest/gtest.h>
+
+#include <random>
+
+#include "support/compare_runs.h"
+#include "support/random_standard.h"
+#include "support/standard_file.h"
+
+namespace {
+
+TEST(LiteralReading, IsWhatHiddenAndShownRunsGive) {
+    TemporaryLibrary library;
+    library.writeData("table.txt", "3\tthree\nt\t1.5\nM20\t22\n");
+    const char* const most = std::getenv("VORMANT_ROUNDS");
+    const unsigned rounds = most ? static_cast<unsigned>(std::stoul(most)) : 1500;
+    unsigned wentWell = 0;
+    for (unsigned round = 0; round < rounds; ++round) {
+        std::mt19937 random(round);
+        const Choices choose = [&](unsigned n) { return static_cast<unsigned>(random() % n); };
+        const RandomStandard children[] = {RandomStandard(choose), RandomStandard(choose)};
+        for (int i = 0; i < 2; ++i)
+            library.writeStandard("Child" + std::to_string(i), children[i].document());
+        RandomStandard standard(choose);
+        const std::string path = library.writeStandard("Sheet", standard.document());
+        const GenValues gen = standard.gen();
+        CompareRuns runs(path, standard.given(), gen);
+        const std::string difference = runs.difference();
+        wentWell += runs.wentWell();
+        std::string given;
+        for (const LiteralVariable& variable : standard.given())
+            given += variable.name.str() + "=" + variable.value.str() + "; ";
+        ASSERT_TRUE(difference.empty())
+            << difference << "round " << round << "\n"
+            << given << "gen " << arrToStr(gen.values, ",").str() << "\n"
+            << standard.document() << "Child0\n"
+            << children[0].document() << "Child1\n"
+            << children[1].document();
+    }
+    EXPECT_GT(wentWell, rounds / 2);
+}
+
+}  // namespace
