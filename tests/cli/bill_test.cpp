@@ -92,7 +92,10 @@ TEST_F(Bill, WorkbooksHaveAHeaderRowAndPictures) {
     EXPECT_THAT(sheet, AllOf(HasSubstr("<row r=\"3\" "), HasSubstr("ht=\"60\""),
                              HasSubstr("<mergeCell ref=\"B3:E3\"/>"), HasSubstr("ySplit=\"1\"")));
     EXPECT_THAT(zipEntry(archive, "xl/sharedStrings.xml"), HasSubstr("<t>Section</t>"));
-    EXPECT_THAT(zipEntry(archive, "xl/drawings/drawing1.xml"), HasSubstr("<xdr:row>2</xdr:row>"));
+    // The arrow in the first column, the picture behind it.
+    EXPECT_THAT(zipEntry(archive, "xl/drawings/drawing1.xml"),
+                AllOf(HasSubstr("<xdr:row>2</xdr:row>"), HasSubstr("<xdr:col>0</xdr:col>"),
+                      HasSubstr("<xdr:col>1</xdr:col>")));
     EXPECT_EQ(zipEntry(archive, "xl/media/image1.bmp").substr(0, 2), "BM");
 }
 

@@ -32,7 +32,7 @@ Vor_String groupName(const Vor_BillPart& part, BillGrouping grouping) {
 bool comesBefore(const Vor_BillPart& a, const Vor_BillPart& b, BillGrouping grouping) {
     if (grouping == BillGrouping::section || grouping == BillGrouping::material) {
         const Vor_String first = groupName(a, grouping), second = groupName(b, grouping);
-        if (const int order = compareNatural(first, second)) return order < 0;
+        if (const int order = compareNames(first, second)) return order < 0;
     }
     return comparePieces(a, b) < 0;
 }

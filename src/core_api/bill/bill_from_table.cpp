@@ -151,7 +151,7 @@ class TableBill {
         std::iota(m_order.begin(), m_order.end(), 0);
         if (m_group)
             std::stable_sort(m_order.begin(), m_order.end(), [&](int a, int b) {
-                return compareNatural(groupOf(m_rows[a]), groupOf(m_rows[b])) < 0;
+                return compareNames(groupOf(m_rows[a]), groupOf(m_rows[b])) < 0;
             });
     }
     const Vor_String& groupOf(const Vor_StringArray& row) const {

@@ -1,7 +1,6 @@
 #include "core_api/bill/bill_part.h"
 
 #include "core_api/text/natural_order.h"
-#include "platform/encodings.h"
 
 namespace {
 
@@ -9,18 +8,12 @@ int compareNumbers(double a, double b) {
     return a < b ? -1 : a > b ? 1 : 0;
 }
 
-/// Texts that differ in more than their letter case never compare equal.
-int compareTexts(const Vor_String& a, const Vor_String& b) {
-    const int order = compareNatural(a, b);
-    return order != 0 ? order : encodings::compareFolded(a, b);
-}
-
 }  // namespace
 
 int comparePieces(const Vor_BillPart& a, const Vor_BillPart& b) {
     if (a.kind != b.kind) return a.kind < b.kind ? -1 : 1;
-    if (const int order = compareTexts(a.section, b.section)) return order;
-    if (const int order = compareTexts(a.material, b.material)) return order;
+    if (const int order = compareNames(a.section, b.section)) return order;
+    if (const int order = compareNames(a.material, b.material)) return order;
     if (const int order = compareNumbers(b.length, a.length)) return order;
     if (const int order = compareNumbers(b.width, a.width)) return order;
     if (const int order = compareNumbers(b.thickness, a.thickness)) return order;

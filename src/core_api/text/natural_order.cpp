@@ -40,6 +40,11 @@ int compareNatural(std::string_view a, std::string_view b) {
     return static_cast<int>(b.empty()) - static_cast<int>(a.empty());
 }
 
+int compareNames(std::string_view a, std::string_view b) {
+    const int order = compareNatural(a, b);
+    return order != 0 ? order : encodings::compareFolded(a, b);
+}
+
 int ObjectExportAddToSorted(Vor_StringArray& sorted, const Vor_String& text) {
     const auto at = std::upper_bound(
         sorted.begin(), sorted.end(), text,
