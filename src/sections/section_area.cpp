@@ -11,6 +11,7 @@
 #include "core_api/text/text_helpers.h"
 #include "platform/encodings.h"
 #include "sections/section_types.h"
+#include "sections/value_rules.h"
 #include "sections/vor_prof_values_table.h"
 
 namespace {
@@ -178,6 +179,7 @@ std::optional<double> sectionArea(int type, std::span<const double> values) {
     if (values.size() < needed || std::ranges::any_of(values.first(needed), isBad))
         return std::nullopt;
     const Values own = values.first(needed);
+    if (brokenRule(type, own)) return std::nullopt;
     const double area = formula ? formula(own) : drawing::sectionOutline(type, own).area();
     if (!std::isfinite(area) || area <= 0) return std::nullopt;
     return area;

@@ -1,14 +1,13 @@
 #include "sections/section_check.h"
 
 #include <algorithm>
-#include <cmath>
 #include <optional>
 #include <string>
 
 #include "core_api/text/text_helpers.h"
 #include "core_api/text/text_index.h"
 #include "core_api/texts/texts.h"
-#include "sections/section_area.h"
+#include "sections/section_figures.h"
 #include "sections/section_types.h"
 #include "sections/value_rules.h"
 #include "sections/vor_prof_values_table.h"
@@ -20,12 +19,6 @@ using Table = Vor_ProfValuesTable;
 
 std::string quoted(const Vor_String& text) {
     return "\"" + text.str() + "\"";
-}
-
-/// Their areas are known exactly; those of cold formed sections depend on bends that tables lack.
-bool isRolledOrTube(int type) {
-    constexpr int types[] = {1, 3, 5, 6, 7, 8, 9, 10, 11, 17};
-    return std::ranges::find(types, type) != std::end(types);
 }
 
 /// One reading of a table. Rows and columns of findings are lines and fields of its file.
@@ -173,25 +166,19 @@ class SectionCheck {
         if (values.empty() || static_cast<int>(values.size()) != m_columns.length()) return;
         if (const BrokenRule* broken = brokenRule(m_type, values))
             error(line, m_firstValue + broken->value, std::string(broken->message));
-        else if (const auto area = sectionArea(m_type, values); area && isRolledOrTube(m_type))
-            checkFigures(size, line, *area / mm2PerCm2, *sectionMass(m_type, values));
+        else if (const auto figures = SectionFigures::of(m_type, values))
+            checkFigures(*figures, size, line);
     }
 
-    // A size made from another one has its figures until somebody types them. What is printed was
-    // rounded, masses more than once.
-    void checkFigures(const Vor_StringArray& size, int line, double area, double mass) {
-        constexpr double smallestDifference = 0.06;
-        checkFigure(size, line, "Area cm2", area, std::max(0.01 * area, smallestDifference));
-        checkFigure(size, line, "Mass kg/m", mass, std::max(0.015 * mass, smallestDifference));
-    }
-    void checkFigure(const Vor_StringArray& size, int line, const char* name, double computed,
-                     double tolerance) {
-        const int column = m_table.getColumnIdx(name);
-        if (column < m_firstValue || !size.isIndex(column) || !isNumber(size[column])) return;
-        if (std::abs(textToDouble(size[column]) - computed) <= tolerance) return;
-        warn(line, column,
-             std::string(name) + " is " + quoted(size[column]) + "; the values give " +
-                 Vor_String(computed, 2).str());
+    // A size made from another one has its figures until somebody types them.
+    void checkFigures(const SectionFigures& figures, const Vor_StringArray& size, int line) {
+        const Vor_StringArray& names = m_table.columnNames;
+        const int columns = std::min(size.length(), names.length());
+        for (int col = m_firstValue + m_columns.length(); col < columns; ++col)
+            if (!figures.allows(names[col], size[col]))
+                warn(line, col,
+                     names[col].str() + " is " + quoted(size[col]) + "; the values give " +
+                         figures.textOf(names[col]).str());
     }
 
     /// Nothing, after telling why, when it cannot be a value of the type.

@@ -80,6 +80,14 @@ TEST(SectionCheck, FindsWhatCannotBe) {
              "Height\tWidth\tLip height\tThickness\tArea cm2\n"
              "1\t1\ta\t\t\t\t200\t70\t20\t2\t7\n",  // has bends
          ""},
+        {std::string("12\n") + header +
+             "Height\tWidth\tLip height\tThickness\tMass kg/m\n"
+             "1\t1\ta\t\t\t\t200\t70\t20\t2\t3.5\n",
+         "3:11 warning: Mass kg/m is \"3.5\"; the values give 5.84"},
+        {std::string("1\n") + header +
+             "Height\tWidth\tWeb thickness\tFlange thickness\tRadius\tIy cm4\n"
+             "300\t1\ta\t\t\t\t300\t150\t7.1\t10.7\t15\t9356\n",
+         "3:12 warning: Iy cm4 is \"9356\"; the values give 8356"},
         {"9\n", "2:0 error: the section table has no column names"},
     };
     const TemporaryFolder folder;

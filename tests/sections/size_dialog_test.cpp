@@ -295,11 +295,77 @@ TEST_F(SizeDialogTest, AddsASizeToTheSampleLibraryUnderEitherName) {
         EXPECT_EQ(added, row) << "all sizes of the table are in use";
         EXPECT_EQ(table.rows[added][2].str(), c.user);
         EXPECT_EQ(table.rows[added - 1][0], c.isOwn ? "1000" : "220") << "sorted by its name";
-        EXPECT_EQ(checkSectionTable(table).size(), 2u) << "mass and area are those of the pattern";
+        EXPECT_EQ(checkSectionTable(table).size(), 0u) << "mass and moments go with the shape";
         const double values[] = {215, 225, 7, 11, 18};
         EXPECT_NEAR(sectionArea(table, added).value_or(0), *sectionArea(1, values), 1e-9);
         EXPECT_FALSE(drawing::sectionOutline(1, values).isEmpty());
     }
+}
+
+/// Name, pattern's row and cells of a value of the added size.
+std::string valueOf(const Vor_ProfValuesTable& table, int row, const char* column) {
+    return table.rows[row][table.getColumnIdx(column)].str();
+}
+
+TEST_F(SizeDialogTest, CalculatesWhatFollowsFromTheShapeUnlessItWasTyped) {
+    gSettings.setLibDir(VORMANT_SOURCE_DIR "/library/");
+    constexpr int height = Dlg::firstValueField, mass = height + 5, area = height + 6;
+    const auto start = [&] {
+        ASSERT_TRUE(table.readFromFile("HEA"));
+        ASSERT_TRUE(table.findSysName("100", row));
+    };
+    start();
+    opens()
+        .does([](CDialog& dialog) {
+            EXPECT_EQ(text(dialog, mass), "16.7");
+            EXPECT_EQ(text(dialog, Dlg::firstValueLabel + 5), "F. Mass kg/m:");
+        })
+        .types(height, "210")
+        .does([](CDialog& dialog) { EXPECT_EQ(text(dialog, mass), "21.14"); })
+        .types(height, "2")  // on the way to 215
+        .does([](CDialog& dialog) { EXPECT_EQ(text(dialog, mass), "") << "no section"; })
+        .types(height, "215")
+        .types(height + 1, "225")
+        .does([](CDialog& dialog) {
+            EXPECT_EQ(text(dialog, Dlg::firstValueLabel + 5), "F. Mass kg/m, calculated:");
+            EXPECT_EQ(text(dialog, Dlg::furtherLabel),
+                      "Further values: 4. They are calculated from the dimensions.");
+        })
+        .types(area, "48.5")
+        .does([](CDialog& dialog) {
+            EXPECT_EQ(text(dialog, Dlg::firstValueLabel + 6), "G. Area cm2:") << "typed";
+        })
+        .types(height + 2, "6")
+        .does([](CDialog& dialog) { EXPECT_EQ(text(dialog, area), "48.5"); })
+        .presses(IDOK);
+    ASSERT_TRUE(run());
+    EXPECT_EQ(valueOf(table, row, "Area cm2"), "48.5");
+    EXPECT_EQ(valueOf(table, row, "Mass kg/m"), "38.6");
+    EXPECT_EQ(valueOf(table, row, "iz cm"), "5.559") << "beyond the fields of the form";
+
+    start();
+    opens()
+        .types(height, "215")
+        .types(mass, "17")
+        .types(mass, "")  // calculated again
+        .types(height, "96.0")
+        .types(height + 1, "100.00")
+        .presses(Dlg::ownName)
+        .types(Dlg::nameField, "Copy")
+        .presses(IDOK);
+    ASSERT_TRUE(run());
+    EXPECT_EQ(valueOf(table, row, "Mass kg/m"), "16.7") << "the shape is that of the pattern";
+    EXPECT_EQ(valueOf(table, row, "Iz cm4"), "133.8");
+
+    start();
+    opens()
+        .types(height, "10")  // lower than its flanges
+        .presses(Dlg::ownName)
+        .types(Dlg::nameField, "Flat")
+        .presses(IDOK)
+        .presses(IDCANCEL);
+    EXPECT_FALSE(run());
+    EXPECT_THAT(user.told().back().text, HasSubstr("F. Mass kg/m cannot be calculated"));
 }
 
 TEST_F(SizeDialogTest, ShowsThePictureOfTheType) {

@@ -6,13 +6,15 @@
 #include "core_api/text/text_helpers.h"
 #include "core_api/texts/texts.h"
 #include "sections/section_area.h"
+#include "sections/section_figures.h"
 #include "sections/section_types.h"
 #include "sections/sketch_painter.h"
 #include "window/dialog_font.h"
 
 namespace {
 
-constexpr int wordDrawnTemplate = 25057, wordArea = 25058, wordMass = 25059;
+constexpr int wordDrawnTemplate = 25057, wordArea = 25058, wordMass = 25059,
+              wordCalculatedMass = 25060;
 
 QString word(int number, const Vor_String& value) {
     Vor_String text = dialString(number);
@@ -30,16 +32,24 @@ std::vector<double> numbersOf(const Vor_StringArray& values) {
     return numbers;
 }
 
-std::optional<double> massOf(const SizePanel::Size& size) {
-    const std::vector<std::string_view> columns(size.columns.begin(), size.columns.end());
+/// That of the table, and the calculated one where the table has none or one that cannot be.
+QStringList massesOf(const SizePanel::Size& size) {
+    constexpr std::string_view massColumn = "Mass kg/m";
+    const int at = size.columns.find(massColumn);
+    const Vor_String printed = size.values.isIndex(at) ? size.values[at] : Vor_String();
     const std::vector<std::string_view> values(size.values.begin(), size.values.end());
-    return sectionMass(size.drawnAs, columns, values);
+    const auto figures = SectionFigures::of(size.drawnAs, values);
+    QStringList lines;
+    if (isNumber(printed)) lines += word(wordMass, Vor_String(textToDouble(printed), 2));
+    if (figures && (!isNumber(printed) || !figures->allows(massColumn, printed)))
+        lines += word(wordCalculatedMass, Vor_String(*figures->valueOf(massColumn), 2));
+    return lines;
 }
 
 QString figuresOf(const SizePanel::Size& size, std::optional<double> area) {
     QStringList lines;
     if (area) lines += word(wordArea, Vor_String(*area / mm2PerCm2, 2));
-    if (const auto mass = massOf(size)) lines += word(wordMass, Vor_String(*mass, 2));
+    lines += massesOf(size);
     return lines.join('\n');
 }
 

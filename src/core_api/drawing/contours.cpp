@@ -1,13 +1,11 @@
 #include "core_api/drawing/contours.h"
 
 #include <algorithm>
-#include <numbers>
 
 namespace drawing {
 
 namespace {
 
-constexpr double step = std::numbers::pi / 60;
 constexpr double straight = 1e-9;
 
 /// A corner between the directions that come in and go out.
@@ -23,13 +21,14 @@ struct Turn {
     double tangent = 0;  ///< how much of both sides the rounding takes
 };
 
-void appendArc(Contour& contour, const Corner& corner, const Turn& turn) {
+void appendArc(Contour& contour, const Corner& corner, const Turn& turn, double arcStep) {
     const double side = turn.angle > 0 ? 1 : -1;
     const Point begin = corner.at - turn.in * turn.tangent;
     const Point centre = begin + leftOf(turn.in) * (side * corner.radius);
     const Point spoke = begin - centre;
     const double start = std::atan2(spoke.y, spoke.x);
-    for (const Point& point : arc(centre, corner.radius, corner.radius, start, start + turn.angle))
+    const double end = start + turn.angle;
+    for (const Point& point : arc(centre, corner.radius, corner.radius, start, end, arcStep))
         contour.push_back(point);
 }
 
@@ -73,8 +72,9 @@ bool keepsDirections(std::span<const Point> path, const Strip& strip) {
 
 }  // namespace
 
-std::vector<Point> arc(Point centre, double radiusX, double radiusY, double from, double to) {
-    const int steps = std::max(1, static_cast<int>(std::ceil(std::abs(to - from) / step)));
+std::vector<Point> arc(Point centre, double radiusX, double radiusY, double from, double to,
+                       double arcStep) {
+    const int steps = std::max(1, static_cast<int>(std::ceil(std::abs(to - from) / arcStep)));
     std::vector<Point> points;
     for (int i = 0; i <= steps; ++i) {
         const Point spoke = towards(from + (to - from) * i / steps);
@@ -89,7 +89,7 @@ Contour circle(Point centre, double radius) {
     return contour;
 }
 
-std::optional<Contour> rounded(std::span<const Corner> corners) {
+std::optional<Contour> rounded(std::span<const Corner> corners, double arcStep) {
     const size_t count = corners.size();
     std::vector<Turn> turns;
     for (size_t i = 0; i < count; ++i)
@@ -101,7 +101,7 @@ std::optional<Contour> rounded(std::span<const Corner> corners) {
         const double side = length(corners[next].at - corners[i].at);
         if (turns[i].tangent + turns[next].tangent > side * (1 + 1e-9)) return std::nullopt;
         if (turns[i].tangent > 0)
-            appendArc(contour, corners[i], turns[i]);
+            appendArc(contour, corners[i], turns[i], arcStep);
         else
             contour.push_back(corners[i].at);
     }

@@ -38,6 +38,9 @@ constexpr TextRow rows[] = {
       "montrer."}},
     {25058, {"Area: %1 cm²", "Oppervlakte: %1 cm²", "Querschnittsfläche: %1 cm²", "Aire : %1 cm²"}},
     {25059, {"Mass: %1 kg/m", "Massa: %1 kg/m", "Masse: %1 kg/m", "Masse : %1 kg/m"}},
+    {25060,
+     {"Mass, calculated: %1 kg/m", "Massa, berekend: %1 kg/m", "Masse, berechnet: %1 kg/m",
+      "Masse, calculée : %1 kg/m"}},
 };
 
 }  // namespace

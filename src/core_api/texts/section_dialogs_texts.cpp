@@ -89,6 +89,26 @@ constexpr TextRow rows[] = {
       "La taille dont la nouvelle est tirée est incomplète. Modifiez-la d'abord dans la "
       "bibliothèque "
       "de profilés."}},
+    {25325, {"%1, calculated", "%1, berekend", "%1, berechnet", "%1, calculé"}},
+    {25326,
+     {"Further values: %1. They are calculated from the dimensions.",
+      "Overige waarden: %1. Ze worden uit de afmetingen berekend.",
+      "Weitere Werte: %1. Sie werden aus den Abmessungen berechnet.",
+      "Autres valeurs : %1. Elles sont calculées d'après les dimensions."}},
+    {25327,
+     {"Further values: %1. %3 are calculated from the dimensions, the others taken over from %2.",
+      "Overige waarden: %1. %3 worden uit de afmetingen berekend, de andere overgenomen van %2.",
+      "Weitere Werte: %1. %3 werden aus den Abmessungen berechnet, die anderen von %2 übernommen.",
+      "Autres valeurs : %1. %3 sont calculées d'après les dimensions, les autres reprises de %2."}},
+    {25328,
+     {"These dimensions make no section, so that %1 cannot be calculated. Correct them, or type "
+      "the value.",
+      "Deze afmetingen vormen geen profiel; %1 kan niet worden berekend. Verbeter ze of typ de "
+      "waarde.",
+      "Diese Abmessungen ergeben kein Profil; %1 lässt sich nicht berechnen. Berichtigen Sie sie, "
+      "oder geben Sie den Wert ein.",
+      "Ces dimensions ne forment pas de profilé ; %1 ne peut pas être calculé. Corrigez-les ou "
+      "tapez la valeur."}},
     {25330,
      {"Edit library…", "Bibliotheek bewerken…", "Bibliothek bearbeiten…",
       "Modifier la bibliothèque…"}},

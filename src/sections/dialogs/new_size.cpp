@@ -5,6 +5,8 @@
 
 #include "core_api/text/digits.h"
 #include "core_api/text/text_helpers.h"
+#include "sections/section_figures.h"
+#include "sections/section_types.h"
 
 namespace {
 
@@ -76,6 +78,23 @@ void put(Vor_StringArray& row, int first, const Vor_StringArray& texts) {
     for (int i = 0; i < texts.length() && row.isIndex(first + i); ++i) row[first + i] = texts[i];
 }
 
+/// The dimensions that its type draws.
+bool hasShapeOf(const Vor_ProfValuesTable& table, const Vor_StringArray& row,
+                const Vor_StringArray& pattern) {
+    const int first = table.firstValueColumn();
+    const int dimensions = sectionTypeColumns(sectionTypeNumber(table.drawnAs)).length();
+    for (int i = first; i < first + dimensions && row.isIndex(i); ++i)
+        if (!isSame(row[i], pattern[i])) return false;
+    return true;
+}
+
+std::optional<SectionFigures> figuresOf(const Vor_ProfValuesTable& table,
+                                        const Vor_StringArray& row) {
+    std::vector<std::string_view> values;
+    for (int i = table.firstValueColumn(); i < row.length(); ++i) values.push_back(row[i]);
+    return SectionFigures::of(table.drawnAs, values);
+}
+
 }  // namespace
 
 Vor_String SizeNaming::nameOf(const Vor_StringArray& given) const {
@@ -102,13 +121,40 @@ bool isWholeRow(const Vor_ProfValuesTable& table, int row) {
     return table.rows.isIndex(row) && table.rows[row].length() >= columns;
 }
 
+std::vector<ShapeValue> shapeValues(const Vor_ProfValuesTable& table, int pattern,
+                                    const Vor_StringArray& values) {
+    std::vector<ShapeValue> found;
+    if (!isWholeRow(table, pattern)) return found;
+    const int first = table.firstValueColumn();
+    const Vor_StringArray& before = table.rows[pattern];
+    Vor_StringArray row = before;
+    put(row, first, values);
+    const auto figures = figuresOf(table, row);
+    const auto known = figuresOf(table, before);
+    const bool isCalculated = !hasShapeOf(table, row, before);
+    const int dimensions = sectionTypeColumns(sectionTypeNumber(table.drawnAs)).length();
+    for (int col = first + dimensions; col < table.columnNames.length(); ++col) {
+        const Vor_String& name = table.columnNames[col];
+        const bool follows = (known && known->valueOf(name)) || (figures && figures->valueOf(name));
+        if (!follows) continue;
+        const Vor_String text = !isCalculated ? before[col]
+                                : figures     ? figures->textOf(name)
+                                              : Vor_String();
+        found.push_back({col - first, isCalculated, text});
+    }
+    return found;
+}
+
 int addSize(Vor_ProfValuesTable& table, const NewSize& size) {
     if (!isWholeRow(table, size.pattern)) return -1;
     Vor_StringArray row = table.rows[size.pattern];
     row[Vor_ProfValuesTable::systemNameColumn] = size.name;
     row[Vor_ProfValuesTable::activeColumn] = "1";
     put(row, Vor_ProfValuesTable::firstNameColumn, size.userNames);
-    put(row, table.firstValueColumn(), size.values);
+    const int firstValue = table.firstValueColumn();
+    put(row, firstValue, size.values);
+    for (const ShapeValue& each : shapeValues(table, size.pattern, size.values))
+        if (!size.typed.contains(each.value)) row[firstValue + each.value] = each.text;
     const int place = placeOf(table, size.name);
     table.rows.insertAt(place, std::move(row));
     return table.getfilteredIdx(place);

@@ -2,6 +2,8 @@
 // counted from 0, from the first value column on.
 #pragma once
 
+#include <vector>
+
 #include "sections/vor_prof_values_table.h"
 
 /// How the sizes of a table are named by their values: "50x30x4" after height, width and wall.
@@ -22,10 +24,23 @@ struct NewSize {
     Vor_String name;            ///< its system name
     Vor_StringArray userNames;  ///< one for each language of the table
     Vor_StringArray values;     ///< of the first value columns
+    Vor_Array<int> typed{};     ///< those that somebody typed, which nothing calculates
 };
+
+/// A value of a size that follows from its shape.
+struct ShapeValue {
+    int value;
+    bool isCalculated;  ///< false: the shape is that of the pattern, and so is the value
+    Vor_String text;    ///< empty when the values give no shape
+};
+/// The values beside the dimensions that follow from the shape, as mass and moments do. `values`
+/// are the first of a size that is a copy of row `pattern` but for them.
+std::vector<ShapeValue> shapeValues(const Vor_ProfValuesTable& table, int pattern,
+                                    const Vor_StringArray& values);
 
 /// The pattern row has a cell for every column.
 bool isWholeRow(const Vor_ProfValuesTable& table, int row);
-/// Inserts the size where its name belongs. Its place among the active sizes; -1, with the table as
+/// Inserts the size where its name belongs, with the values that follow from its shape unless they
+/// were typed. Its place among the active sizes; -1, with the table as
 /// it was, when the pattern is not whole.
 int addSize(Vor_ProfValuesTable& table, const NewSize& size);

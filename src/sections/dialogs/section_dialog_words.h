@@ -69,5 +69,9 @@ enum SectionDialogWord {
     wordSizeTaken = 25322,
     wordNoNumber = 25323,
     wordIncomplete = 25324,
+    wordCalculated = 25325,
+    wordFurtherCalculated = 25326,
+    wordFurtherMixed = 25327,
+    wordNoShape = 25328,
     wordOtherForm = 26950,
 };

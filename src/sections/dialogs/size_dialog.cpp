@@ -84,30 +84,69 @@ int SizeDialog::currentNameColumn() const {
 }
 
 void SizeDialog::showValues() {
-    const Vor_ProfValuesTable& table = m_data.table;
     const Vor_StringArray row = pattern();
-    const bool isType = !isDrawnTemplate(table.drawnAs);
+    m_shown.setLength(shownValues());
     for (int i = 0; i < mostValues; ++i) {
-        const int column = table.firstValueColumn() + i;
         const bool isThere = i < shownValues();
         item(firstValueLabel + i)->show(isThere);
         item(firstValueField + i)->show(isThere);
         if (!isThere) continue;
-        Vor_String name = table.columnNames.isIndex(column) ? table.columnNames[column] : "";
-        if (isType) name = gMacroLangs.GetString("Prof", name);
-        item(firstValueLabel + i)->setText(getAlfabet(i + 1) + ". " + name + ":");
-        item(firstValueField + i)->setText(row[column]);
+        item(firstValueLabel + i)->setText(labelOf(i) + ":");
+        m_shown[i] = row[m_data.table.firstValueColumn() + i];
+        item(firstValueField + i)->setText(m_shown[i]);
     }
 }
 
-/// A table may have more values than the form; the new size then has those of the pattern.
+Vor_String SizeDialog::labelOf(int value) const {
+    const Vor_ProfValuesTable& table = m_data.table;
+    const int column = table.firstValueColumn() + value;
+    Vor_String name = table.columnNames.isIndex(column) ? table.columnNames[column] : "";
+    if (!isDrawnTemplate(table.drawnAs)) name = gMacroLangs.GetString("Prof", name);
+    return getAlfabet(value + 1) + ". " + name;
+}
+
+/// The values that the type draws.
+int SizeDialog::dimensionCount() const {
+    return sectionTypeColumns(sectionTypeNumber(m_data.table.drawnAs)).length();
+}
+
+/// An empty field asks for what can be calculated.
+bool SizeDialog::isTyped(int value) const {
+    const Vor_String text = item(firstValueField + value)->text();
+    return !text.isEmpty() && text != m_shown[value];
+}
+
+/// What follows from the shape goes along with the dimensions until somebody types it.
+void SizeDialog::showShapeValues() {
+    for (const ShapeValue& each : shapeValues(m_data.table, m_data.row, typedValues())) {
+        if (each.value >= shownValues()) break;
+        const bool isCalculated = each.isCalculated && !isTyped(each.value);
+        Vor_String label = isCalculated ? dialString(wordCalculated) : Vor_String("%1");
+        label.replaceSubString("%1", labelOf(each.value));
+        item(firstValueLabel + each.value)->setText(label + ":");
+        if (isTyped(each.value) || each.text == m_shown[each.value]) continue;
+        m_shown[each.value] = each.text;
+        item(firstValueField + each.value)->setText(each.text);
+    }
+    showFurtherValues();
+}
+
+/// A table may have more values than the form; the new size then has those of the pattern, or what
+/// follows from its shape.
 void SizeDialog::showFurtherValues() {
     const Vor_StringArray row = pattern();
     const int further = row.length() - m_data.table.firstValueColumn() - mostValues;
     if (further <= 0) return;
-    Vor_String text = dialString(wordFurtherValues);
+    const auto calculated = std::ranges::count_if(
+        shapeValues(m_data.table, m_data.row, typedValues()),
+        [](const ShapeValue& each) { return each.isCalculated && each.value >= mostValues; });
+    const auto copied = further - static_cast<int>(calculated);
+    Vor_String text = dialString(calculated == 0 ? wordFurtherValues
+                                 : copied == 0   ? wordFurtherCalculated
+                                                 : wordFurtherMixed);
     text.replaceSubString("%1", std::to_string(further));
     text.replaceSubString("%2", m_data.table.tableName + "-" + row[0]);
+    text.replaceSubString("%3", std::to_string(calculated));
     item(furtherLabel)->setText(text);
 }
 
@@ -149,7 +188,12 @@ void SizeDialog::showName() {
 }
 
 NewSize SizeDialog::typedSize() const {
-    NewSize size{m_data.row, item(nameField)->text(), {}, typedValues()};
+    NewSize size{m_data.row, item(nameField)->text(), {}, typedValues(), {}};
+    for (int i = 0; i < size.values.length(); ++i)
+        if (isTyped(i)) size.typed.append(i);
+    for (const ShapeValue& each : shapeValues(m_data.table, m_data.row, size.values))
+        if (size.values.isIndex(each.value) && !size.typed.contains(each.value))
+            size.values[each.value] = each.text;
     if (isNamedByValues()) size.name = m_naming.nameOf(size.values);
     for (int i = 0; i < m_data.table.getNrLanguages(); ++i) {
         const bool hasPrefix = isNamedByValues() && m_naming.prefixes.isIndex(i);
@@ -160,7 +204,10 @@ NewSize SizeDialog::typedSize() const {
 
 void SizeDialog::onCommand(int id, int code) {
     const bool isValue = id >= firstValueField && id < firstValueField + mostValues;
-    if (isValue && code == textChanged) return showName();
+    if (isValue && code == textChanged) {
+        showShapeValues();
+        return showName();
+    }
     if ((id == fromValues || id == ownName) && code == clicked) {
         item(nameField)->enable(!isNamedByValues());
         return showName();
@@ -181,9 +228,13 @@ bool SizeDialog::refuse(int text, const Vor_String& what, int field) {
 /// Where the pattern has a number, the new size has one.
 bool SizeDialog::isGood(const NewSize& size) {
     const Vor_StringArray row = pattern();
-    for (int i = 0; i < size.values.length(); ++i)
-        if (isNumber(row[m_data.table.firstValueColumn() + i]) && !isNumber(size.values[i]))
-            return refuse(wordNoNumber, size.values[i], firstValueField + i);
+    for (int i = 0; i < size.values.length(); ++i) {
+        if (!isNumber(row[m_data.table.firstValueColumn() + i]) || isNumber(size.values[i]))
+            continue;
+        const bool lacksShape = size.values[i].isEmpty() && i >= dimensionCount();
+        return lacksShape ? refuse(wordNoShape, labelOf(i), firstValueField + i)
+                          : refuse(wordNoNumber, size.values[i], firstValueField + i);
+    }
     if (trimmed(size.name).empty()) return refuse(wordNoSizeName, {}, nameField);
     int taken = -1;
     if (m_data.table.findSysName(size.name, taken))

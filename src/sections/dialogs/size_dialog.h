@@ -46,7 +46,11 @@ class SizeDialog : public CDialog {
     Vor_StringArray pattern() const;
     int shownValues() const;
     void showValues();
+    Vor_String labelOf(int value) const;
+    int dimensionCount() const;
+    void showShapeValues();
     void showFurtherValues();
+    bool isTyped(int value) const;
     void showOtherForm();
     Vor_String nameFromValues(const Vor_StringArray& values) const;
     void showName();
@@ -59,4 +63,5 @@ class SizeDialog : public CDialog {
     SectionSize m_data;
     Vor_String m_section;
     SizeNaming m_naming;
+    Vor_StringArray m_shown;  // what the dialog itself wrote into the fields of the values
 };
