@@ -10,6 +10,7 @@
 #include "core_api/text/text_helpers.h"
 #include "platform/paths.h"
 #include "sections/section_area.h"
+#include "sections/section_figures.h"
 
 namespace bills {
 
@@ -112,6 +113,15 @@ class BillMaker {
     bool m_isWrongCall = false;
 };
 
+/// -1 when the bill has none.
+int columnOf(const Vor_Bill& bill, BillField field) {
+    const Vor_String name = billFieldName(field);
+    int column = -1;
+    for (int i = 0; i < static_cast<int>(bill.columns.size()); ++i)
+        if (bill.columns[static_cast<size_t>(i)].name.equal(name)) column = i;
+    return column;
+}
+
 }  // namespace
 
 std::optional<Vor_Bill> makeBill(const BillChoice& choice, std::string& error, bool* isWrongCall) {
@@ -134,14 +144,26 @@ bool isSameFile(const Vor_String& a, const Vor_String& b) {
 
 Vor_StringArray rowsWithoutMass(const Vor_Bill& bill) {
     Vor_StringArray names;
-    const Vor_String mass = billFieldName(BillField::totalMass);
-    int column = -1;
-    for (int i = 0; i < static_cast<int>(bill.columns.size()); ++i)
-        if (bill.columns[static_cast<size_t>(i)].name.equal(mass)) column = i;
+    const int column = columnOf(bill, BillField::totalMass);
     for (const BillRow& row : bill.rows)
         if (row.piece && row.cells.isIndex(column) && row.cells[column].isEmpty())
             names.append(row.piece->name + " (" + row.piece->section.str() + ")");
     return names;
+}
+
+Vor_StringArray doubtfulMasses(const Vor_Bill& bill) {
+    Vor_StringArray texts;
+    if (columnOf(bill, BillField::totalMass) < 0 && columnOf(bill, BillField::mass) < 0)
+        return texts;
+    for (const BillRow& row : bill.rows) {
+        const bool isWeighed = row.piece && row.piece->mass;  // tables bring their own masses
+        const auto doubt = isWeighed ? doubtfulMass(row.piece->section) : std::nullopt;
+        if (!doubt) continue;
+        const Vor_String text =
+            row.piece->section + " (" + doubt->printed + " / " + doubt->calculated + " kg/m)";
+        if (!texts.contains(text)) texts.append(text);
+    }
+    return texts;
 }
 
 }  // namespace bills

@@ -42,5 +42,8 @@ bool isSameFile(const Vor_String& a, const Vor_String& b);
 
 /// The rows of which no mass is known although there is a column for it, by what they show.
 Vor_StringArray rowsWithoutMass(const Vor_Bill& bill);
+/// The sections in a bill with masses whose table says another mass than their dimensions give:
+/// "HEA-225 (16.7 / 51.63 kg/m)".
+Vor_StringArray doubtfulMasses(const Vor_Bill& bill);
 
 }  // namespace bills

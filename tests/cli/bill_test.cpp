@@ -69,6 +69,31 @@ TEST_F(Bill, DocumentsHaveRowsSubtotalsAndVariables) {
     EXPECT_THAT(text, HasSubstr("Bill header.sss")) << "the library's own settings are used";
 }
 
+// A size that was made from another one and kept its mass: 215 x 225 and 16.7 kg/m.
+TEST_F(Bill, MassesThatDoNotFitTheirDimensionsAreUsedWithAWord) {
+    folder.write("prof/HEA.pr",
+                 "1\nSysName\tI/O\tEnglish\tDutch\tGerman\tFrench\tHeight\tWidth\tWeb thickness\t"
+                 "Flange thickness\tRadius\tMass kg/m\n"
+                 "100\t1\t\t\t\t\t96\t100\t5\t8\t12\t16.7\n"
+                 "225\t1\t\t\t\t\t215\t225\t5\t8\t12\t16.7\n");
+    const std::string macro =
+        folder.write("Braces.macro",
+                     "properties 1\ni\tmacro.version\t1\ns\tmodule.Braces\tprofile\n"
+                     "d\tmodule.Braces.var.Length\t2000\ns\tmodule.Braces.placement.A\tHEA-225\n"
+                     "s\tmodule.Braces.placement.B\tHEA-100\nend\n");
+    const auto run = [&](std::vector<std::string> arguments) {
+        arguments.insert(arguments.begin(), {"--library", folder.path().string(), "bill", macro});
+        return program::run(arguments);
+    };
+    const auto printed = run({"--columns", "section,mass"});
+    EXPECT_EQ(printed.out, "Section,Mass (kg)\nHEA-100,33.4\nHEA-225,33.4\n");
+    EXPECT_THAT(printed.err, HasSubstr("(in the table / by the dimensions): HEA-225 (16.7 / "
+                                       "37.04 kg/m); the bill has those of the table"));
+    EXPECT_EQ(run({"--columns", "section,count"}).err, "");
+    const auto summary = Json::parse(run({"-o", folder / "b.csv", "--json"}).out);
+    EXPECT_EQ(summary["doubtfulMass"], Json({"HEA-225 (16.7 / 37.04 kg/m)"}));
+}
+
 TEST_F(Bill, TablesAreGroupedAndCountedTogether) {
     const auto result = call(
         {table, "--group", "Colour", "-o", folder / "b.csv", "--columns", "Section,Count,Total"});

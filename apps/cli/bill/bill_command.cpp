@@ -168,6 +168,7 @@ class BillCall {
         };
         line(bill.columnNames());
         for (const BillRow& row : bill.rows) line(row.cells);
+        tellDoubtfulMasses(bill);
         return output.close() ? ExitCode::done : ExitCode::failed;
     }
 
@@ -185,11 +186,23 @@ class BillCall {
         if (isPdf && !printDocument(sheet.document(), m_target.file)) return ExitCode::failed;
         if (!m_request.json) {
             tellRowsWithoutMass(bill);
+            tellDoubtfulMasses(bill);
             return ExitCode::done;
         }
         Output output;
         output.write(billSummary(bill, m_target.file) + "\n");
         return output.close() ? ExitCode::done : ExitCode::failed;
+    }
+
+    static void tellDoubtfulMasses(const Vor_Bill& bill) {
+        const Vor_StringArray doubtful = bills::doubtfulMasses(bill);
+        if (doubtful.isEmpty()) return;
+        std::string list;
+        appendUtf8(list, arrToStr(doubtful, ", "));
+        complain(
+            shortened("the masses of sections do not fit their dimensions (in the table / by "
+                      "the dimensions): " +
+                      list + "; the bill has those of the table, see 'sections check'"));
     }
 
     static void tellRowsWithoutMass(const Vor_Bill& bill) {

@@ -55,6 +55,7 @@ std::string billSummary(const Vor_Bill& bill, const Vor_String& file) {
     json.endArray();
     writeSums(json, "totals", bill, bill.totals);
     writeTexts(json, "withoutMass", bills::rowsWithoutMass(bill));
+    writeTexts(json, "doubtfulMass", bills::doubtfulMasses(bill));
     json.endObject();
     return text;
 }

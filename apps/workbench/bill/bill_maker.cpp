@@ -37,6 +37,12 @@ void tellRowsWithoutMass(const Vor_Bill& bill) {
     acutPrint(fromQt(say(sayBillNoMass).arg(toQt(arrToStr(names, ", ")))) + "\n");
 }
 
+void tellDoubtfulMasses(const Vor_Bill& bill) {
+    const Vor_StringArray doubtful = bills::doubtfulMasses(bill);
+    if (doubtful.isEmpty()) return;
+    acutPrint(fromQt(say(sayBillDoubtfulMass).arg(toQt(arrToStr(doubtful, ", ")))) + "\n");
+}
+
 }  // namespace
 
 bool BillMaker::askAndMake(const Vor_StringArray& macros, QWidget* parent) {
@@ -85,5 +91,6 @@ bool BillMaker::write(Vor_Bill& bill, const bills::BillTarget& target, QWidget* 
         return complain(error);
     acutPrint(fromQt(say(sayBillSaved).arg(toQt(target.file))) + "\n");
     tellRowsWithoutMass(bill);
+    tellDoubtfulMasses(bill);
     return true;
 }

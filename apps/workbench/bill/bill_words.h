@@ -23,4 +23,5 @@ enum BillWord {
     sayBillReplace,
     sayBillExport = 26980,
     sayBillIsSource,
+    sayBillDoubtfulMass = 26989,
 };

@@ -94,6 +94,15 @@ constexpr TextRow rows[] = {
       "schaffen Sie dort Platz und versuchen Sie es erneut",
       "les images de la nomenclature ne peuvent pas être mises dans le dossier des fichiers "
       "temporaires ; faites-y de la place et réessayez"}},
+    {26989,
+     {"The masses of sections do not fit their dimensions (in the table / by the dimensions): %1. "
+      "The bill has those of the table.",
+      "De massa's van profielen passen niet bij hun afmetingen (in de tabel / uit de afmetingen): "
+      "%1. De stuklijst heeft die van de tabel.",
+      "Die Massen von Profilen passen nicht zu ihren Abmessungen (in der Tabelle / aus den "
+      "Abmessungen): %1. Die Stückliste hat die der Tabelle.",
+      "Les masses de profilés ne correspondent pas à leurs dimensions (dans le tableau / d'après "
+      "les dimensions) : %1. La nomenclature a celles du tableau."}},
 };
 
 }  // namespace
