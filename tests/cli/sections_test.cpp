@@ -61,9 +61,14 @@ TEST_F(Sections, AreShownByEveryName) {
     }
     const json size = json::parse(call({"show", "FL-100x10", "--json"}).out);
     EXPECT_EQ(size["section"], "FL-100x10");
-    EXPECT_EQ(size["values"]["Breedte"], 100);
+    EXPECT_EQ(size["values"]["Breedte"], "100");
     EXPECT_EQ(size["names"]["French"], "Plat\xC3\xA9 100");
-    EXPECT_NEAR(size["mass"], 7.85, 1e-9);
+    EXPECT_EQ(size["mass"], 7.85);
+    EXPECT_EQ(size["calculated"]["Mass kg/m"], 7.85);
+    EXPECT_EQ(size["calculated"]["Iz cm4"], 83.3333);
+    const std::string shown = call({"show", "FL-100x10"}).out;
+    EXPECT_THAT(shown, HasSubstr("calculated from the values\n  Mass kg/m      7.85\n"));
+    EXPECT_THAT(shown, HasSubstr("Iz cm4      83.3333\n"));
     const auto unknown = call({"show", "IPE-2000"});
     EXPECT_EQ(unknown.exitCode, 1);
     EXPECT_THAT(unknown.err, HasSubstr("did you mean IPE-200?"));
@@ -107,6 +112,19 @@ TEST_F(Sections, AreFoundByConditions) {
               "Section  Name     kg/m  Values\n"
               "IPE-200  IPE 200  22.4  h=200 b=100 tw=5.6 tf=8.5 r=12\n");
     EXPECT_THAT(call({"find", "h>1000"}).err, HasSubstr("no section fits"));
+}
+
+// 102 x 20 mm weigh 16.014 kg/m, which no binary number is.
+TEST_F(Sections, AreFoundByFiguresAsTheyAreShown) {
+    folder.write("prof/FL2.pr",
+                 "8\nSysName\tI/O\tEnglish\tDutch\tGerman\tFrench\tWidth\tThickness\n"
+                 "102x20\t1\t\t\t\t\t102\t20\n");
+    for (const char* condition : {"mass=16.014", "mass<=16.014", "area=20.4", "mass=16.014..17"}) {
+        const auto result = call({"find", "table=FL2", condition, "--json"});
+        EXPECT_THAT(result.out, HasSubstr("\"mass\":16.014,\"calculated\":{\"Mass kg/m\":16.014,"))
+            << condition;
+    }
+    EXPECT_THAT(call({"find", "table=FL2", "mass>16.014"}).err, HasSubstr("no section fits"));
 }
 
 TEST_F(Sections, ConditionsThatMakeNoSenseAreRefused) {
@@ -166,11 +184,23 @@ TEST_F(Sections, ComeBackFromCsvAsTheyWere) {
     EXPECT_THAT(there.err, HasSubstr("FL.pr: the table is there already; --force"));
     EXPECT_EQ(call({"import", csv, "FL", "--force"}).exitCode, 0);
     EXPECT_EQ(folder.read("prof/FL.pr"), flat);
+
+    const std::string bad = folder.write("prof/FL.pr", "8\nSysName\t\\x\n");
+    const auto unreadable = call({"import", csv, "FL", "--force"});
+    EXPECT_EQ(unreadable.exitCode, 1);
+    EXPECT_EQ(unreadable.err, "vormant: " + bad +
+                                  ":2: a backslash stands alone; write it twice; to replace the "
+                                  "table, say with --type how its sections are drawn\n");
+    EXPECT_EQ(call({"import", csv, "FL", "--force", "--type", "8"}).exitCode, 0);
+    EXPECT_EQ(folder.read("prof/FL.pr"), flat);
 }
 
 TEST_F(Sections, ComeBackFromJsonAsTheyWere) {
     const std::string file = folder / "out.json";
-    for (const char* table : {"FL", "IPE"}) {
+    folder.write("prof/Odd.pr",
+                 "8\nSysName\tI/O\tEnglish\tDutch\tGerman\tFrench\tWidth\tThickness\tNote\n"
+                 "05\t1\t05\t\t\t\t50.0\t05\t1e3\n1\t0\t\t\t\t\t10\t5\t\n");
+    for (const char* table : {"FL", "IPE", "Odd"}) {
         ASSERT_EQ(call({"export", table, file}).exitCode, 0);
         const auto result = call({"import", file, "Copy", "--force"});
         ASSERT_EQ(result.exitCode, 0) << result.err;

@@ -75,6 +75,14 @@ void appendRounded(std::string& line, double number) {
     line.append(text, end.ptr);
 }
 
+double asShown(double number) {
+    std::string text;
+    appendRounded(text, number);
+    double shown = number;
+    std::from_chars(text.data(), text.data() + text.size(), shown);
+    return shown;
+}
+
 std::string shortened(std::string_view message) {
     constexpr size_t longest = 1000;
     constexpr size_t keptOfEnd = 300;  // it says what to do

@@ -20,6 +20,8 @@ void appendNumber(std::string& line, double number);
 
 /// Appends a number for people to read: six figures.
 void appendRounded(std::string& line, double number);
+/// The number that it shows.
+double asShown(double number);
 
 /// `message` (UTF-8) with every line cut to a length that a person would read, in its middle, where
 /// it repeats a huge text.

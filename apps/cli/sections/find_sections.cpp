@@ -54,6 +54,7 @@ std::string jsonOf(const FoundSection& found) {
     json.beginObject();
     writeTableHead(json, found.table);
     writeSize(json, found.table, 0);
+    writeCalculated(json, found.table, 0);
     json.endObject();
     return text;
 }

@@ -62,14 +62,15 @@ bool isKnownType(const Vor_String& type) {
     return sectionTypeNumber(type) > 0 || isDrawnTemplate(type);
 }
 
-/// What the call says counts first, then the file, then the table that is replaced.
+/// What the call says counts first, then the file, then the table that is replaced. Empty when
+/// nothing says it, with the reason in `why` when the table that is replaced cannot be read.
 Vor_String drawnAs(const ImportSectionsRequest& request, const ImportedTable& imported,
-                   const TableFile& place) {
+                   const TableFile& place, Vor_String& why) {
     if (!request.type.empty()) return request.type;
     if (!imported.table.drawnAs.isEmpty() || !ObjectExportFileExists(place.path))
         return imported.table.drawnAs;
-    const auto before = readTable(place);
-    return before ? before->drawnAs : Vor_String();
+    Table before;
+    return before.readFromPath(place.path, &why) ? before.drawnAs : Vor_String();
 }
 
 /// True when nothing that was found is an error; all of it is told.
@@ -108,7 +109,12 @@ ExitCode importSections(const ImportSectionsRequest& request) {
     if (!mayWrite(request, *place)) return ExitCode::failed;  // it may have come while reading
     Table& table = imported->table;
     table.tableName = place->name;
-    table.drawnAs = drawnAs(request, *imported, *place);
+    Vor_String why;
+    table.drawnAs = drawnAs(request, *imported, *place, why);
+    if (!why.isEmpty()) {
+        complainText(why + "; to replace the table, say with --type how its sections are drawn");
+        return ExitCode::failed;
+    }
     if (table.drawnAs.isEmpty()) {
         complain("--type is not given; it says how the sections are drawn");
         return ExitCode::wrongCall;

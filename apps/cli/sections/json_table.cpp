@@ -81,7 +81,7 @@ struct CharacterIterator {
 
 // --- what stands where --------------------------------------------------------------------------
 
-enum class Place { file, table, columns, sizes, size, names, values };
+enum class Place { file, table, columns, sizes, size, names, values, calculated };
 enum Kind : unsigned { null = 1, truth = 2, number = 4, text = 8, object = 16, array = 32 };
 
 struct Member {
@@ -107,8 +107,11 @@ constexpr Member members[] = {
      Place::names},
     {Place::size, "values", object, "the values are an object, one for each column", Place::values},
     {Place::size, "mass", number | null, "a mass is a number"},
+    {Place::size, "calculated", object, "what is calculated is an object, a number for each column",
+     Place::calculated},
     {Place::names, "", text, "a name is a text"},
     {Place::values, "", number | text | null, "a value is a number or a text"},
+    {Place::calculated, "", number, "what is calculated is a number"},
 };
 
 const Member* memberOf(Place place, std::string_view key) {
@@ -195,7 +198,7 @@ class TableTaker : public Json::json_sax_t {
 
     bool key(string_t& utf8) override {
         if (!take(utf8, m_key)) return false;
-        if (place() == Place::names || place() == Place::values) return true;
+        if (place() >= Place::names) return true;  // columns
         const Member* member = memberOf(place(), m_key);
         if (!member) return refuse("there is no \"" + utf8 + "\" here, only " + knownKeys(place()));
         const auto bit = 1U << (member - members);
@@ -257,6 +260,8 @@ class TableTaker : public Json::json_sax_t {
             case Place::names:
                 m_read.sizes.back().names.push_back({m_key, std::move(text)});
                 return true;
+            case Place::calculated:
+                return true;  // for readers: it follows from the values
             default:
                 m_read.sizes.back().values.push_back({m_key, std::move(text)});
                 return true;

@@ -2,23 +2,11 @@
 
 #include <algorithm>
 
-#include "core_api/text/text_helpers.h"
 #include "sections/section_area.h"
+#include "sections/section_figures.h"
 #include "sections/section_types.h"
 
 namespace cli {
-
-namespace {
-
-/// A number where the text is one.
-void writeValue(JsonWriter& json, std::string_view text) {
-    if (isNumber(text))
-        json.number(textToDouble(text));
-    else
-        json.text(text);
-}
-
-}  // namespace
 
 void writeTableHead(JsonWriter& json, const Vor_ProfValuesTable& table) {
     json.key("table");
@@ -56,13 +44,25 @@ void writeSize(JsonWriter& json, const Vor_ProfValuesTable& table, int row) {
     json.beginObject();
     for (int col = firstValue; col < columns; ++col) {
         json.key(table.columnNames[col]);
-        writeValue(json, size[col]);
+        json.text(size[col]);
     }
     json.endObject();
     if (const auto mass = sectionMass(table, row)) {
         json.key("mass");
-        json.number(*mass);
+        json.number(asShown(*mass));
     }
+}
+
+void writeCalculated(JsonWriter& json, const Vor_ProfValuesTable& table, int row) {
+    const auto figures = SectionFigures::of(table, row);
+    json.key("calculated");
+    json.beginObject();
+    if (figures)
+        for (const std::string_view column : figures->catalogueColumns()) {
+            json.key(column);
+            json.number(asShown(*figures->valueOf(column)));
+        }
+    json.endObject();
 }
 
 std::string tableAsJson(const Vor_ProfValuesTable& table) {

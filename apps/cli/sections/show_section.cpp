@@ -10,6 +10,7 @@
 #include "sections/column_names.h"
 #include "sections/section_area.h"
 #include "sections/section_commands.h"
+#include "sections/section_figures.h"
 #include "sections/section_json.h"
 #include "sections/section_names.h"
 #include "sections/section_types.h"
@@ -62,6 +63,18 @@ std::string tableAsText(const Table& table) {
     return text;
 }
 
+/// What follows from the shape, whatever the table says.
+std::string calculatedAsText(const Table& table, int row) {
+    const auto figures = SectionFigures::of(table, row);
+    if (!figures) return "";
+    TextTable lines;
+    for (const std::string_view column : figures->catalogueColumns())
+        lines.add({std::string(column), numberText(*figures->valueOf(column))});
+    std::string text = "calculated from the values\n";
+    lines.append(text, "  ", false);
+    return text;
+}
+
 std::string sizeAsText(const Table& table, int row) {
     const Vor_StringArray& size = table.rows[row];
     TextTable lines;
@@ -69,12 +82,10 @@ std::string sizeAsText(const Table& table, int row) {
     lines.add({"in use", isInactive(size) ? "no" : "yes"});
     for (int col = Table::firstNameColumn; col < table.columnNames.length(); ++col)
         lines.add({encodings::toUtf8(table.columnNames[col]), cellText(size, col)});
-    if (const auto area = sectionArea(table, row))
-        lines.add({"area from the values, cm2", numberText(*area / mm2PerCm2)});
     if (const auto mass = sectionMass(table, row)) lines.add({"mass, kg/m", numberText(*mass)});
     std::string text = fullName(table, size) + "\n";
     lines.append(text, "  ", false);
-    return text;
+    return text + calculatedAsText(table, row);
 }
 
 std::string sizeAsJson(const Table& table, int row) {
@@ -83,6 +94,7 @@ std::string sizeAsJson(const Table& table, int row) {
     json.beginObject();
     writeTableHead(json, table);
     writeSize(json, table, row);
+    writeCalculated(json, table, row);
     json.endObject();
     return text + "\n";
 }

@@ -7,6 +7,7 @@
 #include "core_api/record_reader.h"
 #include "core_api/text/number_text.h"
 #include "core_api/text/text_helpers.h"
+#include "io/texts.h"
 #include "io/typed_paths.h"
 #include "platform/files.h"
 #include "sections/section_area.h"
@@ -22,6 +23,11 @@ using Fields = std::vector<std::string_view>;
 std::optional<double> numberIn(std::string_view text) {
     const auto number = takeNumber(text);
     return text.empty() ? number : std::nullopt;
+}
+
+/// Calculated figures are compared as they are shown.
+std::optional<double> shown(std::optional<double> calculated) {
+    return calculated ? std::optional(asShown(*calculated)) : std::nullopt;
 }
 
 /// The two records before the sizes. False when they are not there.
@@ -93,9 +99,9 @@ void TableSearch::bindAll(const ColumnNames& columns) {
 std::optional<double> TableSearch::valueOf(const Wanted& wanted, const Size& size) const {
     switch (wanted.special) {
         case Special::mass:
-            return sectionMass(size.table.drawnAs, size.columns, size.values());
+            return shown(sectionMass(size.table.drawnAs, size.columns, size.values()));
         case Special::area:
-            return size.areaInCm2();
+            return shown(size.areaInCm2());
         case Special::type:
             return sectionTypeNumber(size.table.drawnAs);
         default:
