@@ -103,6 +103,43 @@ TEST_F(SectionTables, RegisteredTablesOfFilesGoWithTheirLibrary) {
     gSectionTables.removeTable(index);
 }
 
+// Of two tables with one name the one that a host registered counts, wherever both stand; those of
+// files keep the alphabet.
+TEST_F(SectionTables, StandInOneOrderWhoeverBroughtThem) {
+    const Vor_StringArray header{"SysName", "English", "Dutch", "German", "French", "h"};
+    const auto rowsOf = [](const char* h) {
+        return Vor_Array<Vor_StringArray>{{"200", "", "", "", "", h}};
+    };
+    for (const char* name : {"AA", "KA", "ZZ"})
+        folder.write("Prof/" + std::string(name) + ".pr",
+                     "9\nSysName\tI/O\tE\tD\tG\tF\th\n200\t1\t\t\t\t\t1\n");
+    gSectionTables.reload();
+    EXPECT_EQ(arrToStr(gSectionTables.tableNames(), " ").str(), "AA IPE KA RHS ZZ");
+    for (const char* name : {"KA", "AA", "zz", "RHS"}) {
+        int index = -1;
+        ASSERT_TRUE(gSectionTables.hasTable(name, index));
+        gSectionTables.removeTable(index);
+        ASSERT_EQ(
+            gSectionTables.addSectionTable(Vor_String(name) + ".pr", "1", header, rowsOf("2")),
+            Acad::eOk);
+        EXPECT_EQ(gSectionTables.tableNames()[index].str(), name);
+    }
+    ASSERT_EQ(gSectionTables.addSectionTable("HOST.pr", "1", header, rowsOf("3")), Acad::eOk);
+    const TemporaryFolder other;
+    other.write("prof/HOST.pr", "9\nSysName\tI/O\tE\tD\tG\tF\th\n200\t1\t\t\t\t\t4\n");
+    gSettings.setLibDir(other.inside());
+    Vor_String text;
+    ASSERT_EQ(getSectionValue("host-200", 0, text), Acad::eOk);
+    EXPECT_EQ(text.str(), "3");
+    EXPECT_EQ(arrToStr(gSectionTables.tableNames(), " ").str(), "HOST HOST");
+    int index = -1;
+    ASSERT_TRUE(gSectionTables.hasTable("HOST", index));
+    EXPECT_EQ(index, 1);
+    gSectionTables.removeTable(index);
+    ASSERT_EQ(getSectionValue("host-200", 0, text), Acad::eOk);
+    EXPECT_EQ(text.str(), "4");
+}
+
 TEST_F(SectionTables, FollowTheLibraryAndTellOfDamageOnce) {
     const TemporaryFolder other;
     other.write("prof/BAD.pr", "1\nSysName\t\\x\n");
