@@ -1,11 +1,12 @@
-// Standards runs: 8 inputs, 12 outputs, 20 locals, 120 equations, document reloaded by every run.
-// The floor is the same computation as a C++ function that writes each result as a text and reads
-// it back. Before anything is timed, both have to give the same results.
-#include <cctype>
+// Standards runs of 8 inputs, 12 outputs and 120 equations, document reloaded by every run: one
+// that mostly calculates numbers, and one of which half the results are texts. The floor is the
+// same computation as a C++ function that writes each number as a text and reads it back. Before
+// anything is timed, both have to give the same results.
 #include <cstdlib>
 #include <thread>
 
 #include "bench/claim.h"
+#include "bench/marking_standard.h"
 #include "bench/typical_standard.h"
 #include "core_api/macros/macro_data.h"
 #include "core_api/settings.h"
@@ -16,12 +17,13 @@
 namespace {
 
 constexpr std::array<double, typical::blocks> ks{1.5, 2.25, 3};
+constexpr std::array<double, marking::blocks> markingKs{1.5, 2, 2.5, 3, 3.5, 4};
 
-TwDlgStandardsData request(const std::string& path) {
+TwDlgStandardsData request(const std::string& path, TwVarCells variables) {
     TwDlgStandardsData data;
     data.mode = TwDlgStandardsData::Mode::variables;
     data.standardsName = path;
-    data.varCells = typical::variables();
+    data.varCells = std::move(variables);
     return data;
 }
 
@@ -39,8 +41,56 @@ void floorRun() {
     bench::DoNotOptimize(results);
 }
 
+void markingFloor() {
+    marking::Inputs inputs;
+    marking::Results results;
+    bench::DoNotOptimize(inputs);
+    marking::handWritten(inputs, markingKs, results);
+    bench::DoNotOptimize(results);
+}
+
+struct Wanted {
+    const char* name;
+    std::string text;  ///< of a String, else empty
+    double number = 0;
+};
+
+std::vector<Wanted> wantedOfTypical() {
+    typical::Results r;
+    typical::handWritten({}, ks, r);
+    return {{"Mark", r.Mark},
+            {"BoltCount", {}, r.BoltCount},
+            {"PlateWidth", {}, r.PlateWidth},
+            {"PlateLength", {}, r.PlateLength},
+            {"PlateThickness", {}, r.PlateThickness},
+            {"Pitch", {}, r.Pitch},
+            {"EdgeEnd", {}, r.EdgeEnd},
+            {"EdgeSide", {}, r.EdgeSide},
+            {"Weld", {}, r.Weld},
+            {"Gap", {}, r.Gap},
+            {"Use", {}, r.Use},
+            {"Cope", {}, r.Cope}};
+}
+
+std::vector<Wanted> wantedOfMarking() {
+    marking::Results r;
+    marking::handWritten({}, markingKs, r);
+    return {{"Mark", r.Mark},
+            {"Remark", r.Remark},
+            {"BoltName", r.BoltName},
+            {"Profile", r.Profile},
+            {"WeldNote", r.WeldNote},
+            {"Class", r.Class},
+            {"BoltCount", {}, r.BoltCount},
+            {"Plate", {}, r.Plate},
+            {"Gap", {}, r.Gap},
+            {"Weld", {}, r.Weld},
+            {"Use", {}, r.Use},
+            {"Edge", {}, r.Edge}};
+}
+
 /// Every equation ran, and both sides agree.
-bool giveTheSame(TwDlgStandardsData data) {
+bool giveTheSame(TwDlgStandardsData data, const std::vector<Wanted>& wanted) {
     struct Failures : RunObserver {
         void equationDone(const EquationReport& report) override {
             if (report.ok && !report.value.starts_with('#')) return;
@@ -53,22 +103,31 @@ bool giveTheSame(TwDlgStandardsData data) {
     setRunObserver(&failures);
     run(data);
     setRunObserver(nullptr);
-    typical::Results wanted;
-    typical::handWritten({}, ks, wanted);
-    const double numbers[] = {
-        wanted.BoltCount, wanted.PlateWidth, wanted.PlateLength, wanted.PlateThickness,
-        wanted.Pitch,     wanted.EdgeEnd,    wanted.EdgeSide,    wanted.Weld,
-        wanted.Gap,       wanted.Use,        wanted.Cope};
-    bool same = failures.count == 0 && data.varCells[8].value() == Vor_String(wanted.Mark);
-    for (size_t i = 0; i < std::size(numbers); ++i) {
-        const TwVarCell& cell = data.varCells[9 + static_cast<int>(i)];
-        const double got = textToDouble(cell.value());
-        if (std::fabs(got - numbers[i]) <= 1e-6 * (1 + std::fabs(numbers[i]))) continue;
-        std::printf("%s is %s instead of %.7f\n", cell.name().c_str(), cell.value().c_str(),
-                    numbers[i]);
+    bool same = failures.count == 0;
+    for (const Wanted& one : wanted) {
+        int index = 0;
+        if (data.varCells.findVarCell(Vor_String(one.name), index) != Acad::eOk) return false;
+        const Vor_String& got = data.varCells[index].value();
+        const bool isNear =
+            std::fabs(textToDouble(got) - one.number) <= 1e-6 * (1 + std::fabs(one.number));
+        if (one.text.empty() ? isNear : got == Vor_String(one.text)) continue;
+        std::printf("%s is \"%s\" instead of \"%s\" or %.7f\n", one.name, got.c_str(),
+                    one.text.c_str(), one.number);
         same = false;
     }
     return same;
+}
+
+bool repeatedRuns(const char* work, TwDlgStandardsData& data, void (*floor)()) {
+    constexpr int runs = 200;
+    return bench::compare(
+        {work, runs, "runs", 25'000, 80'000, 1, 1 / 1.5},
+        [&] {
+            for (int i = 0; i < runs; ++i) run(data);
+        },
+        [&] {
+            for (int i = 0; i < runs; ++i) floor();
+        });
 }
 
 /// Documents that were never seen before, no two with an equation in common.
@@ -84,9 +143,9 @@ bool firstLoads(const TemporaryFolder& folder) {
     }
     std::this_thread::sleep_for(std::chrono::milliseconds(100));
     size_t next = 0;
-    TwDlgStandardsData data = request({});
+    TwDlgStandardsData data = request({}, typical::variables());
     return bench::compare(
-        {"first load of a document and one run", perTurn, "runs", 8'000, 20'000},
+        {"first load of a document and one run", perTurn, "runs", 10'000, 16'000},
         [&] {
             for (int i = 0; i < perTurn; ++i) {
                 data.standardsName = paths.at(next++);
@@ -138,19 +197,15 @@ bool runsOnAMacro(const TemporaryFolder& folder, const std::string& document) {
 int main() {
     TemporaryFolder folder;
     const std::string document = typical::document(typical::equations({"1.5", "2.25", "3"}));
-    const std::string path = folder.write("typical.tws", document);
+    TwDlgStandardsData data = request(folder.write("typical.tws", document), typical::variables());
+    TwDlgStandardsData texts = request(
+        folder.write("marking.tws",
+                     marking::document(marking::equations({"1.5", "2", "2.5", "3", "3.5", "4"}))),
+        marking::variables());
     std::this_thread::sleep_for(std::chrono::milliseconds(100));
-    TwDlgStandardsData data = request(path);
-    if (!giveTheSame(data)) return 1;
-    constexpr int runs = 200;
-    bool isGood = bench::compare(
-        {"standards run, document unchanged", runs, "runs", 25'000, 80'000, 4, 1.25},
-        [&] {
-            for (int i = 0; i < runs; ++i) run(data);
-        },
-        [] {
-            for (int i = 0; i < runs; ++i) floorRun();
-        });
+    if (!giveTheSame(data, wantedOfTypical()) || !giveTheSame(texts, wantedOfMarking())) return 1;
+    bool isGood = repeatedRuns("standards run, document unchanged", data, floorRun);
+    isGood &= repeatedRuns("standards run, half of it texts", texts, markingFloor);
     isGood &= firstLoads(folder);
     isGood &= runsOnAMacro(folder, document);
     return isGood ? 0 : 1;
