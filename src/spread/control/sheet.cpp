@@ -47,6 +47,7 @@ Sheet& Sheet::operator=(const Sheet& other) {
     m_changed = other.m_changed;
     m_custom = other.m_custom;
     m_customNames = other.m_customNames;
+    m_customReplaces = other.m_customReplaces;
     m_style = other.m_style;
     m_liveFormulas = other.m_liveFormulas;
     m_automatic = other.m_automatic;
@@ -135,6 +136,8 @@ ParseSettings Sheet::parseSettings(int col, int row) const {
     settings.hostCol = col;
     settings.hostRow = row;
     settings.style = m_style;
+    if (m_custom.empty()) return settings;
+    settings.customReplaces = m_customReplaces;
     settings.registry = this;
     settings.findCustom = [](const void* sheet, std::string_view name) {
         return static_cast<const Sheet*>(sheet)->customFunction(name);
@@ -265,6 +268,7 @@ void Sheet::setReferenceStyle(ReferenceStyle style) {
 }
 
 void Sheet::addCustomFunction(const formula::CustomFunction* function) {
+    m_customReplaces |= formula::findFunction(function->name) != nullptr;
     const int known = m_customNames.add(function->name, static_cast<int>(m_custom.size()));
     if (known < 0)
         m_custom.push_back(function);
@@ -292,8 +296,8 @@ void Sheet::compileUnknown() {
     });
 }
 
-const formula::CustomFunction* Sheet::customFunction(std::string_view upperName) const {
-    const int index = m_customNames.find(upperName);
+const formula::CustomFunction* Sheet::customFunction(std::string_view name) const {
+    const int index = m_customNames.find(name);
     return index < 0 ? nullptr : m_custom[static_cast<size_t>(index)];
 }
 

@@ -98,7 +98,7 @@ class Sheet {
     /// Registers a function for formulas set from now on, and for loaded ones that lacked it:
     /// those become dirty.
     void addCustomFunction(const formula::CustomFunction* function);
-    const formula::CustomFunction* customFunction(std::string_view upperName) const;
+    const formula::CustomFunction* customFunction(std::string_view name) const;
     formula::ParseSettings parseSettings(int col, int row) const;
 
     /// Follows every change at once when on; going on brings everything up to date.
@@ -196,6 +196,7 @@ class Sheet {
     bool m_automatic = false;
     bool m_orderBroken = false;
     bool m_recordsOrder = false;
+    bool m_customReplaces = false;  // a registered function has the name of one of ours
 };
 
 }  // namespace control

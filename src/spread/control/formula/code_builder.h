@@ -1,8 +1,9 @@
 // Collects the instructions of a program that is being parsed, and keeps account of the stack they
-// will need.
+// will need. There is one at a time.
 #pragma once
 
 #include <algorithm>
+#include <cassert>
 #include <cstdint>
 #include <memory>
 #include <span>
@@ -23,10 +24,12 @@ enum class Kind {
 template <class T>
 class Scratch {
   public:
-    T& add(const T& item) {
+    void add(const T& item) { room() = item; }
+    /// A further item, to be written.
+    T& room() {
         if (m_size == m_room) [[unlikely]]
             grow();
-        return m_items[m_size++] = item;
+        return m_items[m_size++];
     }
     T& operator[](size_t index) { return m_items[index]; }
     T& back() { return m_items[m_size - 1]; }
@@ -49,13 +52,12 @@ class Scratch {
 
 class CodeBuilder {
   public:
-    CodeBuilder() { swapWithSpare(); }
+    CodeBuilder() { assert(m_code.size() == 0 && m_constants.size() == 0); }
     CodeBuilder(const CodeBuilder&) = delete;
     CodeBuilder& operator=(const CodeBuilder&) = delete;
     ~CodeBuilder() {
         releaseTexts(m_code.items(), m_constants.items());
         forgetCode();
-        swapWithSpare();
     }
 
     /// Whether areas stay areas: inside an argument that takes arrays, or an array formula.
@@ -65,10 +67,13 @@ class CodeBuilder {
     /// `depthChange`: how many values more there are on the stack afterwards.
     Instruction& emit(Op op, int depthChange) {
         adjustDepth(depthChange);
-        Instruction i;
+        // Written where it stays: it could not be copied before its parts have reached the cache.
+        Instruction& i = m_code.room();
         i.op = op;
         i.flags = inArray ? Instruction::inArray : 0;
-        return m_code.add(i);
+        i.b = 0;
+        i.a = 0;
+        return i;
     }
     /// An instruction about a constant; owns it when it is a text.
     Instruction& emit(Op op, int depthChange, Constant constant) {
@@ -109,20 +114,19 @@ class CodeBuilder {
     }
 
   private:
-    /// The memory that the formula before used; thousands are parsed one after another.
-    void swapWithSpare() {
-        static Scratch<Instruction> spareCode;
-        static Scratch<Constant> spareConstants;
-        std::swap(m_code, spareCode);
-        std::swap(m_constants, spareConstants);
+    /// The memory that the formula before used: thousands are parsed, one after another.
+    template <class T>
+    static Scratch<T>& memory() {
+        static Scratch<T> instance;
+        return instance;
     }
     void forgetCode() {
         m_code.clear();
         m_constants.clear();
     }
 
-    Scratch<Instruction> m_code;
-    Scratch<Constant> m_constants;
+    Scratch<Instruction>& m_code = memory<Instruction>();
+    Scratch<Constant>& m_constants = memory<Constant>();
     int m_depth = 0;
     int m_maxDepth = 0;
 };

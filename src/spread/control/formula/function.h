@@ -57,7 +57,7 @@ std::span<const FunctionSpec> informationFunctions();  // ISNUMBER, TYPE, NA, �
 std::span<const FunctionSpec> dateFunctions();         // DATE, EDATE, WORKDAY, …
 std::span<const FunctionSpec> engineeringFunctions();  // CONVERT, BIN2DEC, BITAND, …
 
-/// The row of `name` (upper case), or null.
+/// The row of `name`, letter case aside, or null.
 const FunctionSpec* findFunction(std::string_view name);
 /// Every function, by family in the order above; for help and the manual.
 std::span<const FunctionSpec* const> allFunctions();

@@ -18,6 +18,7 @@ constexpr std::array<uint8_t, 256> makeClasses() {
     // Letters of Windows-1252 may stand in names.
     for (int c = 0xC0; c <= 0xFF; ++c) classes[static_cast<size_t>(c)] = 4;
     classes[0xD7] = classes[0xF7] = 0;
+    classes['('] = classes['!'] = 64;
     for (const char c : std::string_view(" \t\n\r\xA0"))
         classes[static_cast<unsigned char>(c)] = 32;
     return classes;
@@ -59,10 +60,10 @@ constexpr double powersOfTen[] = {1,   1e1, 1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
                                   1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};
 
 bool isLetter(char c) {
-    return classOf(c) == 1;
+    return static_cast<unsigned char>((c | 0x20) - 'a') < 26;
 }
 bool isDigit(char c) {
-    return classOf(c) == 2;
+    return static_cast<unsigned char>(c - '0') < 10;
 }
 bool startsName(char c) {
     return (classOf(c) & 5) != 0;
@@ -74,6 +75,10 @@ bool isInName(char c) {
 bool isInWord(char c) {
     return (classOf(c) & (1 | 2 | 16)) != 0;
 }
+/// What stands behind "A1" when that is no reference.
+bool continuesReference(char c) {
+    return (classOf(c) & (1 | 2 | 4 | 8 | 64)) != 0;
+}
 bool isBlank(char c) {
     return classOf(c) == 32;
 }
@@ -81,84 +86,242 @@ char upper(char c) {
     return c >= 'a' && c <= 'z' ? static_cast<char>(c - 32) : c;
 }
 
-}  // namespace
+template <class Place>
+void finish(Token& token, TokenKind kind, const Place& start, const Place& end) {
+    token.kind = kind;
+    token.length = static_cast<size_t>(end - start);
+}
 
-inline bool Lexer::takeSymbol(Token& token, char c) {
-    const Symbol symbol = symbolOf(c);
-    if (symbol == Symbol::none) return false;
+template <class Place>
+bool finishReference(Token& token, const Place& start, const Place& end) {
+    if (continuesReference(end.here())) return false;
+    finish(token, TokenKind::reference, start, end);
+    return true;
+}
+
+template <class Place>
+bool takeName(Token& token, const Place& start) {
+    if (!startsName(start.here())) return false;
+    Place end = start.plus(1);
+    while (isInName(end.here())) ++end.at;
+    finish(token, TokenKind::name, start, end);
+    return true;
+}
+
+/// The pairs are told by their second character.
+template <class Place>
+void finishSymbol(Token& token, const Place& start) {
     token.kind = TokenKind::symbol;
-    token.symbol = symbol;
     token.length = 1;
-    if (c != '<' && c != '>') return true;
-    const char second = at(m_position + 1);
+    const char c = *start.at;
+    if (c != '<' && c != '>') return;
+    const char second = start.after();
     const bool isPair = second == '=' || (c == '<' && second == '>');
-    if (!isPair) return true;
+    if (!isPair) return;
     token.length = 2;
     token.symbol = second == '>' ? Symbol::notEqual
                    : c == '<'    ? Symbol::lessEqual
                                  : Symbol::greaterEqual;
+}
+
+template <class Place>
+bool takeNumber(Token& token, const Place& start) {
+    Place end = start;
+    uint64_t digits = 0;  // of the number without its point
+    const auto takeDigits = [&] {
+        const Place first = end;
+        for (; isDigit(end.here()); ++end.at)
+            digits = digits * 10 + static_cast<uint64_t>(*end.at - '0');
+        return static_cast<size_t>(end - first);
+    };
+    size_t places = 0;
+    takeDigits();
+    if (end.here() == '.') {
+        ++end.at;
+        places = takeDigits();
+    }
+    if (end - start == 1 && *start.at == '.') return false;
+    finish(token, TokenKind::number, start, end);
+    // Fifteen digits and a power of ten are exact as doubles: one division rounds correctly.
+    const bool hasExponent = upper(end.here()) == 'E';
+    if (token.length <= 16 && !hasExponent) {
+        token.number = static_cast<double>(digits);
+        if (places != 0) token.number /= powersOfTen[places];
+        return true;
+    }
+    if (hasExponent) {
+        Place exponent = end.plus(1);
+        if (exponent.here() == '+' || exponent.here() == '-') ++exponent.at;
+        if (isDigit(exponent.here()))
+            for (end = exponent; isDigit(end.here());) ++end.at;
+    }
+    const auto [stop, failure] = std::from_chars(start.at, end.at, token.number);
+    if (failure == std::errc::result_out_of_range) return false;
+    token.length = static_cast<size_t>(end - start);
+    return stop == end.at;
+}
+
+template <class Place>
+bool takeText(Token& token, const Place& start) {
+    Place end = start.plus(1);
+    while (end.at != end.end) {
+        if (*end.at != '"') {
+            ++end.at;
+        } else if (end.after() == '"') {
+            end.at += 2;
+        } else {
+            finish(token, TokenKind::text, start, end.plus(1));
+            return true;
+        }
+    }
+    return false;
+}
+
+template <class Place>
+bool takeError(Token& token, const Place& start) {
+    Place end = start.plus(1);
+    const auto isInside = [](char c) { return isLetter(c) || isDigit(c) || c == '/' || c == '_'; };
+    while (isInside(end.here())) ++end.at;
+    if (end.here() == '!' || end.here() == '?') ++end.at;
+    const auto code = errorFromText({start.at, static_cast<size_t>(end - start)});
+    if (!code) return false;
+    token.error = *code;
+    finish(token, TokenKind::error, start, end);
     return true;
 }
 
+/// Half of a corner in A1 notation; the number is 0 when there is none.
+struct Part {
+    int number;
+    bool isRelative;
+};
+
+/// Moves `place` past a column ("$AB"), or anywhere when there is none.
+template <class Place>
+Part takeColumn(Place& place) {
+    const bool isRelative = place.here() != '$';
+    if (!isRelative) ++place.at;
+    const Place start = place;
+    int col = 0;
+    while (isLetter(place.here()) && place - start < 4)
+        col = col * 26 + (upper(*place.at++) - 'A' + 1);
+    return {col <= maxCols ? col : 0, isRelative};
+}
+
+/// The same for a row.
+template <class Place>
+Part takeRow(Place& place) {
+    const bool isRelative = place.here() != '$';
+    if (!isRelative) ++place.at;
+    const Place start = place;
+    int row = 0;
+    while (isDigit(place.here()) && place - start < 8) row = row * 10 + (*place.at++ - '0');
+    return {row <= maxRows ? row : 0, isRelative};
+}
+
+// Field by field: copying a whole corner right after its parts were written would wait for them to
+// reach the cache.
+void setCorner(Corner& corner, Part col, Part row) {
+    corner.row = row.number;
+    corner.col = col.number;
+    corner.rowRelative = row.isRelative;
+    corner.colRelative = col.isRelative;
+}
+
+constexpr Part everyOne{0, true};
+
+/// After an R or C: nothing (distance 0), a number, or a distance in brackets.
+template <class Place>
+void takeDistance(Place& place, int& value, bool& relative) {
+    const Place start = place;
+    const bool inBrackets = place.here() == '[';
+    if (inBrackets) ++place.at;
+    const Place number = place;
+    if (inBrackets && place.here() == '-') ++place.at;
+    while (isDigit(place.here()) && place - number < 9) ++place.at;
+    relative = inBrackets || place - number == 0;
+    value = 0;
+    if (place - number != 0) std::from_chars(number.at, place.at, value);
+    if (!inBrackets) return;
+    if (place.here() == ']')
+        ++place.at;
+    else
+        place = start;
+}
+
+}  // namespace
+
+// Half of all tokens are symbols: they are told by one look into a table, all else in a function of
+// its own.
 void Lexer::next(Token& token) {
-    size_t position = m_position;
-    while (position < m_text.size() && isBlank(m_text[position])) ++position;
-    m_position = token.position = position;
-    if (position == m_text.size()) {
-        token.symbol = Symbol::none;
+    const char* const at = m_next;
+    const Symbol symbol = at == m_end ? Symbol::none : symbolOf(*at);
+    token.symbol = symbol;
+    if (symbol == Symbol::none) return takeOther(token, at);
+    token.position = static_cast<size_t>(at - m_start);
+    finishSymbol(token, Place{at, m_end});
+    m_next = at + token.length;
+}
+
+void Lexer::takeOther(Token& token, const char* at) {
+    if (at != m_end && isBlank(*at)) {
+        while (at != m_end && isBlank(*at)) ++at;
+        m_next = at;
+        return next(token);
+    }
+    token.position = static_cast<size_t>(at - m_start);
+    if (at == m_end) {
         token.kind = TokenKind::end;
         token.length = 0;
         return;
     }
-    const char c = m_text[position];
-    if (!takeSymbol(token, c)) {
-        token.symbol = Symbol::none;
-        if (!(m_names ? takeAmongNames(token, c) : take(token))) {
-            token.kind = TokenKind::invalid;
-            token.length = 1;
-        }
+    if (!(m_names ? takeAmongNames(token, at) : take(token, at))) {
+        token.kind = TokenKind::invalid;
+        token.length = 1;
     }
-    m_position = position + token.length;
+    m_next = at + token.length;
 }
 
-bool Lexer::take(Token& token) {
-    const char c = m_text[m_position];
-    if (isLetter(c) || c == '$') return takeReference(token) || takeName(token);
+inline bool Lexer::take(Token& token, const char* at) const {
+    const char c = *at;
+    const Place start{at, m_end};
+    if (isLetter(c) || c == '$') return takeReference(token, start) || takeName(token, start);
     if (isDigit(c)) {
-        const bool isNumber = takeNumber(token);
-        if (isNumber && at(m_position + token.length) != ':') return true;
-        return takeReference(token) || isNumber;  // whole rows: "1:3"
+        const bool isNumber = takeNumber(token, start);
+        if (isNumber && start.plus(static_cast<ptrdiff_t>(token.length)).here() != ':') return true;
+        return takeReference(token, start) || isNumber;  // whole rows: "1:3"
     }
-    if (c == '.') return takeNumber(token);
-    if (c == '"') return takeText(token);
-    if (c == '#') return takeError(token);
-    return takeName(token);
+    if (c == '.') return takeNumber(token, start);
+    if (c == '"') return takeText(token, start);
+    if (c == '#') return takeError(token, start);
+    return takeName(token, start);
 }
 
 /// Names count wherever their word stands, be it in a text, in "#N/A" or behind the point of a
 /// number. Only words that are whole tokens are looked up here.
-inline bool Lexer::takeAmongNames(Token& token, char c) {
-    if (isLetter(c) || c == '_') return takeWord(token);
+inline bool Lexer::takeAmongNames(Token& token, const char* at) const {
+    const char c = *at;
+    if (isLetter(c) || c == '_') return takeWord(token, at);
     if (startsName(c) || c == '$' || c == '#') return false;
-    return take(token) && !holdsName(textOf(token));
+    return take(token, at) && !holdsName(textOf(token));
 }
 
-bool Lexer::takeWord(Token& token) {
-    size_t end = m_position + 1;
-    while (isInWord(at(end))) ++end;
-    if (isInName(at(end))) return false;  // a longer name with a word of its own inside
-    token.length = end - m_position;
-    const bool mayBeName = m_names->mayStartWith(m_text[m_position]);
+inline bool Lexer::takeWord(Token& token, const char* at) const {
+    const Place start{at, m_end};
+    Place end = start.plus(1);
+    while (isInWord(end.here())) ++end.at;
+    if (isInName(end.here())) return false;  // a longer name with a word of its own inside
+    finish(token, TokenKind::name, start, end);
+    const bool mayBeName = m_names->mayStartWith(*at);
     const control::CellAddress* cell = mayBeName ? m_names->cellOf(textOf(token)) : nullptr;
     if (cell) {
-        token.reference.first = {cell->row, cell->col, true, true};
-        token.reference.last = token.reference.first;
+        for (Corner* corner : {&token.reference.first, &token.reference.last})
+            setCorner(*corner, {cell->col, true}, {cell->row, true});
         token.reference.wholeCols = token.reference.wholeRows = false;
-        return finishReference(token, end);
+        return finishReference(token, start, end);
     }
-    token.kind = TokenKind::name;
-    if (at(end) == '(') return true;
-    return take(token) && token.length == end - m_position;
+    if (end.here() == '(') return true;
+    return take(token, at) && token.length == static_cast<size_t>(end - start);
 }
 
 bool Lexer::holdsName(std::string_view text) const {
@@ -173,167 +336,62 @@ bool Lexer::holdsName(std::string_view text) const {
     return false;
 }
 
-bool Lexer::takeNumber(Token& token) {
-    size_t end = m_position;
-    uint64_t digits = 0;  // of the number without its point
-    size_t places = 0;
-    const auto takeDigits = [&] {
-        const size_t start = end;
-        for (; isDigit(at(end)); ++end)
-            digits = digits * 10 + static_cast<uint64_t>(m_text[end] - '0');
-        return end - start;
-    };
-    takeDigits();
-    if (at(end) == '.') {
-        ++end;
-        places = takeDigits();
-    }
-    if (end == m_position + 1 && m_text[m_position] == '.') return false;
-    token.kind = TokenKind::number;
-    token.length = end - m_position;
-    // Fifteen digits and a power of ten are exact as doubles: one division rounds correctly.
-    if (token.length <= 16 && upper(at(end)) != 'E') {
-        token.number = static_cast<double>(digits) / powersOfTen[places];
-        return true;
-    }
-    if (upper(at(end)) == 'E') {
-        size_t exponent = end + 1;
-        if (at(exponent) == '+' || at(exponent) == '-') ++exponent;
-        if (isDigit(at(exponent)))
-            for (end = exponent; isDigit(at(end));) ++end;
-    }
-    const char* first = m_text.data() + m_position;
-    const auto [stop, failure] = std::from_chars(first, m_text.data() + end, token.number);
-    if (failure == std::errc::result_out_of_range) return false;
-    token.length = end - m_position;
-    return stop == m_text.data() + end;
+inline bool Lexer::takeReference(Token& token, Place start) const {
+    return m_style == ReferenceStyle::a1 ? takeA1(token, start) : takeR1C1(token, start);
 }
 
-bool Lexer::takeText(Token& token) {
-    size_t end = m_position + 1;
-    while (end < m_text.size()) {
-        if (m_text[end] != '"') {
-            ++end;
-        } else if (at(end + 1) == '"') {
-            end += 2;
-        } else {
-            token.kind = TokenKind::text;
-            token.length = end + 1 - m_position;
-            return true;
-        }
-    }
-    return false;
-}
-
-bool Lexer::takeError(Token& token) {
-    size_t end = m_position + 1;
-    while (isLetter(at(end)) || isDigit(at(end)) || at(end) == '/' || at(end) == '_') ++end;
-    if (at(end) == '!' || at(end) == '?') ++end;
-    const auto code = errorFromText(m_text.substr(m_position, end - m_position));
-    if (!code) return false;
-    token.kind = TokenKind::error;
-    token.error = *code;
-    token.length = end - m_position;
-    return true;
-}
-
-// The column at `position` ("$AB"), its end; 0 when there is none.
-size_t Lexer::columnAt(size_t position, Corner& corner) const {
-    corner.col = 0;
-    corner.colRelative = at(position) != '$';
-    if (!corner.colRelative) ++position;
-    const size_t start = position;
-    int col = 0;
-    while (isLetter(at(position)) && position - start < 4)
-        col = col * 26 + (upper(m_text[position++]) - 'A' + 1);
-    if (position == start || col > maxCols) return 0;
-    corner.col = col;
-    return position;
-}
-
-size_t Lexer::rowAt(size_t position, Corner& corner) const {
-    corner.row = 0;
-    corner.rowRelative = at(position) != '$';
-    if (!corner.rowRelative) ++position;
-    const size_t start = position;
-    int row = 0;
-    while (isDigit(at(position)) && position - start < 8)
-        row = row * 10 + (m_text[position++] - '0');
-    if (position == start || row < 1 || row > maxRows) return 0;
-    corner.row = row;
-    return position;
-}
-
-bool Lexer::finishReference(Token& token, size_t end) {
-    if (isInName(at(end)) || at(end) == '(' || at(end) == '!') return false;
-    token.kind = TokenKind::reference;
-    token.length = end - m_position;
-    return true;
-}
-
-bool Lexer::takeReference(Token& token) {
-    if (m_style == ReferenceStyle::r1c1) return takeR1C1(token);
+inline bool Lexer::takeA1(Token& token, Place start) {
+    Place end = start;
+    const Part col = takeColumn(end);
+    if (col.number == 0) return takeRows(token, start);
+    const Place afterCol = end;
+    const Part row = takeRow(end);
     ReferenceToken& reference = token.reference;
-    reference.wholeCols = reference.wholeRows = false;
-    const size_t afterCol = columnAt(m_position, reference.first);
-    if (afterCol != 0) {
-        const size_t afterRow = rowAt(afterCol, reference.first);
-        if (afterRow != 0) {
-            reference.last = reference.first;
-            return finishReference(token, afterRow);
-        }
-        if (at(afterCol) != ':') return false;
-        reference.last = reference.first;
-        const size_t end = columnAt(afterCol + 1, reference.last);
-        reference.wholeCols = end != 0;
-        return end != 0 && finishReference(token, end);
+    reference.wholeCols = row.number == 0;
+    reference.wholeRows = false;
+    if (row.number != 0) {
+        setCorner(reference.first, col, row);
+        setCorner(reference.last, col, row);
+        return finishReference(token, start, end);
     }
-    const size_t afterRow = rowAt(m_position, reference.first);
-    if (afterRow == 0 || at(afterRow) != ':') return false;
-    reference.last = reference.first;
-    const size_t end = rowAt(afterRow + 1, reference.last);
-    reference.wholeRows = end != 0;
-    return end != 0 && finishReference(token, end);
+    if (afterCol.here() != ':') return false;
+    end = afterCol.plus(1);
+    const Part lastCol = takeColumn(end);
+    setCorner(reference.first, col, everyOne);
+    setCorner(reference.last, lastCol, everyOne);
+    return lastCol.number != 0 && finishReference(token, start, end);
 }
 
-// After an R or C: nothing (distance 0), a number, or a distance in brackets.
-size_t Lexer::distanceAt(size_t position, int& value, bool& relative) const {
-    const bool inBrackets = at(position) == '[';
-    size_t start = position + (inBrackets ? 1 : 0);
-    size_t end = start;
-    if (inBrackets && at(end) == '-') ++end;
-    while (isDigit(at(end)) && end - start < 9) ++end;
-    relative = inBrackets || end == start;
-    value = 0;
-    if (end != start) std::from_chars(m_text.data() + start, m_text.data() + end, value);
-    if (!inBrackets) return end;
-    return at(end) == ']' ? end + 1 : position;
+bool Lexer::takeRows(Token& token, Place start) {
+    Place end = start;
+    const Part row = takeRow(end);
+    if (row.number == 0 || end.here() != ':') return false;
+    ++end.at;
+    const Part lastRow = takeRow(end);
+    ReferenceToken& reference = token.reference;
+    reference.wholeCols = false;
+    reference.wholeRows = true;
+    setCorner(reference.first, everyOne, row);
+    setCorner(reference.last, everyOne, lastRow);
+    return lastRow.number != 0 && finishReference(token, start, end);
 }
 
-bool Lexer::takeR1C1(Token& token) {
-    Corner& corner = token.reference.first;
-    token.reference.wholeCols = token.reference.wholeRows = false;
-    size_t end = m_position;
-    const bool hasRow = upper(at(end)) == 'R';
-    if (hasRow) end = distanceAt(end + 1, corner.row, corner.rowRelative);
-    const bool hasCol = upper(at(end)) == 'C';
-    if (hasCol) end = distanceAt(end + 1, corner.col, corner.colRelative);
+bool Lexer::takeR1C1(Token& token, Place start) {
+    Corner corner;
+    Place end = start;
+    const auto take = [&end](char letter, int& value, bool& relative) {
+        if (upper(end.here()) != letter) return false;
+        ++end.at;
+        takeDistance(end, value, relative);
+        return true;
+    };
+    const bool hasRow = take('R', corner.row, corner.rowRelative);
+    const bool hasCol = take('C', corner.col, corner.colRelative);
     if (!hasRow && !hasCol) return false;
     if (!corner.rowRelative && hasRow && (corner.row < 1 || corner.row > maxRows)) return false;
     if (!corner.colRelative && hasCol && (corner.col < 1 || corner.col > maxCols)) return false;
-    token.reference.wholeRows = !hasCol;
-    token.reference.wholeCols = !hasRow;
-    token.reference.last = corner;
-    return finishReference(token, end);
-}
-
-bool Lexer::takeName(Token& token) {
-    size_t end = m_position;
-    if (!startsName(at(end))) return false;
-    while (isInName(at(end))) ++end;
-    token.kind = TokenKind::name;
-    token.length = end - m_position;
-    return true;
+    token.reference = {corner, corner, !hasRow, !hasCol};
+    return finishReference(token, start, end);
 }
 
 std::string unquote(std::string_view token) {

@@ -2,6 +2,7 @@
 // "A1:B2" is three, since ":" also joins references that functions give.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -77,33 +78,43 @@ class Lexer {
   public:
     /// With `names` a word that is one is a reference (A1), and whatever could hide one is invalid.
     Lexer(std::string_view text, ReferenceStyle style, const CellNames* names = nullptr)
-        : m_text(text), m_style(style), m_names(names) {}
+        : m_start(text.data()),
+          m_end(text.data() + text.size()),
+          m_next(text.data()),
+          m_style(style),
+          m_names(names) {}
     /// The token after the one given before; `end` again and again at the end.
     void next(Token& token);
     std::string_view textOf(const Token& token) const {
-        return m_text.substr(token.position, token.length);
+        return {m_start + token.position, token.length};
     }
 
   private:
-    char at(size_t position) const { return position < m_text.size() ? m_text[position] : '\0'; }
-    bool take(Token& token);
-    bool takeAmongNames(Token& token, char c);
-    bool takeWord(Token& token);
-    bool holdsName(std::string_view text) const;
-    bool takeNumber(Token& token);
-    bool takeText(Token& token);
-    bool takeError(Token& token);
-    bool takeReference(Token& token);
-    bool takeR1C1(Token& token);
-    bool takeName(Token& token);
-    bool takeSymbol(Token& token, char c);
-    bool finishReference(Token& token, size_t end);
-    size_t columnAt(size_t position, Corner& corner) const;
-    size_t rowAt(size_t position, Corner& corner) const;
-    size_t distanceAt(size_t position, int& value, bool& relative) const;
+    /// A place in the text. Kept in a variable of its own while a token is read: members would be
+    /// read anew after everything that is written into the token.
+    struct Place {
+        const char* at;
+        const char* end;
+        char here() const { return at == end ? '\0' : *at; }
+        char after() const { return end - at < 2 ? '\0' : at[1]; }
+        Place plus(ptrdiff_t count) const { return {at + count, end}; }
+        ptrdiff_t operator-(const Place& start) const { return at - start.at; }
+    };
 
-    std::string_view m_text;
-    size_t m_position = 0;
+    void takeOther(Token& token, const char* at);
+    // Each reads the token that starts there. False when it is none of its kind.
+    bool take(Token& token, const char* at) const;
+    bool takeAmongNames(Token& token, const char* at) const;
+    bool takeWord(Token& token, const char* at) const;
+    bool holdsName(std::string_view text) const;
+    bool takeReference(Token& token, Place start) const;
+    static bool takeA1(Token& token, Place start);
+    static bool takeRows(Token& token, Place start);
+    static bool takeR1C1(Token& token, Place start);
+
+    const char* m_start;
+    const char* m_end;
+    const char* m_next;
     ReferenceStyle m_style;
     const CellNames* m_names;
 };

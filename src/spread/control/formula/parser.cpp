@@ -2,6 +2,7 @@
 
 #include <array>
 
+#include "platform/encodings.h"
 #include "spread/control/formula/parser_grammar.h"
 
 namespace formula {
@@ -50,13 +51,6 @@ constexpr auto binaryOperators = [] {
     return table;
 }();
 
-std::string upperCase(std::string_view text) {
-    std::string upper(text);
-    for (char& c : upper)
-        if (c >= 'a' && c <= 'z') c = static_cast<char>(c - 32);
-    return upper;
-}
-
 }  // namespace
 
 std::string Parser::here() const {
@@ -64,18 +58,16 @@ std::string Parser::here() const {
 }
 
 bool Parser::fail(std::string message) {
-    return failAt(m_token, std::move(message));
+    return failAt(m_token.position, std::move(message));
 }
 
-bool Parser::failAt(const Token& token, std::string message) {
-    m_error = {std::move(message), token.position};
+bool Parser::failAt(size_t position, std::string message) {
+    m_error = {std::move(message), position};
     return false;
 }
 
-bool Parser::expect(Symbol symbol, const char* what) {
-    if (!isSymbol(symbol)) return fail(std::string(what) + " expected at '" + here() + "'");
-    advance();
-    return true;
+bool Parser::failExpected(const char* what) {
+    return fail(std::string(what) + " expected at '" + here() + "'");
 }
 
 ProgramRef Parser::parse() {
@@ -92,8 +84,44 @@ ProgramRef Parser::parse() {
     return m_code.finish(m_settings.isShared);
 }
 
+inline void Parser::setPlace(Instruction& i, const Corner& corner) const {
+    const bool a1 = m_settings.style == ReferenceStyle::a1;
+    int row = corner.row;
+    int col = corner.col;
+    if (corner.rowRelative) {
+        i.flags |= Instruction::relativeRow;
+        if (a1) row -= m_settings.hostRow;
+    }
+    if (corner.colRelative) {
+        i.flags |= Instruction::relativeCol;
+        if (a1) col -= m_settings.hostCol;
+    }
+    // Further to the side is outside every sheet too.
+    i.a = row;
+    i.b = static_cast<int16_t>(std::clamp(col, -2 * maxCols + 1, 2 * maxCols - 1));
+}
+
+inline bool Parser::reference(Kind& kind) {
+    const ReferenceToken& r = m_token.reference;
+    if (r.wholeCols || r.wholeRows) return wholeRange(kind);
+    setPlace(m_code.emit(Op::reference, 1), r.first);
+    kind = Kind::reference;
+    advance();
+    return true;
+}
+
+/// Most values of a formula are references and numbers.
+inline bool Parser::primary(Want want, Kind& kind) {
+    if (m_token.kind == TokenKind::reference) return reference(kind);
+    if (m_token.kind != TokenKind::number) return otherPrimary(want, kind);
+    m_code.emit(Op::number, 1, {.number = m_token.number});
+    kind = Kind::single;
+    advance();
+    return true;
+}
+
 bool Parser::binary(int least, Want want, Kind& kind) {
-    if (m_nesting >= maxNesting) return fail("nested deeper than 256");
+    if (m_nesting >= maxNesting) return failNested();
     const Nested nested(m_nesting);
     if (!unary(want, kind)) return false;
     for (;;) {
@@ -118,7 +146,7 @@ bool Parser::signedValue(Kind& kind) {
     std::array<Op, maxNesting> signs;
     size_t count = 0;
     while (isSign()) {
-        if (count == signs.size()) return fail("nested deeper than 256");
+        if (count == signs.size()) return failNested();
         signs[count++] = isSymbol(Symbol::minus)  ? Op::negate
                          : isSymbol(Symbol::plus) ? Op::plus
                                                   : Op::single;
@@ -167,12 +195,9 @@ inline bool Parser::range(Want want, Kind& kind) {
     return true;
 }
 
-bool Parser::primary(Want want, Kind& kind) {
+bool Parser::otherPrimary(Want want, Kind& kind) {
     kind = Kind::single;
     switch (m_token.kind) {
-        case TokenKind::number:
-            m_code.emit(Op::number, 1, {.number = m_token.number});
-            break;
         case TokenKind::text:
             m_code.emit(Op::text, 1,
                         {.text = control::TextBlock::make(unquote(m_lexer.textOf(m_token)))});
@@ -180,8 +205,6 @@ bool Parser::primary(Want want, Kind& kind) {
         case TokenKind::error:
             m_code.emit(Op::error, 1).a = static_cast<int>(m_token.error);
             break;
-        case TokenKind::reference:
-            return reference(kind);
         case TokenKind::name:
             return name(want, kind);
         case TokenKind::symbol:
@@ -196,31 +219,8 @@ bool Parser::primary(Want want, Kind& kind) {
     return true;
 }
 
-inline void Parser::setPlace(Instruction& i, const Corner& corner) const {
-    const bool a1 = m_settings.style == ReferenceStyle::a1;
-    int row = corner.row;
-    int col = corner.col;
-    if (corner.rowRelative) {
-        i.flags |= Instruction::relativeRow;
-        if (a1) row -= m_settings.hostRow;
-    }
-    if (corner.colRelative) {
-        i.flags |= Instruction::relativeCol;
-        if (a1) col -= m_settings.hostCol;
-    }
-    // Further to the side is outside every sheet too.
-    i.a = row;
-    i.b = static_cast<int16_t>(std::clamp(col, -2 * maxCols + 1, 2 * maxCols - 1));
-}
-
-bool Parser::reference(Kind& kind) {
-    const ReferenceToken r = m_token.reference;
-    advance();
-    if (!r.wholeCols && !r.wholeRows) {
-        setPlace(m_code.emit(Op::reference, 1), r.first);
-        kind = Kind::reference;
-        return true;
-    }
+bool Parser::wholeRange(Kind& kind) {
+    const ReferenceToken& r = m_token.reference;
     const uint8_t whole = r.wholeCols ? Instruction::wholeCol : Instruction::wholeRow;
     for (const bool isFirst : {true, false}) {
         Instruction& i = m_code.emit(isFirst ? Op::area : Op::corner, isFirst ? 1 : 0);
@@ -228,6 +228,7 @@ bool Parser::reference(Kind& kind) {
         i.flags |= whole;
     }
     kind = Kind::area;
+    advance();
     return true;
 }
 
@@ -264,20 +265,17 @@ bool Parser::matrix(Kind& kind) {
 }
 
 bool Parser::name(Want want, Kind& kind) {
-    std::string upper = upperCase(m_lexer.textOf(m_token));
-    const Token nameToken = m_token;
+    const std::string_view name = m_lexer.textOf(m_token);
+    const size_t position = m_token.position;
     advance();
-    if (isSymbol(Symbol::open) && m_token.position == nameToken.position + nameToken.length) {
-        // Workbooks prefix newer functions when they are saved.
-        if (upper.starts_with("_XLFN.")) upper.erase(0, 6);
-        return call(upper, nameToken, want, kind);
-    }
-    if (upper == "TRUE" || upper == "FALSE") {
-        m_code.emit(Op::boolean, 1).a = upper == "TRUE";
-        kind = Kind::single;
-        return true;
-    }
-    return failAt(nameToken, "unknown name '" + std::string(m_lexer.textOf(nameToken)) + "'");
+    if (isSymbol(Symbol::open) && m_token.position == position + name.size())
+        return call(name, position, want, kind);
+    const bool isTrue = encodings::equalFolded(name, "TRUE");
+    if (!isTrue && !encodings::equalFolded(name, "FALSE"))
+        return failAt(position, "unknown name '" + std::string(name) + "'");
+    m_code.emit(Op::boolean, 1).a = isTrue;
+    kind = Kind::single;
+    return true;
 }
 
 ProgramRef parse(std::string_view text, const ParseSettings& settings, ParseError& error) {

@@ -36,8 +36,10 @@ struct ParseSettings {
     bool arrayFormula = false;
     /// Other cells may well hold the same formula, as when it is filled down: they share it.
     bool isShared = true;
-    /// Registered functions by name in upper case; null for none.
+    /// Registered functions by name, letter case aside; null for none.
     const CustomFunction* (*findCustom)(const void* registry, std::string_view name) = nullptr;
+    /// One of them has the name of a function of ours, and goes before it.
+    bool customReplaces = false;
     const void* registry = nullptr;
 };
 

@@ -1,4 +1,5 @@
 // Function calls: how arguments arrive, and the calls whose branches are chosen while calculating.
+#include "platform/encodings.h"
 #include "spread/control/formula/parser_grammar.h"
 
 namespace formula {
@@ -21,40 +22,44 @@ char parameterClass(std::string_view params, size_t index) {
     return group[(index - open) % group.size()];
 }
 
-bool Parser::call(const std::string& upper, const Token& nameToken, Want want, Kind& kind) {
-    if (m_nesting >= maxNesting) return fail("nested deeper than 256");
+bool Parser::call(std::string_view name, size_t position, Want want, Kind& kind) {
+    if (m_nesting >= maxNesting) return failNested();
     const Nested nested(m_nesting);
-    const CustomFunction* custom =
-        m_settings.findCustom ? m_settings.findCustom(m_settings.registry, upper) : nullptr;
-    const FunctionSpec* spec = custom ? nullptr : findFunction(upper);
-    if (!custom && !spec)
-        return failAt(nameToken,
-                      "unknown function '" + std::string(m_lexer.textOf(nameToken)) + "'");
+    // Workbooks prefix newer functions when they are saved.
+    constexpr std::string_view prefix = "_xlfn.";
+    const bool isPrefixed =
+        name.starts_with('_') && encodings::equalFolded(name.substr(0, prefix.size()), prefix);
+    const std::string_view plainName = isPrefixed ? name.substr(prefix.size()) : name;
+    const FunctionSpec* spec = findFunction(plainName);
+    const CustomFunction* custom = nullptr;
+    if (m_settings.findCustom && (!spec || m_settings.customReplaces)) {
+        custom = m_settings.findCustom(m_settings.registry, plainName);
+        if (custom) spec = nullptr;
+    }
+    if (!custom && !spec) return failAt(position, "unknown function '" + std::string(name) + "'");
     advance();  // the parenthesis
-    if (spec && (spec->flags & isLazy)) return lazyCall(*spec, nameToken, want, kind);
+    if (spec && (spec->flags & isLazy)) return lazyCall(*spec, position, want, kind);
     int count = 0;
     if (isSymbol(Symbol::close))
         advance();
     else if (!arguments(count, [&](int index) {
                  if (custom) return custom->cellArguments ? 'r' : 'v';
+                 if (spec->params.size() == 1) return spec->params[0];
                  return parameterClass(spec->params, static_cast<size_t>(index));
              }))
         return false;
-    return spec ? emitCall(*spec, count, nameToken, kind)
-                : emitCall(*custom, count, nameToken, kind);
+    return spec ? emitCall(*spec, count, position, kind) : emitCall(*custom, count, position, kind);
 }
 
-bool Parser::checkCount(std::string_view name, int count, int least, int most,
-                        const Token& nameToken) {
-    if (count >= least && count <= most) return true;
+bool Parser::failCount(std::string_view name, int count, int least, int most, size_t position) {
     const int limit = count < least ? least : most;
-    return failAt(nameToken, std::string(name) +
-                                 (count < least ? " needs at least " : " takes at most ") +
-                                 std::to_string(limit) + (limit == 1 ? " argument" : " arguments"));
+    return failAt(position, std::string(name) +
+                                (count < least ? " needs at least " : " takes at most ") +
+                                std::to_string(limit) + (limit == 1 ? " argument" : " arguments"));
 }
 
-bool Parser::emitCall(const FunctionSpec& spec, int count, const Token& nameToken, Kind& kind) {
-    if (!checkCount(spec.name, count, spec.least, spec.most, nameToken)) return false;
+bool Parser::emitCall(const FunctionSpec& spec, int count, size_t position, Kind& kind) {
+    if (!checkCount(spec, count, position)) return false;
     m_code.emit(Op::call, 1 - count, {.function = &spec}).b = static_cast<int16_t>(count);
     m_code.isVolatile |= (spec.flags & formula::isVolatile) != 0;
     const auto takesPlain = [&] {
@@ -64,8 +69,8 @@ bool Parser::emitCall(const FunctionSpec& spec, int count, const Token& nameToke
     return true;
 }
 
-bool Parser::emitCall(const CustomFunction& custom, int count, const Token& nameToken, Kind& kind) {
-    if (!checkCount(custom.name, count, custom.least, custom.most, nameToken)) return false;
+bool Parser::emitCall(const CustomFunction& custom, int count, size_t position, Kind& kind) {
+    if (!checkCount(custom, count, position)) return false;
     m_code.emit(Op::callCustom, 1 - count, {.custom = &custom}).b = static_cast<int16_t>(count);
     kind = Kind::single;
     return true;
@@ -115,13 +120,13 @@ void Parser::placeOnly(size_t start) {
     m_code.append(corner);
 }
 
-bool Parser::lazyCall(const FunctionSpec& spec, const Token& nameToken, Want want, Kind& kind) {
+bool Parser::lazyCall(const FunctionSpec& spec, size_t position, Want want, Kind& kind) {
     Kind first;
     if (!branch(Want::single, first)) return false;
     if (first != Kind::single) {
         int count = 1;
         if (!expect(Symbol::comma, "','")) return false;
-        return arguments(count, [](int) { return 'v'; }) && emitCall(spec, count, nameToken, kind);
+        return arguments(count, [](int) { return 'v'; }) && emitCall(spec, count, position, kind);
     }
     if (spec.name == "CHOOSE") return chooseBranches(want, kind);
     if (!expect(Symbol::comma, "','")) return false;

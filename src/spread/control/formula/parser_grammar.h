@@ -33,9 +33,17 @@ class Parser {
         return isSymbol(Symbol::plus) || isSymbol(Symbol::minus) || isSymbol(Symbol::at);
     }
     std::string here() const;
-    bool fail(std::string message);
-    bool failAt(const Token& token, std::string message);
-    bool expect(Symbol symbol, const char* what);
+    // Out of the way of what succeeds.
+    [[gnu::cold]] bool fail(std::string message);
+    [[gnu::cold]] bool failAt(size_t position, std::string message);
+    [[gnu::cold]] bool failNested() { return fail("nested deeper than 256"); }
+    [[gnu::cold]] bool failExpected(const char* what);
+    bool expect(Symbol symbol, const char* what) {
+        if (!isSymbol(symbol)) [[unlikely]]
+            return failExpected(what);
+        advance();
+        return true;
+    }
 
     // Expressions (parser.cpp).
     bool comparison(Want want, Kind& kind) { return binary(1, want, kind); }
@@ -45,24 +53,33 @@ class Parser {
     bool postfix(Want want, Kind& kind);
     bool range(Want want, Kind& kind);
     bool primary(Want want, Kind& kind);
+    bool otherPrimary(Want want, Kind& kind);
     void setPlace(Instruction& i, const Corner& corner) const;
     bool reference(Kind& kind);
+    bool wholeRange(Kind& kind);
     bool parenthesis(Want want, Kind& kind);
     bool matrix(Kind& kind);
     bool name(Want want, Kind& kind);
 
     // Function calls (parser_calls.cpp).
-    bool call(const std::string& upper, const Token& nameToken, Want want, Kind& kind);
-    bool emitCall(const FunctionSpec& spec, int count, const Token& nameToken, Kind& kind);
-    bool emitCall(const CustomFunction& custom, int count, const Token& nameToken, Kind& kind);
-    bool checkCount(std::string_view name, int count, int least, int most, const Token& nameToken);
+    bool call(std::string_view name, size_t position, Want want, Kind& kind);
+    bool emitCall(const FunctionSpec& spec, int count, size_t position, Kind& kind);
+    bool emitCall(const CustomFunction& custom, int count, size_t position, Kind& kind);
+    template <class Function>
+    bool checkCount(const Function& function, int count, size_t position) {
+        if (count >= function.least && count <= function.most) [[likely]]
+            return true;
+        return failCount(function.name, count, function.least, function.most, position);
+    }
+    [[gnu::cold]] bool failCount(std::string_view name, int count, int least, int most,
+                                 size_t position);
     template <class ParameterOf>
     bool arguments(int& count, ParameterOf&& parameterOf);
     bool argument(char parameter);
     void placeOnly(size_t start);
     /// Calls whose unused parts are not calculated. In an array context they are ordinary calls
     /// when the first argument, which decides, may be an array.
-    bool lazyCall(const FunctionSpec& spec, const Token& nameToken, Want want, Kind& kind);
+    bool lazyCall(const FunctionSpec& spec, size_t position, Want want, Kind& kind);
     bool branch(Want want, Kind& kind);
     bool ifBranches(Want want, Kind& kind);
     bool ifErrorBranches(Want want, Kind& kind, bool onlyMissing);

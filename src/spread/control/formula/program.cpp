@@ -129,11 +129,13 @@ class ProgramPool {
         };
         return std::all_of(other.begin(), other.end(), isSameConstant);
     }
+    /// A sum of products, so that none waits for the one before.
     static uint32_t hashOf(const Code& code) {
-        size_t hash = code.instructions.size();
-        const auto mix = [&hash](size_t bits) {
-            hash = (hash ^ bits) * 0x9E3779B97F4A7C15ULL;
-            hash ^= hash >> 29;
+        constexpr uint64_t step = 0x9E3779B97F4A7C16U;
+        uint64_t hash = code.instructions.size(), factor = 0xBF58476D1CE4E5B9U;
+        const auto mix = [&](uint64_t bits) {
+            hash += (bits ^ bits >> 32) * factor;
+            factor += step;  // stays odd
         };
         for (const Instruction& i : code.instructions) {
             mix(std::bit_cast<uint64_t>(i));
@@ -142,7 +144,7 @@ class ProgramPool {
             mix(i.op == Op::text ? std::hash<std::string_view>()(constant.text->view())
                                  : constant.bits);
         }
-        return static_cast<uint32_t>(hash ^ hash >> 32);
+        return static_cast<uint32_t>(hash >> 32);
     }
 
     std::vector<Slot> m_slots = std::vector<Slot>(1024);  // a power of two, half of it free
