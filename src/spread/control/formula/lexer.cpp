@@ -228,7 +228,7 @@ void setCorner(Corner& corner, Part col, Part row) {
     corner.colRelative = col.isRelative;
 }
 
-constexpr Part everyOne{0, true};
+constexpr Part everyRow{0, true};
 
 /// After an R or C: nothing (distance 0), a number, or a distance in brackets.
 template <class Place>
@@ -357,8 +357,8 @@ inline bool Lexer::takeA1(Token& token, Place start) {
     if (afterCol.here() != ':') return false;
     end = afterCol.plus(1);
     const Part lastCol = takeColumn(end);
-    setCorner(reference.first, col, everyOne);
-    setCorner(reference.last, lastCol, everyOne);
+    setCorner(reference.first, col, everyRow);
+    setCorner(reference.last, lastCol, everyRow);
     return lastCol.number != 0 && finishReference(token, start, end);
 }
 
@@ -369,10 +369,11 @@ bool Lexer::takeRows(Token& token, Place start) {
     ++end.at;
     const Part lastRow = takeRow(end);
     ReferenceToken& reference = token.reference;
+    const Part everyCol{0, row.isRelative};
     reference.wholeCols = false;
     reference.wholeRows = true;
-    setCorner(reference.first, everyOne, row);
-    setCorner(reference.last, everyOne, lastRow);
+    setCorner(reference.first, everyCol, row);
+    setCorner(reference.last, everyCol, lastRow);
     return lastRow.number != 0 && finishReference(token, start, end);
 }
 
