@@ -9,7 +9,7 @@
 
 #include "core_api/text/number_text.h"
 #include "io/texts.h"
-#include "platform/encodings.h"
+#include "support/called_functions.h"
 #include "test_folders.h"
 
 namespace conformance {
@@ -129,23 +129,6 @@ std::vector<Case> load(const std::string& folder) {
             if (!line.empty()) cases.push_back(readCase(line));
     }
     return cases;
-}
-
-std::vector<std::string> calledFunctions(std::string_view formula) {
-    std::vector<std::string> names;
-    std::string word;
-    bool inText = false;
-    for (const char c : formula) {
-        if (c == '"') inText = !inText;
-        const bool isWordCharacter =
-            std::isalnum(static_cast<unsigned char>(c)) || c == '.' || c == '_' || c < 0;
-        if (!inText && c == '(' && !word.empty()) names.push_back(encodings::uppered(word));
-        if (inText || !isWordCharacter)
-            word.clear();
-        else
-            word += c;
-    }
-    return names;
 }
 
 bool agrees(const Case& test, const formula::Value& got) {

@@ -40,9 +40,6 @@ std::optional<std::string> folder();
 /// Every case of every "*.jsonl" in `folder`.
 std::vector<Case> load(const std::string& folder);
 
-/// The names followed by "(" in a formula, upper case, texts in quotes left out.
-std::vector<std::string> calledFunctions(std::string_view formula);
-
 bool agrees(const Case& test, const formula::Value& got);
 
 }  // namespace conformance

@@ -140,34 +140,6 @@ TEST(Lookup, SortedSearchesAgreeWithAWalk) {
     }
 }
 
-TEST(Lookup, PlacesAreComputed) {
-    FormulaSheet sheet;
-    sheet.fill(1, {1, 2, 3, 4});
-    sheet.setFormula(2, 2, "INDIRECT(\"A\"&A1)*10");
-    expectResults(sheet, std::vector<FormulaCase>{
-                             {"B2", "10"},
-                             {"SUM(OFFSET(A1,1,0,2))", "5"},
-                             {"SUM(OFFSET(A4,0,0,-2,1))", "7"},
-                             {"OFFSET(A1,-1,0)", "#REF!"},
-                             {"OFFSET(A1,0,0,0)", "#REF!"},
-                             {"OFFSET(A1,1E300,0)", "#REF!"},
-                             {"OFFSET(A1,0,0,1048577)", "#REF!"},
-                             {"OFFSET(5,0,0)", "#VALUE!"},
-                             {"SUM(INDIRECT(\"R1C1:R2C1\",FALSE))", "3"},
-                             {"INDIRECT(\"no cell\")", "#REF!"},
-                             {"ROWS(INDIRECT(\"A:A\"))", "1048576"},
-                             {"SUMPRODUCT(ROW(A2:A4))", "9"},
-                             {"COLUMN(C5:E9)", "3"},
-                             {"ADDRESS(2,28)", "$AB$2"},
-                             {"ADDRESS(2,28,4,FALSE)", "R[2]C[28]"},
-                             {"ADDRESS(2,3,2,TRUE,\"it's\")", "'it''s'!C$2"},
-                             {"ADDRESS(0,1)", "#VALUE!"},
-                             {"ADDRESS(1,16385)", "#VALUE!"},
-                             {"FORMULATEXT(B2)", "=INDIRECT(\"A\"&A1)*10"},
-                             {"FORMULATEXT(A1)", "#N/A"},
-                         });
-}
-
 TEST(Lookup, ComputedPlacesAreFollowed) {
     control::Sheet sheet;
     sheet.setAutomatic(true);

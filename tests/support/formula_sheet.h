@@ -34,6 +34,10 @@ class FormulaSheet {
             ADD_FAILURE() << text << " is refused: " << error.message;
         return m_sheet.value(100, 1000);
     }
+    bool refuses(std::string_view text) {
+        formula::ParseError error;
+        return !m_sheet.setFormula(100, 1000, text, error);
+    }
     std::string operator()(std::string_view text) { return shown(value(text)); }
 
     static std::string shown(const formula::Value& value) {
