@@ -13,6 +13,7 @@
 #include "core_api/program_data.h"
 #include "core_api/texts/language_codes.h"
 #include "platform/paths.h"
+#include "platform/terminal_text.h"
 #include "sheet/sheet_file.h"
 #include "sheet/sheet_printing.h"
 #include "shell/main_window.h"
@@ -20,6 +21,11 @@
 #include "window/dialog_font.h"
 
 namespace {
+
+void complain(const QString& message) {
+    const std::string line = terminalText("vormant-workbench: " + message.toStdString() + "\n");
+    std::fwrite(line.data(), 1, line.size(), stderr);
+}
 
 /// Has to be known before the application is made.
 void applyScale(const WorkbenchSettings& settings) {
@@ -52,8 +58,7 @@ void takeScreenshot(MainWindow& window, const QString& file) {
     QTimer::singleShot(untilPainted, &window, [&window, file] {
         QWidget* dialog = QApplication::activeModalWidget();
         const bool isSaved = (dialog ? dialog->grab() : window.grab()).save(file);
-        if (!isSaved)
-            std::fprintf(stderr, "vormant-workbench: %s: cannot be written\n", qPrintable(file));
+        if (!isSaved) complain(file + ": cannot be written");
         QApplication::exit(isSaved ? 0 : 1);
     });
 }
@@ -63,8 +68,7 @@ constexpr const char* printOption = "--print";
 /// Writes the pages of a document into a PDF file, without a screen.
 int printDocument(int argc, char** argv) {
     if (argc != 4) {
-        std::fprintf(stderr, "vormant-workbench: %s needs a document and a PDF file\n",
-                     printOption);
+        complain(QString(printOption) + " needs a document and a PDF file");
         return 2;
     }
     qputenv("QT_QPA_PLATFORM", "offscreen");
@@ -84,7 +88,7 @@ int printDocument(int argc, char** argv) {
     } else {
         error = toQt(failure);
     }
-    std::fprintf(stderr, "vormant-workbench: %s\n", qPrintable(error));
+    complain(error);
     return 1;
 }
 
@@ -119,8 +123,7 @@ int main(int argc, char** argv) {
     if (parser.isSet(language)) {
         settings.sessionLanguage = languageOfCode(parser.value(language).toStdString());
         if (!settings.sessionLanguage) {
-            std::fprintf(stderr, "vormant-workbench: --language %s: choose %s\n",
-                         qPrintable(parser.value(language)), languageCodes.data());
+            complain("--language " + parser.value(language) + ": choose " + languageCodes.data());
             return 2;
         }
     }
@@ -134,8 +137,7 @@ int main(int argc, char** argv) {
     if (!library.empty()) window.openLibrary(library);
     for (const QString& file : files + parser.values(open)) window.openFile(absolute(file));
     if (parser.isSet(dialog) && !openDialog(window, parser.value(dialog))) {
-        std::fprintf(stderr, "vormant-workbench: --dialog %s: choose library, size or stock\n",
-                     qPrintable(parser.value(dialog)));
+        complain("--dialog " + parser.value(dialog) + ": choose library, size or stock");
         return 2;
     }
     if (parser.isSet(screenshot)) takeScreenshot(window, parser.value(screenshot));

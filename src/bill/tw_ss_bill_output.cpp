@@ -182,9 +182,12 @@ void TwSSBillOutput::reportRefusedNumbers() const {
 bool TwSSBillOutput::addPicture(Vor_Spread& spread, const Vor_String& imageFile) {
     if (!files::exists(imageFile)) return false;
     nextRow(spread);
-    if (spread.nrCols() < pictureColumn) return spread.setPictureCell(1, m_currentRow, imageFile);
-    if (!spread.setPictureCell(pictureColumn, m_currentRow, imageFile)) return false;
-    return spread.setIconCell(1, m_currentRow, pictureMark, false);
+    const int col = std::min(pictureColumn, spread.nrCols());
+    const bool isSet = spread.setPictureCell(col, m_currentRow, imageFile);
+    if (col > 1) spread.setIconCell(1, m_currentRow, pictureMark, false);
+    // Its file goes: what the sheet does not keep is lost.
+    const control::Grid& grid = spread.grid();
+    return isSet && grid.keptPicture(grid.look(col, m_currentRow).type.text);
 }
 
 void TwSSBillOutput::onAddRow(const Vor_StringArray& cells) {

@@ -90,6 +90,10 @@ bool saveSheet(Vor_Spread& sheet, const Vor_String& path, HeaderFiles headers, s
     HeaderCopies copies(folder, headers);
     // Without its folder the sheet cannot be saved either, and that is what the user asked for.
     const bool hasFolder = folder.isEmpty() || files::isFolder(folder);
+    if (!hasFolder && headers == HeaderFiles::allOrNothing) {
+        error = "cannot write " + path.str() + ": its folder is not there; check its name";
+        return false;
+    }
     for (Vor_String* reference : {&settings.headerFile, &settings.footerFile}) {
         if (!hasFolder || copies.add(*reference) || copies.problem().empty()) continue;
         if (headers == HeaderFiles::allOrNothing) {

@@ -213,6 +213,16 @@ TEST_F(Bill, ASetIsWholeOrNotThereAndReplacesNothingOfTheUser) {
         EXPECT_EQ(folder.names(), before);
         EXPECT_EQ(folder.read("c/new.sss"), "");
     }
+    folder.write("lib2/prof/IPE.pr", "damaged");
+    for (const bool hasPictures : {true, false}) {
+        std::vector<std::string> arguments{"--library", folder / "lib2",    "bill", table,
+                                           "-o",        folder / "c/p.xlsx"};
+        if (hasPictures) arguments.emplace_back("--pictures");
+        const auto made = program::run(arguments);
+        EXPECT_EQ(made.exitCode, hasPictures ? 1 : 0) << made.err;
+        EXPECT_EQ(made.err.find("IPE cannot be read, and no other has IPE-200") != made.err.npos,
+                  hasPictures);
+    }
     // Copies come first; a sheet that fails takes them along.
     std::filesystem::create_directories(folder.path() / "d/b.sss");
     EXPECT_EQ(call({table, "-o", folder / "d/b.sss"}).exitCode, 1);

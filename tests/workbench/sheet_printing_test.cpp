@@ -64,6 +64,26 @@ QPointF placeOf(const QString& file, const QString& word) {
            millimetresPerPoint;
 }
 
+TEST(PrintedPictures, ShowTheArrowFromARowOfABill) {
+    printing::PrintedPage page;
+    page.body.emplace_back();
+    page.body.back().place = {10, 10, 10, 40};
+    page.body.back().look.type.kind = control::CellKind::pictureHandle;
+    page.body.back().look.type.picture = 251;
+    QImage paper(400, 600, QImage::Format_RGB32);
+    paper.fill(Qt::white);
+    QPainter painter(&paper);
+    paintPage(painter, page, 10);
+    painter.end();
+    QRect dark;
+    for (int y = 110; y < 490; ++y)
+        for (int x = 110; x < 190; ++x)
+            if (qGray(paper.pixel(x, y)) < 160) dark |= QRect(x, y, 1, 1);
+    // 10 of its 20 pixels, which are 5.3 mm on paper, in the middle of the cell.
+    EXPECT_NEAR(dark.width(), 27, 5);
+    EXPECT_LT(std::abs(dark.center().y() - 300), 12) << dark.center().y();
+}
+
 TEST(PrintedPictures, LeaveTheLinesOfTheirCellsVisible) {
     const std::string white = packBitmap(CBitmap(100, 100));
     printing::PrintedPage page;
