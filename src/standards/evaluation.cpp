@@ -2,6 +2,7 @@
 #include "core_api/text/number_text.h"
 #include "mapping/cell_types.h"
 #include "mapping/run_timers.h"
+#include "spread/control/cell_text.h"
 #include "standards/prepared_standard.h"
 #include "standards/run_observer.h"
 #include "standards/standards_messages.h"
@@ -50,7 +51,7 @@ SharedText inStyleOf(const control::Sheet& sheet, std::string_view formula,
 
 void TwStandardsSS::evaluateAll(PreparedStandard& prepared) {
     m_fillsNow = m_fillsEquationCells || !prepared.needsNoEquationCells(m_varCells, grid());
-    findNumberPlaces();
+    findValuePlaces();
     const RunObserver* observer = runObserver();
     const bool tellsAll = observer && observer->wantsEveryEquation();
     PreparedEquation changed;
@@ -58,25 +59,39 @@ void TwStandardsSS::evaluateAll(PreparedStandard& prepared) {
         const PreparedEquation& equation =
             m_fillsNow ? prepared.equationIn(known, m_varCells, grid(), changed) : known;
         const formula::Value* result = hiddenResult(equation);
-        if (result && !tellsAll && takeNumber(equation, *result)) continue;
+        if (result && !tellsAll && takeAtOnce(equation, *result)) continue;
         if (equation.text.view().empty()) continue;
+        fetchTexts();
         (void)evaluate(prepared, equation, result);
     }
+    fetchTexts();
     m_fillsNow = true;
-    m_numberPlaces.clear();
+    m_valuePlaces.clear();
 }
 
-/// Without formulas in the sheet nobody has to hear of new numbers: they can go straight into the
+/// Without formulas in the sheet nobody has to hear of new values: they can go straight into the
 /// cells of the variables.
-void TwStandardsSS::findNumberPlaces() {
-    m_numberPlaces.assign(static_cast<size_t>(m_varCells.length()), {});
+void TwStandardsSS::findValuePlaces() {
+    m_valuePlaces.assign(static_cast<size_t>(m_varCells.length()), {});
     if (m_fillsNow) return;
     for (int i = 0; i < m_varCells.length(); ++i) {
         const TwVarCell& cell = m_varCells[i];
-        if (!isNumeric(cell.valueType())) continue;
         const control::CellType& type = variableCellType(cell.valueType());
-        m_numberPlaces[static_cast<size_t>(i)] = {grid().plainCell(cell.column(), cell.row(), type),
-                                                  &type};
+        m_valuePlaces[static_cast<size_t>(i)] = {grid().plainCell(cell.column(), cell.row(), type),
+                                                 &type, false};
+    }
+}
+
+/// Texts stay in the cells while equations assign and read them there; before anybody looks at the
+/// variables they get what their cells hold.
+void TwStandardsSS::fetchTexts() {
+    for (size_t i = 0; i < m_valuePlaces.size(); ++i) {
+        ValuePlace& place = m_valuePlaces[i];
+        if (!place.isOnlyInCell) continue;
+        const formula::Value value = place.cell->value();
+        m_varCells[static_cast<int>(i)].typedValue().setText(value.isText() ? value.text()
+                                                                            : std::string_view());
+        place.isOnlyInCell = false;
     }
 }
 
@@ -87,11 +102,27 @@ inline const formula::Value* TwStandardsSS::hiddenResult(const PreparedEquation&
     return grid().evaluate(*equation.program, equation.cell.col, equation.cell.row);
 }
 
-/// The ordinary case of a hidden run: a number into a numeric variable and its cell at once. False,
-/// with nothing done, for everything else.
+/// The ordinary case of a hidden run: a number into a numeric variable and its cell, or a text into
+/// the cell of a String, at once. False, with nothing done, for everything else.
+inline bool TwStandardsSS::takeAtOnce(const PreparedEquation& equation,
+                                      const formula::Value& result) {
+    return equation.givesText ? takeText(equation, result) : takeNumber(equation, result);
+}
+
+bool TwStandardsSS::takeText(const PreparedEquation& equation, const formula::Value& result) {
+    const auto index = static_cast<size_t>(equation.target);
+    ValuePlace& place = m_valuePlaces[index];
+    // The text of an error becomes the error in the cell, which is not done here.
+    if (!place.cell || !result.isText() || result.text().starts_with('#')) return false;
+    control::setText(*place.cell, result.text());
+    place.isOnlyInCell = true;
+    m_assignedIn[index] = equation.cell;
+    return true;
+}
+
 bool TwStandardsSS::takeNumber(const PreparedEquation& equation, const formula::Value& result) {
     const auto index = static_cast<size_t>(equation.target);
-    const NumberPlace place = m_numberPlaces[index];
+    const ValuePlace place = m_valuePlaces[index];
     if (!place.cell || !result.isNumber()) return false;
     const double shown = roundAsWritten(result.number(), VarValue::shownDecimals);
     const double stored = place.type->decimals == 0 ? roundAsWritten(shown, 0) : shown;
@@ -149,7 +180,7 @@ ErrorStatus TwStandardsSS::assign(Turn& turn) {
     TwVarCell& target = m_varCells[equation.target];
     const auto [column, row] = equation.cell;
     const Vor_FunctionTimer timer(gCalcCellCalcFunctions);
-    if (turn.result && takeNumber(equation, *turn.result)) return Acad::eOk;
+    if (turn.result && !equation.givesText && takeNumber(equation, *turn.result)) return Acad::eOk;
     m_assignedIn[static_cast<size_t>(equation.target)] = equation.cell;
     if (turn.result) {
         target.typedValue().take(equationCellType(equation.givesText), *turn.result);

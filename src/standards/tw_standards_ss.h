@@ -66,19 +66,23 @@ class TwStandardsSS : public Vor_Spread {
 
   private:
     struct Turn;  // one equation cell's turn
-    /// Where a numeric variable's new values go straight into its cell.
-    struct NumberPlace {
+    /// Where a variable's new values go straight into its cell.
+    struct ValuePlace {
         control::Cell* cell = nullptr;  ///< null when they take the usual way
         const control::CellType* type = nullptr;
+        bool isOnlyInCell = false;  ///< a text that the variable itself has not got yet
     };
 
-    void findNumberPlaces();
+    void findValuePlaces();
+    void fetchTexts();
     void evaluateAll(PreparedStandard& prepared);
     const formula::Value* hiddenResult(const PreparedEquation& equation);
     ErrorStatus evaluate(const PreparedStandard& prepared, const PreparedEquation& equation,
                          const formula::Value* result);
     ErrorStatus assign(Turn& turn);
+    bool takeAtOnce(const PreparedEquation& equation, const formula::Value& result);
     bool takeNumber(const PreparedEquation& equation, const formula::Value& result);
+    bool takeText(const PreparedEquation& equation, const formula::Value& result);
     void setEquationType(const PreparedEquation& equation);
     std::optional<Vor_String> searchChildFile(const Vor_String& name) const;
     ErrorStatus runChild(const Vor_String& text, const Vor_String& functionName,
@@ -92,7 +96,7 @@ class TwStandardsSS : public Vor_Spread {
     Vor_StringArray m_genValues;
     std::shared_ptr<PreparedStandard> m_prepared;
     std::vector<control::CellAddress> m_assignedIn;  // by variable
-    std::vector<NumberPlace> m_numberPlaces;         // by variable, in hidden runs
+    std::vector<ValuePlace> m_valuePlaces;           // by variable, in hidden runs
     bool m_knowsFunctions = false;
     bool m_fillsEquationCells = true;
     bool m_fillsNow = true;  // in the calculation under way

@@ -40,4 +40,47 @@ TEST(LiteralReading, IsWhatHiddenAndShownRunsGive) {
     EXPECT_GT(wentWell, rounds / 2);
 }
 
+// Texts stay in the cells of their variables for a while: whatever looks at a variable meanwhile
+// has to find them, and texts of errors are errors there.
+TEST(LiteralReading, HoldsForTextsHandedFromEquationToEquation) {
+    TemporaryLibrary library;
+    library.writeStandard("Child", standardOf({"String In"}, {"String Out"}, {}, {"Out=In&\"!\""}));
+    const std::string path =
+        library.writeStandard("Sheet", standardOf({"String Mark", "Double Width"},
+                                                  {"String Note", "String Same", "Double Length"},
+                                                  {"String Size", "String Odd", "String Child"},
+                                                  {"Size=\"M\"&Width",
+                                                   "Size=\"N\"&Width",
+                                                   "Same=Same&Size",
+                                                   "Same=Same",
+                                                   "Odd=\"#N/A\"",
+                                                   "Note=Odd&\"x\"",
+                                                   "Note=ISERROR(Odd)&Mark",
+                                                   "Odd=\"#b\"",
+                                                   "Odd=Odd&Size",
+                                                   "CallChild(\"Child\",Odd,Child)",
+                                                   "Odd=\"\"",
+                                                   "Note=Note&Child&Odd&LEN(Odd)",
+                                                   "Size=Width/2",
+                                                   "Length=LEN(Size)",
+                                                   "Odd=Width>3",
+                                                   "Same=Same&Odd",
+                                                   "Odd=\"12.50\"",
+                                                   "Length=Length+Odd",
+                                                   "Missing=1",
+                                                   "Odd=Odd&Odd",
+                                                   "Note=Note&Odd"}));
+    for (const char* width : {"12.5", "2", ""}) {
+        const std::vector<LiteralVariable> given{
+            {"Mark", TwCellType::input, TwValueType::String, "HEA 200"},
+            {"Width", TwCellType::input, TwValueType::Double, width},
+            {"Note", TwCellType::output, TwValueType::String, ""},
+            {"Same", TwCellType::output, TwValueType::String, "given"},
+            {"Length", TwCellType::output, TwValueType::Double, ""}};
+        CompareRuns runs(path, given, {});
+        EXPECT_EQ(runs.difference(), "") << width;
+        EXPECT_TRUE(runs.wentWell());
+    }
+}
+
 }  // namespace

@@ -1,8 +1,8 @@
 // Documents from files, and the store of those that were read before. A standards run asks for the
 // same document a thousand times a second; the store answers after one look at the file's size and
 // time.
-#include <algorithm>
 #include <functional>
+#include <list>
 #include <map>
 
 #include "platform/files.h"
@@ -24,7 +24,7 @@ class DocumentStore {
     std::shared_ptr<const Document> find(std::string_view path) {
         const auto found = m_kept.find(path);
         if (found == m_kept.end() || files::stampOf(path) != found->second.stamp) return nullptr;
-        found->second.lastUse = ++m_uses;
+        m_byUse.splice(m_byUse.end(), m_byUse, found->second.use);
         return found->second.document;
     }
 
@@ -32,32 +32,30 @@ class DocumentStore {
               std::shared_ptr<const Document> document) {
         remove(m_kept.find(path));
         m_bytes += stamp.size;
-        m_kept.emplace(path, Kept{stamp, std::move(document), ++m_uses});
-        while (m_bytes > mostBytesOfAll) {
-            const auto older = [](const auto& a, const auto& b) {
-                return a.second.lastUse < b.second.lastUse;
-            };
-            remove(std::min_element(m_kept.begin(), m_kept.end(), older));
-        }
+        const auto entry = m_kept.emplace(path, Kept{stamp, std::move(document), {}}).first;
+        entry->second.use = m_byUse.insert(m_byUse.end(), entry);
+        while (m_bytes > mostBytesOfAll) remove(m_byUse.front());
     }
 
   private:
+    struct Kept;
+    using Map = std::map<std::string, Kept, std::less<>>;
     struct Kept {
         files::Stamp stamp;
         std::shared_ptr<const Document> document;
-        uint64_t lastUse;
+        std::list<Map::iterator>::iterator use;
     };
-    using Map = std::map<std::string, Kept, std::less<>>;
 
     void remove(Map::iterator entry) {
         if (entry == m_kept.end()) return;
         m_bytes -= entry->second.stamp.size;
+        m_byUse.erase(entry->second.use);
         m_kept.erase(entry);
     }
 
     Map m_kept;
+    std::list<Map::iterator> m_byUse;  // the one used longest ago in front
     int64_t m_bytes = 0;
-    uint64_t m_uses = 0;
 };
 
 DocumentStore& store() {

@@ -224,6 +224,10 @@ Value* Evaluator::execute(const Program& program) {
                 break;
             case Op::concatenate:
                 --top;
+                if (top[-1].isText() && top[0].isText()) {
+                    top[-1] = joined(m_calculation, top[-1].text(), top[0].text());
+                    break;
+                }
                 if (!operate(*i, top[-1], top[0])) return nullptr;
                 break;
             case Op::range:

@@ -25,11 +25,7 @@ std::string_view textOf(const Value& value, char (&buffer)[numberTextSize]) {
 Value join(Calculation& c, const Value& a, const Value& b) {
     char first[numberTextSize];
     char second[numberTextSize];
-    const std::string_view left = textOf(a, first);
-    const std::string_view right = textOf(b, second);
-    // A cell holds at most 32,767 characters; the programs refuse to make longer ones.
-    if (left.size() + right.size() > 32767) return ErrorCode::value;
-    return c.text(left, right);
+    return joined(c, textOf(a, first), textOf(b, second));
 }
 
 bool holds(Op op, int order) {

@@ -37,6 +37,12 @@ inline Value arithmetic(Op op, double a, double b) {
     return result;
 }
 
+/// #VALUE! when that is longer than what a cell holds: the programs refuse to make longer ones.
+inline Value joined(Calculation& c, std::string_view a, std::string_view b) {
+    constexpr size_t longest = 32767;
+    return a.size() + b.size() > longest ? Value(ErrorCode::value) : c.text(a, b);
+}
+
 /// Any binary operator over two single values, errors first.
 Value applyBinary(Calculation& c, Op op, const Value& a, const Value& b);
 /// Minus and percent.
