@@ -103,7 +103,7 @@ class Lexer {
 
     void takeOther(Token& token, const char* at);
     // Each reads the token that starts there. False when it is none of its kind.
-    bool take(Token& token, const char* at) const;
+    [[gnu::always_inline]] bool take(Token& token, const char* at) const;
     bool takeAmongNames(Token& token, const char* at) const;
     bool takeWord(Token& token, const char* at) const;
     bool holdsName(std::string_view text) const;

@@ -63,8 +63,11 @@ class FunctionTable {
 };
 
 const FunctionTable& table() {
-    static const FunctionTable instance;
-    return instance;
+    // One look at a pointer instead of a guard: every word of every formula comes by here.
+    static const FunctionTable* instance = nullptr;
+    if (!instance) [[unlikely]]
+        instance = new FunctionTable;  // never destroyed, as formulas of static lifetime
+    return *instance;
 }
 
 }  // namespace
