@@ -1,7 +1,7 @@
 #include "bills/bill_sheet.h"
 
 #include "bills/bill_choice.h"
-#include "core_api/sections/section_tables.h"
+#include "bills/bill_sections.h"
 #include "core_api/settings.h"
 #include "core_api/text/text_helpers.h"
 #include "platform/files.h"
@@ -77,7 +77,9 @@ bool BillSheet::chooseDocument(std::string& error) {
 }
 
 BillFeed BillSheet::write(Vor_Bill& bill, const BillProgress& progress, std::string& error) {
-    if (!areSectionsRead(bill, error) || !chooseDocument(error) || !begin(bill, error))
+    const bool needsSections = m_target.hasPictures || !rowsWithoutMass(bill).isEmpty();
+    if ((needsSections && !areSectionsRead(bill, error)) || !chooseDocument(error) ||
+        !begin(bill, error))
         return BillFeed::failed;
     const BillFeed fed = feed(bill, progress, error);
     return fed == BillFeed::done && !exportIt(error) ? BillFeed::failed : fed;
@@ -127,24 +129,6 @@ bool BillSheet::areHeadersUsable(const TwSheetSettings& settings, std::string& e
             error = "cannot read " + file.str() +
                     ": it does not lie beside the settings; put the page header or footer there";
         if (!error.empty()) return false;
-    }
-    return true;
-}
-
-/// False when a section of which there is no picture or mass may lie in a table that cannot be
-/// read: the bill would lack it. Sections that no table has are the user's own matter.
-bool BillSheet::areSectionsRead(const Vor_Bill& bill, std::string& error) const {
-    if (!m_target.hasPictures && rowsWithoutMass(bill).isEmpty()) return true;
-    for (const BillRow& row : bill.rows) {
-        const bool isProfile = row.piece && row.piece->kind == BillPartKind::profile;
-        if (!isProfile || gSectionTables.find(row.piece->section)) continue;
-        const Vor_StringArray tables = gSectionTables.tableNames();
-        for (int i = 0; i < tables.length(); ++i) {
-            if (gSectionTables.table(i)) continue;
-            error = "the section table " + tables[i].str() + " cannot be read, and no other has " +
-                    row.piece->section.str();
-            return false;
-        }
     }
     return true;
 }

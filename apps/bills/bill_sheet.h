@@ -46,7 +46,6 @@ class BillSheet {
     bool begin(const Vor_Bill& bill, std::string& error);
     bool hasSettings(const TwSheetSettings& wanted) const;
     bool areHeadersUsable(const TwSheetSettings& settings, std::string& error) const;
-    bool areSectionsRead(const Vor_Bill& bill, std::string& error) const;
     BillFeed feed(Vor_Bill& bill, const BillProgress& progress, std::string& error);
     bool exportIt(std::string& error);
 

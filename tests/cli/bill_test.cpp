@@ -220,8 +220,9 @@ TEST_F(Bill, ASetIsWholeOrNotThereAndReplacesNothingOfTheUser) {
         if (hasPictures) arguments.emplace_back("--pictures");
         const auto made = program::run(arguments);
         EXPECT_EQ(made.exitCode, hasPictures ? 1 : 0) << made.err;
-        EXPECT_EQ(made.err.find("IPE cannot be read, and no other has IPE-200") != made.err.npos,
-                  hasPictures);
+        EXPECT_EQ(
+            made.err.find("IPE cannot be read, and no other table has IPE-200") != made.err.npos,
+            hasPictures);
     }
     // Copies come first; a sheet that fails takes them along.
     std::filesystem::create_directories(folder.path() / "d/b.sss");
