@@ -2,6 +2,7 @@
 
 #include "bills/bill_choice.h"
 #include "bills/bill_sections.h"
+#include "core_api/library_names.h"
 #include "core_api/settings.h"
 #include "core_api/text/text_helpers.h"
 #include "platform/files.h"
@@ -128,6 +129,10 @@ bool BillSheet::areHeadersUsable(const TwSheetSettings& settings, std::string& e
         else if (isPrinted() && getPath(file).isEmpty())
             error = "cannot read " + file.str() +
                     ": it does not lie beside the settings; put the page header or footer there";
+        // The settings' folder is the add-on's for as long as they are read.
+        else if (const auto refusal =
+                     isPrinted() && files::exists(file) ? outsideRefusal(file) : std::nullopt)
+            error = refusal->str();
         if (!error.empty()) return false;
     }
     return true;

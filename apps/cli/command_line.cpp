@@ -6,6 +6,7 @@
 #include <iostream>
 
 #include "bill/bill_command.h"
+#include "core_api/library_names.h"
 #include "core_api/texts/language_codes.h"
 #include "cutstock/cutstock_commands.h"
 #include "io/suggestion.h"
@@ -22,6 +23,7 @@ namespace {
 /// All that a call can ask for, and what it asked for.
 struct Calls {
     std::string library;
+    bool outside = false;
     CheckRequest check;
     TestRequest test;
     RunRequest run;
@@ -415,6 +417,7 @@ ExitCode runCommandLine(int argc, const char* const* argv) {
     app.add_option("--library", calls.library, "The library folder")
         ->type_name("DIR")
         ->envname("VORMANT_LIBRARY");
+    app.add_flag("--outside", calls.outside, "Let names in files of the library lead out of it");
     app.require_subcommand(1);
     app.fallthrough();
 
@@ -451,6 +454,8 @@ ExitCode runCommandLine(int argc, const char* const* argv) {
     } catch (const CLI::ParseError& error) {
         return wrongCall(app, error);
     }
+    setLibraryNameRule(
+        {calls.outside ? OutsideNames::allowed : OutsideNames::refused, "allow it with --outside"});
     return calls.work();
 }
 

@@ -24,7 +24,8 @@ bool removeItem(DlgCSP2Data& data, int index);
 bool isItem(const DlgCSP2Data& data, int index);
 
 /// Names become folders: not empty, none of the characters that names of files cannot have, and
-/// neither blanks at an end nor a dot at the last, which some systems drop.
+/// neither blanks at an end nor a dot at the last, which some systems drop, nor
+/// the name of a device.
 bool canBeFolder(std::string_view name);
 
 }  // namespace cutstock

@@ -13,6 +13,7 @@
 #include "platform/folder_lock.h"
 #include "platform/folders.h"
 #include "platform/paths.h"
+#include "platform/temporary_files.h"
 
 namespace files {
 
@@ -71,9 +72,11 @@ std::optional<ExclusiveChange> ExclusiveChange::take(std::string_view path, std:
     // A folder that was made may go again with the change of another program that made it too.
     for (int tries = 0; isName && tries < 100; ++tries) {
         const std::string target = finalPath(path);
-        if (auto lock = FolderLock::take(folderOf(target), patience, code))
+        if (auto lock = FolderLock::take(folderOf(target), patience, code)) {
+            removeLeftovers(folderOf(target));
             return ExclusiveChange(
                 std::make_unique<State>(target, std::move(lock), std::move(made)));
+        }
         if (code != ENOENT) break;
         code = makeFolders(folderOf(target), made);
         if (code != 0) break;

@@ -172,6 +172,10 @@ std::string toMachine(std::string_view inside) {
     return resolved;
 }
 
+bool isExact(std::string_view inside) {
+    return exactPaths().contains(asWritten(inside));
+}
+
 std::optional<std::string> toInside(std::string_view machine) {
     auto inside = encodings::fromUtf8(machine);
     if (!inside) return inside;

@@ -31,4 +31,7 @@ VORMANT_API std::string asWritten(std::string_view inside);
 /// back, wherever it lies. Nothing when a character is not in Windows-1252.
 VORMANT_API std::optional<std::string> toInside(std::string_view machine);
 
+/// Whether toInside has given this path.
+VORMANT_API bool isExact(std::string_view inside);
+
 }  // namespace paths

@@ -2,6 +2,7 @@
 
 #include <optional>
 
+#include "core_api/library_names.h"
 #include "core_api/text/text_helpers.h"
 #include "platform/files.h"
 #include "platform/window/bitmap.h"
@@ -27,6 +28,13 @@ bool HeaderCopies::add(Vor_String& reference) {
         if (m_which == HeaderFiles::allOrNothing)
             m_problem = "cannot read " + reference.str() +
                         ": it is not there; correct the page header or footer of the settings";
+        return false;
+    }
+    const std::string_view home = m_folder.isEmpty() ? "." : m_folder.view();
+    const auto refusal =
+        m_which == HeaderFiles::sheetsOnly ? outsideRefusal(reference, home) : std::nullopt;
+    if (refusal) {
+        m_problem = refusal->str();
         return false;
     }
     Copy header{reference, {}, {}};

@@ -14,10 +14,12 @@
 enum class HeaderFiles {
     /// All that exist, whatever is in them: hosts answer for the names that they give.
     asNamed,
-    /// Only sheets and bitmaps, as a name may come with a file that somebody sent. What cannot be
-    /// copied is reported, and the sheet is saved.
+    /// Only sheets and bitmaps of the library (core_api/library_names), as a name may come with a
+    /// file that somebody sent. What cannot be copied is reported, and the sheet is saved.
     sheetsOnly,
-    /// The same, but nothing is saved unless everything that is named can be copied.
+    /// Sheets and bitmaps, and nothing is saved unless everything that is named can be copied;
+    /// where
+    /// names may lead is the caller's to ask.
     allOrNothing,
 };
 

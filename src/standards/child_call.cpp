@@ -1,4 +1,6 @@
 // Standards that call others.
+#include "core_api/library_names.h"
+#include "core_api/settings.h"
 #include "core_api/text/text_helpers.h"
 #include "mapping/mapping_file.h"
 #include "mapping/start_dlg_standards_ss.h"
@@ -33,18 +35,25 @@ ErrorStatus bindVariables(const TwVarCells& parent, const Vor_StringArray& names
 
 }  // namespace
 
-std::optional<Vor_String> TwStandardsSS::searchChildFile(const Vor_String& name) const {
+std::vector<Vor_String> TwStandardsSS::childCandidates(const Vor_String& name) const {
     const Vor_String standards = standardsFolder();
-    const Vor_String own = getPath(m_filePath);
+    const bool isHost = libraryNameRule().outside == OutsideNames::asHost;
+    Vor_String own = getPath(m_filePath);
+    // As a path, not as a name that means the library.
+    if (own.isEmpty() && !isHost) own = ".\\";
+    std::vector<Vor_String> candidates;
+    if (mayBeOwnPath(name)) candidates.push_back(name);
+    candidates.push_back(own + ensureNoStartBSlash(name));
+    if (isHost || !gSettings.libDir().isEmpty())
+        for (const char* folder : {"", "Childs\\", "Data\\", "Parents\\"})
+            candidates.push_back(standards + folder + name);
+    return candidates;
+}
+
+std::optional<Vor_String> TwStandardsSS::searchChildFile(const Vor_String& name) const {
     return FoundFiles::instance().find(
-        "child\n" + standards.str() + "\n" + own.str() + "\n" + name.str(), [&] {
-            return std::vector<Vor_String>{name,
-                                           own + ensureNoStartBSlash(name),
-                                           standards + name,
-                                           standards + "Childs\\" + name,
-                                           standards + "Data\\" + name,
-                                           standards + "Parents\\" + name};
-        });
+        "child\n" + standardsFolder().str() + "\n" + getPath(m_filePath).str() + "\n" + name.str(),
+        [&] { return childCandidates(name); });
 }
 
 Vor_String TwStandardsSS::findChildFile(const Vor_String& name) const {
@@ -61,6 +70,8 @@ ErrorStatus TwStandardsSS::runChild(const Vor_String& text, const Vor_String& fu
     ChildCall call;
     if (!parseChildCall(text, functionName, call, reason)) return Acad::eInvalidInput;
     const std::optional<Vor_String> found = searchChildFile(call.file);
+    if (const auto refusal = found ? std::nullopt : FoundFiles::refusal(childCandidates(call.file)))
+        return fail(reason, *refusal);
     if (!found)
         return fail(reason, "there is no file \"" + call.file +
                                 "\" beside this standard or in \"Connection Standards\", its "

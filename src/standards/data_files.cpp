@@ -4,6 +4,7 @@
 #include <unordered_map>
 
 #include "core_api/files.h"
+#include "core_api/library_names.h"
 #include "core_api/settings.h"
 #include "core_api/text/text_helpers.h"
 #include "mapping/cached_files.h"
@@ -16,6 +17,17 @@ namespace {
 
 void tellObserver(const Vor_String& text) {
     if (RunObserver* observer = runObserver()) observer->dataFileFailed(text);
+}
+
+std::vector<Vor_String> dataFileCandidates(std::string_view name) {
+    const Vor_String& library = gSettings.libDir();
+    const Vor_String standards = standardsFolder();
+    std::vector<Vor_String> candidates;
+    if (mayBeOwnPath(name)) candidates.emplace_back(name);
+    if (!library.isEmpty() || libraryNameRule().outside == OutsideNames::asHost)
+        for (const Vor_String& folder : {standards + "Data\\", standards, library})
+            candidates.push_back(folder + name);
+    return candidates;
 }
 
 std::optional<Vor_StringArray> readLines(std::string_view path) {
@@ -47,6 +59,10 @@ class ReadInRun {
     template <class Read>
     std::shared_ptr<const Content> readFrom(std::string_view name, Read&& read) {
         if (const auto path = findDataFile(name)) return m_files.get(*path, read);
+        if (const auto refusal = FoundFiles::refusal(dataFileCandidates(name))) {
+            tellObserver(*refusal);
+            return nullptr;
+        }
         tellObserver("there is no data file \"" + Vor_String(name) + "\" in " + standardsFolder() +
                      "Data\\: put it there, or correct its name");
         return nullptr;
@@ -109,11 +125,8 @@ std::optional<LookupTable> parseLookupTable(std::string_view path) {
 
 std::optional<Vor_String> findDataFile(std::string_view name) {
     const Vor_String& library = gSettings.libDir();
-    return FoundFiles::instance().find("data\n" + library.str() + "\n" + std::string(name), [&] {
-        const Vor_String standards = standardsFolder();
-        return std::vector<Vor_String>{Vor_String(name), standards + "Data\\" + name,
-                                       standards + name, library + name};
-    });
+    return FoundFiles::instance().find("data\n" + library.str() + "\n" + std::string(name),
+                                       [&] { return dataFileCandidates(name); });
 }
 
 std::shared_ptr<const SizeList> readSizeList(std::string_view name) {

@@ -15,6 +15,11 @@ std::optional<Vor_String> firstExisting(const std::vector<Vor_String>& candidate
     return std::nullopt;
 }
 
+std::optional<Vor_String> firstAllowed(const std::vector<Vor_String>& candidates) {
+    auto found = firstExisting(candidates);
+    return found && outsideRefusal(*found, RunningStandard::home()) ? std::nullopt : found;
+}
+
 }  // namespace
 
 FoundFiles& FoundFiles::instance() {
@@ -24,22 +29,28 @@ FoundFiles& FoundFiles::instance() {
 
 const std::optional<Vor_String>* FoundFiles::knownAs(const std::string& key) {
     if (RunningStandard::serial() == 0) return nullptr;
-    if (m_serial != RunningStandard::serial()) startRun();
+    if (m_serial != RunningStandard::serial() || m_home != RunningStandard::home()) startRun();
     const auto known = m_found.find(key);
     return known == m_found.end() ? nullptr : &known->second;
 }
 
 std::optional<Vor_String> FoundFiles::look(const std::string& key,
                                            const std::vector<Vor_String>& candidates) {
-    if (RunningStandard::serial() == 0) return firstExisting(candidates);
+    if (RunningStandard::serial() == 0) return firstAllowed(candidates);
     for (const Vor_String& candidate : candidates) noteFolderOf(candidate);
-    return m_found.insert_or_assign(key, firstExisting(candidates)).first->second;
+    return m_found.insert_or_assign(key, firstAllowed(candidates)).first->second;
+}
+
+std::optional<Vor_String> FoundFiles::refusal(const std::vector<Vor_String>& candidates) {
+    const auto found = firstExisting(candidates);
+    return found ? outsideRefusal(*found, RunningStandard::home()) : std::nullopt;
 }
 
 /// Forgets everything when a folder has changed since it was looked into.
 void FoundFiles::startRun() {
     m_serial = RunningStandard::serial();
-    bool holds = m_isLasting && m_found.size() < mostFound;
+    bool holds = m_isLasting && m_found.size() < mostFound && m_home == RunningStandard::home() &&
+                 m_rule == libraryNameRule().outside;
     for (auto folder = m_folders.begin(); holds && folder != m_folders.end(); ++folder) {
         const auto stamp = files::folderStampOf(folder->first);
         holds = (stamp ? stamp->time : missing) == folder->second;
@@ -48,6 +59,8 @@ void FoundFiles::startRun() {
     m_found.clear();
     m_folders.clear();
     m_isLasting = true;
+    m_home = RunningStandard::home();
+    m_rule = libraryNameRule().outside;
 }
 
 void FoundFiles::noteFolderOf(const Vor_String& file) {

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <filesystem>
 
+#include "core_api/text/text_helpers.h"
+
 namespace {
 
 /// `path` without the folders that it enters only to leave them, so that one file has one path.
@@ -19,6 +21,7 @@ RunningStandard* RunningStandard::s_innermost = nullptr;
 int RunningStandard::s_depth = 0;
 int RunningStandard::s_count = 0;
 unsigned long long RunningStandard::s_serial = 0;
+Vor_String RunningStandard::s_home;
 
 RunningStandard::RunningStandard() : m_caller(s_innermost) {
     if (s_depth++ == 0) {
@@ -32,6 +35,13 @@ RunningStandard::RunningStandard() : m_caller(s_innermost) {
 RunningStandard::~RunningStandard() {
     --s_depth;
     s_innermost = m_caller;
+}
+
+void RunningStandard::setPath(const Vor_String& path) {
+    m_path = &path;
+    if (s_depth > 1) return;
+    s_home = getPath(path);
+    if (s_home.isEmpty()) s_home = ".";
 }
 
 bool RunningStandard::isRunning(const Vor_String& path) {

@@ -17,7 +17,7 @@ class RunningStandard {
     RunningStandard& operator=(const RunningStandard&) = delete;
 
     /// Known once the file is loaded; borrowed.
-    void setPath(const Vor_String& path) { m_path = &path; }
+    void setPath(const Vor_String& path);
 
     /// How many runs are under way.
     static int depth() { return s_depth; }
@@ -25,6 +25,9 @@ class RunningStandard {
     static int count() { return s_count; }
     /// A run of this file is under way; letter case and detours ("Childs\..\") aside.
     static bool isRunning(const Vor_String& path);
+    /// The folder of the outermost standard, whose files belong to it, "." for the current one; of
+    /// the last one until the file of the next is known.
+    static const Vor_String& home() { return s_home; }
     /// Differs from one outermost run to the next; 0 outside of any run. What is looked up on
     /// disk may be remembered as long as it stays.
     static unsigned long long serial() { return s_depth > 0 ? s_serial : 0; }
@@ -36,4 +39,5 @@ class RunningStandard {
     static int s_depth;
     static int s_count;
     static unsigned long long s_serial;
+    static Vor_String s_home;
 };

@@ -1,6 +1,7 @@
 #include "standards/tw_standards_ss.h"
 
 #include "core_api/files.h"
+#include "core_api/library_names.h"
 #include "core_api/text/text_helpers.h"
 #include "mapping/cell_types.h"
 #include "mapping/mapping_file.h"
@@ -21,6 +22,7 @@ Vor_String pathInLibrary(const Vor_String& name) {
 /// The file of that name, else the standard of the library.
 Vor_String findByName(const Vor_String& name) {
     const Vor_String inLibrary = pathInLibrary(name);
+    if (!mayBeOwnPath(name)) return inLibrary;
     const auto candidates = [&] { return std::vector<Vor_String>{name, inLibrary}; };
     return FoundFiles::instance()
         .find("standard\n" + inLibrary.str(), candidates)
@@ -38,8 +40,8 @@ ErrorStatus TwStandardsSS::loadFile(const Vor_String& name) {
     setBool(static_cast<int>(control::Option::repaint), false);
     setBool(static_cast<int>(control::Option::automaticRecalculation), false);
     // Children and batches come with a file; only a bare name has to be looked for.
-    const bool isFile =
-        name.view().find_first_of("\\/") != std::string_view::npos || name.endsWith(".tws");
+    const bool isFile = name.view().find_first_of("\\/") != std::string_view::npos ||
+                        (name.endsWith(".tws") && mayBeOwnPath(name));
     Vor_String path = isFile ? name : findByName(name);
     bool isLoaded = loadFromFile(path);
     if (!isLoaded && isFile && !ObjectExportFileExists(name)) {

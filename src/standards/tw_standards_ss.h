@@ -6,6 +6,7 @@
 #include <memory>
 #include <optional>
 #include <string_view>
+#include <vector>
 
 #include "mapping/tw_var_cells.h"
 #include "spread/vor_spread.h"
@@ -84,6 +85,7 @@ class TwStandardsSS : public Vor_Spread {
     bool takeNumber(const PreparedEquation& equation, const formula::Value& result);
     bool takeText(const PreparedEquation& equation, const formula::Value& result);
     void setEquationType(const PreparedEquation& equation);
+    std::vector<Vor_String> childCandidates(const Vor_String& name) const;
     std::optional<Vor_String> searchChildFile(const Vor_String& name) const;
     ErrorStatus runChild(const Vor_String& text, const Vor_String& functionName,
                          control::CellAddress caller, Vor_String& reason);

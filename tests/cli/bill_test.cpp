@@ -197,8 +197,10 @@ TEST_F(Bill, ASetIsWholeOrNotThereAndReplacesNothingOfTheUser) {
     const struct {
         std::string settings, message;
     } cases[] = {
-        {folder.write("s/Secret.twd", setting(folder.write("key", "secret"))),
+        {folder.write("s/Secret.twd", setting(folder.write("s/key", "secret"))),
          "key:1: this is no sheet"},
+        {folder.write("s/Outside.twd", setting(folder.write("key", "secret"))),
+         "lies outside of the library"},
         {folder.write("s/Gone.twd", setting(folder / "none.sss")), "none.sss: it is not there"},
         {folder.write("s/Bare.twd", setting("Bill header.sss")),
          "does not lie beside the settings"},

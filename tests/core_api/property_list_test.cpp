@@ -28,7 +28,7 @@ TEST(PropertyList, KeepsOrderTypesAndEveryText) {
     Vor_String message;
     ASSERT_TRUE(list.save(folder.inside("m.macro"), message)) << message.str();
     Vor_PropertyList read;
-    ASSERT_TRUE(read.load(folder.inside("M.macro"), message)) << message.str();
+    ASSERT_TRUE(read.load(folder.inside("m.macro"), message)) << message.str();
     EXPECT_EQ(read, list);
     EXPECT_EQ(read[1].key.str(), "a");
     EXPECT_EQ(read[1].line, 3);

@@ -32,7 +32,7 @@ _vormant() {
         esac
     done
 
-    local options="--help --library"
+    local options="--help --library --outside"
     case $before in
         --library) mapfile -t COMPREPLY < <(compgen -d -- "$word"); return ;;
         --macro | --input | --file | -o | --output | --settings) mapfile -t COMPREPLY < <(compgen -f -- "$word"); return ;;

@@ -101,6 +101,11 @@ bool mayWrite(const ImportStockRequest& request, const Vor_String& path) {
     return false;
 }
 
+bool fails(const std::string& why) {
+    complainText(why);
+    return false;
+}
+
 /// What another program adds meanwhile stays, and of what fails nothing is left.
 bool store(const ImportStockRequest& request, const Vor_String& name, const cutstock::Rows& rows,
            Vor_String& path) {
@@ -108,14 +113,12 @@ bool store(const ImportStockRequest& request, const Vor_String& name, const cuts
     Vor_String message;
     const Vor_String list = cutstock::CuttingStockLibrary::path();
     const auto listChange = files::ExclusiveChange::take(list, error);
-    const auto before = listChange ? files::KeptFile::keep(list, error) : nullptr;
-    if (!before) {
-        complainText(error);
-        return false;
-    }
+    if (!listChange) return fails(error);
     const auto item = itemMeant(request);
     const auto folder = item ? folderOf(item->name) : std::nullopt;
     if (!folder) return false;
+    const auto before = item->isNew ? files::KeptFile::keep(list, error) : nullptr;
+    if (item->isNew && !before) return fails(error);
     // The item first: it may well have no files, while files without an item are seen by nobody.
     if (item->isNew && !addToList(item->name)) return false;
     path = placeIn(*folder, request, name);
@@ -126,7 +129,7 @@ bool store(const ImportStockRequest& request, const Vor_String& name, const cuts
         if (cutstock::saveRows(path, rows, message)) return true;
         complainText(message);
     }
-    if (item->isNew && !before->putBack(error)) complainText(error);
+    if (before && !before->putBack(error)) complainText(error);
     return false;
 }
 

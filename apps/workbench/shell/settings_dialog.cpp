@@ -57,6 +57,10 @@ SettingsDialog::SettingsDialog(const WorkbenchSettings& settings, QWidget* paren
     m_diagnostics->setChecked(settings.diagnostics);
     form->addRow(QString(), m_diagnostics);
 
+    m_outside = new QCheckBox(say(wordOutside));
+    m_outside->setChecked(settings.outside);
+    form->addRow(QString(), m_outside);
+
     form->addRow(dialogButtons(*this));
 }
 
@@ -73,5 +77,6 @@ WorkbenchSettings SettingsDialog::settings() const {
     changed.language = static_cast<Language>(m_language->currentIndex());
     changed.scalePercent = m_scale->currentData().toInt();
     changed.diagnostics = m_diagnostics->isChecked();
+    changed.outside = m_outside->isChecked();
     return changed;
 }

@@ -24,4 +24,5 @@ class SettingsDialog : public QDialog {
     QComboBox* m_language;
     QComboBox* m_scale;
     QCheckBox* m_diagnostics;
+    QCheckBox* m_outside;
 };

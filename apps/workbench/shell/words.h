@@ -65,5 +65,7 @@ enum WorkbenchWord {
     wordNotOpened = 26961,
     wordOnlyToLookAt = 26962,
 
+    wordOutside = 27100,
+
     wordOwnLanguage = 26000,  ///< each language's name for itself
 };

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstdlib>
 
+#include "core_api/library_names.h"
 #include "platform/registry/registry.h"
 
 namespace {
@@ -31,6 +32,7 @@ WorkbenchSettings WorkbenchSettings::load() {
     settings.author = read("Author");
     settings.language = static_cast<Language>(readNumber("Language", 0, languageCount - 1, 0));
     settings.diagnostics = readNumber("Diagnostics", 0, 1, 1) == 1;
+    settings.outside = readNumber("Outside", 0, 1, 0) == 1;
     settings.scalePercent = readNumber("Scale", 100, 200, 100);
     for (int i = 0; i < mostRecent; ++i)
         if (const std::string folder = read(recentName(i)); !folder.empty())
@@ -48,7 +50,7 @@ bool WorkbenchSettings::save(std::string& error) const {
     }
     return write("Library", library) && write("Author", author) &&
            write("Language", std::to_string(static_cast<int>(language))) &&
-           write("Diagnostics", diagnostics ? "1" : "0") &&
+           write("Diagnostics", diagnostics ? "1" : "0") && write("Outside", outside ? "1" : "0") &&
            write("Scale", std::to_string(scalePercent));
 }
 
@@ -62,4 +64,6 @@ void WorkbenchSettings::noteLibrary(const std::string& folder) {
 void WorkbenchSettings::apply() const {
     gSettings.current().language = sessionLanguage.value_or(language);
     gSettings.current().diagnostics = diagnostics;
+    setLibraryNameRule({outside ? OutsideNames::allowed : OutsideNames::refused,
+                        "allow it in the settings of the workbench"});
 }

@@ -14,6 +14,8 @@ struct WorkbenchSettings {
     /// Asked for at the start of this session alone; not kept.
     std::optional<Language> sessionLanguage;
     bool diagnostics = true;
+    /// Names in files of the library may lead out of it.
+    bool outside = false;
     int scalePercent = 100;  ///< 100 to 200; counts from the next start
     std::string author;      ///< for reports, UTF-8
 
@@ -26,6 +28,6 @@ struct WorkbenchSettings {
 
     /// Puts a library in front of the recent ones.
     void noteLibrary(const std::string& folder);
-    /// Sets the module's working language and diagnostics flag.
+    /// Sets the module's working language, its diagnostics flag and where names may lead.
     void apply() const;
 };

@@ -47,15 +47,18 @@ constexpr TextRow rows[] = {
       "Aucun dossier de bibliothèque n'est défini ; choisissez-en un d'abord."}},
     {25201,
      {"This cannot be the name of an item, as its files lie in a folder of that name; leave out \\ "
-      "/ : * ? \" < > | and a dot or blanks at its ends.",
+      "/ : * ? \" < > |, a dot or blanks at its ends, and names of devices such as CON or COM1.",
       "Dit kan geen naam van een onderdeel zijn, omdat de bestanden in een map met die naam "
       "liggen; "
-      "laat \\ / : * ? \" < > | en een punt of spaties aan de uiteinden weg.",
+      "laat \\ / : * ? \" < > | een punt of spaties aan de uiteinden en namen van "
+      "apparaten zoals CON of COM1 weg.",
       "Das kann kein Name eines Postens sein, denn seine Dateien liegen in einem Ordner dieses "
-      "Namens; bitte \\ / : * ? \" < > | und Punkt oder Leerzeichen an den Enden weglassen.",
+      "Namens; bitte \\ / : * ? \" < > | Punkt oder Leerzeichen an den Enden und Namen "
+      "von Geräten wie CON oder COM1 weglassen.",
       "Ce ne peut être le nom d'un article, car ses fichiers se trouvent dans un dossier de ce nom "
       "; "
-      "retirez \\ / : * ? \" < > | et le point ou les espaces aux extrémités."}},
+      "retirez \\ / : * ? \" < > | le point ou les espaces aux extrémités et les noms de "
+      "périphériques comme CON ou COM1."}},
     {25202,
      {"a cell holds a line break, which files of rows cannot keep; remove it and save again",
       "een cel bevat een regeleinde, dat bestanden met rijen niet kunnen bewaren; verwijder het en "

@@ -144,6 +144,11 @@ constexpr TextRow rows[] = {
      {"Reversed, second direction", "Omgekeerd, tweede richting", "Umgekehrt, zweite Richtung",
       "Inversé, seconde direction"}},
     {26969, {"Bolt diameter", "Boutdiameter", "Schraubendurchmesser", "Diamètre des boulons"}},
+    {27100,
+     {"Let names in files of the library lead out of it",
+      "Namen in bestanden van de bibliotheek mogen erbuiten leiden",
+      "Namen in Dateien der Bibliothek dürfen aus ihr herausführen",
+      "Laisser les noms dans les fichiers de la bibliothèque mener hors d'elle"}},
 };
 
 }  // namespace
