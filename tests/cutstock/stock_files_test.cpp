@@ -137,7 +137,8 @@ TEST_F(StockFiles, WhatNoTableHasRoomForIsRefusedWithItsLine) {
 
 TEST_F(StockFiles, FoldersAreMadeOfGoodNamesInALibraryOnly) {
     EXPECT_EQ(folderOf("IPE 200"), library.folder.inside() + "Cutting Stock\\IPE 200\\");
-    for (const char* bad : {"", ".", "..", "..\\x", "a/b", "a:b", " a", "a ", "a.", "a\nb", "a?"})
+    for (const char* bad : {"", ".", "..", "..\\x", "a/b", "a:b", " a", "a ", "a.", "a\nb", "CON",
+                            "com1.txt", "Lpt9 .x", "a?"})
         EXPECT_FALSE(itemFolder(bad, message)) << bad;
     EXPECT_TRUE(message.hasSubString("\"a?\": "));
     gSettings.setLibDir("");
