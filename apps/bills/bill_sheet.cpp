@@ -42,6 +42,10 @@ class SettingsFolder {
     Vor_String m_name;
 };
 
+std::string notAsBefore(const SettingsFolder& settings) {
+    return "cannot read " + settings.path().str() + ": it has just changed; try again";
+}
+
 AcArray<int> kindsOf(const Vor_Bill& bill) {
     AcArray<int> kinds;
     for (const BillColumn& column : bill.columns) kinds.append(static_cast<int>(column.kind));
@@ -96,9 +100,12 @@ bool BillSheet::begin(const Vor_Bill& bill, std::string& error) {
         return false;
     }
     TwSheetSettings wanted;
-    if (areRequired && (!files::readWhole(settings.path(), error) ||
-                        !wanted.readFromFile(settings.name()) || !areHeadersUsable(wanted, error)))
+    if (areRequired &&
+        (!files::readWhole(settings.path(), error) || !wanted.readFromFile(settings.name()) ||
+         !areHeadersUsable(wanted, error))) {
+        if (error.empty()) error = notAsBefore(settings);
         return false;
+    }
     if (m_output.init(m_document, bill.columnNames(), {}, kindsOf(bill), settings.name(), {}, {}) !=
         Acad::eOk) {
         error = "the window of the bill cannot be opened";
@@ -106,7 +113,7 @@ bool BillSheet::begin(const Vor_Bill& bill, std::string& error) {
     }
     m_output.setNames(bill.title, m_target.file);
     if (!areRequired || hasSettings(wanted)) return true;
-    error = "cannot read " + settings.path().str() + ": it has just changed; try again";
+    error = notAsBefore(settings);
     return false;
 }
 

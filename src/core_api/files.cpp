@@ -64,7 +64,7 @@ ErrorStatus ObjectExportGetFileTime(std::string_view path, std::int64_t& time) {
 }
 
 bool ObjectExportFileExists(std::string_view path) {
-    return files::exists(path);
+    return files::mayExist(path);
 }
 
 ErrorStatus ObjectExportCreateDirectory(std::string_view path, Vor_String* message) {

@@ -45,6 +45,10 @@ std::string whatHappened(int error) {
 
 }  // namespace
 
+bool tellsMissing(int error) {
+    return error == ENOENT || error == ENOTDIR || error == ENAMETOOLONG || error == ELOOP;
+}
+
 std::string errorText(std::string_view action, std::string_view path, int error) {
     std::string text = "cannot ";
     text.append(action).append(" ").append(path).append(": ");

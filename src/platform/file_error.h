@@ -16,4 +16,7 @@ std::string errorText(std::string_view action, std::string_view path, int error)
 /// The same for a device, a pipe and the like.
 std::string notOrdinaryText(std::string_view action, std::string_view path);
 
+/// Whether the system's error says that there is no such file, and not that it cannot be asked.
+bool tellsMissing(int error);
+
 }  // namespace files

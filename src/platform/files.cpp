@@ -36,9 +36,10 @@ std::optional<struct stat> statusOf(std::string_view path) {
     // Asked at every run of a standard: one system call when the exact name exists.
     const std::string written = paths::asWritten(path);
     if (::stat(written.c_str(), &status) == 0) return status;
+    if (!tellsMissing(errno)) return std::nullopt;
     const std::string found = paths::toMachine(path);
-    if (found != written && ::stat(found.c_str(), &status) == 0) return status;
-    return std::nullopt;
+    if (found == written) return std::nullopt;
+    return ::stat(found.c_str(), &status) == 0 ? std::optional(status) : std::nullopt;
 }
 
 /// Not blocking: opening a pipe would wait for somebody to write into it. Negative with errno.
@@ -108,6 +109,11 @@ std::optional<Stamp> machineStampOf(const std::string& machine) {
 std::optional<Stamp> folderStampOf(std::string_view path) {
     const auto status = statusOf(path);
     return status && S_ISDIR(status->st_mode) ? std::optional(stampOf(*status)) : std::nullopt;
+}
+
+bool mayExist(std::string_view path) {
+    errno = ENOENT;
+    return statusOf(path) ? !isFolder(path) : !tellsMissing(errno);
 }
 
 bool exists(std::string_view path) {

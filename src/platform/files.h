@@ -36,6 +36,9 @@ VORMANT_API std::optional<Stamp> stampOf(std::string_view path);
 /// The same of a folder: it changes when something in it comes, goes or gets another name.
 VORMANT_API std::optional<Stamp> folderStampOf(std::string_view path);
 VORMANT_API bool exists(std::string_view path);
+/// The same, but true also when the disk cannot tell: for whoever would write in the place of a
+/// file that is not there. Reading it then says what is wrong.
+VORMANT_API bool mayExist(std::string_view path);
 VORMANT_API bool isFolder(std::string_view path);
 
 /// Larger files are refused by readWhole unless its caller knows better.

@@ -3,10 +3,12 @@
 #include <sys/stat.h>
 
 #include <algorithm>
+#include <cerrno>
 #include <set>
 #include <utility>
 
 #include "platform/encodings.h"
+#include "platform/file_error.h"
 #include "platform/files.h"
 #include "platform/paths.h"
 
@@ -52,7 +54,10 @@ class Finder {
     void take(const std::string& folder, const std::string& machine, std::string_view name) {
         const auto inside = encodings::fromUtf8(name);
         struct stat status {};
-        if (!inside || ::stat((machine + std::string(name)).c_str(), &status) != 0) return;
+        // What cannot be asked about is listed: reading it says what is wrong.
+        if (!inside ||
+            (::stat((machine + std::string(name)).c_str(), &status) != 0 && tellsMissing(errno)))
+            return;
         if (S_ISDIR(status.st_mode)) {
             // A folder reached twice through links is listed once, so links in a circle end.
             if (m_recursive && m_seen.emplace(status.st_dev, status.st_ino).second)

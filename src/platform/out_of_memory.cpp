@@ -48,7 +48,7 @@ void prepareForNoMemory(const char* program) {
 int reportNoMemory() {
     write(programName);
     write(
-        ": there is not enough memory; nothing was changed, close other programs or give less "
+        ": there is not enough memory; no file is half written. Close other programs, or give less "
         "at a time\n");
     return 1;
 }

@@ -6,6 +6,7 @@
 
 #include <cerrno>
 #include <filesystem>
+#include <new>
 #include <utility>
 
 #include "platform/file_error.h"
@@ -27,7 +28,11 @@ std::optional<ScratchFolder> ScratchFolder::make(std::string& error) {
 
 ScratchFolder::~ScratchFolder() {
     std::error_code ignored;
-    if (!m_machine.empty()) std::filesystem::remove_all(m_machine, ignored);
+    try {
+        if (!m_machine.empty()) std::filesystem::remove_all(m_machine, ignored);
+    } catch (const std::bad_alloc&) {
+        // It stays, as after a program that was ended from outside.
+    }
 }
 
 ScratchFolder::ScratchFolder(ScratchFolder&& other) noexcept

@@ -1,5 +1,6 @@
 #include <set>
 
+#include "core_api/files.h"
 #include "core_api/macros/macro_file.h"
 #include "core_api/macros/macro_limits.h"
 #include "core_api/text/text_helpers.h"
@@ -139,6 +140,12 @@ ExitCode setMapping(const SetMappingRequest& request) {
     auto macro = openMappedMacro(request.macroFile);
     if (!macro) return ExitCode::failed;
 
+    Vor_String failure;
+    if (!readMappingLines(standard->name, &failure) &&
+        ObjectExportFileExists(mappingFilePath(standard->name))) {
+        complainText(failure);
+        return ExitCode::failed;
+    }
     TwSSMapping stored;
     if (!key->isEmpty()) (void)stored.getMappingFromFile(standard->name, *key);
     SheetChoices choices(standard->declared, stored, macro->objects);
@@ -151,7 +158,6 @@ ExitCode setMapping(const SetMappingRequest& request) {
     }
 
     MappingSaver saver;
-    Vor_String failure;
     const TwSSMapping mapping = choices.mapping();
     const ErrorStatus status = key->isEmpty()
                                    ? saver.save(standard->name, mapping, *key, failure)

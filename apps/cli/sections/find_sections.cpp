@@ -125,6 +125,8 @@ ExitCode findSections(const FindSectionsRequest& request) {
             hits.push_back(std::move(hit));
         }) && allRead;
     const auto unknown = search.unknownColumns();
+    // A table that cannot be read may have it.
+    if (!unknown.empty() && !allRead) return ExitCode::failed;
     for (const std::string& name : unknown) complainAboutColumn(name, search.knownColumns());
     if (!unknown.empty()) return ExitCode::wrongCall;
     if (!sortColumn.empty()) sortHits(hits);
