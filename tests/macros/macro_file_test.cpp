@@ -100,7 +100,7 @@ TEST(MacroFile, SavesWhatItLoadsByteForByte) {
     EXPECT_EQ(folder.read("End plate.macro"), sampleText);
 
     Vor_DbMacro loaded;
-    ASSERT_EQ(loadMacro(folder.inside("end PLATE.DWG"), loaded, message), Acad::eOk)
+    ASSERT_EQ(loadMacro(folder.inside("End plate.DWG"), loaded, message), Acad::eOk)
         << message.str();
     EXPECT_TRUE(loaded == sample);
     Vor_PropertyList again;
