@@ -93,7 +93,7 @@ constexpr Dlg::Part tableParts[] = {Dlg::frame,           Dlg::sheet,      Dlg::
 TwCuttingStockDlg::TwCuttingStockDlg() : CDialog(resource, Host::current().mainWindow()) {}
 
 TwCuttingStockDlg::~TwCuttingStockDlg() {
-    destroy();  // before the sheets, which are children
+    destroyNow();  // before the sheets, which are children
 }
 
 void TwCuttingStockDlg::onInit() {

@@ -4,11 +4,11 @@
 
 #include <memory>
 
+#include "frame/delayed_ends.h"
 #include "frame/starter_dialogs.h"
 
 class ConstraintsWindow : public EditConstrDialog {
   public:
-    ~ConstraintsWindow() override;
     void setModeless(bool isModeless) { m_isModeless = isModeless; }
 
   protected:
@@ -17,11 +17,24 @@ class ConstraintsWindow : public EditConstrDialog {
     void onCancel() override;
 
   private:
-    void endSoon();
-
     bool m_isModeless = false;
-    int m_timer = 0;
 };
 
-/// The open one, or null.
-std::unique_ptr<ConstraintsWindow>& constraintsWindow();
+/// Holds the window while it is open.
+class OpenConstraints {
+  public:
+    OpenConstraints();
+
+    /// Opens it on a copy of `data`, unless it is open already. False when it cannot be made.
+    bool start(const EditConstrData& data);
+    /// A busy window goes a moment later; false then.
+    bool end();
+    /// Without a prompt: the library goes.
+    void drop();
+
+  private:
+    std::unique_ptr<ConstraintsWindow> m_window;
+    DelayedEnds m_delayed;
+};
+
+OpenConstraints& openConstraints();

@@ -37,7 +37,7 @@ bool attachLibrary(ModuleInstance instance) {
 
 void detachLibrary() {
     openMacroDialogs().dropAll();
-    constraintsWindow().reset();
+    openConstraints().drop();
     gResourceOverride.SaveDefaultResource(nullptr);
     extensionModule.terminate();
 }

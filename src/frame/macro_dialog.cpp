@@ -7,12 +7,6 @@ void MacroValuesDialog::setModeless(int slot, End end) {
     m_end = std::move(end);
 }
 
-void MacroValuesDialog::onCommand(int id, int code) {
-    const bool before = std::exchange(m_isInCommand, true);
-    DataDialog::onCommand(id, code);
-    m_isInCommand = before;
-}
-
 void MacroValuesDialog::onOK() {
     if (!m_end) return DataDialog::onOK();
     if (takeValues()) m_end(m_slot);

@@ -13,10 +13,6 @@ class MacroValuesDialog : public DataDialog<MacroData, macroEditor> {
 
     /// Before it is created: modeless, in `slot`; `end` closes that slot.
     void setModeless(int slot, End end);
-    /// It works on a command of its own, so it must not go before it has finished.
-    bool isCloseDelayed() const { return m_isInCommand; }
-
-    void onCommand(int id, int code) override;
 
   protected:
     void onOK() override;
@@ -25,7 +21,6 @@ class MacroValuesDialog : public DataDialog<MacroData, macroEditor> {
   private:
     int m_slot = -1;
     End m_end;
-    bool m_isInCommand = false;
 };
 
 /// What the frame opens; another macro dialog takes its place by this line.

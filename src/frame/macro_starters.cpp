@@ -47,27 +47,14 @@ bool StartDlgEditConstrModal(EditConstrData& data) try {
 
 bool StartDlgEditConstraints(EditConstrData& data) try {
     const ResourceOverrideScope resources;
-    auto& open = constraintsWindow();
-    if (open) return true;
-    auto window = std::make_unique<ConstraintsWindow>();
-    window->data() = data;
-    window->setModeless(true);
-    if (!window->create()) return true;
-    window->show(true);
-    open = std::move(window);
-    Host::current().focusMainWindow();
+    if (openConstraints().start(data)) Host::current().focusMainWindow();
     return true;
 } catch (const std::bad_alloc&) {
     return noMemoryForDialog();
 }
 
 void EndDlgEditConstraints() try {
-    auto& open = constraintsWindow();
-    if (open) {
-        if (!open->destroy()) acutPrintf("Erase window failed\n");
-        open.reset();
-    }
-    acedPostCommandPrompt();
+    if (openConstraints().end()) acedPostCommandPrompt();
 } catch (const std::bad_alloc&) {
     noMemoryForDialog();
 }

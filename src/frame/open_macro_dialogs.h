@@ -1,21 +1,21 @@
-// The modeless macro dialogs by slot. A free slot is used again before the table grows. A dialog
-// that is busy when it is ended goes a moment later, from a timer on the same thread.
+// The modeless macro dialogs by slot. A free slot is used again before the table grows. The slot of
+// a dialog whose window went with the host's main window is free.
 #pragma once
 
 #include <memory>
 #include <vector>
 
+#include "frame/delayed_ends.h"
 #include "frame/macro_dialog.h"
 
 class OpenMacroDialogs {
   public:
-    /// Milliseconds that a busy dialog stays.
-    static constexpr int closeDelay = 50;
+    OpenMacroDialogs();
 
     /// Opens a dialog on a copy of `data`; `slot` becomes the first free one. False when the window
     /// cannot be made.
     bool start(bool keepFocus, const MacroData& data, int& slot);
-    /// False for a bad or free slot, or when its window cannot be destroyed.
+    /// A busy dialog goes a moment later. False for a bad or free slot.
     bool end(int slot);
     /// From the last slot to the first.
     void endAll();
@@ -28,20 +28,13 @@ class OpenMacroDialogs {
     int length() const { return static_cast<int>(m_slots.size()); }
 
   private:
-    struct PendingClose {
-        int timer = 0;
-        int slot = 0;
-    };
-
     bool isOpen(int slot) const;
     int takeFreeSlot();
-    void endLater(int slot);
-    void onTimer(int timer);
-    void cancelPending(int slot);
     void freeSlot(int slot);
+    void trim();
 
     std::vector<std::unique_ptr<MacroDialog>> m_slots;
-    std::vector<PendingClose> m_pending;
+    DelayedEnds m_delayed;
 };
 
 OpenMacroDialogs& openMacroDialogs();

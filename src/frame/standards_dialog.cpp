@@ -1,7 +1,8 @@
 #include "frame/standards_dialog.h"
 
 #include "mapping/run_timers.h"
-#include "platform/host/host.h"
+#include "platform/window/host_window.h"
+#include "platform/window/message_scope.h"
 #include "standards/prepared_equation.h"
 #include "standards/run_chain.h"
 #include "standards/run_failure.h"
@@ -27,7 +28,7 @@ Vor_String refusalOf(const TwVarCell& variable) {
 
 }  // namespace
 
-StandardsDialog::StandardsDialog() : CDialog(resource, Host::current().mainWindow()) {}
+StandardsDialog::StandardsDialog() : CDialog(resource, livingMainWindow()) {}
 
 std::unique_ptr<StandardsDialog> StandardsDialog::make() {
     std::unique_ptr<StandardsDialog> dialog(new StandardsDialog);
@@ -37,6 +38,7 @@ std::unique_ptr<StandardsDialog> StandardsDialog::make() {
 }
 
 ErrorStatus StandardsDialog::run(RunningStandard& running) {
+    const MessageScope busy(*this);  // the sheet stays until the run has ended
     {
         const Vor_FunctionTimer timer(gLoadFile);
         if (m_spread.loadFile(m_data.standardsName) != Acad::eOk) return Acad::eInvalidInput;

@@ -2,9 +2,20 @@
 
 TwSSDlgsMgr gSSDlgsMgr;
 
+// The window of a dialog goes with the host's main window.
+void TwSSDlgsMgr::dropDead() {
+    for (int i = length() - 1; i >= 0; --i) {
+        const auto at = static_cast<size_t>(i);
+        if (m_inUse[at] || m_dialogs[at]->isAlive()) continue;
+        (void)destroyDlg(i);
+        m_inUse.erase(m_inUse.begin() + i);
+    }
+}
+
 StandardsDialog* TwSSDlgsMgr::getDlg() {
+    dropDead();
     for (size_t i = 0; i < m_dialogs.size(); ++i) {
-        if (m_inUse[i] || !m_dialogs[i]) continue;
+        if (m_inUse[i]) continue;
         m_inUse[i] = true;
         return m_dialogs[i].get();
     }

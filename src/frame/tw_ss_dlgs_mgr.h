@@ -30,6 +30,7 @@ class VORMANT_API TwSSDlgsMgr {
     int length() const { return static_cast<int>(m_dialogs.size()); }
 
   private:
+    void dropDead();
     ErrorStatus destroyDlg(const int& index);
 
     std::vector<std::unique_ptr<StandardsDialog>> m_dialogs;

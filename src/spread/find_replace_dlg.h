@@ -17,8 +17,10 @@ class VORMANT_API TwFindReplaceDlg : public CDialog {
     static constexpr int replaceButton = 1204;
     static constexpr int replaceAllButton = 1205;
 
-    /// `spread` is borrowed and must outlive the dialog.
+    /// `spread` is borrowed; it calls forgetSpread() when it goes first.
     explicit TwFindReplaceDlg(Vor_Spread& spread);
+    ~TwFindReplaceDlg() override;
+    void forgetSpread();
 
     /// Goes to the next hit behind the active cell, or behind the selected characters of the cell
     /// being edited, and selects it. Without one asks, with `askWrap`, whether to go on from the
@@ -35,6 +37,7 @@ class VORMANT_API TwFindReplaceDlg : public CDialog {
     void onInit() override;
     void onOK() override { findNext(true); }
     void onCancel() override;
+    void onDestroy() override;
 
   private:
     const std::string& wanted() const;
@@ -43,7 +46,9 @@ class VORMANT_API TwFindReplaceDlg : public CDialog {
     bool goToHitFrom(int col, int row);
     bool goOnFromStart();
     void selectInCell(int col, int row, int from);
+    void close();
 
-    Vor_Spread& m_spread;
+    Vor_Spread* m_spread;  // null once it has gone
     bool m_hadOption = false;
+    bool m_isOpen = false;
 };

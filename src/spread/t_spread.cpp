@@ -1,5 +1,6 @@
 #include "spread/t_spread.h"
 
+#include "platform/window/message_scope.h"
 #include "platform/window/window_system.h"
 
 using control::Block;
@@ -22,7 +23,7 @@ TSpread::TSpread() : m_grid(std::make_unique<control::Grid>()) {}
 
 // What shows the grid may look at it once more while it goes.
 TSpread::~TSpread() {
-    destroy();
+    destroyNow();
 }
 
 bool TSpread::setMaxRows(int count) {
@@ -130,6 +131,7 @@ bool TSpread::clipboardPaste() {
 // --- what a user does ---------------------------------------------------------------------------
 
 bool TSpread::tellListener(GridNotice::What what, int col, int row) {
+    const MessageScope message(*this);
     tell(WindowChange::content);
     // A copy: the listener may set another one, or none.
     if (const Listener listener = m_listener) listener({what, col, row});
@@ -142,11 +144,11 @@ bool TSpread::userEnters(int col, int row, std::string_view text) {
 
 void TSpread::tellChanged(const std::vector<CellAddress>& cells) {
     if (cells.empty()) return;
+    const MessageScope message(*this);
     tell(WindowChange::content);
     const Listener listener = m_listener;
     if (!listener) return;
-    for (const CellAddress& cell : cells)
-        listener({GridNotice::What::changed, cell.col, cell.row});
+    for (const CellAddress& cell : cells) listener({GridNotice::What::changed, cell.col, cell.row});
 }
 
 bool TSpread::userClears(const Block& given) {
@@ -159,17 +161,17 @@ bool TSpread::userClears(const Block& given) {
         if (cell.type != control::ValueType::empty || cell.formula != 0)
             filled.push_back({col, row});
     });
-    std::erase_if(filled, [&](const CellAddress& cell) {
-        return !m_grid->enter(cell.col, cell.row, "");
-    });
+    std::erase_if(filled,
+                  [&](const CellAddress& cell) { return !m_grid->enter(cell.col, cell.row, ""); });
     tellChanged(filled);
     return !filled.empty();
 }
 
 bool TSpread::userPastes(int col, int row, std::string_view text) {
     std::vector<CellAddress> taken;
-    const bool isWhole = m_grid->pasteText(
-        col, row, text, [&](int toCol, int toRow) { taken.push_back({toCol, toRow}); });
+    const bool isWhole = m_grid->pasteText(col, row, text, [&](int toCol, int toRow) {
+        taken.push_back({toCol, toRow});
+    });
     tellChanged(taken);
     return isWhole;
 }
@@ -192,6 +194,7 @@ bool TSpread::userClicks(int col, int row) {
     constexpr int boxClicked = 0x3B;
     const bool isChecked = m_grid->text(col, row, control::Reading::value) == "1";
     if (!m_grid->enter(col, row, isChecked ? "0" : "1")) return false;
+    const MessageScope message(*this);
     onCellCommand(boxClicked, col, row);
     return tellListener(GridNotice::What::checked, col, row);
 }

@@ -5,6 +5,7 @@
 #include "core_api/texts/dial_text.h"
 #include "core_api/texts/sheet_text_numbers.h"
 #include "platform/host/host.h"
+#include "platform/window/message_scope.h"
 #include "platform/window/window_system.h"
 
 namespace {
@@ -25,7 +26,7 @@ constexpr DialogResource resource{TwSheetEditorDlg::resourceNumber,
 TwSheetEditorDlg::TwSheetEditorDlg(CWnd* parent) : CDialog(resource, parent) {}
 
 TwSheetEditorDlg::~TwSheetEditorDlg() {
-    destroy();
+    destroyNow();
 }
 
 void TwSheetEditorDlg::onInit() {
@@ -48,7 +49,8 @@ void TwSheetEditorDlg::growToSheet() {
 }
 
 bool TwSheetEditorHolder::open() {
-    if (!m_dialog) {
+    if (!isCreated()) {
+        retire(std::move(m_dialog));  // its window went with the host's
         auto dialog = std::make_unique<TwSheetEditorDlg>(Host::current().mainWindow());
         if (!dialog->create() || !dialog->spread().isAttached()) return false;
         m_dialog = std::move(dialog);

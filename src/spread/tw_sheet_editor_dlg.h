@@ -31,10 +31,10 @@ class VORMANT_API TwSheetEditorHolder {
     /// Makes the window the first time; shows it again when the user has closed it. The keyboard
     /// stays with the host's main window. False when it cannot be made.
     bool open();
-    bool isCreated() const { return m_dialog != nullptr; }
-    TwSheetEditorDlg* dialog() { return m_dialog.get(); }
-    /// Null until the window was created.
-    Vor_Spread* spread() { return m_dialog ? &m_dialog->spread() : nullptr; }
+    bool isCreated() const { return m_dialog && m_dialog->isAlive(); }
+    // Null until the window was created, and again when it has gone with the host's main window.
+    TwSheetEditorDlg* dialog() { return isCreated() ? m_dialog.get() : nullptr; }
+    Vor_Spread* spread() { return isCreated() ? &m_dialog->spread() : nullptr; }
 
   private:
     std::unique_ptr<TwSheetEditorDlg> m_dialog;

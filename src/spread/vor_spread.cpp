@@ -3,6 +3,7 @@
 
 #include <algorithm>
 
+#include "platform/window/message_scope.h"
 #include "spread/find_replace_dlg.h"
 
 using control::Block;
@@ -32,11 +33,13 @@ const CWnd* siblingAfter(const CWnd& window) {
 Vor_Spread::Vor_Spread() = default;
 
 Vor_Spread::~Vor_Spread() {
-    destroy();
+    destroyNow();
 }
 
 void Vor_Spread::onDestroy() {
-    m_findDialog.reset();
+    if (!m_findDialog) return;
+    m_findDialog->forgetSpread();
+    retire(std::move(m_findDialog));
 }
 
 bool Vor_Spread::attach(CWnd* parent, int ctrlId, bool exactRect) {

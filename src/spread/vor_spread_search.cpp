@@ -1,6 +1,7 @@
 // Finding and replacing texts. Letter case never matters.
 #include <algorithm>
 
+#include "platform/window/message_scope.h"
 #include "platform/window/window_system.h"
 #include "spread/find_replace_dlg.h"
 #include "spread/vor_spread.h"
@@ -39,6 +40,7 @@ bool Vor_Spread::replaceInCell(int col, int row, const Vor_String& from, const V
 bool Vor_Spread::showFindReplace() {
     if (!isAttached()) return false;
     if (!findDialog()) {
+        retire(std::move(m_findDialog));
         m_findDialog = std::make_unique<TwFindReplaceDlg>(*this);
         if (!m_findDialog->create()) {
             m_findDialog.reset();
@@ -52,6 +54,6 @@ bool Vor_Spread::showFindReplace() {
 }
 
 TwFindReplaceDlg* Vor_Spread::findDialog() const {
-    const bool isOpen = m_findDialog && m_findDialog->isCreated() && !m_findDialog->isEnded();
+    const bool isOpen = m_findDialog && m_findDialog->isAlive() && !m_findDialog->isEnded();
     return isOpen ? m_findDialog.get() : nullptr;
 }

@@ -127,6 +127,55 @@ TEST_F(MacroDialogs, ADelayedCloseNeverMeetsTheNextDialogInItsSlot) {
     EXPECT_EQ(host.printed, "");
 }
 
+// Where the dialogs end the window is told something: nothing of it may be used afterwards, which
+// the address sanitizer sees.
+TEST_F(MacroDialogs, EndFromInsideTheirOwnCallBacks) {
+    const auto grid = [&] { return opened(0)->itemAs<Vor_Spread>(namedValuesGrid); };
+    const std::function<void()> calls[] = {
+        [&] { grid()->userEnters(valueColumn, 1, "24"); },
+        [&] { grid()->userPastes(valueColumn, 1, "24\n25\n26"); },
+        [&] { grid()->userMoves(valueColumn, 2); },
+        [&] { grid()->userClicks(valueColumn, 1), grid()->userMoves(valueColumn, 2); },
+    };
+    for (const auto& call : calls) {
+        start();
+        grid()->setListener([](const GridNotice&) { EXPECT_TRUE(EndDlgMacroModeless(0)); });
+        call();
+        EXPECT_EQ(openMacroDialogs().length(), 1);
+        user.advanceClock(DelayedEnds::delay);
+        EXPECT_EQ(openMacroDialogs().length(), 0);
+    }
+}
+
+TEST_F(MacroDialogs, WithoutTheMainWindowFreeTheirSlots) {
+    start();
+    start();
+    main.destroy();
+    MacroData read;
+    for (const int slot : {0, 1}) {
+        EXPECT_FALSE(GetDlgMacroData(slot, read)) << slot;
+        EXPECT_FALSE(EndDlgMacroModeless(slot)) << slot;
+    }
+    EXPECT_EQ(host.prompts, 0);
+    ASSERT_TRUE(main.create({"Host", "", {0, 0, 800, 600}, 0, 0, true}, nullptr));
+    EXPECT_EQ(start(), 0);
+    EXPECT_TRUE(EndDlgMacroModeless(0));
+    EXPECT_EQ(openMacroDialogs().length(), 0);  // the dead one behind it went too
+}
+
+TEST_F(MacroDialogs, OutliveTheMainWindowWhileTheyWork) {
+    start();
+    CDialog* dialog = opened(0);
+    dialog->itemAs<Vor_Spread>(namedValuesGrid)->setListener([&](const GridNotice&) {
+        main.destroy();
+        EXPECT_FALSE(main.isVisible());
+        EXPECT_TRUE(dialog->item(namedValuesGrid));  // until it has heard of this
+    });
+    dialog->itemAs<Vor_Spread>(namedValuesGrid)->userEnters(valueColumn, 1, "24");
+    EXPECT_FALSE(main.isCreated());
+    EXPECT_FALSE(dialog->isCreated());
+}
+
 TEST_F(MacroDialogs, AllGoAtOnce) {
     for (int i = 0; i < 3; ++i) start();
     EndDlgMacroModeless(1);
@@ -172,8 +221,9 @@ TEST_F(MacroDialogs, ConstraintsApplyOnOkAndCloseThemselves) {
     opened(0)->press(IDOK);
     EXPECT_EQ(applied, 12.5);
     EXPECT_EQ(data.constraints[0].value, 10);
-    user.advanceClock(10);
+    user.advanceClock(DelayedEnds::delay);
     EXPECT_TRUE(dialogs().empty());
+    EXPECT_EQ(host.prompts, 1);
 
     ASSERT_TRUE(StartDlgEditConstraints(data));
     opened(0)->press(IDCANCEL);
@@ -181,6 +231,27 @@ TEST_F(MacroDialogs, ConstraintsApplyOnOkAndCloseThemselves) {
     ASSERT_TRUE(StartDlgEditConstraints(data));
     user.advanceClock(100);
     EXPECT_EQ(dialogs().size(), 1u);  // the timer of the one before went with it
+}
+
+TEST_F(MacroDialogs, ConstraintsMayBeEndedByWhatTheyApply) {
+    EditConstrData data = sampleConstraints();
+    data.apply = [&](const EditConstrData& edited) {
+        EndDlgEditConstraints();
+        EXPECT_TRUE(StartDlgEditConstraints(data));  // still the one that is open
+        EXPECT_EQ(edited.constraints.length(), 2);
+    };
+    ASSERT_TRUE(StartDlgEditConstraints(data));
+    opened(0)->press(IDOK);
+    EXPECT_EQ(host.prompts, 0);
+    user.advanceClock(DelayedEnds::delay);
+    EXPECT_TRUE(dialogs().empty());
+    EXPECT_EQ(host.prompts, 1);
+
+    ASSERT_TRUE(StartDlgEditConstraints(data));
+    main.destroy();
+    ASSERT_TRUE(main.create({"Host", "", {0, 0, 800, 600}, 0, 0, true}, nullptr));
+    EXPECT_TRUE(StartDlgEditConstraints(data));
+    EXPECT_EQ(dialogs().size(), 1u);
 }
 
 TEST_F(MacroDialogs, ConstraintsWindowThatIsGoneIsTold) {

@@ -77,6 +77,29 @@ TEST_F(Runs, VariablesAreBoundByPositionWithLocalsSkipped) {
     EXPECT_TRUE(lastRunFailure().isEmpty());
 }
 
+// Its dialogs are hidden children of that window.
+TEST_F(Runs, GoOnWithoutTheHostsMainWindow) {
+    struct : Host {
+        CWnd* mainWindow() override { return &window; }
+        void print(std::string_view) override {}
+        CWnd window;
+    } host;
+    const HostScope scope(host);
+    gSSDlgsMgr.destroyAll();
+    ASSERT_TRUE(host.window.create({"Host", "", {0, 0, 800, 600}, 0, 0, true}, nullptr));
+    library.writeStandard(
+        "Half",
+        documentOf({{"Input"}, {"Double A"}, {"Output"}, {"Double H"}, {"Calc"}, {"H=A/2"}}));
+    TwDlgStandardsData data = variablesRun("Half", {in("5"), out()});
+    ASSERT_TRUE(StartDlgStandardsSS(data)) << lastRunFailure().str();
+    host.window.destroy();
+    data = variablesRun("Half", {in("7"), out()});
+    ASSERT_TRUE(StartDlgStandardsSS(data)) << lastRunFailure().str();
+    EXPECT_EQ(data.varCells[1].value(), "3.5");
+    EXPECT_EQ(gSSDlgsMgr.length(), 1);
+    gSSDlgsMgr.destroyAll();
+}
+
 TEST_F(Runs, NothingOfOneRunIsLeftInTheNext) {
     library.writeStandard("Maybe", standardOf({"String A"}, {"String B"}, {"String L"},
                                               {"B=IF(L=\"\",B&A,\"left over\")", "L=A"}));

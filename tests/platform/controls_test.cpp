@@ -40,7 +40,7 @@ constexpr DialogResource table{901, "Controls", {0, 0, 140, 220}, controls, true
 class ControlsDialog : public CDialog {
   public:
     ControlsDialog() : CDialog(table, nullptr) {}
-    ~ControlsDialog() override { destroy(); }
+    ~ControlsDialog() override { destroyNow(); }
     void onCommand(int id, int code) override {
         heard += std::to_string(id) + ":" + std::to_string(code) + " ";
         CDialog::onCommand(id, code);

@@ -3,6 +3,7 @@
 
 #include "core_api/texts/dial_text.h"
 #include "platform/window/dialog.h"
+#include "platform/window/message_scope.h"
 #include "platform/window/text_question.h"
 #include "support/printed.h"
 #include "support/test_user.h"
@@ -23,7 +24,7 @@ constexpr DialogResource resource{218, dialText(1136), {0, 0, 200, 160}, control
 class SampleDialog : public CDialog {
   public:
     explicit SampleDialog(CWnd* parent = nullptr) : CDialog(resource, parent) {}
-    ~SampleDialog() override { destroy(); }
+    ~SampleDialog() override { destroyNow(); }
     void onCommand(int id, int code) override {
         commands += std::to_string(id) + (code == clicked ? "! " : "~ ");
         if (id == 1205) typed = item(1207)->text();
@@ -61,6 +62,68 @@ TEST(Dialogs, HiddenDialogHasItsItemsInPixels) {
     EXPECT_EQ(grid->parent(), nullptr);
     EXPECT_EQ(dialog.sizeAtEnd, (CRect{100, 50, 400, 310}));
     EXPECT_TRUE(dialog.create());
+}
+
+/// Ends in the middle of its own call-back, and is used afterwards.
+class EndingDialog : public SampleDialog {
+  public:
+    using SampleDialog::SampleDialog;
+    void onCommand(int id, int code) override {
+        if (code == clicked && end) std::exchange(end, nullptr)();
+        SampleDialog::onCommand(id, code);
+    }
+    bool preTranslateKey(const KeyMessage&) override { return press(1205); }
+    void onMouse(const MouseMessage&) override { press(1205); }
+    void onDestroy() override { ended += "destroyed "; }
+    std::function<void()> end;
+    std::string ended;
+};
+
+TEST(Dialogs, EndedInTheirOwnCallBackGoAfterIt) {
+    using Call = std::function<void(CDialog&)>;
+    const Call calls[] = {
+        [](CDialog& dialog) { dialog.press(1205); },
+        [](CDialog& dialog) { dialog.itemAs<CButton>(1205)->userPresses(); },
+        [](CDialog& dialog) { dispatchKey(*dialog.item(1207), {keyEscape}); },
+        [](CDialog& dialog) { dispatchMouse(dialog, {}); },
+    };
+    for (size_t i = 0; i < std::size(calls); ++i) {
+        for (const bool withParent : {false, true}) {
+            CWnd main;
+            ASSERT_TRUE(main.create({"Host", "", {0, 0, 800, 600}, 0, 0, true}, nullptr));
+            EndingDialog dialog(&main);
+            ASSERT_TRUE(dialog.create());
+            dialog.show(true);
+            dialog.end = [&] {
+                EXPECT_TRUE(withParent ? main.destroy() : dialog.destroy());
+                EXPECT_FALSE(dialog.isVisible());
+                EXPECT_TRUE(dialog.item(1207));
+                EXPECT_EQ(dialog.ended, "");
+            };
+            calls[i](dialog);
+            EXPECT_EQ(dialog.ended, "destroyed ") << i << withParent;
+            EXPECT_FALSE(dialog.isCreated());
+            EXPECT_EQ(main.isCreated(), !withParent);
+        }
+    }
+}
+
+TEST(Dialogs, DeletedInTheirOwnCallBackGoAfterIt) {
+    std::string ended;
+    auto main = std::make_unique<CWnd>();
+    ASSERT_TRUE(main->create({"Host", "", {0, 0, 800, 600}, 0, 0, true}, nullptr));
+    auto owned = std::make_unique<EndingDialog>(main.get());
+    EndingDialog& dialog = *owned;
+    ASSERT_TRUE(dialog.create());
+    dialog.end = [&] {
+        main.reset();  // the object too, as when a host goes down
+        EXPECT_EQ(dialog.parent(), nullptr);
+        retire(std::move(owned));
+        EXPECT_TRUE(dialog.item(1207));
+    };
+    dialog.press(1205);
+    EXPECT_EQ(CWnd::focused(), nullptr);
+    retire(nullptr);
 }
 
 TEST(Dialogs, DisabledAndHiddenItemsTakeNothing) {

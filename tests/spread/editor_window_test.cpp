@@ -103,6 +103,46 @@ TEST_F(EditorWindow, GrowsUntilANewSheetShowsWhatItWantsToShow) {
     EXPECT_LT(grid->rect().height(), 5000) << "the sixth row may lie below";
 }
 
+TEST_F(EditorWindow, TheFindWindowKeepsItsPlaceWhateverEndsIt) {
+    const std::function<void()> ends[] = {
+        [&] { grid->findDialog()->press(IDCANCEL); },
+        [&] { grid->destroy(); },
+        [&] { holder.dialog()->destroy(); },
+        [&] { host.window.destroy(); },
+    };
+    int at = 100;
+    for (const auto& end : ends) {
+        const CRect place{at, 40, at + 400, 200};
+        find("x").move(place);
+        end();
+        if (!host.window.isCreated())
+            host.window.create({"Main", "CAD", {0, 0, 900, 700}, 0, 0, true}, nullptr);
+        if (!holder.isCreated() || !grid->isAttached()) holder = {};
+        EXPECT_TRUE(holder.open());
+        grid = holder.spread();
+        EXPECT_EQ(find("x").rect(), place) << at;
+        at += 10;
+    }
+}
+
+// The question lies over the find window while the grid goes.
+TEST_F(EditorWindow, TheGridMayGoWhileItIsSearched) {
+    for (const int button : {int(IDOK), Find::replaceButton, Find::replaceAllButton}) {
+        Vor_Spread* alone = new Vor_Spread;
+        ASSERT_TRUE(alone->attachHidden() && alone->setNrCols(1, false) && alone->setNrRows(1));
+        ASSERT_TRUE(alone->showFindReplace());
+        alone->findDialog()->type(Find::findField, "x");
+        const MessageListenerScope listener([&](const MessageBox&) {
+            delete std::exchange(alone, nullptr);
+            return false;
+        });
+        if (button != Find::replaceAllButton)
+            user.whenToldWithCaption(dialString(1144)).presses(IDYES);
+        alone->findDialog()->press(button);
+        EXPECT_FALSE(alone);
+    }
+}
+
 TEST_F(EditorWindow, FindsFromCellToCellAndInsideTheOneBeingEdited) {
     fill({{"M12", "x m12 M12", "a"}, {"b", "", "M12"}});
     grid->setActiveCell(1, 1);

@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "core_api/resource_override.h"
 #include "spread/formulas/calculating_sheet.h"
 #include "spread/formulas/formulas_dialog.h"
 #include "spread/formulas/formulas_starters.h"
@@ -102,6 +103,33 @@ TEST_F(FormulasTest, FilesThatCannotBeReadGiveNothingAndSayWhy) {
     }
     EvaluateSS();
     EXPECT_THAT(host.text, HasSubstr("Loading spreadsheet:c:\\a\\t3.sss\n"));
+}
+
+// A program that reads files is stopped by no message box, and finds the module's own dialog.
+TEST_F(FormulasTest, ReadingAFileStopsNobodyAndPutsTheModulesResourcesInFront) {
+    struct Watched : Printed {
+        explicit Watched(ModuleInstance module) : module(module) {}
+        void print(std::string_view text) override {
+            Printed::print(text);
+            wasInFront = wasInFront && gResourceOverride.current() == module;
+        }
+        ModuleInstance module;
+        bool wasInFront = true;
+    } watched(this);
+    const HostScope watching(watched);
+    gResourceOverride.SaveDefaultResource(this);
+    TestUser user;  // there is somebody who could be asked
+    Vor_String title;
+    Vor_StringArray names;
+    Vor_Array<Vor_StringArray> rows;
+    EXPECT_FALSE(ReadSSFile(path("missing.sss"), title, names, rows));
+    EXPECT_TRUE(user.told().empty());
+    EXPECT_THAT(watched.text, HasSubstr("missing.sss"));
+    user.whenOpens(Dlg::resourceNumber).presses(IDCANCEL);
+    EvaluateSS();
+    EXPECT_TRUE(watched.wasInFront);
+    gResourceOverride.SaveDefaultResource(nullptr);
+    EXPECT_EQ(gResourceOverride.current(), nullptr);
 }
 
 TEST_F(FormulasTest, LooksValuesUpInTheSheetOfAFile) {

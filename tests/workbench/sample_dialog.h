@@ -100,7 +100,7 @@ class Page : public CDialog {
 class Dialog : public CDialog {
   public:
     explicit Dialog(CWnd* parent = nullptr) : CDialog(resource, parent) {}
-    ~Dialog() override { destroy(); }
+    ~Dialog() override { destroyNow(); }
 
     struct Told {
         int id;

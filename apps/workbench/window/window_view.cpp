@@ -3,6 +3,7 @@
 #include <QAbstractItemView>
 #include <cmath>
 
+#include "platform/window/message_scope.h"
 #include "platform/window/wnd.h"
 #include "window/captions.h"
 #include "window/qt_window_system.h"
@@ -121,7 +122,10 @@ void WindowView::leave() {
 void WindowView::act(const std::function<void()>& action) {
     if (m_isFollowing || !m_window) return;
     ++m_actions;
-    m_system.userActs(action);
+    {
+        const MessageScope message(*m_window);
+        m_system.userActs(action);
+    }
     --m_actions;
     if (m_window) {
         const FlagScope following(m_isFollowing);

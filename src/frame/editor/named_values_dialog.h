@@ -46,7 +46,7 @@ constexpr EditorKind listEditorKind(int number, int titleText, const char* sizeN
 class NamedValuesDialog : public CDialog {
   public:
     NamedValuesDialog(const EditorKind& kind, CWnd* parent);
-    ~NamedValuesDialog() override { destroy(); }
+    ~NamedValuesDialog() override { destroyNow(); }
 
     /// Shown instead of the title of its kind, unless empty.
     void setTitle(const Vor_String& title) { m_title = title; }

@@ -59,7 +59,7 @@ TwMappingDlg::TwMappingDlg(CWnd* parent, const TabMappingData& data, const TwSSM
       m_sheets(data) {}
 
 TwMappingDlg::~TwMappingDlg() {
-    destroy();  // before the grids, which are children
+    destroyNow();  // before the grids, which are children
 }
 
 void TwMappingDlg::onInit() {

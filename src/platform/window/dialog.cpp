@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "platform/window/message_scope.h"
 #include "platform/window/window_system.h"
 
 const char* classNameOf(Control kind) {
@@ -66,7 +67,7 @@ CDialog::CDialog(const DialogResource& resource, CWnd* parent)
     : m_resource(resource), m_owner(parent) {}
 
 CDialog::~CDialog() {
-    destroy();
+    destroyNow();
 }
 
 bool CDialog::create() {
@@ -117,6 +118,7 @@ int CDialog::doModal() {
 }
 
 bool CDialog::press(int id) {
+    const MessageScope message(*this);
     CWnd* control = descendant(id);
     if (!control && id != IDOK && id != IDCANCEL) return false;
     if (control && !control->isEnabled()) return false;

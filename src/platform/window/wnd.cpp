@@ -4,21 +4,61 @@
 #include <utility>
 
 #include "platform/window/controls.h"
+#include "platform/window/message_scope.h"
 #include "platform/window/window_system.h"
 
 namespace {
 
 CWnd* focusedWindow = nullptr;
 CWnd* capturedWindow = nullptr;
+MessageScope* innermostMessage = nullptr;
+
+// Never destroyed: windows that are globals go at the very end.
+std::vector<CWnd*>& leavingWindows() {
+    static auto& windows = *new std::vector<CWnd*>;
+    return windows;
+}
+
+std::vector<std::unique_ptr<CWnd>>& retiredWindows() {
+    static auto& windows = *new std::vector<std::unique_ptr<CWnd>>;
+    return windows;
+}
+
+/// Takes the first that is not busy out of `windows`; null when there is none.
+template <class Pointer>
+Pointer takeIdle(std::vector<Pointer>& windows) {
+    const auto found = std::find_if(windows.begin(), windows.end(),
+                                    [](const Pointer& window) { return !window->isBusy(); });
+    if (found == windows.end()) return nullptr;
+    Pointer idle = std::move(*found);
+    windows.erase(found);
+    return idle;
+}
 
 }  // namespace
 
+MessageScope::MessageScope(const CWnd& window)
+    : m_window(&window), m_outer(std::exchange(innermostMessage, this)) {}
+
+MessageScope::~MessageScope() {
+    innermostMessage = m_outer;
+    CWnd::destroyLeaving();
+}
+
+void retire(std::unique_ptr<CWnd> window) {
+    if (!window) return;
+    window->destroy();
+    if (window->isBusy()) retiredWindows().push_back(std::move(window));
+}
+
 CWnd::~CWnd() {
-    destroy();
+    destroyNow();
+    for (MessageScope* scope = innermostMessage; scope; scope = scope->m_outer)
+        if (scope->m_window == this) scope->m_window = nullptr;
 }
 
 bool CWnd::create(const WindowTemplate& made, CWnd* parent) {
-    if (m_isCreated || (parent && !parent->isCreated())) return false;
+    if (m_isCreated || (parent && !parent->isAlive())) return false;
     m_made = made;
     m_parent = parent;
     m_isCreated = true;
@@ -28,22 +68,62 @@ bool CWnd::create(const WindowTemplate& made, CWnd* parent) {
     return true;
 }
 
+bool CWnd::isBelow(const CWnd& outer) const {
+    const CWnd* window = m_parent;
+    while (window && window != &outer) window = window->m_parent;
+    return window != nullptr;
+}
+
+bool CWnd::isBusy() const {
+    for (const MessageScope* scope = innermostMessage; scope; scope = scope->m_outer)
+        if (scope->m_window && (scope->m_window == this || scope->m_window->isBelow(*this)))
+            return true;
+    return false;
+}
+
 bool CWnd::destroy() {
-    if (!m_isCreated) return false;
+    if (!isAlive()) return false;
+    if (isBusy()) {
+        m_isLeaving = true;
+        leavingWindows().push_back(this);
+        show(false);
+    } else {
+        destroyNow();
+    }
+    return true;
+}
+
+// Also of a busy window, when its object is deleted all the same: a busy child that somebody else
+// owns then stays, without a parent, until it has handled its message.
+void CWnd::destroyNow() {
+    if (!m_isCreated) return;
+    std::erase(leavingWindows(), this);
     onDestroy();
-    while (!m_children.empty()) m_children.back()->destroy();
+    while (!m_children.empty()) {
+        CWnd& child = *m_children.back();
+        if (!child.isBusy()) {
+            child.destroyNow();
+            continue;
+        }
+        child.destroy();
+        child.leaveParent();
+    }
     m_owned.clear();
     if (focusedWindow == this) focusedWindow = nullptr;
     if (capturedWindow == this) capturedWindow = nullptr;
     WindowSystem::current().destroyed(*this);
-    if (m_parent) m_parent->forgetChild(this);
-    m_parent = nullptr;
-    m_isCreated = false;
-    return true;
+    leaveParent();
+    m_isCreated = m_isLeaving = false;
 }
 
-void CWnd::forgetChild(CWnd* child) {
-    std::erase(m_children, child);
+void CWnd::leaveParent() {
+    if (m_parent) std::erase(m_parent->m_children, this);
+    m_parent = nullptr;
+}
+
+void CWnd::destroyLeaving() {
+    while (CWnd* window = takeIdle(leavingWindows())) window->destroyNow();
+    while (takeIdle(retiredWindows())) continue;
 }
 
 CWnd* CWnd::top() {
@@ -89,6 +169,7 @@ void CWnd::tell(WindowChange change) {
 }
 
 void CWnd::notify(int code) {
+    const MessageScope message(*this);
     if (m_parent) m_parent->onCommand(id(), code);
 }
 
@@ -158,6 +239,7 @@ void CWnd::invalidate() {
 }
 
 bool dispatchKey(CWnd& focused, const KeyMessage& key) {
+    const MessageScope message(focused);
     for (CWnd* window = &focused; window; window = window->parent())
         if (window->preTranslateKey(key)) return true;
     return false;
@@ -167,6 +249,7 @@ void dispatchMouse(CWnd& window, MouseMessage message) {
     CWnd* const target = CWnd::captured() ? CWnd::captured() : &window;
     const CPoint from = window.windowRect().topLeft();
     const CPoint to = target->windowRect().topLeft();
+    const MessageScope scope(*target);
     message.point.x += from.x - to.x;
     message.point.y += from.y - to.y;
     target->onMouse(message);

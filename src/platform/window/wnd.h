@@ -36,9 +36,17 @@ class VORMANT_API CWnd {
     /// False when it is created already, or `parent` is given and not created.
     bool create(const WindowTemplate& made, CWnd* parent);
     /// Destroys the children, last first, then the window; the object can be created again. False
-    /// when it is not created. A derived class that wants onDestroy() calls this in its destructor.
+    /// when it is not created. A busy window is only hidden, and destroyed once it has handled its
+    /// messages (message_scope.h).
     bool destroy();
     bool isCreated() const { return m_isCreated; }
+    /// It, or a window below it, handles a message.
+    bool isBusy() const;
+    /// It was destroyed while it was busy, and waits for that.
+    bool isLeaving() const { return m_isLeaving; }
+    /// Created, and not on its way out.
+    bool isAlive() const { return m_isCreated && !m_isLeaving; }
+    bool isBelow(const CWnd& outer) const;
 
     int id() const { return m_made.id; }
     const std::string& className() const { return m_made.className; }
@@ -116,6 +124,9 @@ class VORMANT_API CWnd {
     virtual void onPaint(CDC& /*dc*/) {}
 
   protected:
+    /// Destroys the window even while it is busy: for the destructor of a derived class that wants
+    /// onDestroy().
+    void destroyNow();
     /// Before the window and its children go.
     virtual void onDestroy() {}
     /// It has another size than `before`.
@@ -126,7 +137,9 @@ class VORMANT_API CWnd {
     void notify(int code);
 
   private:
-    void forgetChild(CWnd* child);
+    friend class MessageScope;
+    void leaveParent();
+    static void destroyLeaving();
 
     WindowTemplate m_made;
     std::string m_tip;
@@ -134,6 +147,7 @@ class VORMANT_API CWnd {
     std::vector<CWnd*> m_children;
     std::vector<std::unique_ptr<CWnd>> m_owned;
     bool m_isCreated = false;
+    bool m_isLeaving = false;
     bool m_isEnabled = true;
 };
 

@@ -69,7 +69,7 @@ CataloguePage::CataloguePage(const DialogResource& resource, CWnd* parent,
     : CDialog(resource, parent), m_catalogue(catalogue) {}
 
 CataloguePage::~CataloguePage() {
-    destroy();  // before the sheet, which is one of the children
+    destroyNow();  // before the sheet, which is one of the children
 }
 
 void CataloguePage::onInit() {

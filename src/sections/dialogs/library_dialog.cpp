@@ -24,7 +24,7 @@ constexpr DialogResource resource{
 LibraryDialog::LibraryDialog() : CDialog(resource, Host::current().mainWindow()) {}
 
 LibraryDialog::~LibraryDialog() {
-    destroy();
+    destroyNow();
 }
 
 CDialog* LibraryDialog::page(int index) {

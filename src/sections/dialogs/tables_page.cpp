@@ -59,7 +59,7 @@ TablesPage::TablesPage(CWnd* parent, DlgEditLibData& data)
     : CDialog(resource, parent), m_data(data) {}
 
 TablesPage::~TablesPage() {
-    destroy();  // before the sheet, which is one of the children
+    destroyNow();  // before the sheet, which is one of the children
 }
 
 void TablesPage::onInit() {

@@ -10,7 +10,7 @@ EditedSpread::EditedSpread() : m_editor(grid()) {
 
 // The window of find and replace goes before the editor that it tells of changes.
 EditedSpread::~EditedSpread() {
-    destroy();
+    destroyNow();
 }
 
 Block EditedSpread::chosen() const {

@@ -42,7 +42,7 @@ constexpr int longText = 32767;  // of any formula
 TwFormulasDlg::TwFormulasDlg(CWnd* parent) : CDialog(resource, parent) {}
 
 TwFormulasDlg::~TwFormulasDlg() {
-    destroy();  // before the grid, which is one of the children
+    destroyNow();  // before the grid, which is one of the children
 }
 
 void TwFormulasDlg::onInit() {
@@ -52,7 +52,7 @@ void TwFormulasDlg::onInit() {
     if (!fileName.isEmpty()) {
         m_isLoaded = load(fileName);
         acutPrintf("Loading spreadsheet:%s\n", fileName.c_str());
-        if (!m_isLoaded) showWarning(text(), m_grid.lastError());
+        if (!m_isLoaded) tellWhyNotLoaded();
     }
     switch (mode) {
         case Mode::readFile:
@@ -68,6 +68,14 @@ void TwFormulasDlg::onInit() {
             break;
     }
     if (!WindowSystem::isAttended()) endDialog(IDOK);
+}
+
+// Where a program reads a file nobody is asked to press a button.
+void TwFormulasDlg::tellWhyNotLoaded() {
+    if (mode == Mode::readFile)
+        acutPrint(text() + "\n" + m_grid.lastError() + "\n");
+    else
+        showWarning(text(), m_grid.lastError());
 }
 
 void TwFormulasDlg::prepareGrid() {

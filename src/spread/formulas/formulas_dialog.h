@@ -54,6 +54,7 @@ class TwFormulasDlg : public CDialog {
     void onInit() override;
 
   private:
+    void tellWhyNotLoaded();
     void prepareGrid();
     bool load(const Vor_String& path);
     void save();

@@ -1,10 +1,12 @@
 #include "spread/formulas/formulas_starters.h"
 
-#include "platform/host/host.h"
+#include "core_api/resource_override.h"
+#include "platform/window/host_window.h"
 #include "spread/formulas/formulas_dialog.h"
 
 void EvaluateSS() {
-    TwFormulasDlg dialog(Host::current().mainWindow());
+    const ResourceOverrideScope resources;
+    TwFormulasDlg dialog(livingMainWindow());
     dialog.mode = TwFormulasDlg::Mode::evaluateCell;
     dialog.fileName = "c:\\a\\t3.sss";
     dialog.cellColumn = 1;
@@ -14,7 +16,8 @@ void EvaluateSS() {
 
 bool ReadSSFile(const Vor_String& path, Vor_String& title, Vor_StringArray& header,
                 Vor_Array<Vor_StringArray>& rows) {
-    TwFormulasDlg dialog(Host::current().mainWindow());
+    const ResourceOverrideScope resources;
+    TwFormulasDlg dialog(livingMainWindow());
     dialog.mode = TwFormulasDlg::Mode::readFile;
     dialog.fileName = path;
     dialog.header = &header;

@@ -9,7 +9,7 @@
 VORMANT_API void EvaluateSS();
 
 /// Reads the spreadsheet file at `path` (host style): the text of cell (1, 1), the headers of the
-/// columns, and one array of texts a row. False, with a message and all three empty, when the file
-/// cannot be read. Nothing waits for a user.
+/// columns, and one array of texts a row. False, with the reason on the host's command line and all
+/// three empty, when the file cannot be read. Nothing waits for a user.
 VORMANT_API bool ReadSSFile(const Vor_String& path, Vor_String& title, Vor_StringArray& header,
                             Vor_Array<Vor_StringArray>& rows);

@@ -1,5 +1,5 @@
 // The callback of FROMTABLE: a Formulas dialog that looks the value up.
-#include "platform/host/host.h"
+#include "platform/window/host_window.h"
 #include "spread/formulas/calculating_sheet.h"
 #include "spread/formulas/formulas_dialog.h"
 
@@ -14,7 +14,7 @@ int fromTable(SSValue* result, SSValue* arguments, short count) {
         acutPrintf("FROMTABLE: tables look each other up without end; no value\n");
         return 1;
     }
-    TwFormulasDlg dialog(Host::current().mainWindow());
+    TwFormulasDlg dialog(livingMainWindow());
     dialog.mode = TwFormulasDlg::Mode::lookUp;
     dialog.call = {result, arguments, count, CalculatingSheet::current()};
     dialog.doModal();
