@@ -1,5 +1,7 @@
 #include "bills/bill_sheet.h"
 
+#include <algorithm>
+
 #include "bills/bill_choice.h"
 #include "bills/bill_sections.h"
 #include "core_api/library_names.h"
@@ -111,7 +113,10 @@ bool BillSheet::begin(const Vor_Bill& bill, std::string& error) {
         error = "the window of the bill cannot be opened";
         return false;
     }
-    m_output.setNames(bill.title, m_target.file);
+    std::string shownFile = m_target.file.str();
+    std::replace(shownFile.begin(), shownFile.end(), '\\',
+                 '/');  // as this machine's users write it
+    m_output.setNames(bill.title, shownFile);
     if (!areRequired || hasSettings(wanted)) return true;
     error = notAsBefore(settings);
     return false;

@@ -38,6 +38,7 @@ bool hasMapping(const TwDlgStandardsData& data, Vor_String& failure) {
 std::unique_ptr<MacroRun> MacroRun::open(const Vor_String& path, Vor_String& failure) {
     std::unique_ptr<MacroRun> run(new MacroRun);
     run->m_path = path;
+    run->m_file.opening(macroFilePath(path));
     if (loadMacro(path, run->m_macro, failure) != Acad::eOk) return nullptr;
     run->m_macroData = makeMacroData(run->m_macro);
     run->m_transaction.remember(run->m_macro);
@@ -70,18 +71,30 @@ bool MacroRun::run(const Vor_String& standard, const Vor_String& key,
     return true;
 }
 
-bool MacroRun::save(const RunReport& report, Vor_String& failure) {
+OpenFile::Saved MacroRun::save(const RunReport& report, Vor_String& failure) {
     if (!report.allWell())
         failure = m_path + ": left as it was, since the run did not go well";
     else if (m_macroData.setAllToMacro(&m_macro) != Acad::eOk)
         failure = m_path + ": left as it was, since the macro refuses a value";
-    else if (saveMacro(m_path, m_macro, failure) == Acad::eOk)
-        return true;
-    return false;
+    else
+        return saveAsIs(failure);
+    return OpenFile::Saved::no;
 }
 
-bool MacroRun::saveAsIs(Vor_String& failure) {
-    return saveMacro(m_path, m_macro, failure) == Acad::eOk;
+OpenFile::Saved MacroRun::saveAsIs(Vor_String& failure) {
+    const auto write = [this](std::string& why) {
+        Vor_String message;
+        const bool isSaved = saveMacro(m_path, m_macro, message) == Acad::eOk;
+        why = message.str();
+        return isSaved;
+    };
+    std::string why;
+    // Who opened it to change it has kept others away since then.
+    const OpenFile::Saved saved = !m_change    ? m_file.save(m_file.path(), write, why)
+                                  : write(why) ? OpenFile::Saved::yes
+                                               : OpenFile::Saved::no;
+    failure = why;
+    return saved;
 }
 
 Vor_String noSuchKey(const Vor_String& standard, const Vor_String& key,

@@ -5,6 +5,7 @@
 #include <memory>
 #include <optional>
 
+#include "core_api/dialogs/open_file.h"
 #include "core_api/macros/macro_data.h"
 #include "core_api/macros/vor_db_macro.h"
 #include "mapping/tw_dlg_standards_data.h"
@@ -32,16 +33,17 @@ class MacroRun {
     bool run(const Vor_String& standard, const Vor_String& key, const Vor_StringArray& genNames,
              const Vor_StringArray& genValues, RunReport& report);
 
-    /// Writes the macro, with what the last run put into it. False with the reason, and the file
-    /// as it was.
-    bool save(const RunReport& report, Vor_String& failure);
+    /// Writes the macro, with what the last run put into it; the file is as it was when that fails.
+    /// Asks before it replaces what another program wrote since the macro was opened.
+    OpenFile::Saved save(const RunReport& report, Vor_String& failure);
     /// Without a run: the macro as it is now, with the standards attached to it, say.
-    bool saveAsIs(Vor_String& failure);
+    OpenFile::Saved saveAsIs(Vor_String& failure);
 
   private:
     MacroRun() = default;
 
     Vor_String m_path;
+    OpenFile m_file;
     std::optional<files::ExclusiveChange> m_change;
     Vor_DbMacro m_macro;
     MacroData m_macroData;

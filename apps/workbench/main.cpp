@@ -19,6 +19,7 @@
 #include "shell/main_window.h"
 #include "shell/starters_menu.h"
 #include "window/dialog_font.h"
+#include "window/say.h"
 
 namespace {
 
@@ -87,8 +88,9 @@ int printDocument(int argc, char** argv) {
             return 0;
     } else {
         error = toQt(failure);
+        if (path) error.replace(toQt(*path), QString::fromLocal8Bit(argv[2]));
     }
-    complain(error);
+    complain(shownMessage(error));
     return 1;
 }
 

@@ -260,7 +260,7 @@ TEST_F(LibraryDialogTest, ReplacedTextsCanBeSavedAndUndone) {
 
 TEST_F(LibraryDialogTest, AsksBeforeItReplacesAFileThatSomebodyElseChanged) {
     answersToSaving("HEA", IDYES);
-    user.whenTold("was changed since it was shown here").presses(IDNO);
+    user.whenTold("changed by another program").presses(IDCANCEL);
     answersToSaving("HEA", IDNO);
     run({types(1, 1, "110"), [this](Page&) { folder.write("prof/HEA.pr", "other\n"); },
          picks("RHS"),
@@ -268,6 +268,24 @@ TEST_F(LibraryDialogTest, AsksBeforeItReplacesAFileThatSomebodyElseChanged) {
              EXPECT_EQ(page.itemAs<CListBox>(Page::tableList)->selectedText(), "HEA");
          }});
     EXPECT_EQ(file("HEA"), "other\n");
+}
+
+TEST_F(LibraryDialogTest, LoadsOrReplacesAFileThatSomebodyElseChanged) {
+    const std::string other = "1\nSysName\tI/O\tEN\n999\t1\tother\n";
+    user.whenTold("changed by another program").presses(IDNO);
+    user.whenTold("changed by another program").presses(IDYES);
+    run({types(1, 1, "110"), [&](Page&) { folder.write("prof/HEA.pr", other); },
+         [&](Page& page) {
+             page.press(Page::saveButton);
+             EXPECT_EQ(cell(page, 1, 1), "999");
+             EXPECT_FALSE(page.sheet().isChanged());
+             EXPECT_EQ(file("HEA"), other);
+         },
+         types(1, 1, "998"), [&](Page&) { folder.write("prof/HEA.pr", other + "1\t1\tone\n"); },
+         [&](Page& page) {
+             page.press(Page::saveButton);
+             EXPECT_THAT(file("HEA"), HasSubstr("998"));
+         }});
 }
 
 // --- tables that cannot be read -----------------------------------------------------------------

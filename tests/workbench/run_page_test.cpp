@@ -161,6 +161,18 @@ TEST_F(Workbench, RunsStandardsOnMacrosAndLeavesTheFileUntilSaved) {
     EXPECT_TRUE(page->save());
     EXPECT_NE(content(), before);
     EXPECT_FALSE(page->isChanged());
+
+    // Another program writes it back: the page loads that, with the results of its own run gone.
+    EXPECT_TRUE(page->run());
+    QFile other(file);
+    ASSERT_TRUE(other.open(QIODevice::WriteOnly) && other.write(before) == before.size());
+    other.close();
+    TestUser user;
+    user.whenTold("another program").presses(IDNO);
+    EXPECT_FALSE(page->save());
+    EXPECT_EQ(content(), before);
+    EXPECT_EQ(page->value("Plate.Height"), "200");
+    EXPECT_FALSE(page->isChanged());
 }
 
 TEST_F(Workbench, ValuesOfMacrosAreOfAKindThatReadersUnderstand) {

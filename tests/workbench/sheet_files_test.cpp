@@ -62,7 +62,7 @@ TEST_F(SheetWindow, AsksBeforeItClosesOrOverwrites) {
     // Another program wrote the file meanwhile.
     write("b.sss", "vormant-sheet 1\nsize 1 1\ncells\nend 0\n");
     type("A1", "2");
-    user.whenTold("another program").presses(IDNO);
+    user.whenTold("another program").presses(IDCANCEL);
     EXPECT_FALSE(page->save());
     EXPECT_FALSE(content(path("b.sss")).contains("A1"));
     EXPECT_TRUE(page->isChanged());
@@ -70,6 +70,23 @@ TEST_F(SheetWindow, AsksBeforeItClosesOrOverwrites) {
     user.whenTold("not saved").presses(IDYES);
     EXPECT_TRUE(close());
     EXPECT_TRUE(content(path("b.sss")).contains("A1 2"));
+}
+
+TEST_F(SheetWindow, LoadsWhatAnotherProgramWroteWhenAsked) {
+    TestUser user;
+    type("A1", "1");
+    ASSERT_TRUE(page->saveTo(inside("d.sss")));
+    write("d.sss", "vormant-sheet 1\nsize 2 2\ncells\nA1 7\nend 1\n");
+    type("A1", "2");
+    user.whenTold("another program").presses(IDNO);
+    EXPECT_FALSE(page->save());
+    EXPECT_EQ(text(1, 1), "7");
+    EXPECT_FALSE(page->isChanged());
+    EXPECT_FALSE(page->editor().canUndo());
+    // Of that file it knows what it overwrites.
+    type("A2", "8");
+    EXPECT_TRUE(page->save());
+    EXPECT_TRUE(content(path("d.sss")).contains("A1 7"));
 }
 
 TEST_F(SheetWindow, AsksBeforeItOverwritesWhatAnotherPageSaved) {
@@ -83,7 +100,7 @@ TEST_F(SheetWindow, AsksBeforeItOverwritesWhatAnotherPageSaved) {
     window->pages().setCurrentWidget(first);
     open(*first);
     type("A2", "more");
-    user.whenTold("another program").presses(IDNO);
+    user.whenTold("another program").presses(IDCANCEL);
     EXPECT_FALSE(page->save());
     EXPECT_TRUE(content(path("c.sss")).contains("second"));
 }

@@ -6,6 +6,7 @@
 #include "console.h"
 #include "platform/encodings.h"
 #include "platform/paths.h"
+#include "platform/readable_paths.h"
 
 namespace cli {
 
@@ -35,7 +36,7 @@ std::optional<Vor_String> insidePath(const std::string& typed) {
 }
 
 std::string shownMessage(std::string_view message) {
-    std::string shown(message);
+    std::string shown = paths::readable(message);
     for (const auto& path : typedPaths()) {
         for (size_t at = shown.find(path); at != shown.npos; at = shown.find(path, at + 1)) {
             const size_t end = std::min(shown.find_first_of(":\"\n", at), shown.size());

@@ -42,7 +42,8 @@ ExitCode runOnMacro(const RunRequest& request, const StandardName& standard,
     if (!run) return ExitCode::failed;
     if (!run->run(standard.mappingName(), key, data.genNames, data.genValues, report))
         return ExitCode::failed;
-    if (request.write && !run->save(report, report.failure)) return ExitCode::failed;
+    if (request.write && run->save(report, report.failure) != OpenFile::Saved::yes)
+        return ExitCode::failed;
     return ExitCode::done;
 }
 

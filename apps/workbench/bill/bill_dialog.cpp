@@ -187,7 +187,7 @@ void BillDialog::showColumns() {
 }
 
 void BillDialog::complain(const QString& text) {
-    m_message->setText(text);
+    m_message->setText(shownMessage(text));
 }
 
 // --- files --------------------------------------------------------------------------------------

@@ -190,7 +190,7 @@ void MacroPage::showReport() {
 }
 
 void MacroPage::show(const QString& text, bool isFailure) {
-    m_message->setText(text);
+    m_message->setText(shownMessage(text));
     m_message->setStyleSheet(isFailure ? "color: #A00000; background: #FFE8E8; padding: 4px"
                                        : "color: #006000; background: #E8FFE8; padding: 4px");
     m_message->setVisible(!text.isEmpty());
@@ -213,12 +213,28 @@ void MacroPage::noteChange() {
 bool MacroPage::save() {
     Vor_String failure;
     const bool isRun = !m_report.equations.empty();
-    const bool isSaved = isRun ? m_macro->save(m_report, failure) : m_macro->saveAsIs(failure);
-    if (!isSaved)
-        show(toQt(failure), true);
-    else
+    const auto saved = isRun ? m_macro->save(m_report, failure) : m_macro->saveAsIs(failure);
+    if (saved == OpenFile::Saved::reload) return reload(), false;
+    if (saved == OpenFile::Saved::yes)
         setChanged(false);
-    return isSaved;
+    else if (!failure.isEmpty())
+        show(toQt(failure), true);
+    return saved == OpenFile::Saved::yes;
+}
+
+/// What another program wrote, in place of what is shown. Results of a run before are not its own.
+void MacroPage::reload() {
+    Vor_String failure;
+    auto macro = runs::MacroRun::open(m_macro->path(), failure);
+    if (!macro) return show(toQt(failure), true);
+    m_macro = std::move(macro);
+    m_model.show(nullptr);
+    m_report = {};
+    fillStandards();
+    m_objects->setRowCount(0);
+    fillObjects();
+    setChanged(false);
+    show({}, false);
 }
 
 void MacroPage::setChanged(bool changed) {

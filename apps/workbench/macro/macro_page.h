@@ -19,6 +19,7 @@ class MacroPage : public QWidget {
     bool run();
     /// Writes the macro with the results of the last run and the attached standards.
     bool save();
+    void reload();
     bool isChanged() const { return m_isChanged; }
     runs::MacroRun& macro() { return *m_macro; }
     /// Somebody changed the macro.

@@ -93,7 +93,7 @@ QString textOf(const CalculationLine& line, int column) {
             if (!line.ok) return say(wordFailed);
             return toQt(runs::shownValue(line.result, line.unit));
         default:
-            return toQt(line.ok || line.message.empty() ? line.rule : line.message);
+            return shownMessage(line.ok || line.message.empty() ? line.rule : line.message);
     }
 }
 
@@ -107,7 +107,7 @@ QVariant CalculationModel::data(const QModelIndex& index, int role) const {
         case Qt::DisplayRole:
             return textOf(*shown, index.column());
         case Qt::ToolTipRole:
-            if (!shown->ok) return toQt(shown->message);
+            if (!shown->ok) return shownMessage(shown->message);
             return index.column() == resultColumn ? toQt(shown->result)
                                                   : textOf(*shown, index.column());
         case Qt::ForegroundRole:

@@ -225,7 +225,7 @@ void RunPage::showMessages() {
         lines = lines.mid(0, mostLines);
         lines += "…";
     }
-    m_message->setText(lines.join("\n"));
+    m_message->setText(shownMessage(lines.join("\n")));
     m_message->setVisible(!lines.isEmpty());
 }
 

@@ -8,6 +8,7 @@
 #include "sheets/sheet_writing.h"
 #include "standards/standards_check.h"
 #include "window/dialog_font.h"
+#include "window/say.h"
 
 namespace {
 
@@ -39,7 +40,7 @@ CheckPanel::CheckPanel(std::function<void(control::CellAddress)> goTo, QWidget* 
 int CheckPanel::check(const Vor_String& path) {
     m_findings->clear();
     for (const StandardsFinding& finding : checkStandard(path)) {
-        auto* item = new QListWidgetItem(placeOf(finding) + toQt(finding.message));
+        auto* item = new QListWidgetItem(placeOf(finding) + shownMessage(finding.message));
         const bool isError = finding.severity == StandardsFinding::Severity::error;
         item->setIcon(style()->standardIcon(isError ? QStyle::SP_MessageBoxCritical
                                                     : QStyle::SP_MessageBoxWarning));

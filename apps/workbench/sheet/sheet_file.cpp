@@ -50,14 +50,14 @@ void SheetFile::startNew() {
 
 bool SheetFile::open(const std::string& path, std::string& error) {
     if (isCsvPath(path)) return import(path, error);
-    const auto stamp = files::stampOf(path);
+    OpenFile file;
+    file.opening(path);
     if (!m_spread.loadFromFile(path)) {
         error = m_spread.lastError();
         return false;
     }
     m_spread.grid().recalculate();  // documents written by hand have no results, or old ones
-    m_stamp = stamp;
-    m_path = path;
+    m_file = std::move(file);
     m_isImported = false;
     prepare(m_spread, false);
     return true;
@@ -70,26 +70,25 @@ bool SheetFile::import(const std::string& path, std::string& error) {
         error = path + ": " + error;
         return false;
     }
-    m_path.clear();
-    m_stamp.reset();
+    m_file.opening({});
     m_isImported = true;
     prepare(m_spread, false);
     return true;
 }
 
-bool SheetFile::save(const std::string& path, std::string& error) {
-    if (!saveSheet(m_spread, path, HeaderFiles::sheetsOnly, error)) return false;
-    m_path = path;
-    m_stamp = files::stampOf(path);
+OpenFile::Saved SheetFile::save(const std::string& path, std::string& error) {
+    const auto write = [&](std::string& why) {
+        if (saveSheet(m_spread, path)) return true;
+        why = m_spread.lastError();
+        return false;
+    };
+    const OpenFile::Saved saved = m_file.save(path, write, error);
+    if (saved != OpenFile::Saved::yes) return saved;
     m_isImported = false;
     m_spread.editor().markSaved();
-    return true;
-}
-
-bool SheetFile::isChangedOnDisk() const {
-    return !m_path.empty() && files::stampOf(m_path) != m_stamp;
+    return saved;
 }
 
 bool SheetFile::isStandard() const {
-    return endsWith(m_path, ".tws");
+    return endsWith(path(), ".tws");
 }

@@ -3,10 +3,9 @@
 // Windows-1252.
 #pragma once
 
-#include <optional>
 #include <string>
 
-#include "platform/files.h"
+#include "core_api/dialogs/open_file.h"
 #include "sheet/sheet_spread.h"
 
 class SheetFile {
@@ -16,13 +15,12 @@ class SheetFile {
     /// A document, or a text file (".csv"), which stays without a file of its own: what is saved
     /// becomes a document. False with the reason, and the sheet as it was.
     bool open(const std::string& path, std::string& error);
-    /// Writes a document. False with the reason, and the old file whole.
-    bool save(const std::string& path, std::string& error);
+    /// Writes a document; the old file stays whole when that fails. Asks before it replaces what
+    /// another program wrote into the sheet's own file.
+    OpenFile::Saved save(const std::string& path, std::string& error);
 
     /// Empty while the sheet has no file.
-    const std::string& path() const { return m_path; }
-    /// Another program wrote or removed the file since it was opened or saved.
-    bool isChangedOnDisk() const;
+    const std::string& path() const { return m_file.path(); }
     bool isStandard() const;
 
     SheetSpread& spread() { return m_spread; }
@@ -33,8 +31,7 @@ class SheetFile {
     bool import(const std::string& path, std::string& error);
 
     SheetSpread m_spread;
-    std::string m_path;
-    std::optional<files::Stamp> m_stamp;
+    OpenFile m_file;
     bool m_isImported = false;  ///< holds what no document has yet
 };
 

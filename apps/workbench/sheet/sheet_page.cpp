@@ -136,8 +136,9 @@ void SheetPage::goTo(const control::Block& block) {
 }
 
 void SheetPage::tell(const QString& message, bool isFailure) {
-    m_message->setText(message);
-    m_message->setToolTip(message);
+    const QString shown = shownMessage(message);
+    m_message->setText(shown);
+    m_message->setToolTip(shown);
     m_message->setStyleSheet(isFailure ? "color: #b00000" : "");
 }
 
@@ -175,12 +176,6 @@ QString SheetPage::title() const {
 bool SheetPage::save() {
     if (!commitEdit()) return false;
     if (m_file->path().empty()) return saveAs();
-    if (m_file->isChangedOnDisk()) {
-        const QString asked = say(sayChangedOnDisk).arg(title());
-        const int answer = showMessage(
-            {"Vormant", fromQt(asked), MessageIcon::exclamation, MessageButtons::yesNo});
-        if (answer != IDYES) return false;
-    }
     return saveTo(m_file->path());
 }
 
@@ -200,7 +195,10 @@ bool SheetPage::saveAs() {
 
 bool SheetPage::saveTo(const std::string& path) {
     std::string error;
-    if (!m_file->save(path, error)) {
+    const OpenFile::Saved saved = m_file->save(path, error);
+    if (saved == OpenFile::Saved::reload) return reload(), false;
+    if (saved == OpenFile::Saved::no) {
+        if (error.empty()) return false;  // the user cancelled
         tell(toQt(error), true);
         showWarning("Vormant", error);
         return false;
@@ -209,6 +207,18 @@ bool SheetPage::saveTo(const std::string& path) {
     tell(say(saySaved).arg(machinePath(path)));
     if (m_check->isVisible()) check();
     return true;
+}
+
+/// What another program wrote, in place of what is shown.
+void SheetPage::reload() {
+    std::string error;
+    const std::string path = m_file->path();
+    if (!m_file->open(path, error)) {
+        tell(toQt(error), true);
+        showWarning("Vormant", error);
+        return;
+    }
+    finish(true);
 }
 
 bool SheetPage::exportTo(const std::string& path) {

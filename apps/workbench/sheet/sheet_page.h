@@ -44,6 +44,7 @@ class SheetPage : public QWidget {
     bool saveTo(const std::string& path);
     /// By the extension: ".csv", ".xlsx" or ".pdf".
     bool exportTo(const std::string& path);
+    void reload();
     /// Why nothing was printed, if it was not; else what was left out.
     void tellPrinted(const QString& failure);
     void check();

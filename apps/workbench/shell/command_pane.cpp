@@ -1,6 +1,6 @@
 #include "shell/command_pane.h"
 
-#include "window/dialog_font.h"
+#include "window/say.h"
 
 namespace {
 
@@ -17,7 +17,7 @@ CommandPane::CommandPane(QWidget* parent) : QPlainTextEdit(parent) {
 
 void CommandPane::print(std::string_view text) {
     moveCursor(QTextCursor::End);
-    insertPlainText(toQt(text));
+    insertPlainText(shownMessage(text));
     moveCursor(QTextCursor::End);
 }
 

@@ -6,6 +6,7 @@
 #include "window/desktop_texts.h"
 #include "window/dialog_font.h"
 #include "window/qt_window_system.h"
+#include "window/say.h"
 
 namespace {
 
@@ -47,7 +48,7 @@ int QtWindowSystem::messageBox(const MessageBox& box) {
     QMessageBox shown(ownerOf(CWnd::focused()));
     shown.setWindowTitle(toQt(box.caption));
     shown.setTextFormat(Qt::PlainText);  // names in texts stand between "<" and ">"
-    shown.setText(toQt(box.text));
+    shown.setText(shownMessage(box.text));
     shown.setIcon(iconOf(box.icon));
     for (const Choice& choice : choices) {
         if (!box.hasButton(choice.id)) continue;

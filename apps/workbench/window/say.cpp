@@ -1,6 +1,7 @@
 #include "window/say.h"
 
 #include "core_api/texts/texts.h"
+#include "platform/readable_paths.h"
 #include "window/dialog_font.h"
 
 QString say(int number) {
@@ -9,4 +10,12 @@ QString say(int number) {
 
 QString sayTitle(int number) {
     return say(number).remove('&').remove(QChar(0x2026));
+}
+
+QString shownMessage(std::string_view message) {
+    return toQt(paths::readable(message));
+}
+
+QString shownMessage(const QString& message) {
+    return QString::fromStdString(paths::readableUtf8(message.toStdString()));
 }

@@ -2,7 +2,11 @@
 #pragma once
 
 #include <QString>
+#include <string_view>
 
 QString say(int number);
 /// Of a menu entry, as the title of what it opens.
 QString sayTitle(int number);
+/// A message of the module, with its files named as on this machine.
+QString shownMessage(std::string_view message);
+QString shownMessage(const QString& message);

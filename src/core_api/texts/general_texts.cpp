@@ -45,6 +45,34 @@ constexpr TextRow rows[] = {
     {9109, {"Files of type:", "Bestandstype:", "Dateityp:", "Type de fichier :"}},
     {9110, {"&Open", "&Openen", "Ö&ffnen", "&Ouvrir"}},
     {9111, {"&Save", "Op&slaan", "&Speichern", "&Enregistrer"}},
+    {9112, {"File changed", "Bestand gewijzigd", "Datei geändert", "Fichier modifié"}},
+    {9113,
+     {"%1\nwas changed by another program since it was opened.\n\nYes: overwrite it. What the "
+      "other "
+      "program wrote is lost.\nNo: load it again. What was changed here is lost.\nCancel: save "
+      "nothing now.",
+      "%1\nis door een ander programma gewijzigd sinds het werd geopend.\n\nJa: overschrijven. Wat "
+      "het andere programma schreef, gaat verloren.\nNee: opnieuw laden. Wat hier is gewijzigd, "
+      "gaat "
+      "verloren.\nAnnuleren: nu niets opslaan.",
+      "%1\nwurde seit dem Öffnen von einem anderen Programm geändert.\n\nJa: überschreiben. Was "
+      "das "
+      "andere Programm geschrieben hat, geht verloren.\nNein: neu laden. Was hier geändert wurde, "
+      "geht verloren.\nAbbrechen: jetzt nichts speichern.",
+      "%1\na été modifié par un autre programme depuis son ouverture.\n\nOui : le remplacer. Ce "
+      "que "
+      "l'autre programme a écrit est perdu.\nNon : le recharger. Ce qui a été modifié ici est "
+      "perdu.\nAnnuler : ne rien enregistrer maintenant."}},
+    {9114,
+     {"The table %1 was changed by another program meanwhile: it has the size already, or other "
+      "columns. Nothing was added.",
+      "De tabel %1 is intussen door een ander programma gewijzigd: de maat staat er al in, of de "
+      "kolommen zijn anders. Er is niets toegevoegd.",
+      "Die Tabelle %1 wurde inzwischen von einem anderen Programm geändert: sie hat die Größe "
+      "schon "
+      "oder andere Spalten. Es wurde nichts hinzugefügt.",
+      "Le tableau %1 a été modifié entre-temps par un autre programme : il contient déjà cette "
+      "dimension ou a d'autres colonnes. Rien n'a été ajouté."}},
 };
 
 }  // namespace

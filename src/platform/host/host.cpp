@@ -5,6 +5,7 @@
 #include <string>
 
 #include "platform/encodings.h"
+#include "platform/readable_paths.h"
 #include "platform/terminal_text.h"
 
 namespace {
@@ -30,7 +31,7 @@ Host* Host::install(Host* host) {
 }
 
 void Host::print(std::string_view text) {
-    const std::string utf8 = terminalText(encodings::toUtf8(text));
+    const std::string utf8 = terminalText(encodings::toUtf8(paths::readable(text)));
     std::fwrite(utf8.data(), 1, utf8.size(), stderr);
 }
 

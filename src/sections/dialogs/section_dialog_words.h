@@ -60,7 +60,6 @@ enum SectionDialogWord {
     wordBadName = 25307,
     wordUnreadable = 25308,
     wordNoColumns = 25309,
-    wordFileChanged = 25310,
     wordCatalogueUnreadable = 25311,
     wordReplaceFiles = 25312,
     wordTooManyFields = 25313,

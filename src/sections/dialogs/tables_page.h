@@ -3,10 +3,8 @@
 // or not at all; one that cannot be read is shown empty with the reason, and is left as it is.
 #pragma once
 
-#include <optional>
-
 #include "core_api/dialog_data/dlg_edit_lib_data.h"
-#include "platform/files.h"
+#include "core_api/dialogs/open_file.h"
 #include "platform/window/dialog.h"
 #include "sections/dialogs/table_sheet.h"
 
@@ -78,7 +76,7 @@ class TablesPage : public CDialog {
     // tables_page_files.cpp
     bool takeBack(Vor_ProfValuesTable& table);
     bool save();
-    bool mayReplaceFile();
+    bool write(Vor_ProfValuesTable& table, const Vor_String& name, int title);
     void newTable();
     void renameTable();
     bool isGoodName(const Vor_String& name);
@@ -93,5 +91,5 @@ class TablesPage : public CDialog {
     Vor_ProfValuesTable m_table;  // as it was read, or made
     Vor_String m_problem;         // why it could not be read
     bool m_isNew = false;         // has no file yet
-    std::optional<files::Stamp> m_stamp;
+    OpenFile m_file;
 };

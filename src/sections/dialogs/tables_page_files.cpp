@@ -39,11 +39,11 @@ void TablesPage::read(int index) {
     m_table = {};
     m_problem.clear();
     m_isNew = false;
-    m_stamp.reset();
+    m_file.opening({});
     if (index < 0) return;
     m_table.tableName = tableName();
     const Vor_String path = Vor_ProfValuesTable::filePath(tableName());
-    m_stamp = files::stampOf(path);
+    m_file.opening(path);
     m_table.readFromFile(tableName(), &m_problem);
     if (!isReadable() || !m_table.columnNames.isEmpty()) return;
     m_problem = path + ": " + dialString(wordNoColumns);
@@ -58,29 +58,33 @@ bool TablesPage::takeBack(Vor_ProfValuesTable& table) {
     return true;
 }
 
-/// Somebody else may have written the file meanwhile, also that of a new table.
-bool TablesPage::mayReplaceFile() {
-    const Vor_String path = Vor_ProfValuesTable::filePath(tableName());
-    const auto now = files::stampOf(path);
-    if (!now || now == m_stamp) return true;
-    return ask(wordSaveTitle, path + "\n" + dialString(wordFileChanged), MessageIcon::exclamation,
-               MessageButtons::yesNo) == IDYES;
+/// Under `name`, while the file of the table shown is as it was read, or its user says so.
+bool TablesPage::write(Vor_ProfValuesTable& table, const Vor_String& name, int title) {
+    const auto writeTable = [&](std::string& why) {
+        Vor_String message;
+        const bool isWritten = table.writeToFile(name, &message);
+        why = message.str();
+        return isWritten;
+    };
+    std::string error;
+    const auto saved = m_file.save(m_file.path(), writeTable, error);
+    if (saved == OpenFile::Saved::reload) {
+        m_sheet.setSaved();
+        showTable(m_index);
+    } else if (!error.empty()) {
+        showWarning(dialString(title), error);
+    }
+    return saved == OpenFile::Saved::yes;
 }
 
 bool TablesPage::save() {
     Vor_ProfValuesTable table = m_table;
     if (!takeBack(table)) return true;
-    if (!mayReplaceFile()) return false;
-    Vor_String message;
-    if (!table.writeToFile(tableName(), &message)) {
-        showWarning(dialString(wordSaveTitle), message);
-        return false;
-    }
+    if (!write(table, tableName(), wordSaveTitle)) return false;
     table.tableName = tableName();
     table.setToGlobals(&gSectionTables);
     m_table = table;
     m_isNew = false;
-    m_stamp = files::stampOf(Vor_ProfValuesTable::filePath(tableName()));
     m_sheet.setSaved();
     return true;
 }
@@ -116,7 +120,7 @@ void TablesPage::newTable() {
     m_index = m_data.tableNames.append(name);
     m_problem.clear();
     m_isNew = true;
-    m_stamp.reset();
+    m_file.startNew(Vor_ProfValuesTable::filePath(name));
     m_table = {};
     m_table.tableName = name;
     m_table.columnNames = {"SysName", "I/O"};
@@ -171,11 +175,7 @@ bool TablesPage::isGoodName(const Vor_String& name) {
 bool TablesPage::rename(const Vor_String& name) {
     Vor_ProfValuesTable table = m_table;
     if (!takeBack(table)) return false;
-    Vor_String message;
-    if (!table.writeToFile(name, &message)) {
-        showWarning(dialString(wordRenameTitle), message);
-        return false;
-    }
+    if (!write(table, name, wordRenameTitle)) return false;
     removeTableFile(tableName());
     unregister(tableName());
     table.tableName = name;

@@ -1,5 +1,7 @@
 #include "spread/formulas/formulas_dialog.h"
 
+#include <utility>
+
 #include "core_api/texts/dial_text.h"
 #include "platform/host/host.h"
 #include "platform/window/window_system.h"
@@ -91,14 +93,32 @@ void TwFormulasDlg::prepareGrid() {
 }
 
 bool TwFormulasDlg::load(const Vor_String& path) {
+    OpenFile file;
+    file.opening(path.str());
     const bool isDone = m_grid.loadFromFile(path);
+    if (isDone) m_file = std::move(file);
     registerFromTable(m_grid);  // a document comes without functions
     return isDone;
 }
 
 void TwFormulasDlg::save() {
-    if (m_grid.saveToFile(typedPath())) return;
+    const Vor_String path = typedPath();
+    const auto write = [&](std::string& why) {
+        if (m_grid.saveToFile(path)) return true;
+        why = m_grid.lastError();
+        return false;
+    };
+    std::string error;
+    const OpenFile::Saved saved = m_file.save(path.str(), write, error);
+    if (saved == OpenFile::Saved::reload) return loadTyped();
+    if (error.empty()) return;
     acutPrintf("Save failed\n");
+    showWarning(text(), error);
+}
+
+void TwFormulasDlg::loadTyped() {
+    if (load(typedPath())) return;
+    acutPrintf("Load failed\n");
     showWarning(text(), m_grid.lastError());
 }
 
@@ -152,9 +172,7 @@ void TwFormulasDlg::onCommand(int id, int code) {
         case saveButton:
             return save();
         case loadButton:
-            if (load(typedPath())) return;
-            acutPrintf("Load failed\n");
-            return showWarning(text(), m_grid.lastError());
+            return loadTyped();
         case defaultStyle:
         case a1Style:
         case r1c1Style:

@@ -3,6 +3,7 @@
 // and reads a file that way for programs too. Where nobody can answer, it ends itself then.
 #pragma once
 
+#include "core_api/dialogs/open_file.h"
 #include "core_api/text/vor_string_array.h"
 #include "platform/window/dialog.h"
 #include "spread/formulas/table_look_up.h"
@@ -58,6 +59,7 @@ class TwFormulasDlg : public CDialog {
     void prepareGrid();
     bool load(const Vor_String& path);
     void save();
+    void loadTyped();
     void readFile();
     void evaluate();
     void lookUp();
@@ -66,5 +68,6 @@ class TwFormulasDlg : public CDialog {
     Vor_String typedPath() const;
 
     Vor_Spread m_grid;
+    OpenFile m_file;
     bool m_isLoaded = false;
 };
