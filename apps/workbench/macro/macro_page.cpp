@@ -88,6 +88,12 @@ QWidget* MacroPage::makeRunBar() {
     m_key->setEditable(true);
     m_key->setMinimumWidth(240);
     connect(m_standard, &QComboBox::currentTextChanged, this, [this] { fillKeys(); });
+    // A calculation never stands under the name of another standard or key than its own.
+    for (const QComboBox* choice : {m_standard, m_key})
+        connect(choice, &QComboBox::currentTextChanged, this, [this] {
+            m_model.show(nullptr);
+            show({}, false);
+        });
     auto* run = new QPushButton(say(wordRun));
     run->setObjectName("runOnMacro");
     connect(run, &QPushButton::clicked, this, [this] { this->run(); });
@@ -144,8 +150,9 @@ void MacroPage::fillObjects() {
         Vor_String value;
         object.getMacroVarValue(&m_macro->macro(), &m_macro->macroData(), value,
                                 &m_macro->transaction());
-        const QString before =
-            m_objects->item(row, valueColumn) ? m_objects->item(row, valueColumn)->text() : "";
+        const QTableWidgetItem* shownBefore = m_objects->item(row, objectColumn);
+        const bool isSame = shownBefore && shownBefore->text() == nameOf(object);
+        const QString before = isSame ? m_objects->item(row, valueColumn)->text() : QString();
         m_objects->setItem(row, objectColumn, new QTableWidgetItem(nameOf(object)));
         m_objects->setItem(row, kindColumn, new QTableWidgetItem(kindWord(object.kind())));
         auto* shown = new QTableWidgetItem(toQt(value));
