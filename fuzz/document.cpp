@@ -6,6 +6,13 @@
 #include "spread/control/document.h"
 #include "spread/control/grid.h"
 
+namespace {
+
+// Nobody waits for a formula here that works for a second.
+[[maybe_unused]] const bool isLimited = (formula::Calculation::setMostWork(1'000'000), true);
+
+}  // namespace
+
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     if (size > 16384) return 0;
     const std::string_view text(reinterpret_cast<const char*>(data), size);

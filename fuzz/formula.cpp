@@ -5,6 +5,13 @@
 
 #include "spread/control/sheet.h"
 
+namespace {
+
+// Nobody waits for a formula here that works for a second.
+[[maybe_unused]] const bool isLimited = (formula::Calculation::setMostWork(1'000'000), true);
+
+}  // namespace
+
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     if (size > 4096) return 0;
     const std::string_view input(reinterpret_cast<const char*>(data), size);

@@ -322,6 +322,19 @@ TEST_F(GridTest, UsersAreHeldToLocksKindsAndLengths) {
     EXPECT_EQ(data(5, 1), "1.3");
 }
 
+TEST_F(GridTest, WhatIsRefusedDoesNotCountAsAChange) {
+    grid.setOption(control::Option::userFormulas, true);
+    grid.setType(3, 1, control::numberType(2, 0, 0, 10));
+    grid.setType(4, 1, typeOf(CellKind::checkBox));
+    grid.setOption(control::Option::changed, false);
+    EXPECT_FALSE(grid.setFormula(1, 1, "1+") || grid.enter(1, 1, "=nope(") ||
+                 grid.enter(4, 1, "=1+1") || grid.enter(4, 1, "yes") || grid.enter(3, 1, "11"));
+    EXPECT_FALSE(grid.setColWidth(1, -1) || grid.setRowHeight(1, 1 << 30) ||
+                 grid.setColWidth(99, 5) || grid.moveRows(1, 1, 99) || grid.addSpan({99, 1, 2, 2}));
+    EXPECT_TRUE(grid.setFormula(1, 1, "")) << "there is none to remove";
+    EXPECT_FALSE(grid.option(control::Option::changed));
+}
+
 TEST_F(GridTest, CopiedTextPastesBackWhole) {
     grid.setData(1, 1, "plain");
     grid.setData(2, 1, "tab\there");

@@ -1,5 +1,5 @@
-// Grids: why a cell does not take what was typed. "%1" and "%2" stand for what the message is
-// about.
+// Grids: why a cell does not take what was typed, and calculations that take long. "%1" and "%2"
+// stand for what the message is about.
 #include "core_api/texts/text_tables.h"
 
 namespace texts {
@@ -40,6 +40,21 @@ constexpr TextRow rows[] = {
     {9209,
      {"A check box takes 1 or 0.", "Een selectievakje neemt 1 of 0 aan.",
       "Ein Kontrollkästchen nimmt 1 oder 0 an.", "Une case à cocher accepte 1 ou 0."}},
+    {9210,
+     {"The sheet is being calculated.", "Het werkblad wordt berekend.", "Das Blatt wird berechnet.",
+      "La feuille est en cours de calcul."}},
+    {9211, {"Stop", "Stoppen", "Anhalten", "Arrêter"}},
+    {9212,
+     {"The calculation was stopped. Cells that it did not reach show old results until the sheet "
+      "is "
+      "calculated again.",
+      "De berekening is gestopt. Cellen die niet zijn bereikt, tonen oude resultaten tot het "
+      "werkblad opnieuw wordt berekend.",
+      "Die Berechnung wurde angehalten. Zellen, die sie nicht erreicht hat, zeigen alte "
+      "Ergebnisse, "
+      "bis das Blatt neu berechnet wird.",
+      "Le calcul a été arrêté. Les cellules non atteintes montrent d'anciens résultats jusqu'au "
+      "prochain calcul de la feuille."}},
 };
 
 }  // namespace

@@ -13,8 +13,6 @@ using formula::Value;
 
 constexpr std::string_view firstWord = "vormant-sheet ";
 constexpr int newestVersion = 1;
-// What a document may take in memory beside its texts; 32 million cells need it all.
-constexpr size_t mostBytes = size_t{512} << 20;
 constexpr int widest = 10000;
 
 std::string quoted(std::string_view text) {
@@ -397,7 +395,7 @@ bool DocumentReader::claimCell(int col, int row) {
             m_bytes += static_cast<size_t>(reached - blocks) * sizeof(void*);
             blocks = reached;
         }
-        if (m_bytes > mostBytes)
+        if (m_bytes > mostCellBytes)
             return fail("the cells need more memory than a sheet may take", "split the sheet");
     }
     const int64_t key = cellKey(col, row);

@@ -11,6 +11,10 @@
 
 namespace control {
 
+/// What the cells of a document may take in memory beside their texts, in bytes; 32 million cells
+/// need it all.
+inline constexpr size_t mostCellBytes = size_t{512} << 20;
+
 /// Where a document's text grows.
 class DocumentOutput {
   public:

@@ -241,8 +241,39 @@ std::string writeDocument(const Grid& grid) {
     return DocumentWriter(grid).write();
 }
 
+namespace {
+
+/// What the cells take in memory, as the reader counts.
+size_t cellBytes(const Grid& grid) {
+    size_t bytes = 0;
+    int col = 0, blocks = 0;
+    const Area everything{1, formula::maxRows, 1, formula::maxCols};
+    grid.sheet().cells().eachRun(everything, [&](const CellStore::Run& run) {
+        if (run.col != col) blocks = 0;
+        col = run.col;
+        const int reached = ((run.row - 1) >> CellStore::blockShift) + 1;
+        bytes += sizeof(CellStore::Block) + static_cast<size_t>(reached - blocks) * sizeof(void*);
+        blocks = reached;
+    });
+    return bytes;
+}
+
+}  // namespace
+
+// A document that could not be read again is no use to anybody.
 bool saveDocument(const Grid& grid, std::string_view path, std::string& error) {
-    return files::writeWhole(path, writeDocument(grid), error);
+    const auto refuse = [&](const std::string& what) {
+        error = std::string(path) + ": " + what + ": split the sheet or shorten its texts";
+        return false;
+    };
+    if (cellBytes(grid) > mostCellBytes)
+        return refuse("the cells need more memory than a document that is read may take");
+    const std::string text = writeDocument(grid);
+    if (text.size() > files::usualSizeLimit)
+        return refuse("the document would have " + std::to_string(text.size() >> 20) +
+                      " MB, and at most " + std::to_string(files::usualSizeLimit >> 20) +
+                      " MB are read");
+    return files::writeWhole(path, text, error);
 }
 
 }  // namespace control

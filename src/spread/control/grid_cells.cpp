@@ -298,9 +298,13 @@ bool Grid::setFormula(int col, int row, std::string_view text, formula::ParseErr
         why = {"the cell lies outside the sheet", 0};
         return false;
     }
-    noteTouched(col, row);
-    if (!text.empty()) return m_sheet->setFormula(col, row, text, why);
+    if (!text.empty()) {
+        if (!m_sheet->setFormula(col, row, text, why)) return false;
+        noteTouched(col, row);
+        return true;
+    }
     if (!m_sheet->formula(col, row)) return true;
+    noteTouched(col, row);
     const std::string kept(m_sheet->value(col, row).isText() ? m_sheet->value(col, row).text()
                                                              : std::string_view());
     const Value value = m_sheet->value(col, row);

@@ -9,10 +9,8 @@ namespace {
 
 constexpr int widest = 10000;  // pixels that a column or row may have
 
-bool setSize(std::map<int, int>& sizes, int& headerSize, int index, int pixels) {
-    if (pixels < 0 || pixels > widest) return false;
-    (isHeader(index) ? headerSize : sizes[index]) = pixels;
-    return true;
+bool isSize(int pixels) {
+    return pixels >= 0 && pixels <= widest;
 }
 
 int sizeOf(const Band& band, const Band& across, int index) {
@@ -176,15 +174,17 @@ int Grid::rowHeight(int row) const {
 }
 
 bool Grid::setColWidth(int col, int pixels) {
-    if (!isHeader(col) && (col < 1 || col > m_cols)) return false;
+    if ((!isHeader(col) && (col < 1 || col > m_cols)) || !isSize(pixels)) return false;
     SideTables& sides = changeSides();
-    return setSize(sides.cols.sizes, sides.rows.headerSize, col, pixels);
+    (isHeader(col) ? sides.rows.headerSize : sides.cols.sizes[col]) = pixels;
+    return true;
 }
 
 bool Grid::setRowHeight(int row, int pixels) {
-    if (!isHeader(row) && (row < 1 || row > m_rows)) return false;
+    if ((!isHeader(row) && (row < 1 || row > m_rows)) || !isSize(pixels)) return false;
     SideTables& sides = changeSides();
-    return setSize(sides.rows.sizes, sides.cols.headerSize, row, pixels);
+    (isHeader(row) ? sides.cols.headerSize : sides.rows.sizes[row]) = pixels;
+    return true;
 }
 
 bool Grid::setColHidden(int col, bool hidden) {

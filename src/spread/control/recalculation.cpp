@@ -1,5 +1,8 @@
 // Which formulas are out of date, and in which order they are calculated.
+#include <algorithm>
+
 #include "spread/control/sheet.h"
+#include "spread/control/stop_calculation.h"
 
 namespace control {
 
@@ -38,8 +41,22 @@ void Sheet::relinkAll() {
     }
 }
 
+// A volatile formula may read any cell.
+void Sheet::touchVolatile() {
+    for (const uint32_t id : m_volatile) {
+        const FormulaSlot& slot = m_slots[id];
+        if (!slot.live) continue;
+        Cell& cell = *m_cells.find(slot.col, slot.row);
+        if (cell.dirty) continue;
+        m_cells.setDirty(slot.col, slot.row, cell, true);
+        m_dirtied.push_back(id);
+        touchedQuietly(slot.col, slot.row);
+    }
+}
+
 // Makes everything dirty that reads a changed cell, directly or through other formulas.
 void Sheet::settle() {
+    if (!m_changed.empty()) touchVolatile();
     m_calculation.m_unsettled = false;
     if (m_changed.empty()) return;
     linkNew();
@@ -69,30 +86,27 @@ bool Sheet::recalculateCell(int col, int row) {
     Cell* cell = m_cells.find(col, row);
     if (!cell || !cell->formula) return false;
     settle();
+    m_isStopped = false;
     m_cells.setDirty(col, row, *cell, true);
     calculate(cell->formula);
     return true;
 }
 
 void Sheet::recalculateDirty() {
+    touchVolatile();
     settle();
-    for (const uint32_t id : m_volatile) {
-        const FormulaSlot& slot = m_slots[id];
-        if (slot.live) m_changed.push_back({slot.col, slot.row});
-    }
-    if (!m_changed.empty()) {
-        for (const CellAddress& place : m_changed) {
-            Cell& cell = m_cells.obtain(place.col, place.row);
-            if (cell.dirty) continue;
-            m_cells.setDirty(place.col, place.row, cell, true);
-            m_dirtied.push_back(cell.formula);
-        }
-        settle();
-    }
+    m_isStopped = false;
     // Calculating cannot dirty anything, so the list may be taken away.
     std::vector<uint32_t> dirtied;
     dirtied.swap(m_dirtied);
-    for (const uint32_t id : dirtied) calculate(id);
+    for (const uint32_t id : dirtied) {
+        calculate(id);
+        if (m_isStopped) break;
+    }
+    if (m_isStopped) {
+        m_dirtied.insert(m_dirtied.end(), dirtied.begin(), dirtied.end());
+        return;
+    }
     dirtied.clear();
     if (m_dirtied.empty()) m_dirtied.swap(dirtied);
 }
@@ -107,14 +121,48 @@ void Sheet::recalculate() {
             m_cells.setDirty(slot.col, slot.row, *m_cells.find(slot.col, slot.row), true);
     }
     m_orderBroken = false;
+    m_isStopped = false;
     m_recordsOrder = true;
     m_newOrder.clear();
     m_newOrder.reserve(m_order.size());
-    for (const uint32_t id : m_order) calculate(id);
-    // The order in which things came out this time is one that needs no waiting next time.
-    if (m_orderBroken) m_order.swap(m_newOrder);
-    m_newOrder.clear();
+    for (const uint32_t id : m_order) {
+        calculate(id);
+        if (m_isStopped) break;
+    }
     m_recordsOrder = false;
+    if (m_isStopped) {
+        m_dirtied = m_order;
+    } else if (m_orderBroken) {
+        // The order in which things came out this time is one that needs no waiting next time.
+        m_order.swap(m_newOrder);
+    }
+    m_newOrder.clear();
+}
+
+// What a formula gives goes into its cell; a text only while there is room for it.
+inline void Sheet::storeResult(Cell& cell, const Value& result) {
+    if (cell.type == ValueType::text || result.isText()) [[unlikely]] {
+        const size_t others = m_resultText - textSize(cell);
+        const size_t size = result.isText() ? result.text().size() : 0;
+        const bool hasRoom = size == 0 || others + size <= mostResultText;
+        m_cells.setValue(cell, hasRoom ? result : Value(ErrorCode::num));
+        m_resultText = others + textSize(cell);
+        return;
+    }
+    m_cells.setValue(cell, result);
+}
+
+void Sheet::countResultText() {
+    m_resultText = 0;
+    for (const FormulaSlot& slot : m_slots)
+        if (slot.live) m_resultText += textSize(*m_cells.find(slot.col, slot.row));
+}
+
+// Now and then, by the work that was done since.
+[[gnu::noinline]] void Sheet::askToStop() {
+    constexpr int64_t workBetween = 20'000'000;  // some hundredths of a second
+    m_workBeforeAsk = workBetween;
+    if (mustStopCalculation()) m_isStopped = true;
 }
 
 // Calculates a formula unless it is up to date already. False when it has to wait for others.
@@ -125,69 +173,128 @@ inline bool Sheet::tryCalculate(uint32_t id) {
     Cell& cell = block.cells[CellStore::rowInBlock(slot.row)];
     if (!cell.dirty) return true;
     const Value* result = m_evaluator.run(*slot.program, slot.col, slot.row);
+    m_workBeforeAsk -= m_calculation.workDone();
+    if (m_workBeforeAsk < 0) [[unlikely]]
+        askToStop();
     if (result) {
-        m_cells.setValue(cell, *result);
+        storeResult(cell, *result);
         CellStore::setDirty(block, cell, false);
-        slot.inProgress = false;
         if (m_recordsOrder) m_newOrder.push_back(id);
     }
     m_calculation.endCalculation();
     return result != nullptr;
 }
 
-// Calculates `first`, and before it whatever dirty formula it reads. The path of formulas that
-// wait for each other is kept here, not on the C++ stack.
+// Calculates `first`, and before it whatever dirty formula it reads. Those that wait are kept here,
+// not on the C++ stack.
 void Sheet::calculate(uint32_t first) {
     if (tryCalculate(first)) return;
-    const size_t bottom = m_path.size();
     m_orderBroken = true;
-    m_path.push_back(first);
-    m_slots[first].inProgress = true;
-    waitForDirty(bottom);
-    while (m_path.size() > bottom) {
-        const uint32_t id = m_path.back();
-        if (tryCalculate(id)) {
-            m_path.pop_back();
+    const size_t bottom = m_waiting.size();
+    const size_t met = m_met.size();
+    wait(bottom, beginWaiting(first, nobody));
+    letGo(bottom);  // nothing is left unless the calculation was stopped
+    m_met.resize(met);
+    if (m_isStopped) m_dirtied.push_back(first);
+}
+
+// Goes through the formulas that wait as one goes through a graph for its circles: a formula is
+// done when all it waits for are. Formulas that lead to each other stay in m_waiting until it is
+// clear which of them is the first, and then are one circle, wherever calculating began. One that
+// is blocked runs again as long as anything else that it waited for has been done since: it may not
+// ask for the rest any more.
+void Sheet::wait(size_t bottom, uint32_t top) {
+    while (top != nobody && !m_isStopped) {
+        if (m_met.size() > m_waiting[top].firstMet) {
+            const uint32_t id = m_met.back();
+            m_met.pop_back();
+            if (m_slots[id].inProgress) {
+                // One below waits for the call that this calculation came from.
+                const auto lowest = static_cast<uint32_t>(bottom);
+                const uint32_t low = m_waiting[m_places[id]].low;
+                m_waiting[top].low = std::min(m_waiting[top].low, std::max(low, lowest));
+                m_waiting[top].isBlocked = true;
+            } else if (tryCalculate(id)) {
+                m_waiting[top].hasProgress = true;
+            } else {
+                top = beginWaiting(id, top);
+            }
+        } else if (m_waiting[top].isBlocked && !m_waiting[top].hasProgress) {
+            top = endWaiting(top);
+        } else if (tryCalculate(m_waiting[top].id)) {
+            const uint32_t parent = m_waiting[top].parent;
+            letGo(top);
+            if (parent != nobody) m_waiting[parent].hasProgress = true;
+            top = parent;
         } else {
-            m_slots[id].inProgress = true;
-            waitForDirty(bottom);
+            Waiting& waiting = m_waiting[top];
+            waiting.isRough = waiting.isRough || waiting.isBlocked;
+            waiting.isBlocked = waiting.hasProgress = false;
+            meetDirty();
         }
     }
 }
 
-// Puts every dirty formula that the last run met on the path; one that is waiting there itself
-// closes a circle.
-void Sheet::waitForDirty(size_t bottom) {
+uint32_t Sheet::beginWaiting(uint32_t id, uint32_t parent) {
+    const auto place = static_cast<uint32_t>(m_waiting.size());
+    const auto firstMet = static_cast<uint32_t>(m_met.size());
+    m_waiting.push_back({id, parent, place, firstMet, false, false, false});
+    if (m_places.size() < m_slots.size()) m_places.resize(m_slots.size());
+    m_places[id] = place;
+    m_slots[id].inProgress = true;
+    meetDirty();
+    return place;
+}
+
+// Every dirty formula that the last run met.
+void Sheet::meetDirty() {
     settle();
-    for (const Area& area : m_calculation.m_dirtyAreas) {
-        m_met.clear();
+    for (const Area& area : m_calculation.m_dirtyAreas)
         m_cells.each(area, [&](int, int, const Cell& cell) {
             if (cell.dirty) m_met.push_back(cell.formula);
         });
-        for (const uint32_t id : m_met) {
-            const FormulaSlot& slot = m_slots[id];
-            if (slot.inProgress) {
-                markCircle(id, bottom);
-                return;
-            }
-            m_path.push_back(id);
-        }
-    }
 }
 
-// Every formula that waits, from `start` on, is part of the circle.
-void Sheet::markCircle(uint32_t start, size_t bottom) {
-    size_t first = m_path.size();
-    while (first > bottom && m_path[first - 1] != start) --first;
-    for (size_t i = first > bottom ? first - 1 : bottom; i < m_path.size(); ++i) {
-        FormulaSlot& slot = m_slots[m_path[i]];
-        if (!slot.inProgress) continue;
-        Cell& cell = *m_cells.find(slot.col, slot.row);
-        m_cells.setValue(cell, ErrorCode::circ);
-        m_cells.setDirty(slot.col, slot.row, cell, false);
-        slot.inProgress = false;
-        if (m_recordsOrder) m_newOrder.push_back(m_path[i]);
+// Of one that is blocked: the first of a circle closes it, another one blocks its parent too. Is
+// the way to the circle rough, the first one goes through it once more.
+uint32_t Sheet::endWaiting(uint32_t top) {
+    const Waiting blocked = m_waiting[top];
+    const bool isFirst = blocked.low == top;
+    if (isFirst && blocked.isRough) {
+        letGo(top + 1);
+        m_waiting[top].isRough = m_waiting[top].isBlocked = false;
+        return top;
     }
+    if (isFirst) markCircle(top);
+    if (blocked.parent == nobody) return nobody;
+    Waiting& parent = m_waiting[blocked.parent];
+    if (isFirst) {
+        parent.hasProgress = true;
+    } else {
+        parent.low = std::min(parent.low, blocked.low);
+        parent.isBlocked = true;
+        parent.isRough = parent.isRough || blocked.isRough;
+    }
+    return blocked.parent;
+}
+
+// Every formula from `root` on is part of the circle.
+void Sheet::markCircle(uint32_t root) {
+    for (size_t i = root; i < m_waiting.size(); ++i) {
+        const FormulaSlot& slot = m_slots[m_waiting[i].id];
+        if (!slot.live) continue;
+        Cell& cell = *m_cells.find(slot.col, slot.row);
+        storeResult(cell, ErrorCode::circ);
+        m_cells.setDirty(slot.col, slot.row, cell, false);
+        if (m_recordsOrder) m_newOrder.push_back(m_waiting[i].id);
+    }
+    letGo(root);
+}
+
+// Those from `first` on wait no longer: they are done, or are tried again when somebody needs them.
+void Sheet::letGo(size_t first) {
+    for (size_t i = first; i < m_waiting.size(); ++i) m_slots[m_waiting[i].id].inProgress = false;
+    m_waiting.resize(first);
 }
 
 }  // namespace control

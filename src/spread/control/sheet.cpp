@@ -51,6 +51,7 @@ Sheet& Sheet::operator=(const Sheet& other) {
     m_style = other.m_style;
     m_liveFormulas = other.m_liveFormulas;
     m_automatic = other.m_automatic;
+    m_resultText = other.m_resultText;
     return *this;
 }
 
@@ -88,6 +89,7 @@ void Sheet::forgetFormulas() {
     m_changed.clear();
     m_dependents.clear();
     m_liveFormulas = 0;
+    m_resultText = 0;
 }
 
 uint16_t Sheet::look(int col, int row) const {
@@ -172,7 +174,9 @@ void Sheet::place(int col, int row, const ProgramRef& program, TextBlock* text, 
     const uint32_t id = newSlot(col, row, program, text);
     m_slots[id].isArray = isArray;
     cell.formula = id;
+    m_resultText += textSize(cell);
     m_cells.setDirty(col, row, cell, true);
+    m_isStopped = false;
     calculate(id);
     touched(col, row);
 }
@@ -189,6 +193,7 @@ void Sheet::loadFormula(int col, int row, std::string_view text, const Value& ca
     if (cell.formula) removeFormula(col, row, cell);
     cell.formula = newSlot(col, row, program, TextBlock::make(text));
     m_cells.setValue(cell, isKnown ? cached : Value(ErrorCode::name));
+    m_resultText += textSize(cell);
     m_slots[cell.formula].isArray = isArray;
     if (!isKnown) m_unknown.push_back(cell.formula);
     if (!isKnown || !cached.isEmpty()) return;
@@ -221,6 +226,7 @@ uint32_t Sheet::newSlot(int col, int row, const ProgramRef& program, TextBlock* 
 
 void Sheet::removeFormula(int col, int row, Cell& cell) {
     m_cells.setDirty(col, row, cell, false);
+    m_resultText -= textSize(cell);
     FormulaSlot& slot = m_slots[cell.formula];
     TextBlock::release(slot.text);
     slot.text = nullptr;
@@ -256,6 +262,12 @@ bool Sheet::isArrayFormula(int col, int row) const {
 
 void Sheet::setReferenceStyle(ReferenceStyle style) {
     if (style == m_style) return;
+    writeFormulasIn(style);
+    touchVolatile();  // FORMULATEXT
+    if (m_automatic) recalculateDirty();
+}
+
+void Sheet::writeFormulasIn(ReferenceStyle style) {
     for (FormulaSlot& slot : m_slots) {
         if (!slot.live) continue;
         const auto text =

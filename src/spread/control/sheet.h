@@ -110,6 +110,13 @@ class Sheet {
     void recalculate();
     /// The dirty and the volatile ones.
     void recalculateDirty();
+    /// Somebody stopped the last recalculation (stop_calculation.h): formulas that were not reached
+    /// show what they showed before, and are calculated the next time.
+    bool isStopped() const { return m_isStopped; }
+
+    /// What the texts that formulas of a sheet give may take together, in bytes. One that would
+    /// need more gives #NUM!.
+    static constexpr size_t mostResultText = size_t{64} << 20;
 
     /// Rows and columns: references in formulas move as in every spreadsheet.
     void insertRows(int at, int count);
@@ -143,6 +150,19 @@ class Sheet {
         bool isArray : 1 = false;
     };
 
+    void writeFormulasIn(formula::ReferenceStyle style);
+    // A formula that waits for others.
+    struct Waiting {
+        uint32_t id;
+        uint32_t parent;    // the one that waits for it, an index into m_waiting
+        uint32_t low;       // the lowest index that it leads to
+        uint32_t firstMet;  // where those that it waits for begin in m_met
+        bool isBlocked;     // one that it waits for waits itself
+        bool hasProgress;   // one that it waited for is done
+        bool isRough;       // it was run again in between: `low` may be lower than it need be
+    };
+    static constexpr uint32_t nobody = static_cast<uint32_t>(-1);
+
     uint32_t newSlot(int col, int row, const formula::ProgramRef& program, TextBlock* text);
     void removeFormula(int col, int row, Cell& cell);
     void forgetFormulas();
@@ -159,12 +179,23 @@ class Sheet {
         m_calculation.m_unsettled = true;
     }
     void settle();
+    void touchVolatile();
     void linkNew();
     void relinkAll();
     bool tryCalculate(uint32_t id);
+    void storeResult(Cell& cell, const Value& result);
+    void countResultText();
+    static size_t textSize(const Cell& cell) {
+        return cell.type == ValueType::text ? cell.text->size : 0;
+    }
     void calculate(uint32_t first);
-    void waitForDirty(size_t bottom);
-    void markCircle(uint32_t start, size_t bottom);
+    uint32_t beginWaiting(uint32_t id, uint32_t parent);
+    void meetDirty();
+    void wait(size_t bottom, uint32_t top);
+    uint32_t endWaiting(uint32_t top);
+    void markCircle(uint32_t root);
+    void letGo(size_t first);
+    void askToStop();
 
     // Moving (structure.cpp).
     template <class Move>
@@ -184,8 +215,9 @@ class Sheet {
     std::vector<uint32_t> m_unknown;  // formulas that did not compile when they were loaded
     std::vector<CellAddress> m_changed;
     std::vector<uint32_t> m_dirtied;  // formulas that settle() made dirty
-    std::vector<uint32_t> m_path;     // formulas being calculated, each waiting for those above
-    std::vector<uint32_t> m_met;
+    std::vector<Waiting> m_waiting;   // those on the way to the running formula, and circles so far
+    std::vector<uint32_t> m_met;      // formulas that they wait for and that are still to be tried
+    std::vector<uint32_t> m_places;   // by formula: where it stands in m_waiting
     Dependents m_dependents;
     std::vector<const formula::CustomFunction*> m_custom;
     TextIndex m_customNames;  // into m_custom; functions are never destroyed
@@ -197,6 +229,9 @@ class Sheet {
     bool m_orderBroken = false;
     bool m_recordsOrder = false;
     bool m_customReplaces = false;  // a registered function has the name of one of ours
+    bool m_isStopped = false;
+    size_t m_resultText = 0;      // bytes of the texts in cells with formulas
+    int64_t m_workBeforeAsk = 0;  // left until somebody is asked whether to go on
 };
 
 }  // namespace control

@@ -8,19 +8,38 @@ namespace control {
 
 using formula::ParseError;
 
-// Moves the cells, then gives every formula its new place and its rewritten text.
+namespace {
+
+/// Whole columns and rows keep their text whatever comes into them or goes.
+bool readsWholeLines(const formula::Program& program) {
+    constexpr uint8_t whole = formula::Instruction::wholeCol | formula::Instruction::wholeRow;
+    const auto code = program.code();
+    return std::any_of(code.begin(), code.end(), [](const formula::Instruction& i) {
+        return (i.op == formula::Op::area || i.op == formula::Op::place) && (i.flags & whole) != 0;
+    });
+}
+
+}  // namespace
+
+// Moves the cells, then gives every formula its new place and its rewritten text. Dirty are those
+// that moved (ROW() needs no reference to change) and those whose text changed: the program, which
+// holds distances, may well stay the same while a cell between them is gone.
 template <class Move>
 void Sheet::restructure(Move&& moveCells, const formula::MoveReference& moveReference) {
+    settle();  // what is noted are places
     const formula::ReferenceStyle style = m_style;
-    setReferenceStyle(formula::ReferenceStyle::a1);
+    writeFormulasIn(formula::ReferenceStyle::a1);
     moveCells();
     std::vector<bool> isSeen(m_slots.size(), false);
+    std::vector<bool> isMoved(m_slots.size(), false);
     const Area everything{1, formula::maxRows, 1, formula::maxCols};
     m_cells.each(everything, [&](int row, int col, const Cell& cell) {
         if (!cell.formula) return;
         isSeen[cell.formula] = true;
-        m_slots[cell.formula].row = row;
-        m_slots[cell.formula].col = static_cast<uint16_t>(col);
+        FormulaSlot& slot = m_slots[cell.formula];
+        isMoved[cell.formula] = slot.row != row || slot.col != col;
+        slot.row = row;
+        slot.col = static_cast<uint16_t>(col);
     });
     for (size_t id = 1; id < m_slots.size(); ++id) {
         FormulaSlot& slot = m_slots[id];
@@ -29,26 +48,28 @@ void Sheet::restructure(Move&& moveCells, const formula::MoveReference& moveRefe
             dropSlot(static_cast<uint32_t>(id));
             continue;
         }
-        if (const auto text = formula::rewriteReferences(slot.text->view(), moveReference))
-            replaceText(slot, *text);
+        const auto text = formula::rewriteReferences(slot.text->view(), moveReference);
+        if (isMoved[id] || (text && *text != slot.text->view()) || readsWholeLines(*slot.program))
+            replaceText(slot, text ? *text : std::string(slot.text->view()));
     }
+    countResultText();  // some may be gone
     relinkAll();
-    setReferenceStyle(style);
+    writeFormulasIn(style);
     if (m_automatic) recalculateDirty();
 }
 
 // New text and program for a formula that stays in its slot; it is calculated when next needed.
 void Sheet::replaceText(FormulaSlot& slot, std::string_view text) {
     if (slot.text->view() != text) {
+        TextBlock* const made = TextBlock::make(text);
         TextBlock::release(slot.text);
-        slot.text = TextBlock::make(text);
+        slot.text = made;
     }
     auto settings = parseSettings(slot.col, slot.row);
     settings.arrayFormula = slot.isArray;
     ParseError error;
     formula::ProgramRef program = formula::parse(text, settings, error);
     if (!program) program = formula::parse("#NAME?", settings, error);
-    if (program.get() == slot.program.get()) return;
     slot.program = std::move(program);
     Cell& cell = *m_cells.find(slot.col, slot.row);
     if (cell.dirty) return;
@@ -143,8 +164,9 @@ void Sheet::carryFormula(int col, int row, int cols, int rows) {
 
 void Sheet::swapRows(int first, int other, int count) {
     if (first == other) return;
+    settle();
     const formula::ReferenceStyle style = m_style;
-    setReferenceStyle(formula::ReferenceStyle::a1);
+    writeFormulasIn(formula::ReferenceStyle::a1);
     const int lastCol = m_cells.lastCol();
     for (int col = 1; col <= lastCol; ++col)
         for (int i = 0; i < count; ++i) {
@@ -155,14 +177,15 @@ void Sheet::swapRows(int first, int other, int count) {
             touchedQuietly(col, other + i);
         }
     relinkAll();
-    setReferenceStyle(style);
+    writeFormulasIn(style);
     if (m_automatic) recalculateDirty();
 }
 
 void Sheet::swapCols(int first, int other, int count) {
     if (first == other) return;
+    settle();
     const formula::ReferenceStyle style = m_style;
-    setReferenceStyle(formula::ReferenceStyle::a1);
+    writeFormulasIn(formula::ReferenceStyle::a1);
     const int lastRow = m_cells.lastRow();
     for (int row = 1; row <= lastRow; ++row)
         for (int i = 0; i < count; ++i) {
@@ -173,7 +196,7 @@ void Sheet::swapCols(int first, int other, int count) {
             touchedQuietly(other + i, row);
         }
     relinkAll();
-    setReferenceStyle(style);
+    writeFormulasIn(style);
     if (m_automatic) recalculateDirty();
 }
 
@@ -186,7 +209,7 @@ void Sheet::copyCell(CellAddress from, CellAddress to) {
     const uint16_t look = source->look;
     if (source->formula) {
         const formula::ReferenceStyle style = m_style;
-        setReferenceStyle(formula::ReferenceStyle::a1);
+        writeFormulasIn(formula::ReferenceStyle::a1);
         const FormulaSlot& slot = m_slots[source->formula];
         const bool isArray = slot.isArray;
         const std::string text =
@@ -194,8 +217,8 @@ void Sheet::copyCell(CellAddress from, CellAddress to) {
         ParseError error;
         if (isArray ? !setArrayFormula(to.col, to.row, text, error)
                     : !setFormula(to.col, to.row, text, error))
-            loadFormula(to.col, to.row, text, Value());
-        setReferenceStyle(style);
+            putFormula(to.col, to.row, text, Value(), isArray);
+        writeFormulasIn(style);
     } else {
         setValue(to.col, to.row, source->value());
     }

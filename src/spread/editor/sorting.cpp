@@ -51,6 +51,7 @@ bool goesBefore(const Value& a, const Value& b, bool ascending, bool& areEqual) 
 
 struct MovingRow {
     std::vector<KeptCell> cells;
+    std::vector<Value> keys;  // what the cells show, be it up to date or not
     std::vector<std::string> tags, notes;
     int row = 0;
 };
@@ -80,6 +81,7 @@ bool SheetEditor::sort(const Block& given, const std::vector<SortKey>& keys, boo
     for (int row = block->row1; row <= block->row2; ++row) {
         MovingRow& moving = rows.emplace_back();
         moving.row = row;
+        for (const SortKey& key : keys) moving.keys.push_back(m_grid.sheet().value(key.col, row));
         for (int col = block->col1; col <= block->col2; ++col) {
             moving.cells.push_back(KeptCell::of(m_grid.sheet(), col, row));
             moving.tags.push_back(m_grid.text(col, row, control::Reading::tag));
@@ -87,11 +89,9 @@ bool SheetEditor::sort(const Block& given, const std::vector<SortKey>& keys, boo
         }
     }
     std::stable_sort(rows.begin(), rows.end(), [&](const MovingRow& a, const MovingRow& b) {
-        for (const SortKey& key : keys) {
-            const auto at = static_cast<size_t>(key.col - block->col1);
+        for (size_t i = 0; i < keys.size(); ++i) {
             bool areEqual = false;
-            const bool isBefore =
-                goesBefore(a.cells[at].value(), b.cells[at].value(), key.ascending, areEqual);
+            const bool isBefore = goesBefore(a.keys[i], b.keys[i], keys[i].ascending, areEqual);
             if (!areEqual) return isBefore;
         }
         return false;

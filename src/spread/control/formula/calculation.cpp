@@ -44,7 +44,7 @@ Value Calculation::element(const Value& argument, int row, int col) const {
     if (rowCount == 1) row = 0;
     if (colCount == 1) col = 0;
     if (row >= rowCount || col >= colCount) return ErrorCode::na;
-    if (argument.isArray()) return argument.array().at(row, col);
+    if (argument.isArray()) return argument.array().valueAt(row, col);
     const Area area = argument.area();
     return cell(area.col1 + col, area.row1 + row);
 }
@@ -75,15 +75,21 @@ Value Calculation::text(std::string_view first, std::string_view second) {
     return Value::borrowedText({kept, size});
 }
 
-Array* Calculation::newArray(int rows, int cols) {
+Calculation::Extent Calculation::extent(const Value& argument) const {
+    if (argument.isArray()) return {argument.array().storedRows, argument.array().storedCols};
+    const Value filled = clipped(argument);
+    return {rows(filled), cols(filled)};
+}
+
+Array* Calculation::newArray(int rows, int cols, const Extent& stored) {
     if (rows < 1 || cols < 1 || rows > maxArrayCells / cols) return nullptr;
-    const auto count = static_cast<size_t>(rows) * static_cast<size_t>(cols);
+    const auto count = static_cast<size_t>(stored.rows) * static_cast<size_t>(stored.cols);
     if (!spend(arrayCellWork * static_cast<int64_t>(count))) return nullptr;
     if (!hasRoom(sizeof(Array) + count * sizeof(Value))) return nullptr;
     char* bytes = allocate(sizeof(Array) + count * sizeof(Value));
     auto* cells = reinterpret_cast<Value*>(bytes + sizeof(Array));
     std::uninitialized_value_construct_n(cells, count);
-    return new (bytes) Array{rows, cols, cells};
+    return new (bytes) Array{rows, cols, stored.rows, stored.cols, cells, Value()};
 }
 
 // One formula of a few hundred characters can ask for a chain of arrays of whole columns.
@@ -121,10 +127,12 @@ void Calculation::noteDirty(int col, int row) const {
     m_dirtyAreas.push_back({row, row, static_cast<uint16_t>(col), static_cast<uint16_t>(col)});
 }
 
-void Calculation::noteDirtyIn(const control::CellStore::Run& run) const {
+bool Calculation::noteDirtyIn(const control::CellStore::Run& run) const {
+    const size_t before = m_dirtyAreas.size();
     int row = run.row;
     for (const control::Cell* cell = run.first; cell != run.end; ++cell, ++row)
-        if (cell->formula && (cell->dirty || m_unsettled)) noteDirty(run.col, row);
+        if (mayBeOld(*cell)) noteDirty(run.col, row);
+    return m_dirtyAreas.size() != before;
 }
 
 std::optional<std::string_view> Calculation::formulaText(int col, int row) const {

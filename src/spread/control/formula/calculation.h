@@ -7,6 +7,7 @@
 #include <memory>
 #include <optional>
 #include <string_view>
+#include <type_traits>
 #include <vector>
 
 #include "spread/control/cells.h"
@@ -35,7 +36,8 @@ class Calculation {
     }
 
     /// Calls visit(Value) for every single value of `argument`: of an area the cells that are not
-    /// empty (column by column), of an array every element (row by row), else the value itself.
+    /// empty (column by column), of an array every element, else the value itself. Elements that
+    /// are not stored come as one visit(Value, int64_t times) if `visit` takes that.
     template <class Visit>
     void each(const Value& argument, Visit&& visit) const {
         if (argument.isArea()) {
@@ -48,7 +50,7 @@ class Calculation {
             m_cells->eachRun(area, [&](const control::CellStore::Run& run) {
                 if (!spend(run.end - run.first)) [[unlikely]]
                     return;
-                checkDirty(run);
+                if (checkDirty(run)) return;
                 for (const control::Cell* cell = run.first; cell != run.end; ++cell)
                     if (cell->type == ValueType::number) [[likely]]
                         visit(Value(cell->number));
@@ -57,9 +59,10 @@ class Calculation {
             });
         } else if (argument.isArray()) {
             const Array& a = argument.array();
-            const int count = a.rows * a.cols;
+            const int count = a.stored();
             if (!spend(count)) return;
             for (int i = 0; i < count; ++i) visit(a.cells[i]);
+            if (a.unstored() > 0) visitRest(a, visit);
         } else {
             visit(argument);
         }
@@ -72,7 +75,7 @@ class Calculation {
             m_cells->eachRun(area, [&](const control::CellStore::Run& run) {
                 if (!spend(2 * (run.end - run.first))) [[unlikely]]
                     return;
-                checkDirty(run);
+                if (checkDirty(run)) return;
                 int row = run.row - area.row1;
                 for (const control::Cell* cell = run.first; cell != run.end; ++cell, ++row)
                     if (cell->type != ValueType::empty)
@@ -82,10 +85,21 @@ class Calculation {
             const Array& a = argument.array();
             if (!spend(2LL * a.rows * a.cols)) return;
             for (int r = 0; r < a.rows; ++r)
-                for (int c = 0; c < a.cols; ++c) visit(r, c, a.at(r, c));
+                for (int c = 0; c < a.cols; ++c) visit(r, c, a.valueAt(r, c));
         } else {
             visit(0, 0, argument);
         }
+    }
+
+    /// The rows and columns of an argument beyond which every value is rest(): what is stored.
+    struct Extent {
+        int rows = 0;
+        int cols = 0;
+    };
+    Extent extent(const Value& argument) const;
+    /// Of a single value itself; empty for an area.
+    static Value rest(const Value& argument) {
+        return argument.isArray() ? argument.array().rest : argument.isArea() ? Value() : argument;
     }
 
     /// Shape of an area or array; 1 by 1 for a single value.
@@ -106,13 +120,19 @@ class Calculation {
         return m_workLeft >= 0;
     }
 
+    /// What any formula may take from now on, in the units of spend(): for those who try millions
+    /// of formulas that nobody waits for.
+    static void setMostWork(int64_t work) { mostWork = work; }
+
     /// A text value holding its own copy of `text`; #NUM! when there is no room for a long one.
     Value text(std::string_view text);
     /// Two texts joined.
     Value text(std::string_view first, std::string_view second);
     /// A fresh array of empty values. Null beyond rows * cols of 4,000,000, or when the calculation
     /// holds some 256 MB already.
-    Array* newArray(int rows, int cols);
+    Array* newArray(int rows, int cols) { return newArray(rows, cols, {rows, cols}); }
+    /// One of which only `stored` is there; the rest is empty until it is set.
+    Array* newArray(int rows, int cols, const Extent& stored);
 
     /// The formula text of a cell without "=", nothing when it has none (ISFORMULA, FORMULATEXT).
     std::optional<std::string_view> formulaText(int col, int row) const;
@@ -130,8 +150,11 @@ class Calculation {
     friend class Evaluator;
     friend class control::Sheet;
 
+    /// Of the formula that ran last, as spend() counts; each takes some for its own sake.
+    int64_t workDone() const { return mostWork - m_workLeft + 32; }
+
     // A second or two.
-    static constexpr int64_t mostWork = 1'000'000'000;
+    static inline int64_t mostWork = 1'000'000'000;
 
     const control::CellStore* m_cells;
     const control::Sheet* m_sheet = nullptr;
@@ -147,22 +170,35 @@ class Calculation {
         return cell.type == ValueType::number && !mayBeOld(cell);
     }
     Value valueOf(const control::Cell& cell, int col, int row) const {
-        if (mayBeOld(cell)) [[unlikely]]
+        if (mayBeOld(cell)) [[unlikely]] {
             noteDirty(col, row);
+            return Value();
+        }
         return cell.value();
     }
 
-    // Cells met that are not calculated yet. Their values are old: the running calculation is
-    // given up and started again after them.
+    // Cells met that are not calculated yet: the running calculation is given up and started again
+    // after them. Their old values are not read, so that the way a formula takes until then does
+    // not depend on what was calculated before.
     void noteDirty(int col, int row) const;
-    void checkDirty(const control::CellStore::Run& run) const {
+    bool checkDirty(const control::CellStore::Run& run) const {
         if (m_unsettled || run.block->dirtyCount != 0) [[unlikely]]
-            noteDirtyIn(run);
+            return noteDirtyIn(run);
+        return false;
     }
-    void noteDirtyIn(const control::CellStore::Run& run) const;
+    bool noteDirtyIn(const control::CellStore::Run& run) const;
     mutable std::vector<Area> m_dirtyAreas;
     /// Cells have changed and nobody has followed yet whom that concerns: any formula may be old.
     bool m_unsettled = false;
+
+    template <class Visit>
+    void visitRest(const Array& a, Visit& visit) const {
+        if constexpr (std::is_invocable_v<Visit&, const Value&, int64_t>) {
+            visit(a.rest, int64_t{a.unstored()});
+        } else if (spend(a.unstored())) {
+            for (int i = a.unstored(); i > 0; --i) visit(a.rest);
+        }
+    }
 
     // The arena: chunks are kept from one calculation to the next.
     bool hasRoom(size_t size) const;

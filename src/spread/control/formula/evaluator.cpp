@@ -305,7 +305,7 @@ Value Evaluator::single(const Value& value) {
     if (value.isSingle()) return value;
     if (value.isArray()) {
         const Array& array = value.array();
-        return array.rows * array.cols > 0 ? array.cells[0] : Value(ErrorCode::value);
+        return array.rows * array.cols > 0 ? array.valueAt(0, 0) : Value(ErrorCode::value);
     }
     const Area area = value.area();
     if (area.isOneCell()) return m_calculation.cell(area.col1, area.row1);
@@ -333,34 +333,55 @@ Value Evaluator::binary(const Instruction& i, const Value& a, const Value& b) {
         return applyBinary(m_calculation, i.op, a, b);
     if (!(i.flags & Instruction::inArray))
         return applyBinary(m_calculation, i.op, plainOf(a), plainOf(b));
-    return eachElement(std::max(Calculation::rows(a), Calculation::rows(b)),
-                       std::max(Calculation::cols(a), Calculation::cols(b)), [&](int r, int c) {
-                           return applyBinary(m_calculation, i.op, m_calculation.element(a, r, c),
-                                              m_calculation.element(b, r, c));
-                       });
+    const Value operands[] = {a, b};
+    return eachElement(operands, [&](int r, int c) {
+        return applyBinary(m_calculation, i.op, m_calculation.element(a, r, c),
+                           m_calculation.element(b, r, c));
+    });
 }
 
 Value Evaluator::unary(const Instruction& i, const Value& a) {
     if (a.isSingle()) [[likely]]
         return applyUnary(i.op, a);
     if (!(i.flags & Instruction::inArray)) return applyUnary(i.op, single(a));
-    return eachElement(Calculation::rows(a), Calculation::cols(a), [&](int r, int c) {
-        return applyUnary(i.op, m_calculation.element(a, r, c));
-    });
+    return eachElement(
+        {&a, 1}, [&](int r, int c) { return applyUnary(i.op, m_calculation.element(a, r, c)); });
 }
 
 Value Evaluator::plainOf(const Value& value) {
     return value.isSingle() ? value : single(value);
 }
 
-// An array of what `make` gives for each row and column from 0.
+// An array of what `make` gives for each row and column from 0, as large as the largest of the
+// operands that it is made from. Where they all have come to their rest it is made once.
 template <class Make>
-Value Evaluator::eachElement(int rows, int cols, Make&& make) {
-    Array* result = m_calculation.newArray(rows, cols);
+Value Evaluator::eachElement(Args operands, Make&& make) {
+    int rows = 1, cols = 1;
+    for (const Value& operand : operands) {
+        rows = std::max(rows, Calculation::rows(operand));
+        cols = std::max(cols, Calculation::cols(operand));
+    }
+    const Calculation::Extent stored = storedOf(operands, rows, cols);
+    Array* result = m_calculation.newArray(rows, cols, stored);
     if (!result) return ErrorCode::num;
-    for (int r = 0; r < rows; ++r)
-        for (int c = 0; c < cols; ++c) result->at(r, c) = make(r, c);
+    for (int r = 0; r < stored.rows; ++r)
+        for (int c = 0; c < stored.cols; ++c) result->at(r, c) = make(r, c);
+    if (result->unstored() > 0) result->rest = make(rows - 1, cols - 1);
     return Value::array(result);
+}
+
+// One of another shape is repeated, or is #N/A from somewhere on: then everything is made.
+Calculation::Extent Evaluator::storedOf(Args operands, int rows, int cols) const {
+    Calculation::Extent stored;
+    for (const Value& operand : operands) {
+        const int ownRows = Calculation::rows(operand), ownCols = Calculation::cols(operand);
+        if (ownRows == 1 && ownCols == 1) continue;
+        if (ownRows != rows || ownCols != cols) return {rows, cols};
+        const Calculation::Extent own = m_calculation.extent(operand);
+        stored.rows = std::max(stored.rows, own.rows);
+        stored.cols = std::max(stored.cols, own.cols);
+    }
+    return stored.rows == 0 ? Calculation::Extent{rows, cols} : stored;
 }
 
 inline Value Evaluator::call(const FunctionSpec& function, const Instruction& i, Value* args) {
@@ -372,21 +393,19 @@ inline Value Evaluator::call(const FunctionSpec& function, const Instruction& i,
 // In an array context a function of plain values is called once for each element.
 Value Evaluator::callLifted(const FunctionSpec& function, Args args) {
     const std::string_view params = function.params;
-    int rows = 1, cols = 1;
     bool isLifted = false;
-    const auto takesPlain = [&](size_t n) { return parameterClass(params, n) == 'v'; };
+    m_operands.clear();
     for (size_t n = 0; n < args.size(); ++n) {
-        if (args[n].isSingle() || !takesPlain(n)) continue;
+        if (args[n].isSingle() || parameterClass(params, n) != 'v') continue;
         isLifted = true;
-        rows = std::max(rows, Calculation::rows(args[n]));
-        cols = std::max(cols, Calculation::cols(args[n]));
+        m_operands.push_back(args[n]);
     }
     if (!isLifted) return function.call(m_calculation, args);
     m_lifted.resize(args.size());
-    return eachElement(rows, cols, [&](int r, int c) {
+    return eachElement(m_operands, [&](int r, int c) {
         size_t work = 50;
         for (size_t n = 0; n < args.size(); ++n) {
-            m_lifted[n] = args[n].isSingle() || !takesPlain(n)
+            m_lifted[n] = args[n].isSingle() || parameterClass(params, n) != 'v'
                               ? args[n]
                               : m_calculation.element(args[n], r, c);
             if (m_lifted[n].isText()) work += m_lifted[n].text().size();

@@ -36,7 +36,8 @@ class Evaluator {
     Value spanned(const Value& a, const Value& b);
     Value matrix(const Instruction& i, const Value* values);
     template <class Make>
-    Value eachElement(int rows, int cols, Make&& make);
+    Value eachElement(Args operands, Make&& make);
+    Calculation::Extent storedOf(Args operands, int rows, int cols) const;
     Value call(const FunctionSpec& function, const Instruction& i, Value* args);
     Value callLifted(const FunctionSpec& function, Args args);
     Value callCustom(const CustomFunction& function, std::span<Value> args);
@@ -44,6 +45,7 @@ class Evaluator {
     Calculation& m_calculation;
     std::vector<Value> m_stack;
     std::vector<Value> m_lifted;
+    std::vector<Value> m_operands;  // those of the call that are arrays
 };
 
 }  // namespace formula

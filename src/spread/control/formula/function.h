@@ -18,9 +18,10 @@ inline constexpr int anyCount = 255;
 
 enum FunctionFlags : unsigned {
     plain = 0,
-    isVolatile = 1,  ///< its result may change without its arguments changing (NOW, RAND, OFFSET)
-    givesOne = 2,    ///< one plain value whatever it is given: aggregates and tests
-    isLazy = 4,      ///< the engine jumps over the arguments that are not chosen
+    isVolatile =
+        1,  ///< its result may change without the cells it reads changing (NOW, OFFSET, ISFORMULA)
+    givesOne = 2,  ///< one plain value whatever it is given: aggregates and tests
+    isLazy = 4,    ///< the engine jumps over the arguments that are not chosen
 };
 
 struct FunctionSpec {

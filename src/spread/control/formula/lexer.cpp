@@ -378,6 +378,21 @@ bool Lexer::takeRows(Token& token, Place start) {
 }
 
 bool Lexer::takeR1C1(Token& token, Place start) {
+    if (!takeR1C1Corner(token, start)) return false;
+    ReferenceToken& reference = token.reference;
+    const Place end = start.plus(static_cast<ptrdiff_t>(token.length));
+    if ((!reference.wholeCols && !reference.wholeRows) || end.here() != ':') return true;
+    // "C1:C3" is one reference, as "A:C" is.
+    Token second;
+    if (!takeR1C1Corner(second, end.plus(1)) || second.reference.wholeCols != reference.wholeCols ||
+        second.reference.wholeRows != reference.wholeRows)
+        return true;
+    reference.last = second.reference.first;
+    token.length += 1 + second.length;
+    return true;
+}
+
+bool Lexer::takeR1C1Corner(Token& token, Place start) {
     Corner corner;
     Place end = start;
     const auto take = [&end](char letter, int& value, bool& relative) {

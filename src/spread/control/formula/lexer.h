@@ -111,6 +111,7 @@ class Lexer {
     static bool takeA1(Token& token, Place start);
     static bool takeRows(Token& token, Place start);
     static bool takeR1C1(Token& token, Place start);
+    static bool takeR1C1Corner(Token& token, Place start);
 
     const char* m_start;
     const char* m_end;

@@ -190,6 +190,7 @@ inline bool Parser::range(Want want, Kind& kind) {
         }
         if (kind == Kind::single || right == Kind::single) return fail("':' joins references only");
         m_code.emit(Op::range, -1);
+        m_code.isVolatile = true;  // what lies between its ends is known when it is calculated
         kind = Kind::open;
     }
     return true;

@@ -110,14 +110,23 @@ class Value {
 };
 static_assert(sizeof(Value) == 16);
 
-/// A matrix of single values, row by row. Lives in the calculation that made it.
+/// A matrix of single values. Lives in the calculation that made it. What is made from whole
+/// columns has the same value, `rest`, wherever they are empty: only the upper left part is stored.
 struct Array {
     int rows = 0;
     int cols = 0;
-    Value* cells = nullptr;
+    int storedRows = 0;
+    int storedCols = 0;
+    Value* cells = nullptr;  ///< the stored ones, row by row
+    Value rest;
 
-    Value& at(int row, int col) { return cells[row * cols + col]; }
-    const Value& at(int row, int col) const { return cells[row * cols + col]; }
+    int stored() const { return storedRows * storedCols; }
+    int unstored() const { return rows * cols - stored(); }
+    /// Of a stored one.
+    Value& at(int row, int col) { return cells[row * storedCols + col]; }
+    const Value& valueAt(int row, int col) const {
+        return row < storedRows && col < storedCols ? cells[row * storedCols + col] : rest;
+    }
 };
 
 /// A T, or the error that its making gave.

@@ -70,32 +70,40 @@ enum class NonNumbers {
     counted,  ///< booleans as 1 and 0, texts as 0: the functions whose name ends in A
 };
 
-/// Calls add(double) for every number in `args`. Numbers, booleans and texts written as arguments
+/// Calls add(double) for every number in `args`, or once add(double, int64_t times) for equal ones
+/// that are not stored if `add` takes that. Numbers, booleans and texts written as arguments
 /// themselves count as numbers (a text that reads as none is #VALUE!). The first error met ends it
 /// and is the result.
 template <class Add>
 std::optional<ErrorCode> eachNumber(const Calculation& c, std::span<const Value> args,
                                     NonNumbers nonNumbers, Add&& add) {
     std::optional<ErrorCode> error;
-    const auto visit = [&](const Value& value) {
+    const auto addNumber = [&](double number, int64_t times) {
+        if constexpr (std::is_invocable_v<Add&, double, int64_t>) {
+            add(number, times);
+        } else if (times == 1 || c.spend(times)) {
+            for (; times > 0; --times) add(number);
+        }
+    };
+    const auto visit = [&](const Value& value, int64_t times = 1) {
         if (value.isNumber()) [[likely]] {
-            add(value.number());
+            addNumber(value.number(), times);
         } else if (value.isError()) {
             if (!error) error = value.error();
         } else if (nonNumbers == NonNumbers::counted && !value.isEmpty()) {
-            add(value.isBoolean() && value.truth() ? 1.0 : 0.0);
+            addNumber(value.isBoolean() && value.truth() ? 1.0 : 0.0, times);
         }
     };
     for (const Value& argument : args) {
         if (argument.isNumber()) [[likely]] {
-            add(argument.number());
+            addNumber(argument.number(), 1);
         } else if (isMany(argument)) {
             c.each(argument, visit);
             if (error) return error;
         } else if (!argument.isEmpty()) {
             const Result<double> number = toNumber(argument);
             if (!number) return number.error();
-            add(*number);
+            addNumber(*number, 1);
         }
     }
     return std::nullopt;
@@ -113,7 +121,7 @@ inline std::optional<ErrorCode> collectNumbers(const Calculation& c, std::span<c
 /// The first error in `argument`, if any.
 inline std::optional<ErrorCode> firstError(const Calculation& c, const Value& argument) {
     std::optional<ErrorCode> error;
-    c.each(argument, [&](const Value& value) {
+    c.each(argument, [&](const Value& value, int64_t = 1) {
         if (value.isError() && !error) error = value.error();
     });
     return error;

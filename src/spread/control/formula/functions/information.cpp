@@ -104,7 +104,7 @@ constexpr std::array<FunctionSpec, 16> rows{{
     {"ISERROR", 1, 1, "v", tells<isError>, plain, "value", "TRUE for every error."},
     {"ISEVEN", 1, 1, "v", parity<false>, plain, "number",
      "TRUE when the whole part of the number is even."},
-    {"ISFORMULA", 1, 1, "p", isFormula, plain, "cell", "TRUE when the cell holds a formula."},
+    {"ISFORMULA", 1, 1, "p", isFormula, isVolatile, "cell", "TRUE when the cell holds a formula."},
     {"ISLOGICAL", 1, 1, "v", tells<isLogical>, plain, "value", "TRUE for TRUE and FALSE."},
     {"ISNA", 1, 1, "v", tells<isNotAvailable>, plain, "value", "TRUE for the error #N/A."},
     {"ISNONTEXT", 1, 1, "v", tells<isNoText>, plain, "value",

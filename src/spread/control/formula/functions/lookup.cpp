@@ -15,7 +15,7 @@ constexpr std::array<FunctionSpec, 17> rowsOfTable{{
     {"COLUMN", 0, 1, "p", column, plain, "[reference]",
      "The column number of a reference, or of the formula's own cell."},
     {"COLUMNS", 1, 1, "p", columns, plain, "range", "The number of columns of a range."},
-    {"FORMULATEXT", 1, 1, "p", formulaText, plain, "cell",
+    {"FORMULATEXT", 1, 1, "p", formulaText, isVolatile, "cell",
      "The formula of a cell as text; #N/A when it has none."},
     {"HLOOKUP", 3, 4, "vavv", hlookup, plain, "wanted, table, row, [nearest]",
      "Looks for a value in the first row of a table and gives what stands below it in the row with "

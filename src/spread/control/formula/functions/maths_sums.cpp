@@ -9,13 +9,17 @@ namespace {
 
 Value sum(Calculation& c, std::span<const Value> args) {
     double total = 0;
-    const auto error = eachNumber(c, args, NonNumbers::ignored, [&](double x) { total += x; });
+    const auto error = eachNumber(c, args, NonNumbers::ignored, [&](double x, int64_t times = 1) {
+        total += x * static_cast<double>(times);
+    });
     return error ? Value(*error) : numberOrError(total);
 }
 
 Value sumOfSquares(Calculation& c, std::span<const Value> args) {
     double total = 0;
-    const auto error = eachNumber(c, args, NonNumbers::ignored, [&](double x) { total += x * x; });
+    const auto error = eachNumber(c, args, NonNumbers::ignored, [&](double x, int64_t times = 1) {
+        total += x * x * static_cast<double>(times);
+    });
     return error ? Value(*error) : numberOrError(total);
 }
 

@@ -176,16 +176,41 @@ Value unit(Calculation& c, std::span<const Value> args) {
     return asResult(c, unitMatrix(static_cast<int>(*size)));
 }
 
+double factorOf(const Value& value) {
+    return value.isNumber() ? value.number() : 0;
+}
+
 /// The product of the numbers at one place of all arguments; what is no number counts as 0.
 double productAt(const Calculation& c, std::span<const Value> others, int row, int col,
                  double first) {
     c.spend(5 * static_cast<int64_t>(others.size()));
     double result = first;
-    for (const Value& other : others) {
-        const Value value = c.element(other, row, col);
-        result *= value.isNumber() ? value.number() : 0;
-    }
+    for (const Value& other : others) result *= factorOf(c.element(other, row, col));
     return result;
+}
+
+/// Of an argument that is an array made from whole columns.
+bool hasRest(const Value& argument) {
+    return argument.isArray() && argument.array().unstored() > 0;
+}
+
+/// Beyond what any argument has stored all products are the same.
+double sumWithRests(const Calculation& c, std::span<const Value> args) {
+    Calculation::Extent stored;
+    double total = 0, product = 1;
+    for (const Value& argument : args) {
+        const Calculation::Extent own = c.extent(argument);
+        stored.rows = std::max(stored.rows, own.rows);
+        stored.cols = std::max(stored.cols, own.cols);
+        product *= factorOf(Calculation::rest(argument));
+    }
+    if (!c.spend(10LL * stored.rows * stored.cols)) return 0;
+    for (int row = 0; row < stored.rows; ++row)
+        for (int col = 0; col < stored.cols; ++col)
+            total +=
+                productAt(c, args.subspan(1), row, col, factorOf(c.element(args[0], row, col)));
+    const auto count = static_cast<double>(Calculation::rows(args[0])) * Calculation::cols(args[0]);
+    return total + product * (count - static_cast<double>(stored.rows) * stored.cols);
 }
 
 Value sumOfProducts(Calculation& c, std::span<const Value> args) {
@@ -196,6 +221,10 @@ Value sumOfProducts(Calculation& c, std::span<const Value> args) {
             return ErrorCode::value;
     for (const Value& argument : args.subspan(1))
         if (const auto error = firstError(c, argument)) return *error;
+    if (hasRest(args[0])) {
+        const auto error = firstError(c, args[0]);
+        return error ? Value(*error) : numberOrError(sumWithRests(c, args));
+    }
     std::optional<ErrorCode> error;
     double total = 0;
     c.eachAt(args[0], [&](int row, int col, const Value& value) {

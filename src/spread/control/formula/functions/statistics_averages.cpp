@@ -14,9 +14,9 @@ template <NonNumbers nonNumbers>
 Value average(Calculation& c, std::span<const Value> args) {
     double sum = 0;
     double count = 0;
-    const auto error = eachNumber(c, args, nonNumbers, [&](double x) {
-        sum += x;
-        ++count;
+    const auto error = eachNumber(c, args, nonNumbers, [&](double x, int64_t times = 1) {
+        sum += x * static_cast<double>(times);
+        count += static_cast<double>(times);
     });
     if (error) return *error;
     return count > 0 ? numberOrError(sum / count) : Value(ErrorCode::div0);

@@ -8,7 +8,9 @@ Value count(Calculation& c, std::span<const Value> args) {
     double numbers = 0;
     for (const Value& argument : args) {
         if (isMany(argument))
-            c.each(argument, [&](const Value& value) { numbers += value.isNumber() ? 1 : 0; });
+            c.each(argument, [&](const Value& value, int64_t times = 1) {
+                numbers += value.isNumber() ? static_cast<double>(times) : 0;
+            });
         else if (!argument.isEmpty() && toNumber(argument))
             ++numbers;
     }
@@ -18,7 +20,9 @@ Value count(Calculation& c, std::span<const Value> args) {
 Value countFilled(Calculation& c, std::span<const Value> args) {
     double filled = 0;
     for (const Value& argument : args)
-        c.each(argument, [&](const Value& value) { filled += value.isEmpty() ? 0 : 1; });
+        c.each(argument, [&](const Value& value, int64_t times = 1) {
+            filled += value.isEmpty() ? 0 : static_cast<double>(times);
+        });
     return filled;
 }
 

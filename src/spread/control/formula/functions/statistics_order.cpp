@@ -17,8 +17,8 @@ constexpr double infinity = std::numeric_limits<double>::infinity();
 template <NonNumbers nonNumbers>
 Value least(Calculation& c, std::span<const Value> args) {
     double result = infinity;
-    const auto error =
-        eachNumber(c, args, nonNumbers, [&](double x) { result = std::min(result, x); });
+    const auto error = eachNumber(c, args, nonNumbers,
+                                  [&](double x, int64_t = 1) { result = std::min(result, x); });
     if (error) return *error;
     return result < infinity ? Value(result) : Value(0.0);
 }
@@ -26,8 +26,8 @@ Value least(Calculation& c, std::span<const Value> args) {
 template <NonNumbers nonNumbers>
 Value greatest(Calculation& c, std::span<const Value> args) {
     double result = -infinity;
-    const auto error =
-        eachNumber(c, args, nonNumbers, [&](double x) { result = std::max(result, x); });
+    const auto error = eachNumber(c, args, nonNumbers,
+                                  [&](double x, int64_t = 1) { result = std::max(result, x); });
     if (error) return *error;
     return result > -infinity ? Value(result) : Value(0.0);
 }
