@@ -249,7 +249,7 @@ ErrorStatus TwSSBillOutput::onEndFeed() {
     if (makesPictures()) closeBMPDialog();
     Vor_Spread* spread = getSSPointer();
     if (!spread) return Acad::eInvalidInput;
-    if (m_currentRow < spread->nrRows()) spread->setNrRows(m_currentRow);
+    if (m_currentRow < spread->nrRows()) spread->setMaxRows(m_currentRow);
     finishColumns(*spread);
     setSheetVariables(*spread);
     m_wasSaved = save(*spread);

@@ -9,5 +9,5 @@ struct PictureSize {
     int height = 0;  ///< pixels
 };
 
-/// The size of a bitmap (.bmp) or PNG file by the header in its bytes. Nothing for other files.
+/// The size of a bitmap (.bmp), PNG or JPEG file by the headers in its bytes. Nothing for others.
 std::optional<PictureSize> pictureSizeOf(std::string_view bytes);

@@ -109,8 +109,8 @@ bool saveSheet(Vor_Spread& sheet, const Vor_String& path, HeaderFiles headers, s
         copies.undo();
         return false;
     }
-    sheet.setBool(sheetChanged, false);
     // The saved file keeps the references it had: other copies of the sheet still need them.
     if (settings.headerFile + settings.footerFile != before) settings.writeToSheet(sheet);
+    sheet.setBool(sheetChanged, false);
     return true;
 }

@@ -9,11 +9,11 @@ using control::Colour;
 
 namespace {
 
-bool read(const control::Grid& grid, int col, int row, control::Reading reading, Vor_String& text) {
+bool read(const control::Grid* grid, int col, int row, control::Reading reading, Vor_String& text) {
     text.clear();
-    if (!grid.isAddress(col, row)) return false;
+    if (!grid || !grid->isAddress(col, row)) return false;
     std::string buffer;
-    text.append(grid.text(col, row, reading, buffer));
+    text.append(grid->text(col, row, reading, buffer));
     return true;
 }
 
@@ -34,25 +34,25 @@ bool TSpread::setMaxCols(int count) {
 }
 
 bool TSpread::setData(int col, int row, const Vor_String& text) {
-    return m_grid->setData(col, row, text);
+    return isCreated() && m_grid->setData(col, row, text);
 }
 bool TSpread::setValue(int col, int row, const Vor_String& text) {
-    return m_grid->setValueText(col, row, text);
+    return isCreated() && m_grid->setValueText(col, row, text);
 }
 bool TSpread::getData(int col, int row, Vor_String& text) const {
-    return read(*m_grid, col, row, control::Reading::data, text);
+    return read(handle(), col, row, control::Reading::data, text);
 }
 bool TSpread::getValue(int col, int row, Vor_String& text) const {
-    return read(*m_grid, col, row, control::Reading::value, text);
+    return read(handle(), col, row, control::Reading::value, text);
 }
 bool TSpread::getFormula(int col, int row, Vor_String& text) const {
-    return read(*m_grid, col, row, control::Reading::formula, text);
+    return read(handle(), col, row, control::Reading::formula, text);
 }
 bool TSpread::setCellTag(int col, int row, const Vor_String& text) {
-    return m_grid->setTag(col, row, text);
+    return isCreated() && m_grid->setTag(col, row, text);
 }
 bool TSpread::getCellTag(int col, int row, Vor_String& text) const {
-    return read(*m_grid, col, row, control::Reading::tag, text);
+    return read(handle(), col, row, control::Reading::tag, text);
 }
 
 bool TSpread::setFloat(int col, int row, double number) {
@@ -139,7 +139,8 @@ bool TSpread::tellListener(GridNotice::What what, int col, int row) {
 }
 
 bool TSpread::userEnters(int col, int row, std::string_view text) {
-    return m_grid->enter(col, row, text) && tellListener(GridNotice::What::changed, col, row);
+    return isCreated() && m_grid->enter(col, row, text) &&
+           tellListener(GridNotice::What::changed, col, row);
 }
 
 void TSpread::tellChanged(const std::vector<CellAddress>& cells) {
@@ -153,7 +154,7 @@ void TSpread::tellChanged(const std::vector<CellAddress>& cells) {
 
 bool TSpread::userClears(const Block& given) {
     const std::optional<Block> block = m_grid->resolved(given);
-    if (!block) return false;
+    if (!isCreated() || !block) return false;
     const control::Area area{block->row1, block->row2, static_cast<uint16_t>(block->col1),
                              static_cast<uint16_t>(block->col2)};
     std::vector<CellAddress> filled;
@@ -168,6 +169,7 @@ bool TSpread::userClears(const Block& given) {
 }
 
 bool TSpread::userPastes(int col, int row, std::string_view text) {
+    if (!isCreated()) return false;
     std::vector<CellAddress> taken;
     const bool isWhole = m_grid->pasteText(col, row, text, [&](int toCol, int toRow) {
         taken.push_back({toCol, toRow});
@@ -177,15 +179,17 @@ bool TSpread::userPastes(int col, int row, std::string_view text) {
 }
 
 bool TSpread::userMoves(int col, int row) {
-    return m_grid->setActive(col, row) && tellListener(GridNotice::What::moved, col, row);
+    return isCreated() && m_grid->setActive(col, row) &&
+           tellListener(GridNotice::What::moved, col, row);
 }
 
 bool TSpread::userSelects(const control::Block& block) {
-    return m_grid->select(block) && tellListener(GridNotice::What::moved, block.col1, block.row1);
+    return isCreated() && m_grid->select(block) &&
+           tellListener(GridNotice::What::moved, block.col1, block.row1);
 }
 
 bool TSpread::userClicks(int col, int row) {
-    if (!m_grid->isInside(col, row)) return false;
+    if (!isCreated() || !m_grid->isInside(col, row)) return false;
     const control::Look& look = m_grid->look(col, row);
     if (look.locked) return false;
     if (look.type.kind == control::CellKind::button)
@@ -200,5 +204,6 @@ bool TSpread::userClicks(int col, int row) {
 }
 
 bool TSpread::userDoubleClicks(int col, int row) {
-    return m_grid->isAddress(col, row) && tellListener(GridNotice::What::doubleClicked, col, row);
+    return isCreated() && m_grid->isAddress(col, row) &&
+           tellListener(GridNotice::What::doubleClicked, col, row);
 }

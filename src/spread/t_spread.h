@@ -107,7 +107,8 @@ class VORMANT_API TSpread : public CWnd {
 
   protected:
     // The calls take one kind of handle; those that only read change nothing behind it.
-    SSHandle handle() const { return m_grid.get(); }
+    /// None before the window exists: every call fails then.
+    SSHandle handle() const { return isCreated() ? m_grid.get() : nullptr; }
 
     /// Always true.
     bool tellListener(GridNotice::What what, int col, int row);

@@ -50,12 +50,15 @@ std::string elementKey(std::string_view key, int index) {
     return std::string(key) + std::to_string(index);
 }
 
-/// The field at the start of `text`, which moves behind its separator; nothing without one.
-std::optional<std::string_view> takeField(std::string_view& text) {
-    const size_t end = text.find(TwPropList::separator);
-    if (end == std::string_view::npos) return std::nullopt;
-    const std::string_view field = text.substr(0, end);
-    text.remove_prefix(end + 1);
+/// The next of the fields that separators part; nothing behind the last one.
+std::optional<std::string_view> takeField(std::optional<std::string_view>& text) {
+    if (!text) return std::nullopt;
+    const size_t end = text->find(TwPropList::separator);
+    const std::string_view field = text->substr(0, end);
+    if (end == std::string_view::npos)
+        text.reset();
+    else
+        text->remove_prefix(end + 1);
     return field;
 }
 
@@ -72,6 +75,10 @@ bool TwPropList::set(std::string_view key, Value value) {
     return true;
 }
 
+bool TwPropList::remove(std::string_view key) {
+    return std::erase_if(m_entries, [&](const Entry& e) { return e.key.view() == key; }) > 0;
+}
+
 bool TwPropList::setDouble(std::string_view key, double number) {
     return set(key, number);
 }
@@ -86,10 +93,13 @@ bool TwPropList::setText(std::string_view key, std::string_view text) {
 }
 
 bool TwPropList::setTexts(std::string_view key, const Vor_StringArray& texts) {
+    if (hasSeparator(key)) return false;
     for (const Vor_String& text : texts)
         if (hasSeparator(text)) return false;
-    for (int i = 0; i < texts.length(); ++i)
-        if (!setText(elementKey(key, i), texts[i])) return false;
+    for (int i = 0; i < texts.length(); ++i) setText(elementKey(key, i), texts[i]);
+    // Of a longer list before: reading goes on until a number is missing.
+    for (int i = texts.length(); remove(elementKey(key, i)); ++i) {
+    }
     return true;
 }
 
@@ -141,10 +151,10 @@ Vor_String TwPropList::write() const {
 
 void TwPropList::read(std::string_view text) {
     m_entries.clear();
-    for (;;) {
-        const auto key = takeField(text);
-        const auto type = takeField(text);
-        const auto value = takeField(text);
+    for (std::optional<std::string_view> rest = text;;) {
+        const auto key = takeField(rest);
+        const auto type = takeField(rest);
+        const auto value = takeField(rest);
         if (!key || !type || !value) return;
         set(*key, readValue(textToInt(*type), *value));
     }

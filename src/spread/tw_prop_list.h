@@ -1,5 +1,6 @@
 // A list of typed values by key, as the settings of a sheet travel in a cell's tag. Its text has a
-// group of three fields for each entry: key, type code and value, each closed by the byte 0xA4.
+// group of three fields for each entry: key, type code and value, each closed by the byte 0xA4 (the
+// last one may lack it).
 #pragma once
 
 #include <cstdint>
@@ -35,7 +36,8 @@ class VORMANT_API TwPropList {
     bool setLong(std::string_view key, int64_t number);
     bool setBool(std::string_view key, bool value) { return setInt(key, value ? 1 : 0); }
     bool setText(std::string_view key, std::string_view text);
-    /// One text entry an element, under the key with the index (from 0) behind it.
+    /// One text entry an element, under the key with the index (from 0) behind it; a longer list
+    /// that was there loses its rest.
     bool setTexts(std::string_view key, const Vor_StringArray& texts);
 
     /// Nothing when the key is missing or its value is of another type.
@@ -55,6 +57,7 @@ class VORMANT_API TwPropList {
 
   private:
     bool set(std::string_view key, Value value);
+    bool remove(std::string_view key);
     template <class T>
     std::optional<T> get(std::string_view key) const;
 

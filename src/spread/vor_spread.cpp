@@ -87,12 +87,10 @@ bool Vor_Spread::setStandardLook(int mode) {
 
 void Vor_Spread::setFontName(const Vor_String& name) {
     m_fontName = name;
-    m_hasFonts = false;
 }
 
 void Vor_Spread::setFontHeight(int height) {
     m_fontHeight = height;
-    m_hasFonts = false;
 }
 
 bool Vor_Spread::setFonts() {
@@ -100,7 +98,6 @@ bool Vor_Spread::setFonts() {
     setFont({-1, headerIndex, -1, headerIndex}, m_fontName, m_fontHeight, boldWeight);
     setFont({headerIndex, -1, headerIndex, -1}, m_fontName, m_fontHeight, boldWeight);
     setFont({-1, -1, -1, -1}, m_fontName, m_fontHeight, plainWeight);
-    m_hasFonts = true;
     return true;
 }
 
@@ -115,13 +112,17 @@ int Vor_Spread::nrCols() const {
     return isAttached() ? grid().cols() : 0;
 }
 
-bool Vor_Spread::setNrRows(int count) {
-    if (!isAttached()) return false;
+// New rows look like the last one before them.
+bool Vor_Spread::changeRowCount(int count) {
     const int before = nrRows();
     if (!setMaxRows(count)) return false;
     if (before > 0)
         for (int row = before + 1; row <= count; ++row) grid().copyRowLooks(before, row);
-    return m_hasFonts || setFonts();
+    return true;
+}
+
+bool Vor_Spread::setNrRows(int count) {
+    return isAttached() && changeRowCount(count) && setFonts();
 }
 
 bool Vor_Spread::setNrCols(int count, bool copyFormat) {

@@ -206,6 +206,7 @@ class VORMANT_API Vor_Spread : public TSpread {
     void onDestroy() override;
 
   private:
+    bool changeRowCount(int count);
     int columnsToShare() const;
     template <class Width>
     void shareWidths(int total, int columns, Width&& ownWidth);
@@ -219,7 +220,6 @@ class VORMANT_API Vor_Spread : public TSpread {
 
     Vor_String m_fontName = "Tahoma";
     int m_fontHeight = 15;
-    bool m_hasFonts = false;  // setFonts() was called; rows that grow copy them
     int m_autoSizeMode = 0;
     int m_autoSizeCount = 0;
     int m_autoSizeValue = 0;

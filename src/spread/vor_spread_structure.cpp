@@ -19,9 +19,11 @@ bool Vor_Spread::askName(bool isRow, Vor_String& name) {
     return true;
 }
 
+// What the user formatted stays: only the new row gets the font of the grid.
 bool Vor_Spread::insertRow(int row, bool ask, bool copyFormat) {
-    if (!isAttached() || row < 1 || row > nrRows() + 1 || !setNrRows(nrRows() + 1)) return false;
-    grid().insertRows(row, 1);
+    if (!isAttached() || row < 1 || row > nrRows() + 1 || !changeRowCount(nrRows() + 1))
+        return false;
+    if (row < nrRows()) grid().insertRows(row, 1);
     setFont({1, row, nrCols(), row}, m_fontName, m_fontHeight, 400);
     if (copyFormat) copyRowFormat(row + 1, row);
     Vor_String name;
@@ -30,8 +32,7 @@ bool Vor_Spread::insertRow(int row, bool ask, bool copyFormat) {
 }
 
 bool Vor_Spread::insertCol(int col, bool ask, bool copyFormat) {
-    if (!isAttached() || col < 1 || col > nrCols() + 1 || !setNrCols(nrCols() + 1, false))
-        return false;
+    if (!isAttached() || col < 1 || col > nrCols() + 1 || !setMaxCols(nrCols() + 1)) return false;
     grid().insertCols(col, 1);
     setFont({col, -1, col, -1}, m_fontName, m_fontHeight, 400);
     if (copyFormat) copyColFormat(col + 1, col);
@@ -42,7 +43,7 @@ bool Vor_Spread::insertCol(int col, bool ask, bool copyFormat) {
 
 int Vor_Spread::appendRow(bool copyFormat) {
     const int row = nrRows() + 1;
-    if (!isAttached() || !setNrRows(row)) return 0;
+    if (!isAttached() || !changeRowCount(row)) return 0;
     clearRow(row);
     setFont({1, row, nrCols(), row}, m_fontName, m_fontHeight, 400);
     if (copyFormat) copyRowFormat(row - 1, row);

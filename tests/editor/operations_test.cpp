@@ -228,6 +228,24 @@ TEST(Operations, FormulasAreTypedInTheNotationOfTheSheet) {
     grid.setReferenceStyle(0);
     ASSERT_TRUE(editor.undo() && editor.undo() && editor.redo());
     EXPECT_EQ(shown(grid), "1|=A1*2|/2|=A2*2|");
+    grid.setReferenceStyle(2);
+    grid.setOption(control::Option::changed, false);
+    EXPECT_FALSE(editor.type(1, 1, "=RC["));
+    EXPECT_TRUE(editor.copy({1, 1, 2, 2}));
+    EXPECT_FALSE(grid.option(control::Option::changed)) << "a look at A1 notation changes nothing";
+}
+
+TEST(Operations, RowsAreSortedByWhatTheyShow) {
+    Grid grid;
+    fill(grid, "1|2/3|1");
+    grid.setOption(control::Option::automaticRecalculation, false);
+    grid.setFormula(1, 2, "B1+1");
+    grid.setFormula(2, 2, "B1+2");
+    grid.writeValue(2, 1, 5.0);
+    grid.recalculateCell(2, 2);  // now A2 is known to be old
+    SheetEditor editor(grid);
+    ASSERT_TRUE(editor.sort({1, 1, 2, 2}, {{1, false}}, false));
+    EXPECT_EQ(grid.text(1, 1, Reading::formula), "#REF!+1");
 }
 
 std::string seriesText(std::vector<editor::SeriesValue> known, int from, int to) {

@@ -40,6 +40,17 @@ TEST(PropList, TextHasThreeFieldsAnEntry) {
     EXPECT_EQ(again.getInt("t"), std::nullopt);
 }
 
+TEST(PropList, AShorterListOfTextsTakesThePlaceOfALongerOne) {
+    TwPropList list;
+    EXPECT_TRUE(list.setTexts("v", {"a", "b", "c"}) && list.setInt("z", 1));
+    EXPECT_FALSE(list.setTexts("v", {"d", "\xA4"}) || list.setTexts("\xA4", {"d"}));
+    EXPECT_EQ(list.getTexts("v"), Vor_StringArray({"a", "b", "c"}));
+    EXPECT_TRUE(list.setTexts("v", {"d"}));
+    EXPECT_EQ(list.getTexts("v"), Vor_StringArray({"d"}));
+    EXPECT_TRUE(list.setTexts("v", {}));
+    EXPECT_EQ(list.entries().size(), 1U);
+}
+
 TEST(PropList, ReadsWhatParses) {
     const struct {
         const char* text;
@@ -55,8 +66,13 @@ TEST(PropList, ReadsWhatParses) {
          "a\xA4"
          "4\xA4x\xA4"},
         {"a\xA4"
-         "4\xA4x",
+         "4",
          0, ""},
+        {"a\xA4"
+         "4\xA4x",
+         1,
+         "a\xA4"
+         "4\xA4x\xA4"},
         {"a\xA4"
          "9\xA4x\xA4",
          1,
@@ -240,6 +256,7 @@ TEST_F(SheetSettings, SavingTakesHeadersAndFootersAlong) {
     std::filesystem::create_directories(folder.path() / "bills");
     const std::string path = folder.inside("bills\\a.sss");
     ASSERT_TRUE(saveSheet(sheet, path));
+    EXPECT_FALSE(sheet.getBool(30)) << "though the reference was written into the sheet";
     EXPECT_EQ(folder.read("bills/head.sss"), "header");
     EXPECT_EQ(folder.read("bills/head.bmp"), "picture");
     TwSheetSettings now, saved;

@@ -90,6 +90,12 @@ TEST(VorSpread, DoesNothingBeforeItIsAttached) {
     EXPECT_FALSE(spread.setFormula(1, 1, "1"));
     EXPECT_FALSE(spread.insertRow(1, false, false));
     EXPECT_EQ(spread.appendRow(false), 0);
+    EXPECT_FALSE(spread.setCellTag(0, 0, "tag") || spread.getCellTag(0, 0, text));
+    EXPECT_FALSE(spread.setData(header, header, "corner") || spread.setValue(0, 0, "corner"));
+    EXPECT_FALSE(spread.setBool(30, true) || spread.setRefStyle(2) || spread.setGridType(1));
+    EXPECT_FALSE(spread.setColWidthInPixels(header, 50) || spread.userDoubleClicks(0, 0));
+    EXPECT_EQ(spread.grid().text(0, 0, Reading::data), "");
+    EXPECT_FALSE(spread.grid().option(control::Option::changed));
     int action = 0;
     spread.handleTabKey(Vor_Spread::tabKey, action);
     EXPECT_EQ(action, 1);
@@ -219,6 +225,21 @@ TEST_F(VorSpreadTest, RowsComeAndGo) {
     EXPECT_TRUE(spread.grid().look(1, 6).type.isNumber());
     EXPECT_EQ(spread.grid().look(2, 6).font.weight, 400);
     EXPECT_EQ(spread.grid().look(2, header).font.weight, 700);
+}
+
+TEST_F(VorSpreadTest, NewLinesKeepWhatWasFormattedUntilTheSizeIsSet) {
+    fill({{"1", "a"}, {"2", "b"}});
+    ASSERT_TRUE(spread.setFont({2, 2, 2, 2}, "Arial", 20, 700));
+    ASSERT_TRUE(spread.setMenuCommands({4, 6}));
+    spread.setActiveCell(1, 1);
+    EXPECT_TRUE(spread.runMenuCommand(0));
+    EXPECT_TRUE(spread.insertCol(1, false, true));
+    EXPECT_EQ(spread.appendRow(true), 4);
+    EXPECT_EQ(spread.grid().look(3, 3).font.height, 20) << "moved right and down";
+    EXPECT_EQ(spread.grid().look(3, 4).font.height, 20) << "appended rows look like the last";
+    EXPECT_EQ(spread.grid().look(2, 1).font.height, 15);
+    EXPECT_TRUE(spread.setNrRows(5));
+    for (const int row : {3, 4, 5}) EXPECT_EQ(spread.grid().look(3, row).font.height, 15) << row;
 }
 
 TEST_F(VorSpreadTest, NewRowsAndColumnsMayAskForTheirName) {
@@ -383,6 +404,14 @@ TEST_F(VorSpreadTest, PicturesGiveTheirRowsHeight) {
     EXPECT_NE(spread.grid().look(1, 1).borderSides & control::borderRight, 0);
     EXPECT_EQ(spread.getCellType(2, 1), static_cast<int>(CellKind::picture));
     EXPECT_TRUE(spread.setPictureCell(1, 2, folder.write("text.bmp", "no picture")));
+    // A comment of 3 bytes stands before the frame: 8 bits, 80 lines of 300 pixels.
+    const std::string jpeg("\xFF\xD8\xFF\xFE\0\5abc\xFF\xFF\xC2\0\x0B\x08\0\x50\1\x2C\1\1\x11\0",
+                           24);
+    EXPECT_TRUE(spread.setPictureCell(1, 2, folder.write("photo.jpg", jpeg)));
+    EXPECT_EQ(spread.rowHeightInPixels(2), 80);
+    bitmap.replace(22, 4, std::string("\0\0\0\x80", 4));
+    EXPECT_TRUE(spread.setPictureCell(1, 2, folder.write("endless.bmp", bitmap)));
+    EXPECT_EQ(spread.rowHeightInPixels(2), 80) << "no picture has 2^31 lines";
     EXPECT_TRUE(spread.setIconCell(1, 1, 251, false));
     EXPECT_EQ(spread.grid().look(1, 1).type.picture, 251);
 }

@@ -36,12 +36,12 @@ QString whyClosed(const control::Grid& grid, int col, int row) {
     return isTyped ? QString() : say(isNotTyped);
 }
 
-QString whyRefused(control::Grid& grid, int col, int row, std::string_view typed) {
+QString whyRefused(const control::Grid& grid, int col, int row, std::string_view typed) {
     if (const QString closed = whyClosed(grid, col, row); !closed.isEmpty()) return closed;
-    if (typed.starts_with('=') && grid.option(control::Option::userFormulas)) {
+    if (typed.size() > 1 && typed[0] == '=' && grid.option(control::Option::userFormulas)) {
         formula::ParseError error;
-        grid.setFormula(col, row, typed.substr(1), &error);
-        return say(isNoFormula).arg(toQt(error.message));
+        if (!formula::parse(typed.substr(1), grid.sheet().parseSettings(col, row), error))
+            return say(isNoFormula).arg(toQt(error.message));
     }
     const CellType& type = grid.look(col, row).type;
     switch (type.kind) {

@@ -28,12 +28,8 @@ Block tiled(const Block& target, int cols, int rows) {
 std::optional<Clip> SheetEditor::copy(const Block& given) const {
     const std::optional<Block> block = m_grid.resolved(given);
     if (!block) return std::nullopt;
-    // Formulas travel in A1 notation.
-    const int style = m_grid.referenceStyle();
-    if (style != 0) m_grid.setReferenceStyle(0);
-    Clip clip(m_grid, *block);
-    if (style != 0) m_grid.setReferenceStyle(style);
-    return clip;
+    const InA1 scope(m_grid);
+    return Clip(m_grid, *block);
 }
 
 bool SheetEditor::paste(const Clip& clip, const Block& target, PasteWhat what) {

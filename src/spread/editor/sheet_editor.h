@@ -151,6 +151,7 @@ class VORMANT_API SheetEditor : public CellChangeObserver {
         std::vector<std::unique_ptr<Change>> changes;
     };
     class StepScope;
+    class InA1;
     class Calm;
 
     bool refuse(std::string message);

@@ -5,19 +5,40 @@
 
 namespace editor {
 
-/// While many cells change: no recalculation in between, and formulas in A1 notation, in which they
-/// are kept. Afterwards everything is brought up to date, after structural changes all of it.
+/// Formulas in A1 notation, in which they are kept; the sheet counts as changed no more than
+/// before.
+class SheetEditor::InA1 {
+  public:
+    explicit InA1(control::Grid& grid) : m_grid(grid), m_style(grid.referenceStyle()) { use(0); }
+    ~InA1() { use(m_style); }
+    InA1(const InA1&) = delete;
+    InA1& operator=(const InA1&) = delete;
+
+    /// The notation the user sees (Grid::referenceStyle).
+    int style() const { return m_style; }
+
+  private:
+    void use(int style) {
+        const bool isChanged = m_grid.option(control::Option::changed);
+        m_grid.setReferenceStyle(style);
+        m_grid.setOption(control::Option::changed, isChanged);
+    }
+
+    control::Grid& m_grid;
+    int m_style;
+};
+
+/// While many cells change: no recalculation in between, and formulas in A1 notation. Afterwards
+/// everything is brought up to date, after structural changes all of it.
 class SheetEditor::Calm {
   public:
     explicit Calm(control::Grid& grid)
-        : m_grid(grid),
-          m_isAutomatic(grid.option(control::Option::automaticRecalculation)),
-          m_style(grid.referenceStyle()) {
+        : m_grid(grid), m_isAutomatic(grid.option(control::Option::automaticRecalculation)) {
         grid.setOption(control::Option::automaticRecalculation, false);
-        grid.setReferenceStyle(0);
+        m_inA1.emplace(grid);
     }
     ~Calm() {
-        m_grid.setReferenceStyle(m_style);
+        m_inA1.reset();
         if (m_isAutomatic && m_isStructural) m_grid.recalculate();
         m_grid.setOption(control::Option::automaticRecalculation, m_isAutomatic);
     }
@@ -25,13 +46,12 @@ class SheetEditor::Calm {
     Calm& operator=(const Calm&) = delete;
 
     void noteStructural() { m_isStructural = true; }
-    /// The notation the user sees (Grid::referenceStyle).
-    int style() const { return m_style; }
+    int style() const { return m_inA1->style(); }
 
   private:
     control::Grid& m_grid;
     bool m_isAutomatic;
-    int m_style;
+    std::optional<InA1> m_inA1;
     bool m_isStructural = false;
 };
 
@@ -39,7 +59,9 @@ class SheetEditor::Calm {
 class SheetEditor::StepScope {
   public:
     StepScope(SheetEditor& editor, int title, const control::Block& place)
-        : m_editor(editor), m_calm(editor.m_grid) {
+        : m_editor(editor),
+          m_wasChanged(editor.m_grid.option(control::Option::changed)),
+          m_calm(editor.m_grid) {
         editor.m_error.clear();
         editor.m_userStyle = m_calm.style();
         editor.m_step.emplace(Step{title, place, {}});
@@ -49,6 +71,7 @@ class SheetEditor::StepScope {
         for (const auto& change : m_editor.m_step->changes)
             if (change->isStructural()) m_calm.noteStructural();
         m_editor.rollBack();
+        m_editor.m_grid.setOption(control::Option::changed, m_wasChanged);
     }
     StepScope(const StepScope&) = delete;
     StepScope& operator=(const StepScope&) = delete;
@@ -62,6 +85,7 @@ class SheetEditor::StepScope {
 
   private:
     SheetEditor& m_editor;
+    bool m_wasChanged;
     Calm m_calm;
 };
 
