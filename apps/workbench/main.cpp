@@ -12,6 +12,7 @@
 
 #include "core_api/program_data.h"
 #include "core_api/texts/language_codes.h"
+#include "grid/calculation_stop.h"
 #include "platform/paths.h"
 #include "platform/terminal_text.h"
 #include "sheet/sheet_file.h"
@@ -130,6 +131,7 @@ int main(int argc, char** argv) {
         }
     }
     useProgramData();
+    offerToStopCalculations();
     MainWindow window(settings);
     window.show();
     QStringList files = parser.positionalArguments();

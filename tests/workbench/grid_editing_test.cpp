@@ -1,7 +1,11 @@
 // Typing into the cells of a grid.
 #include <QPlainTextEdit>
+#include <QProgressDialog>
 
+#include "grid/calculation_stop.h"
+#include "grid/refusal.h"
 #include "grid_window.h"
+#include "spread/control/stop_calculation.h"
 
 namespace {
 
@@ -123,6 +127,51 @@ TEST_F(GridEditing, ARefusedTextStaysOpenAndSaysWhy) {
     EXPECT_EQ(view->refusal(), "At most 3 characters fit here.");
     key(Qt::Key_Return);
     EXPECT_EQ(text(3, 1), "abc");
+}
+
+TEST_F(GridEditing, AskingWhyACellRefusesChangesNothing) {
+    open();
+    control::CellType box;
+    box.kind = control::CellKind::checkBox;
+    grid().setType(1, 1, box);
+    grid().setOption(control::Option::userFormulas, true);
+    grid().setOption(control::Option::changed, false);
+    EXPECT_EQ(whyRefused(grid(), 1, 1, "=1+1"), "A check box takes 1 or 0.");
+    EXPECT_THAT(whyRefused(grid(), 2, 1, "=1+").toStdString(),
+                testing::MatchesRegex("The formula cannot be read: ..+"));
+    EXPECT_EQ(grid().sheet().formulaCount(), 0);
+    EXPECT_FALSE(grid().option(control::Option::changed));
+}
+
+// Stands for a user who presses the button as soon as the window shows.
+class PressesStop : public QObject {
+  public:
+    PressesStop() { qApp->installEventFilter(this); }
+    bool eventFilter(QObject* object, QEvent* event) override {
+        auto* window = qobject_cast<QProgressDialog*>(object);
+        if (!window || event->type() != QEvent::Show) return false;
+        ++shown;
+        QMetaObject::invokeMethod(window, &QProgressDialog::cancel, Qt::QueuedConnection);
+        return false;
+    }
+    int shown = 0;
+};
+
+TEST_F(GridEditing, ALongCalculationCanBeStopped) {
+    open();
+    grid().setCols(4);
+    grid().setRows(20000);
+    control::TextBlock* const formula = control::TextBlock::make("SUM(ROW($1:$20000)*1)");
+    for (int row = 1; row <= 20000; ++row) grid().putCell(1, row, {}, formula, false);
+    control::TextBlock::release(formula);
+    const PressesStop user;
+    offerToStopCalculations();
+    grid().recalculate();
+    EXPECT_EQ(user.shown, 1);
+    EXPECT_TRUE(grid().sheet().isStopped());
+    EXPECT_EQ(text(1, 1), "200010000");
+    EXPECT_EQ(text(1, 20000), "");
+    control::setStopCalculation(nullptr);
 }
 
 TEST_F(GridEditing, CharactersThatTheModuleCannotKeepAreRefusedAtOnce) {

@@ -11,12 +11,7 @@ namespace {
 constexpr size_t mostKept = 500;  // decoded at a time; a long bill has thousands
 
 QPixmap decoded(const std::string& bytes) {
-    std::string error;
-    if (const std::optional<CBitmap> bitmap = decodeBitmap(bytes, error)) return pixmapOf(*bitmap);
-    QPixmap picture;
-    picture.loadFromData(reinterpret_cast<const uchar*>(bytes.data()),
-                         static_cast<uint>(bytes.size()));
-    return picture;
+    return QPixmap::fromImage(imageOfFile(bytes));
 }
 
 QPixmap readPicture(const std::string& path) {

@@ -8,8 +8,9 @@
 #include "grid/cell_font.h"
 #include "grid/cell_painter.h"
 #include "grid/cell_pictures.h"
+#include "platform/files.h"
 #include "window/dialog_font.h"
-#include "window/machine_path.h"
+#include "window/pictures.h"
 
 using printing::PrintedCell;
 
@@ -136,9 +137,10 @@ class PagePainter {
         m_painter.restore();
     }
     void drawPicture(const PrintedCell& cell, const QRectF& place) {
-        const QImage image = cell.keptPicture
-                                 ? QImage::fromData(QByteArray::fromStdString(*cell.keptPicture))
-                                 : QImage(machinePath(cell.picture));
+        std::string error;
+        const auto bytes = cell.keptPicture ? std::optional(*cell.keptPicture)
+                                            : files::readWhole(cell.picture, error);
+        const QImage image = bytes ? imageOfFile(*bytes) : QImage();
         if (image.isNull()) return;
         // As large as on the screen, unless its cell has less room.
         QSizeF size = QSizeF(image.size()) * cell.pixel * m_dots;

@@ -2,6 +2,8 @@
 
 #include <QFile>
 
+#include "spread/picture_size.h"
+
 QImage imageOf(const CBitmap& picture, int64_t without) {
     if (picture.isEmpty()) return {};
     QImage image(picture.width(), picture.height(), QImage::Format_ARGB32);
@@ -16,6 +18,15 @@ QImage imageOf(const CBitmap& picture, int64_t without) {
 
 QPixmap pixmapOf(const CBitmap& picture) {
     return QPixmap::fromImage(imageOf(picture));
+}
+
+QImage imageOfFile(const std::string& bytes) {
+    std::string error;
+    if (const std::optional<CBitmap> bitmap = decodeBitmap(bytes, error)) return imageOf(*bitmap);
+    // Other readers go through whatever number of lines a bitmap's header claims.
+    if (bytes.starts_with("BM") && !pictureSizeOf(bytes)) return {};
+    return QImage::fromData(reinterpret_cast<const uchar*>(bytes.data()),
+                            static_cast<int>(bytes.size()));
 }
 
 QIcon iconOf(int number) {
