@@ -112,7 +112,10 @@ void addStandardsRunners(CLI::App& standards, Calls& calls) {
                                "The line of the mapping file, or Module.GROUP")
                     ->type_name("KEY");
     auto* write =
-        run.add_flag("--write", calls.run.write, "Write the outputs back into the macro file");
+        run.add_flag("--write{yes}", calls.run.write,
+                     "Write the outputs back into the macro file; =always also when inputs could "
+                     "not be read")
+            ->check(CLI::IsMember({"yes", "always"}));
     addAssignments(run, "--gen", calls.run.genValues, "Replace a gen_ name by a value");
     run.add_flag("--trace", calls.run.trace, "Print every equation with its formula and value");
     run.add_flag("--json", calls.run.json, "Print one JSON object");

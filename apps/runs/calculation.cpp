@@ -16,13 +16,20 @@ namespace {
 /// The values of a standard's variables while its equations are gone through again.
 class Values {
   public:
-    explicit Values(const RunReport& report) {
+    Values(const RunReport& report, const DeclaredStandard& standard) : m_standard(standard) {
         for (const auto& input : report.inputs) set(input.name, input.value);
         for (const auto& output : report.outputs) set(output.name, "");
         for (const auto& local : report.locals) set(local.name, "");
     }
     void set(std::string_view name, std::string_view value) {
-        m_values[encodings::lowered(name)] = value;
+        m_values[encodings::lowered(name)] = isInt(name) && isNumber(value)
+                                                 ? Vor_String(textToDouble(value), 0).str()
+                                                 : std::string(value);
+    }
+    /// What a call gives back for a variable: only outputs of the caller take it.
+    void give(std::string_view name, std::string_view value) {
+        const DeclaredVariable* variable = m_standard.find(name);
+        if (!variable || variable->kind == TwCellType::output) set(name, value);
     }
     const std::string* find(std::string_view name) const {
         const auto found = m_values.find(encodings::lowered(name));
@@ -30,6 +37,13 @@ class Values {
     }
 
   private:
+    /// The cell of an Int, which equations read, holds a whole number.
+    bool isInt(std::string_view name) const {
+        const DeclaredVariable* variable = m_standard.find(name);
+        return variable && variable->type == TwValueType::Int;
+    }
+
+    const DeclaredStandard& m_standard;
     std::map<std::string, std::string> m_values;
 };
 
@@ -78,7 +92,7 @@ void takeResults(const ReportedEquation& call, Values& values) {
         return;
     for (const auto& output : call.child->outputs)
         if (output.position >= 0 && output.position < parsed.variables.length())
-            values.set(parsed.variables[output.position], output.value);
+            values.give(parsed.variables[output.position], output.value);
 }
 
 CalculationLine lineOf(const ReportedEquation& equation, const DeclaredStandard& standard,
@@ -105,7 +119,7 @@ CalculationLine lineOf(const ReportedEquation& equation, const DeclaredStandard&
         line.unit = target->unit;
         line.rule = target->rule;
     }
-    values.set(equation.name, equation.value);
+    if (equation.ok) values.set(equation.name, equation.value);
     return line;
 }
 
@@ -129,7 +143,7 @@ Calculation makeCalculation(const RunReport& report, const DeclaredStandard* kno
     calculation.ok = report.ok;
     calculation.failure = report.failure.str();
     calculation.messages = report.messages;
-    Values values(report);
+    Values values(report, calculation.standard);
     for (const ReportedEquation& equation : report.equations)
         calculation.lines.push_back(lineOf(equation, calculation.standard, values));
     return calculation;

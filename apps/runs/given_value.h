@@ -14,4 +14,8 @@ const char* typeName(TwValueType type);
 /// empty when it can. No value at all is one for every variable.
 Vor_String refusal(const TwVarCell& variable, std::string_view value);
 
+/// The value of an output as its user gets it: that of an Int is the whole number that its cell
+/// shows and a macro would get.
+VarValue handedOver(const TwVarCell& output);
+
 }  // namespace runs

@@ -71,8 +71,10 @@ bool MacroRun::run(const Vor_String& standard, const Vor_String& key,
     return true;
 }
 
-OpenFile::Saved MacroRun::save(const RunReport& report, Vor_String& failure) {
-    if (!report.allWell())
+OpenFile::Saved MacroRun::save(const RunReport& report, Unread unread, Vor_String& failure) {
+    if (report.outputsDone() && !report.allWell() && unread == Unread::refused)
+        failure = m_path + ": left as it was, since inputs could not be read";
+    else if (!report.outputsDone())
         failure = m_path + ": left as it was, since the run did not go well";
     else if (m_macroData.setAllToMacro(&m_macro) != Acad::eOk)
         failure = m_path + ": left as it was, since the macro refuses a value";

@@ -33,9 +33,11 @@ class MacroRun {
     bool run(const Vor_String& standard, const Vor_String& key, const Vor_StringArray& genNames,
              const Vor_StringArray& genValues, RunReport& report);
 
+    /// What becomes of results that were made from inputs without a value.
+    enum class Unread { refused, written };
     /// Writes the macro, with what the last run put into it; the file is as it was when that fails.
     /// Asks before it replaces what another program wrote since the macro was opened.
-    OpenFile::Saved save(const RunReport& report, Vor_String& failure);
+    OpenFile::Saved save(const RunReport& report, Unread unread, Vor_String& failure);
     /// Without a run: the macro as it is now, with the standards attached to it, say.
     OpenFile::Saved saveAsIs(Vor_String& failure);
 

@@ -2,6 +2,8 @@
 
 #include "core_api/text/text_index.h"
 #include "mapping/start_dlg_standards_ss.h"
+#include "runs/given_value.h"
+#include "standards/expected_variables.h"
 #include "standards/run_observer.h"
 #include "standards/tw_standards_ss.h"
 
@@ -40,7 +42,12 @@ void NamedRequest::append(const TwVarCell& declared, bool isNew) {
 }
 
 bool NamedRequest::start() {
-    if (m_isPlain) return StartDlgStandardsSS(m_data);
+    const ExpectedVariables expected(m_data.varCells);
+    if (m_isPlain) {
+        if (!StartDlgStandardsSS(m_data)) return false;
+        roundInts();
+        return true;
+    }
     for (int i = 0; i < m_data.varCells.length(); ++i) {
         const int source = m_sources[static_cast<size_t>(i)];
         m_data.varCells[i].typedValue() = source < 0 ? VarValue() : m_cells[source].typedValue();
@@ -48,7 +55,14 @@ bool NamedRequest::start() {
     if (!StartDlgStandardsSS(m_data)) return false;
     for (int i = 0; i < m_cells.length(); ++i)
         if (m_cells[i].isOutput()) m_cells[i].typedValue() = m_data.varCells[i].typedValue();
+    roundInts();
     return true;
+}
+
+void NamedRequest::roundInts() {
+    for (TwVarCell& cell : cells())
+        if (cell.isOutput() && cell.valueType() == TwValueType::Int)
+            cell.typedValue() = handedOver(cell);
 }
 
 }  // namespace runs

@@ -18,10 +18,12 @@ class NamedRequest {
     TwVarCells& cells() { return m_isPlain ? m_data.varCells : m_cells; }
     TwDlgStandardsData& data() { return m_data; }
 
-    /// Runs the standard; see StartDlgStandardsSS.
+    /// Runs the standard; see StartDlgStandardsSS. Fails when its file declares other inputs and
+    /// outputs by now.
     bool start();
 
   private:
+    void roundInts();
     void append(const TwVarCell& declared, bool isNew);
 
     TwDlgStandardsData m_data;

@@ -1,3 +1,4 @@
+#include "runs/given_value.h"
 #include "runs/run_report.h"
 
 namespace runs {
@@ -48,15 +49,39 @@ void RunRecorder::warning(std::string_view text) {
     addMessage({std::string(text)});
 }
 
+void RunRecorder::valuesGiven(const TwVarCells& variables) {
+    RunReport& report = current();
+    report.inputs.clear();
+    for (const auto& variable : variables)
+        if (variable.isInput())
+            report.inputs.push_back({variable.name().str(), variable.value().str()});
+}
+
+void RunRecorder::inputUnread(std::string_view name) {
+    m_report.unreadInputs.emplace_back(name);
+}
+
+/// Equations may have given inputs other values since; what was given stays in the report.
 void RunRecorder::variablesKnown(const TwVarCells& variables) {
     RunReport& report = current();
+    std::vector<RunReport::Variable> given = std::move(report.inputs);
+    report.inputs.clear();
+    const auto givenValue = [&](const TwVarCell& input) {
+        for (const auto& known : given)
+            if (input.name().equal(known.name)) return known.value;
+        return input.value().str();
+    };
     int position = 0;
     for (const auto& variable : variables) {
         auto& list = variable.isInput()    ? report.inputs
                      : variable.isOutput() ? report.outputs
                                            : report.locals;
-        list.push_back(
-            {variable.name().str(), variable.value().str(), variable.isLocal() ? -1 : position++});
+        const bool isResult = variable.isOutput() && m_children.empty();
+        list.push_back({variable.name().str(),
+                        variable.isInput() ? givenValue(variable)
+                        : isResult         ? handedOver(variable).text().str()
+                                           : variable.value().str(),
+                        variable.isLocal() ? -1 : position++});
     }
 }
 

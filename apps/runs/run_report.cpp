@@ -16,7 +16,7 @@ bool RunReport::equationsDone() const {
            });
 }
 
-bool RunReport::allWell() const {
+bool RunReport::outputsDone() const {
     return equationsDone() && std::none_of(outputs.begin(), outputs.end(), [](const auto& output) {
                return isErrorText(output.value);
            });

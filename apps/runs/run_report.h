@@ -41,18 +41,22 @@ struct RunReport {
     };
     std::string path;
     bool ok = false;
-    Vor_String failure;  ///< why the run, or what belongs to it, failed
-    std::vector<Variable> inputs;
-    std::vector<Variable> outputs;
+    Vor_String failure;             ///< why the run, or what belongs to it, failed
+    std::vector<Variable> inputs;   ///< with the values that were given
+    std::vector<Variable> outputs;  ///< an Int's is whole, but for a child's, which hands on more
     std::vector<Variable> locals;
     std::vector<ReportedEquation> equations;
     /// Each a list of lines; a parent's hold those of its children too.
     std::vector<std::vector<std::string>> messages;
+    /// Inputs that came without a value from the macro.
+    std::vector<std::string> unreadInputs;
 
     /// The run and every equation in it succeeded, children too.
     bool equationsDone() const;
     /// And no output is an error. (A child's may be: its parent can make something of it.)
-    bool allWell() const;
+    bool outputsDone() const;
+    /// And every input had a value.
+    bool allWell() const { return outputsDone() && unreadInputs.empty(); }
 };
 
 /// Fills in a report while it exists; message boxes and printed lines go nowhere else.
@@ -67,6 +71,8 @@ class RunRecorder : private RunObserver, private Host {
     void childStarted(std::string_view path, int row, int column) override;
     void childEnded(bool ok) override;
     void warning(std::string_view text) override;
+    void valuesGiven(const TwVarCells& variables) override;
+    void inputUnread(std::string_view name) override;
     void variablesKnown(const TwVarCells& variables) override;
     void runEnded(bool ok) override;
     void print(std::string_view text) override;

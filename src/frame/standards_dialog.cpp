@@ -1,9 +1,11 @@
 #include "frame/standards_dialog.h"
 
+#include "core_api/text/text_helpers.h"
 #include "mapping/run_timers.h"
 #include "platform/window/host_window.h"
 #include "platform/window/message_scope.h"
-#include "standards/prepared_equation.h"
+#include "standards/expected_variables.h"
+#include "standards/prepared_standard.h"
 #include "standards/run_chain.h"
 #include "standards/run_failure.h"
 #include "standards/run_observer.h"
@@ -52,7 +54,7 @@ ErrorStatus StandardsDialog::run(RunningStandard& running) {
         if (status == Acad::eOk) status = calcMain();
     } else {
         status = getFromVars();
-        if (status == Acad::eOk) status = calcChild();
+        if (status == Acad::eOk) status = calcChild(running);
     }
     if (observer) observer->variablesKnown(m_spread.varCells());
     return status;
@@ -69,8 +71,11 @@ ErrorStatus StandardsDialog::initSSForInput() {
     }
     {
         const Vor_FunctionTimer timer(gSSSGetFromMacro);
-        if (variables.getFromMacro(m_data) != Acad::eOk)
+        Vor_StringArray unread;
+        if (variables.getFromMacro(m_data, &unread) != Acad::eOk)
             return fail(m_spread, "the macro's values cannot be read");
+        if (RunObserver* observer = runObserver())
+            for (const Vor_String& name : unread) observer->inputUnread(name);
     }
     {
         const Vor_FunctionTimer timer(gSetMacroValuelsToSS);
@@ -80,6 +85,7 @@ ErrorStatus StandardsDialog::initSSForInput() {
                     return fail(m_spread, refusalOf(variable));
         }
     }
+    if (RunObserver* observer = runObserver()) observer->valuesGiven(variables);
     const Vor_FunctionTimer timer(gSSSreplaceGenVars);
     m_spread.replaceGenVars();
     return Acad::eOk;
@@ -107,6 +113,9 @@ ErrorStatus StandardsDialog::getFromVars() {
         // The run goes on without variables.
         if (RunObserver* observer = runObserver()) observer->warning(lastRunFailure());
     }
+    if (RunningStandard::depth() == 1 && !ExpectedVariables::areThose(m_spread.varCells()))
+        return fail(m_spread,
+                    "its inputs and outputs were changed since they were read: start again");
     int position = 0;
     for (TwVarCell& variable : m_spread.varCells()) {
         // A variable that was only declared has no value yet.
@@ -114,6 +123,7 @@ ErrorStatus StandardsDialog::getFromVars() {
             variable.isLocal() ? variable.setValueToSS(m_spread) : bind(variable, position++);
         if (status != Acad::eOk) return status;
     }
+    if (RunObserver* observer = runObserver()) observer->valuesGiven(m_spread.varCells());
     m_spread.replaceGenVars();
     return Acad::eOk;
 }
@@ -137,16 +147,17 @@ ErrorStatus StandardsDialog::bind(TwVarCell& variable, int position) {
     return Acad::eOk;
 }
 
-ErrorStatus StandardsDialog::calcChild() {
+ErrorStatus StandardsDialog::calcChild(RunningStandard& running) {
     {
         const Vor_FunctionTimer timer(gCalcChild);
         if (m_spread.calcCells() != Acad::eOk) return Acad::eInvalidInput;
     }
     warnOfErrors();
-    return setToVars();
+    warnOfShift();
+    return setToVars(running);
 }
 
-ErrorStatus StandardsDialog::setToVars() {
+ErrorStatus StandardsDialog::setToVars(RunningStandard& running) {
     const Vor_FunctionTimer timer(gSetToVars);
     int position = 0;
     for (const TwVarCell& variable : m_spread.varCells()) {
@@ -156,8 +167,24 @@ ErrorStatus StandardsDialog::setToVars() {
         if (at >= m_data.varCells.length())
             return fail(m_spread, "no place is given for the output \"" + variable.name() + "\"");
         m_data.varCells[at].typedValue() = variable.typedValue();
+        if (RunningStandard::depth() > 1) running.giveBack(at);
     }
     return Acad::eOk;
+}
+
+/// Inputs and outputs that are declared again take values from a caller, but were dropped when the
+/// results go back. Who runs a standard by names knows (apps/runs); a call does not.
+void StandardsDialog::warnOfShift() {
+    RunObserver* observer = runObserver();
+    if (RunningStandard::depth() < 2 || !m_spread.prepared()) return;
+    const Vor_String names = arrToStr(m_spread.prepared()->shiftingNames(), ", ");
+    if (names.isEmpty()) return;
+    const Vor_String text = m_spread.filePath() + ": declared more than once: " + names +
+                            ": the results of the call come back in wrong places: rename them";
+    if (observer)
+        observer->resultsShifted(text);
+    else
+        acutPrint(text + "\n");
 }
 
 /// An error in an output reaches no macro; somebody should know.

@@ -31,11 +31,12 @@ class StandardsDialog : public CDialog {
     ErrorStatus calcMain();
     // Values from and to the data's variable cells, bound by position.
     ErrorStatus getFromVars();
-    ErrorStatus calcChild();
-    ErrorStatus setToVars();
+    ErrorStatus calcChild(RunningStandard& running);
+    ErrorStatus setToVars(RunningStandard& running);
 
     ErrorStatus bind(TwVarCell& variable, int position);
     void warnOfErrors();
+    void warnOfShift();
 
     TwStandardsSS m_spread;
     TwDlgStandardsData m_data;

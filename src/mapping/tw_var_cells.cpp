@@ -26,14 +26,21 @@ ErrorStatus TwVarCells::findVarCell(const Vor_String& name, int& index) const {
     return Acad::eInvalidInput;
 }
 
-ErrorStatus TwVarCells::getFromMacro(TwDlgStandardsData& data) {
+ErrorStatus TwVarCells::getFromMacro(TwDlgStandardsData& data, Vor_StringArray* unread) {
+    const auto noteUnread = [unread](const TwVarCell& cell) {
+        if (unread && cell.isInput()) unread->append(cell.name());
+    };
+
     {
         const Vor_FunctionTimer timer(gInitMapping);
         if (data.moduleName.isEmpty() && !data.macro) return Acad::eInvalidInput;
         const ErrorStatus status = data.moduleName.isEmpty()
                                        ? m_mapping.initFromMacro(data)
                                        : m_mapping.initFromModuleGroup(data.moduleName);
-        if (status != Acad::eOk) return Acad::eOk;
+        if (status != Acad::eOk) {
+            for (const TwVarCell& cell : m_cells) noteUnread(cell);
+            return Acad::eOk;
+        }
     }
     const Vor_FunctionTimer timer(gInitFromMacro);
     for (TwVarCell& cell : m_cells) {
@@ -41,6 +48,7 @@ ErrorStatus TwVarCells::getFromMacro(TwDlgStandardsData& data) {
             if (cell.setNewValue({}) != Acad::eOk) return Acad::eInvalidInput;
         } else if (cell.setValueFromMacro(m_mapping, data) != Acad::eOk) {
             reportVariableFailure(data.standardsName, cell.isInput(), cell.name());
+            noteUnread(cell);
         }
     }
     return Acad::eOk;

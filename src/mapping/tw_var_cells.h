@@ -39,8 +39,9 @@ class VORMANT_API TwVarCells {
     ErrorStatus findVarCell(const Vor_String& name, int& index) const;
 
     /// Inputs and outputs from the macro, locals empty. A mapping that cannot be had leaves the
-    /// values as they are; fails only without a macro to ask.
-    ErrorStatus getFromMacro(TwDlgStandardsData& data);
+    /// values as they are; fails only without a macro to ask. `unread`, when asked for, gets the
+    /// names of the inputs that came without a value.
+    ErrorStatus getFromMacro(TwDlgStandardsData& data, Vor_StringArray* unread = nullptr);
     /// Every output into the macro; one that fails is passed over.
     ErrorStatus setToMacro(TwDlgStandardsData& data);
 

@@ -110,7 +110,9 @@ ErrorStatus TwStandardsSS::runChild(const Vor_String& text, const Vor_String& fu
 /// What the parent declares as output takes the child's result.
 ErrorStatus TwStandardsSS::takeResults(const TwVarCells& results, control::CellAddress caller,
                                        Vor_String& reason) {
+    int position = -1;
     for (const TwVarCell& result : results) {
+        ++position;
         int index = 0;
         if (!result.isOutput() || m_varCells.findVarCell(result.name(), index) != Acad::eOk)
             continue;
@@ -118,7 +120,8 @@ ErrorStatus TwStandardsSS::takeResults(const TwVarCells& results, control::CellA
         if (variable.isInput())
             return fail(reason, "the child gives a value for \"" + variable.name() +
                                     "\", which is an input: declare it as an output");
-        if (static_cast<size_t>(index) < m_assignedIn.size())
+        // What was only passed on to the child still comes from where it came from.
+        if (RunningStandard::gaveBack(position) && static_cast<size_t>(index) < m_assignedIn.size())
             m_assignedIn[static_cast<size_t>(index)] = caller;
         if (variable.setValueFromOther(*this, result) != Acad::eOk)
             return fail(reason, "\"" + variable.name() + "\" takes no value \"" + result.value() +

@@ -110,6 +110,11 @@ std::optional<LookupTable> parseLookupTable(std::string_view path) {
     Vor_StringArray kept;
     for (const Vor_String& line : *lines) {
         Vor_String text = removeLineComment(line, "//");
+        // The tab before a comment makes an empty value.
+        const bool hadTab =
+            line.view().substr(0, line.view().find("//")).find('\t') != std::string_view::npos;
+        if (hadTab && !text.isEmpty() && text.view().find('\t') == std::string_view::npos)
+            text += "\t";
         if (!text.isEmpty()) kept.append(std::move(text));
     }
     auto rows = arrToArrArr(kept, '\t');

@@ -108,6 +108,13 @@ void PreparedStandard::expectTexts(const TwVarCells& variables) {
     }
 }
 
+Vor_StringArray PreparedStandard::shiftingNames() const {
+    Vor_StringArray names;
+    for (const int index : m_duplicates)
+        if (!m_declarations[index].isLocal()) names.append(m_declarations[index].name());
+    return names;
+}
+
 TwVarCells PreparedStandard::variables() const {
     TwVarCells variables = m_declarations;
     variables.removeAll(m_duplicates);

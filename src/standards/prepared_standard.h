@@ -27,6 +27,9 @@ class PreparedStandard {
     /// Indexes and names of second and later declarations of a name.
     const Vor_Array<int>& duplicates() const { return m_duplicates; }
     const Vor_StringArray& duplicateNames() const { return m_duplicateNames; }
+    /// Those of them that are inputs or outputs: they take a place in the values that a call hands
+    /// in, but none in the results that it gets back.
+    Vor_StringArray shiftingNames() const;
 
     /// One for every cell of the equation area that is not empty or holds a formula, which may
     /// show a text when its turn comes; without text before it was prepared.

@@ -5,17 +5,12 @@
 
 #include "core_api/text/text_helpers.h"
 
-namespace {
-
-/// `path` without the folders that it enters only to leave them, so that one file has one path.
 Vor_String withoutDetours(const Vor_String& path) {
     std::string text(path.str());
     std::replace(text.begin(), text.end(), '\\', '/');
     if (text.find("./") == text.npos && text.find("//") == text.npos) return Vor_String(text);
     return Vor_String(std::filesystem::path(text).lexically_normal().string());
 }
-
-}  // namespace
 
 RunningStandard* RunningStandard::s_innermost = nullptr;
 int RunningStandard::s_depth = 0;
@@ -35,6 +30,7 @@ RunningStandard::RunningStandard() : m_caller(s_innermost) {
 RunningStandard::~RunningStandard() {
     --s_depth;
     s_innermost = m_caller;
+    if (m_caller) m_caller->m_childGave = std::move(m_givenBack);
 }
 
 void RunningStandard::setPath(const Vor_String& path) {

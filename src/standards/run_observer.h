@@ -33,6 +33,12 @@ class VORMANT_API RunObserver {
     /// Around the runs of a child call. The equation of the call is reported after childEnded.
     virtual void childStarted(std::string_view /*path*/, int /*row*/, int /*column*/) {}
     virtual void childEnded(bool /*ok*/) {}
+    /// The variables with the values that they start with, before any equation.
+    virtual void valuesGiven(const TwVarCells& /*variables*/) {}
+    /// An input that the macro does not have, or that nothing is mapped to: it is empty.
+    virtual void inputUnread(std::string_view /*name*/) {}
+    /// Results of a called standard come back in wrong places.
+    virtual void resultsShifted(std::string_view text) { warning(text); }
     /// What does not fail a run but should be known: an output that holds an error, names that
     /// are declared twice.
     virtual void warning(std::string_view /*text*/) {}

@@ -323,6 +323,28 @@ TEST_F(RunOnMacro, SaysWhatIsMissingAndLeavesTheMacroAlone) {
     EXPECT_EQ(m_folder.read(m_macro), before);
 }
 
+TEST_F(RunOnMacro, InputsThatCannotBeReadAreNamedAndKeepTheMacroUnlessAskedOtherwise) {
+    // The general variable that an input is mapped to is not in this macro.
+    std::string text = m_folder.read("Connection Standards/EndPlate.map");
+    text.replace(text.find("gen_ShearForce"), 14, "gen_Gone");
+    m_folder.write("Connection Standards/EndPlate.map", text);
+    const std::string before = m_folder.read(m_macro);
+    for (const char* write : {"--json", "--write"}) {
+        const auto refused = run({write}, "BeamToColumn");
+        EXPECT_EQ(refused.exitCode, 1) << write;
+        EXPECT_THAT(refused.err, HasSubstr("the input \"ShearForce\" could not be read"));
+        EXPECT_EQ(m_folder.read(m_macro), before);
+    }
+    EXPECT_EQ(Json::parse(run({"--json"}, "BeamToColumn").out)["unreadInputs"],
+              Json({"ShearForce"}));
+    EXPECT_EQ(run({"--write=perhaps"}, "BeamToColumn").exitCode, 2);
+    EXPECT_EQ(m_folder.read(m_macro), before);
+    const auto written = run({"--write=always"}, "BeamToColumn");
+    EXPECT_THAT(written.err, HasSubstr("the input \"ShearForce\" could not be read"));
+    EXPECT_EQ(written.exitCode, 0) << written.err;
+    EXPECT_NE(m_folder.read(m_macro), before);
+}
+
 TEST_F(RunOnMacro, BrokenMacrosAndMappingsAreNamed) {
     for (const std::string_view content : {"", "garbage", "\x7F\x45\x4C\x46"}) {
         m_folder.write(m_macro, content);

@@ -3,7 +3,7 @@
 
 #include "runs/html_report.h"
 #include "runs/named_request.h"
-#include "support/temporary_folder.h"
+#include "support/standard_file.h"
 
 namespace {
 
@@ -56,20 +56,26 @@ class Calculations : public testing::Test {
     Calculation run(std::string_view gap) {
         m_folder.write("child.tws", child);
         m_folder.write("parent.tws", parent);
-        const Vor_String path((m_folder.path() / "parent.tws").string());
+        return runFile("parent.tws", {"IPE-300", Vor_String(gap)});
+    }
+    Calculation runFile(const std::string& name, const Vor_StringArray& values) {
+        const Vor_String path((m_folder.path() / name).string());
         Vor_String failure;
         auto request = runs::NamedRequest::open(path, failure);
         EXPECT_TRUE(request) << failure.str();
-        request->cells()[0].setNewValue("IPE-300");
-        request->cells()[1].setNewValue(Vor_String(gap));
+        for (int i = 0; i < values.length(); ++i) request->cells()[i].setNewValue(values[i]);
         runs::RunReport report;
         report.path = path.str();
         {
             runs::RunRecorder recorder(report);
             request->start();
         }
+        m_results.clear();
+        for (const TwVarCell& cell : request->cells())
+            if (cell.isOutput()) m_results += cell.value().str() + " ";
         return runs::makeCalculation(report);
     }
+    std::string m_results;  ///< that the request got back
     TemporaryFolder m_folder;
 };
 
@@ -91,6 +97,37 @@ TEST_F(Calculations, ShowSymbolsNumbersAndResultsOfTheirMoment) {
     EXPECT_TRUE(calculation.lines[3].isError);
     EXPECT_FALSE(calculation.lines[4].ok);
     EXPECT_THAT(calculation.lines[4].message, HasSubstr("Nonsense"));
+}
+
+TEST_F(Calculations, WholeNumbersAndGivenValuesAreShownWhereTheyCount) {
+    m_folder.write(
+        "child.tws",
+        documentOf({{"Input"}, {"Double G"}, {"Output"}, {"Int H"}, {"Calc"}, {"H=G/2"}}));
+    m_folder.write("whole.tws", documentOf({{"Input"},
+                                            {"Double A", "Int N"},
+                                            {"Output"},
+                                            {"Int B", "Double C", "Int T", "Int Bad"},
+                                            {"Local"},
+                                            {"Double L"},
+                                            {"Calc"},
+                                            {"B=A/2"},
+                                            {"CallChild(child.tws,A,C)"},
+                                            {"CallChild(child.tws,C,L)"},
+                                            {"T=\"1.5\""},
+                                            {"Bad=\"x\""},
+                                            {"A=B+N+C+L+T+Bad"},
+                                            {"C=C+A"}}));
+    const Calculation calculation = runFile("whole.tws", {"5", "2.5"});
+    // An Int is rounded where its cell is read; a child hands on what it calculated, to outputs.
+    EXPECT_EQ(calculation.lines[5].numbers, "3+3+2.5+0+2+0");
+    EXPECT_EQ(calculation.lines[5].result, "10.5");
+    EXPECT_EQ(m_results, "3 13 2 x ");
+    std::string outputs;
+    for (const auto& output : calculation.outputs) outputs += output.value + " ";
+    EXPECT_EQ(outputs, m_results);
+    EXPECT_EQ(calculation.inputs[0].value, "5");  // not what an equation made of it
+    EXPECT_EQ(calculation.inputs[1].value, "2.5");
+    EXPECT_EQ(calculation.lines[1].child->outputs[0].value, "2.5");
 }
 
 TEST(ShownValues, HaveSixFiguresAndNoExponent) {

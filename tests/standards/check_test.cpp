@@ -62,7 +62,7 @@ TEST(Check, MarkersAndDeclarations) {
             {standardOf({"Double A", "Int"}, {"Double a", "Double B"}, {}, {"B=A"}),
              {"3:1 warning: this declares a variable without a name",
               "3:1 warning: no equation uses the input \"\"",
-              "5:1 warning: \"a\" is declared before"}},
+              "5:1 error: \"a\" is declared before"}},
             {standardOf({"Double Len", "Double RoundTo", "Double B5", "Double 12", "Double  x",
                          "Double a=b", "Double true"},
                         {"Double Out"}, {}, {"Out=Len+RoundTo+B5+12+true"}),
@@ -111,6 +111,10 @@ TEST(Check, ChildCalls) {
     library.writeStandard(
         "Round", standardOf({"Double X"}, {"Double Y"}, {}, {"CallChild(Back.tws, X, Y)"}));
     library.writeStandard("Broken", "nothing");
+    library.writeStandard("Childs/Detour", standardOf({"Double X"}, {"Double Y"}, {},
+                                                      {"CallChild(..\\Sheet.tws, X, Y)"}));
+    library.writeStandard(
+        "Twice", standardOf({"Double X", "Double x"}, {"Double Y"}, {"Double Y"}, {"Y=X"}));
     const auto calling = [](const char* call) {
         return standardOf({"Double A"}, {"Double B"}, {}, {call});
     };
@@ -134,6 +138,10 @@ TEST(Check, ChildCalls) {
              {unused, unassigned, "7:1 error: the child cannot be loaded: "}},
             {calling("CallChild(Sheet.tws, A, B)"),
              {"7:1 error: the calls go in a circle: Sheet.tws > Sheet.tws"}},
+            {calling("CallChild(Twice.tws, A, A, B)"),
+             {"7:1 error: the child declares more than once: x: its results"}},
+            {calling("CallChild(Detour.tws, A, B)"),
+             {"7:1 error: the calls go in a circle: Sheet.tws > Detour.tws > Sheet.tws"}},
             {calling("CallChild(Round.tws, A, B)"),
              {"7:1 error: the calls go in a circle: Sheet.tws > Round.tws > Back.tws > Sheet.tws"}},
         });

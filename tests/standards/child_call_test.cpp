@@ -106,6 +106,39 @@ TEST_F(ChildCalls, AnErrorOfTheChildIsToldWithTheRowOfTheCall) {
     EXPECT_NE(log.text.find("Parent.tws:8: output \"W\" is #DIV/0!"), std::string::npos);
 }
 
+TEST_F(ChildCalls, AnErrorIsToldWithTheRowThatMadeItNotWithACallThatPassesItOn) {
+    writeDouble("Base");
+    library.writeStandard(
+        "Two", standardOf({"Double X"}, {"Double Y", "Double Z"}, {}, {"Y=1", "Z=X*0+7"}));
+    const std::string path = library.writeStandard(
+        "Parent",
+        standardOf({"Double T"}, {"Double W", "Double E"}, {},
+                   {"E=1/0", "CallChild(Two.tws, E, W, W)", "CallChild(Base.tws, T, W)"}));
+    TwDlgStandardsData data;
+    data.mode = TwDlgStandardsData::Mode::variables;
+    data.standardsName = path;
+    for (const TwCellType kind : {TwCellType::input, TwCellType::output, TwCellType::output})
+        data.varCells.append(TwVarCell("v", kind, TwValueType::Double, "5"));
+    EXPECT_TRUE(StartDlgStandardsSS(data));
+    EXPECT_NE(log.text.find("Parent.tws:8: output \"E\" is #DIV/0!"), std::string::npos)
+        << log.text;
+}
+
+TEST_F(ChildCalls, AChildThatDeclaresANameAgainIsToldAsItsResultsShift) {
+    library.writeStandard("Again",
+                          standardOf({"Double X", "Double x"}, {"Double Y"}, {}, {"Y=X*2"}));
+    const std::vector<std::string> calls{"CallChild(Again.tws, T, W, W)"};
+    EXPECT_EQ(run({}, calls), "old");
+    EXPECT_NE(log.text.find("Again.tws: declared more than once: x: the results of the call come "
+                            "back in wrong places"),
+              std::string::npos)
+        << log.text;
+    log.text.clear();
+    library.writeStandard("Again", standardOf({"Double X"}, {"Double Y"}, {"Double x"}, {"Y=X*2"}));
+    EXPECT_EQ(run({}, {"CallChild(Again.tws, T, W)"}), "10");  // a local takes no place
+    EXPECT_EQ(log.text.find("wrong places"), std::string::npos) << log.text;
+}
+
 TEST_F(ChildCalls, RefusedCallsLeaveTheValuesAndSayWhy) {
     writeDouble("Base");
     library.writeStandard("Broken", "no document");

@@ -98,6 +98,8 @@ TEST_F(Functions, TablesAreLookedUpByJoinedKeys) {
                       "\n"
                       "0.5\thalf // of it\n"
                       "lonely\n"
+                      "none\t// nothing\n"
+                      "nothing\t // \tbut words\n"
                       "\tempty key\n");
     library.write("Loads2.txt", "IPE 200\tsection\nother\tother\n");
     expectResults({
@@ -109,6 +111,8 @@ TEST_F(Functions, TablesAreLookedUpByJoinedKeys) {
         {"GETCELL(\"Loads.txt\", 0.5, B1, 7)", "half"},
         {"GETCELL(\"Loads.txt\", B1)", "empty key"},
         {"GETCELL(\"Loads.txt\", \"lonely\")", "#VALUE!"},
+        {"GETCELL(\"Loads.txt\", \"none\")", ""},
+        {"GETCELL(\"Loads.txt\", \"nothing\")", ""},
         {"GETCELL(\"Loads.txt\", \"IPE-200\", 3)", "#VALUE!"},
         {"GETCELL(\"Missing.txt\", 1)", "#VALUE!"},
         {"GETCELL(\"Loads.txt\")", "refused"},

@@ -37,12 +37,15 @@ ExitCode runOnMacro(const RunRequest& request, const StandardName& standard,
         complain("--key " + request.mappingKey + ": " + error);
         return ExitCode::wrongCall;
     }
-    const auto run = request.write ? runs::MacroRun::openToChange(*path, report.failure)
-                                   : runs::MacroRun::open(*path, report.failure);
+    const auto run = !request.write.empty() ? runs::MacroRun::openToChange(*path, report.failure)
+                                            : runs::MacroRun::open(*path, report.failure);
     if (!run) return ExitCode::failed;
     if (!run->run(standard.mappingName(), key, data.genNames, data.genValues, report))
         return ExitCode::failed;
-    if (request.write && run->save(report, report.failure) != OpenFile::Saved::yes)
+    const auto unread = request.write == "always" ? runs::MacroRun::Unread::written
+                                                  : runs::MacroRun::Unread::refused;
+    if (!request.write.empty() &&
+        run->save(report, unread, report.failure) != OpenFile::Saved::yes)
         return ExitCode::failed;
     return ExitCode::done;
 }
@@ -66,8 +69,8 @@ ExitCode runStandard(const RunRequest& request) {
         output.write(reportAsText(report, request.trace));
     const bool written = output.close();
     complainAbout(report);
-    return written && result == ExitCode::done && report.allWell() ? ExitCode::done
-                                                                   : ExitCode::failed;
+    const bool isWell = request.write == "always" ? report.outputsDone() : report.allWell();
+    return written && result == ExitCode::done && isWell ? ExitCode::done : ExitCode::failed;
 }
 
 }  // namespace cli

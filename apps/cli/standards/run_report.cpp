@@ -58,6 +58,12 @@ void writeReport(JsonWriter& json, const runs::RunReport& report) {
     json.beginArray();
     for (const auto& equation : report.equations) writeEquation(json, equation);
     json.endArray();
+    if (!report.unreadInputs.empty()) {
+        json.key("unreadInputs");
+        json.beginArray();
+        for (const std::string& input : report.unreadInputs) json.text(input);
+        json.endArray();
+    }
     json.key("messages");
     json.beginArray();
     for (const auto& lines : report.messages) {

@@ -90,9 +90,15 @@ std::string reportAsText(const runs::RunReport& report, bool trace) {
 
 void complainAbout(const runs::RunReport& report) {
     complainAboutEquations(report);
+    for (const std::string& input : report.unreadInputs)
+        complainText(
+            "the input \"" + Vor_String(input) +
+            "\" could not be read: the macro does not have it, or nothing is mapped to it; "
+            "it counts as empty");
     for (const auto& lines : report.messages) {
-        // These two are told in fewer words: as equations, and as a warning.
+        // These are told in fewer words: as equations, as inputs, and as a warning.
         const bool isToldElsewhere = lines.front().starts_with("The following equation failed") ||
+                                     lines.front().starts_with("The following Input variable") ||
                                      lines.front().starts_with("There were duplicate variable");
         if (!isToldElsewhere) complainLines(lines);
     }

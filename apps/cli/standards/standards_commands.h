@@ -27,7 +27,8 @@ struct RunRequest {
     std::vector<std::string> genValues;  ///< "Name=Value"
     std::string macroFile;
     std::string mappingKey;
-    bool write = false;  ///< the macro back into its file
+    /// The macro back into its file: not when empty, "always" also when inputs could not be read.
+    std::string write;
     bool trace = false;
     bool json = false;
 };

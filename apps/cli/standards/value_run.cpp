@@ -23,6 +23,13 @@ void FailureWatch::dataFileFailed(std::string_view text) {
     if (m_missing.empty()) m_missing = shownMessage(text);
 }
 
+void FailureWatch::resultsShifted(std::string_view text) {
+    std::string message = shownMessage(text);
+    if (std::find(m_shifted.begin(), m_shifted.end(), message) != m_shifted.end()) return;
+    complain(message);
+    m_shifted.push_back(std::move(message));
+}
+
 ToldOnce::ToldOnce()
     : m_listener([this](const MessageBox& box) {
           if (std::find(m_told.begin(), m_told.end(), box.text) == m_told.end()) {

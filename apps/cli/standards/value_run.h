@@ -8,8 +8,8 @@
 #include <vector>
 
 #include "platform/window/message_box.h"
-#include "standards/library.h"
 #include "runs/named_request.h"
+#include "standards/library.h"
 #include "standards/run_observer.h"
 
 namespace cli {
@@ -36,12 +36,14 @@ class FailureWatch : public RunObserver {
     bool wantsEveryEquation() const override { return false; }
     void equationDone(const EquationReport& equation) override;
     void dataFileFailed(std::string_view text) override;
+    void resultsShifted(std::string_view text) override;
     void childStarted(std::string_view path, int, int) override { m_children.push_back(path); }
     void childEnded(bool) override { m_children.pop_back(); }
 
     RunObserver* m_before;
     std::string m_failure;                     // UTF-8
     std::string m_missing;                     // UTF-8
+    std::vector<std::string> m_shifted;        // UTF-8, each told once
     std::vector<std::string_view> m_children;  // paths of those running, the innermost last
 };
 

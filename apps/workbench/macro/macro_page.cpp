@@ -10,6 +10,7 @@
 #include "mapping/mapping_file.h"
 #include "mapping/start_mapping_dialog.h"
 #include "mapping/tw_ss_mapping.h"
+#include "platform/window/message_box.h"
 #include "run/calculation_view.h"
 #include "runs/library_standards.h"
 #include "shell/words.h"
@@ -180,7 +181,7 @@ bool MacroPage::run() {
     m_calculation = runs::makeCalculation(m_report);
     m_model.show(&m_calculation);
     fillObjects();
-    setChanged(isBegun && m_report.allWell());
+    setChanged(isBegun && m_report.outputsDone());
     showReport();
     return m_isChanged;
 }
@@ -217,10 +218,22 @@ void MacroPage::noteChange() {
     setChanged(true);
 }
 
+/// Results that were made from inputs without a value are written when the user says so.
+bool MacroPage::mayWriteUnread() const {
+    if (m_report.unreadInputs.empty()) return true;
+    QStringList inputs;
+    for (const std::string& input : m_report.unreadInputs) inputs += toQt(input);
+    const std::string asked = fromQt(say(wordWriteUnread).arg(inputs.join("\n")));
+    return showMessage({"Vormant", asked, MessageIcon::exclamation, MessageButtons::yesNo}) ==
+           IDYES;
+}
+
 bool MacroPage::save() {
     Vor_String failure;
     const bool isRun = !m_report.equations.empty();
-    const auto saved = isRun ? m_macro->save(m_report, failure) : m_macro->saveAsIs(failure);
+    if (isRun && m_report.outputsDone() && !mayWriteUnread()) return false;
+    const auto saved = isRun ? m_macro->save(m_report, runs::MacroRun::Unread::written, failure)
+                             : m_macro->saveAsIs(failure);
     if (saved == OpenFile::Saved::reload) return reload(), false;
     if (saved == OpenFile::Saved::yes)
         setChanged(false);

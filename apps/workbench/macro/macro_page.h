@@ -15,7 +15,7 @@ class MacroPage : public QWidget {
   public:
     explicit MacroPage(std::unique_ptr<runs::MacroRun> macro, QWidget* parent = nullptr);
 
-    /// Runs the standard and key that are chosen. True when all went well.
+    /// Runs the standard and key that are chosen. True when there are results to save.
     bool run();
     /// Writes the macro with the results of the last run and the attached standards.
     bool save();
@@ -40,6 +40,7 @@ class MacroPage : public QWidget {
     void show(const QString& text, bool isFailure);
     void attachStandards();
     void setChanged(bool changed);
+    bool mayWriteUnread() const;
 
     std::unique_ptr<runs::MacroRun> m_macro;
     runs::RunReport m_report;

@@ -2,6 +2,7 @@
 
 #include <QComboBox>
 #include <QCompleter>
+#include <QEvent>
 #include <QFileDialog>
 #include <QGridLayout>
 #include <QHeaderView>
@@ -41,22 +42,81 @@ RunPage::RunPage(std::unique_ptr<RunSession> session, QWidget* parent)
     m_message->setTextInteractionFlags(Qt::TextSelectableByMouse);
     m_message->setStyleSheet("color: #A00000; background: #FFE8E8; padding: 4px");
 
-    auto* left = new QSplitter(Qt::Vertical);
-    left->addWidget(makeForm());
-    left->addWidget(makeResults());
-    left->setStretchFactor(1, 1);
+    m_left = new QSplitter(Qt::Vertical);
     auto* both = new QSplitter(Qt::Horizontal);
-    both->addWidget(left);
+    both->addWidget(m_left);
     both->addWidget(makeCalculationView(m_model));
     both->setStretchFactor(0, 2);
     both->setStretchFactor(1, 3);
 
     auto* layout = new QVBoxLayout(this);
-    layout->addWidget(makeHeading());
     layout->addWidget(m_message);
     layout->addWidget(both, 1);
+    build();
     update();
+}
+
+/// What follows from the standard's sheet: heading, form and results. What stood there before may
+/// be in the middle of a key, and goes later.
+void RunPage::build() {
+    for (QWidget* old : {m_heading, m_left->widget(0), m_left->widget(1)}) {
+        if (!old) continue;
+        old->hide();
+        old->setParent(nullptr);
+        old->deleteLater();
+    }
+    m_editors.clear();
+    m_heading = makeHeading();
+    static_cast<QVBoxLayout*>(layout())->insertWidget(0, m_heading);
+    m_left->addWidget(makeForm());
+    m_left->addWidget(makeResults());
+    m_left->setStretchFactor(1, 1);
     m_results->resizeColumnToContents(nameColumn);
+}
+
+/// Loads the standard again when its file was changed, so that every result stands under its own
+/// name. What was typed stays with the inputs of the same name.
+void RunPage::follow() {
+    if (!m_session->isStale()) return;
+    Vor_String failure;
+    auto session = RunSession::open(m_session->standard().path, failure);
+    if (!session) {
+        m_notice = {say(wordStandardUnreadable).arg(toQt(failure))};
+        return;
+    }
+    std::map<QString, QString> typed;
+    QString focused;
+    for (const auto& [name, editor] : m_editors) {
+        const auto* box = qobject_cast<QComboBox*>(editor);
+        typed[name] = box ? box->currentText() : qobject_cast<QLineEdit*>(editor)->text();
+        if (editor->hasFocus()) focused = name;
+    }
+    m_model.show(nullptr);
+    m_session = std::move(session);
+    m_refusals.clear();
+    QStringList gone;
+    for (const auto& [name, text] : typed) {
+        const runs::DeclaredVariable* input = m_session->standard().find(fromQt(name));
+        if (!input || input->kind != TwCellType::input)
+            gone += name;
+        else
+            (void)m_session->setValue(input->name, fromQt(text.trimmed()));
+    }
+    build();
+    for (const auto& [name, text] : typed) {
+        const runs::DeclaredVariable* input = m_session->standard().find(fromQt(name));
+        QWidget* editor = input ? this->editor(toQt(input->name)) : nullptr;
+        if (!editor) continue;
+        const QSignalBlocker quiet(editor);
+        if (auto* box = qobject_cast<QComboBox*>(editor))
+            box->setCurrentText(text);
+        else
+            qobject_cast<QLineEdit*>(editor)->setText(text);
+        noteText(input->name, *editor, text);
+        if (name == focused) editor->setFocus();
+    }
+    m_notice = {say(wordStandardReloaded)};
+    if (!gone.isEmpty()) m_notice += say(wordInputsGone).arg(gone.join(", "));
 }
 
 QWidget* RunPage::makeHeading() {
@@ -103,7 +163,8 @@ QWidget* RunPage::makeForm() {
             auto* pick = new QPushButton("…");
             pick->setToolTip(say(wordChooseSection));
             pick->setFixedWidth(28);
-            connect(pick, &QPushButton::clicked, this, [this, input] { pickSection(*input); });
+            const QString name = toQt(input->name);
+            connect(pick, &QPushButton::clicked, this, [this, name] { pickSection(name); });
             grid->addWidget(pick, row, 2);
         } else {
             grid->addWidget(quietLabel(input->unit), row, 2);
@@ -122,6 +183,7 @@ QWidget* RunPage::makeForm() {
 
 QWidget* RunPage::makeEditor(const runs::DeclaredVariable& input) {
     const QString value = toQt(m_session->value(input.name));
+    const std::string name = input.name;
     if (RunSession::namesSection(input)) {
         auto* box = new QComboBox;
         box->setEditable(true);
@@ -131,12 +193,12 @@ QWidget* RunPage::makeEditor(const runs::DeclaredVariable& input) {
         box->completer()->setCompletionMode(QCompleter::PopupCompletion);
         box->setCurrentText(value);
         connect(box, &QComboBox::currentTextChanged, this,
-                [this, &input, box](const QString& text) { take(input, *box, text); });
+                [this, name, box](const QString& text) { take(name, *box, text); });
         return box;
     }
     auto* edit = new QLineEdit(value);
     connect(edit, &QLineEdit::textChanged, this,
-            [this, &input, edit](const QString& text) { take(input, *edit, text); });
+            [this, name, edit](const QString& text) { take(name, *edit, text); });
     return edit;
 }
 
@@ -162,17 +224,21 @@ QWidget* RunPage::makeResults() {
     return m_results;
 }
 
-void RunPage::take(const runs::DeclaredVariable& input, QWidget& editor, const QString& text) {
-    const QString name = toQt(input.name);
+void RunPage::take(const std::string& input, QWidget& editor, const QString& text) {
+    m_notice.clear();
+    noteText(input, editor, text);
+    update();
+}
+
+void RunPage::noteText(const std::string& input, QWidget& editor, const QString& text) {
+    const QString name = toQt(input);
     if (const QString unkept = refusalOf(text); !unkept.isEmpty())
         m_refusals[name] = name + ": " + unkept;
-    else if (const auto why = m_session->setValue(input.name, fromQt(text.trimmed()));
-             !why.isEmpty())
+    else if (const auto why = m_session->setValue(input, fromQt(text.trimmed())); !why.isEmpty())
         m_refusals[name] = toQt(why);
     else
         m_refusals.erase(name);
     editor.setStyleSheet(m_refusals.contains(name) ? "background: #FFE8E8" : "");
-    update();
 }
 
 void RunPage::sectionsChanged() {
@@ -190,6 +256,7 @@ void RunPage::sectionsChanged() {
 }
 
 void RunPage::update() {
+    follow();
     // The model shows lines of the calculation that the run replaces.
     const runs::Calculation before = m_session->takeCalculation();
     m_session->run();
@@ -212,7 +279,7 @@ void RunPage::update() {
 
 void RunPage::showMessages() {
     QStringList lines;
-    if (m_session->isStale()) lines += say(wordFileChanged);
+    lines += m_notice;
     for (const auto& [name, refusal] : m_refusals) lines += refusal;
     const runs::Calculation& calculation = m_session->calculation();
     if (!calculation.failure.empty()) lines += toQt(calculation.failure);
@@ -232,7 +299,12 @@ void RunPage::showMessages() {
 // The sheet may have been edited in another page.
 void RunPage::showEvent(QShowEvent* event) {
     QWidget::showEvent(event);
-    if (m_session->isStale()) showMessages();
+    if (m_session->isStale()) update();
+}
+
+bool RunPage::event(QEvent* event) {
+    if (event->type() == QEvent::WindowActivate && m_session->isStale()) update();
+    return QWidget::event(event);
 }
 
 QWidget* RunPage::editor(const QString& input) const {
@@ -247,10 +319,11 @@ QString RunPage::result(const QString& output) const {
     return {};
 }
 
-void RunPage::pickSection(const runs::DeclaredVariable& input) {
-    auto* box = qobject_cast<QComboBox*>(editor(toQt(input.name)));
-    const QString chosen = SectionPicker::ask(this, box->currentText());
-    if (!chosen.isEmpty()) box->setCurrentText(chosen);
+void RunPage::pickSection(const QString& input) {
+    const auto box = [&] { return qobject_cast<QComboBox*>(editor(input)); };
+    const QString chosen = SectionPicker::ask(this, box()->currentText());
+    // The standard may have been changed meanwhile.
+    if (!chosen.isEmpty() && box()) box()->setCurrentText(chosen);
 }
 
 void RunPage::askForExport() {
@@ -261,6 +334,7 @@ void RunPage::askForExport() {
 }
 
 bool RunPage::exportReport(const QString& path, const QString& author) {
+    if (m_session->isStale()) update();
     QString error;
     if (writeReport(m_session->calculation(), author, path, error)) return true;
     m_message->setText(error);

@@ -4,6 +4,7 @@
 
 #include <QLabel>
 #include <QLineEdit>
+#include <QSplitter>
 #include <QTableWidget>
 #include <functional>
 #include <map>
@@ -36,17 +37,21 @@ class RunPage : public QWidget {
 
   protected:
     void showEvent(QShowEvent* event) override;
+    bool event(QEvent* event) override;
 
   private:
+    void follow();
+    void build();
+    void noteText(const std::string& input, QWidget& editor, const QString& text);
     QWidget* makeHeading();
     QWidget* makeForm();
     QWidget* makeEditor(const runs::DeclaredVariable& input);
     QWidget* makeResults();
-    void take(const runs::DeclaredVariable& input, QWidget& editor, const QString& text);
+    void take(const std::string& input, QWidget& editor, const QString& text);
     void update();
     void showMessages();
     void askForExport();
-    void pickSection(const runs::DeclaredVariable& input);
+    void pickSection(const QString& input);
 
     std::unique_ptr<RunSession> m_session;
     std::map<QString, QWidget*> m_editors;
@@ -54,6 +59,9 @@ class RunPage : public QWidget {
     QLabel* m_message = nullptr;
     CalculationModel m_model;
     std::map<QString, QString> m_refusals;  // by input
+    QStringList m_notice;  // that the standard was loaded again, until the next key
+    QWidget* m_heading = nullptr;
+    QSplitter* m_left = nullptr;  // the form above the results
     QString m_author;
     std::function<void(const Vor_String&)> m_sheetOpener;
 };

@@ -47,7 +47,6 @@ enum WorkbenchWord {
     wordChooseSection = 22132,
     wordSize = 22134,
     wordReload = 22136,
-    wordFileChanged = 22137,
     wordSheetFiles = 22140,
     wordClosePage = 22141,
     wordAboutText = 22142,
@@ -64,6 +63,10 @@ enum WorkbenchWord {
 
     wordNotOpened = 26961,
     wordOnlyToLookAt = 26962,
+    wordWriteUnread = 26980,
+    wordStandardReloaded = 26981,
+    wordInputsGone = 26982,
+    wordStandardUnreadable = 26983,
 
     wordOutside = 27100,
 

@@ -11,10 +11,11 @@ namespace {
 /// Walks from child to child, the way down to the one it is at in `chain`.
 class ChildWalk {
   public:
-    explicit ChildWalk(const Vor_String& start) { m_chain.append(start); }
+    explicit ChildWalk(const Vor_String& start) { m_chain.append(withoutDetours(start)); }
 
     /// How calls come back to a standard that is running, or the empty text.
-    Vor_String circleThrough(const Vor_String& path) {
+    Vor_String circleThrough(const Vor_String& called) {
+        const Vor_String path = withoutDetours(called);
         const int seen = m_chain.find(path);
         m_chain.append(path);
         Vor_String circle;
@@ -57,10 +58,21 @@ class ChildWalk {
 };
 
 /// The variables of a call against those that the child declares.
-void checkBinding(StandardCheck& check, control::CellAddress cell, const TwVarCells& child,
+void checkBinding(StandardCheck& check, control::CellAddress cell, OpenedStandard& child,
                   const std::vector<int>& bound) {
+    if (const Vor_StringArray names = child.sheet.prepared()->shiftingNames(); !names.isEmpty()) {
+        check.error(cell, "the child declares more than once: " + arrToStr(names, ", ") +
+                              ": its results come back in wrong places; rename them there");
+        // What the call does with which variable nobody can say.
+        for (const int index : bound) {
+            if (index < 0) continue;
+            check.read(index, cell);
+            check.uses[static_cast<size_t>(index)].isAssigned = true;
+        }
+        return;
+    }
     size_t position = 0;
-    for (const TwVarCell& wanted : child) {
+    for (const TwVarCell& wanted : child.variables) {
         if (wanted.isLocal()) continue;
         if (position >= bound.size()) {
             check.error(cell, "the call names too few variables: the child's \"" + wanted.name() +
@@ -120,5 +132,5 @@ void checkChildCall(StandardCheck& check, const PreparedEquation& equation) {
     if (!child.open(path))
         check.error(equation.cell, "the child cannot be loaded: " + lastRunFailure());
     else
-        checkBinding(check, equation.cell, child.variables, bound);
+        checkBinding(check, equation.cell, child, bound);
 }

@@ -66,9 +66,14 @@ void checkNames(StandardCheck& check) {
     PreparedStandard& prepared = *check.sheet.prepared();
     for (const int index : prepared.duplicates()) {
         const TwVarCell& variable = prepared.declarations()[index];
-        check.warn(cellOf(variable), "\"" + variable.name() +
-                                         "\" is declared before: only the "
-                                         "first declaration counts");
+        const Vor_String text =
+            "\"" + variable.name() + "\" is declared before: only the first declaration counts";
+        if (variable.isLocal())
+            check.warn(cellOf(variable), text);
+        else
+            check.error(cellOf(variable), text +
+                                              ", and standards that call this one get its results "
+                                              "in wrong places: rename one of them");
     }
     for (const TwVarCell& variable : check.variables) {
         const Vor_String fault = faultOfName(variable.name());
