@@ -63,10 +63,10 @@ enum WorkbenchWord {
 
     wordNotOpened = 26961,
     wordOnlyToLookAt = 26962,
-    wordWriteUnread = 26980,
-    wordStandardReloaded = 26981,
-    wordInputsGone = 26982,
-    wordStandardUnreadable = 26983,
+    wordWriteUnread = 27110,
+    wordStandardReloaded = 27111,
+    wordInputsGone = 27112,
+    wordStandardUnreadable = 27113,
 
     wordOutside = 27100,
 

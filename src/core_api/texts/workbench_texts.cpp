@@ -139,7 +139,12 @@ constexpr TextRow rows[] = {
      {"Reversed, second direction", "Omgekeerd, tweede richting", "Umgekehrt, zweite Richtung",
       "Inversé, seconde direction"}},
     {26969, {"Bolt diameter", "Boutdiameter", "Schraubendurchmesser", "Diamètre des boulons"}},
-    {26980,
+    {27100,
+     {"Let names in files of the library lead out of it",
+      "Namen in bestanden van de bibliotheek mogen erbuiten leiden",
+      "Namen in Dateien der Bibliothek dürfen aus ihr herausführen",
+      "Laisser les noms dans les fichiers de la bibliothèque mener hors d'elle"}},
+    {27110,
      {"These inputs could not be read from the macro and counted as empty:\n%1\nWrite the results "
       "into the macro all the same?",
       "Deze invoer kon niet uit de macro worden gelezen en gold als leeg:\n%1\nDe resultaten toch "
@@ -148,24 +153,19 @@ constexpr TextRow rows[] = {
       "Ergebnisse trotzdem in das Makro schreiben?",
       "Ces entrées n'ont pas pu être lues dans la macro et ont compté comme vides :\n%1\nÉcrire "
       "quand même les résultats dans la macro ?"}},
-    {26981,
+    {27111,
      {"The standard was changed on disk and has been loaded again.",
       "De standaard is op schijf gewijzigd en opnieuw geladen.",
       "Der Standard wurde auf der Platte geändert und neu geladen.",
       "Le standard a été modifié sur le disque et a été rechargé."}},
-    {26982,
+    {27112,
      {"Inputs that are gone: %1", "Invoer die er niet meer is: %1",
       "Eingaben, die es nicht mehr gibt: %1", "Entrées qui n'existent plus : %1"}},
-    {26983,
+    {27113,
      {"The standard was changed on disk and cannot be loaded: %1",
       "De standaard is op schijf gewijzigd en kan niet worden geladen: %1",
       "Der Standard wurde auf der Platte geändert und lässt sich nicht laden: %1",
       "Le standard a été modifié sur le disque et ne peut pas être chargé : %1"}},
-    {27100,
-     {"Let names in files of the library lead out of it",
-      "Namen in bestanden van de bibliotheek mogen erbuiten leiden",
-      "Namen in Dateien der Bibliothek dürfen aus ihr herausführen",
-      "Laisser les noms dans les fichiers de la bibliothèque mener hors d'elle"}},
 };
 
 }  // namespace
