@@ -1,18 +1,22 @@
 // vormant-workbench [LIBRARY] [FILE…] [--open NAME]… [--dialog NAME] [--screenshot FILE]
 // vormant-workbench --print DOCUMENT PDF
 #include <QApplication>
+#include <QBuffer>
 #include <QCommandLineParser>
 #include <QFileInfo>
+#include <QHashSeed>
 #include <QTimer>
 #include <algorithm>
 #include <cstdio>
 #include <cstring>
 #include <iterator>
+#include <new>
 #include <utility>
 
 #include "core_api/program_data.h"
 #include "core_api/texts/language_codes.h"
 #include "grid/calculation_stop.h"
+#include "platform/out_of_memory.h"
 #include "platform/paths.h"
 #include "platform/terminal_text.h"
 #include "sheet/sheet_file.h"
@@ -21,6 +25,7 @@
 #include "shell/starters_menu.h"
 #include "window/dialog_font.h"
 #include "window/say.h"
+#include "window/written_file.h"
 
 namespace {
 
@@ -59,8 +64,14 @@ void takeScreenshot(MainWindow& window, const QString& file) {
     constexpr int untilPainted = 200;  // milliseconds
     QTimer::singleShot(untilPainted, &window, [&window, file] {
         QWidget* dialog = QApplication::activeModalWidget();
-        const bool isSaved = (dialog ? dialog->grab() : window.grab()).save(file);
-        if (!isSaved) complain(file + ": cannot be written");
+        QBuffer picture;
+        QString error = file + ": cannot be written";
+        const QByteArray format = QFileInfo(file).suffix().toLatin1();
+        const bool isSaved =
+            picture.open(QIODevice::WriteOnly) &&
+            (dialog ? dialog->grab() : window.grab()).save(&picture, format.constData()) &&
+            writeFile(file, picture.data(), error);
+        if (!isSaved) complain(error);
         QApplication::exit(isSaved ? 0 : 1);
     });
 }
@@ -97,7 +108,10 @@ int printDocument(int argc, char** argv) {
 
 }  // namespace
 
-int main(int argc, char** argv) {
+int main(int argc, char** argv) try {
+    platform::prepareForNoMemory("vormant-workbench");
+    // Fonts come into PDF files in the order of a hash, which is another one at every start.
+    QHashSeed::setDeterministicGlobalSeed();
     if (argc > 1 && std::strcmp(argv[1], printOption) == 0) return printDocument(argc, argv);
     WorkbenchSettings settings = WorkbenchSettings::load();
     applyScale(settings);
@@ -146,4 +160,6 @@ int main(int argc, char** argv) {
     }
     if (parser.isSet(screenshot)) takeScreenshot(window, parser.value(screenshot));
     return QApplication::exec();
+} catch (const std::bad_alloc&) {
+    return platform::reportNoMemory();
 }

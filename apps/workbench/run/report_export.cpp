@@ -1,14 +1,15 @@
 #include "run/report_export.h"
 
 #include <QAbstractTextDocumentLayout>
+#include <QBuffer>
 #include <QPageLayout>
 #include <QPdfWriter>
-#include <QSaveFile>
 #include <QTextDocument>
 
 #include "core_api/texts/date_text.h"
 #include "platform/clock.h"
 #include "runs/html_report.h"
+#include "window/written_file.h"
 
 namespace {
 
@@ -19,29 +20,25 @@ QByteArray htmlOf(const runs::Calculation& calculation, const QString& author) {
     return QByteArray::fromStdString(htmlReport(calculation, heading));
 }
 
-// QSaveFile replaces the old file only when all was written.
-bool writeFile(const QString& path, QString& error, const std::function<bool(QIODevice&)>& write) {
-    QSaveFile file(path);
-    if (file.open(QIODevice::WriteOnly) && write(file) && file.commit()) return true;
-    error = path + ": " + file.errorString();
-    return false;
-}
-
 // One pixel of the page's style is one dot of this printer, so its dots are as large.
-bool writePdf(const QByteArray& html, QIODevice& device) {
-    QPdfWriter writer(&device);
-    writer.setResolution(96);
-    writer.setPageSize(QPageSize(QPageSize::A4));
-    constexpr double margin = 10;  // mm
-    writer.setPageMargins(QMarginsF(margin, margin, margin, margin), QPageLayout::Millimeter);
-    QTextDocument document;
-    document.setDefaultFont(QFont("DejaVu Sans", 9));
-    document.setDocumentMargin(20);  // without one, pages show the first line of the next
-    document.setHtml(QString::fromUtf8(html));
-    document.documentLayout()->setPaintDevice(&writer);
-    document.setPageSize(QSizeF(writer.width(), writer.height()));
-    document.print(&writer);
-    return true;
+QByteArray pdfOf(const QByteArray& html) {
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    {
+        QPdfWriter writer(&buffer);
+        writer.setResolution(96);
+        writer.setPageSize(QPageSize(QPageSize::A4));
+        constexpr double margin = 10;  // mm
+        writer.setPageMargins(QMarginsF(margin, margin, margin, margin), QPageLayout::Millimeter);
+        QTextDocument document;
+        document.setDefaultFont(QFont("DejaVu Sans", 9));
+        document.setDocumentMargin(20);  // without one, pages show the first line of the next
+        document.setHtml(QString::fromUtf8(html));
+        document.documentLayout()->setPaintDevice(&writer);
+        document.setPageSize(QSizeF(writer.width(), writer.height()));
+        document.print(&writer);
+    }
+    return withoutMoment(buffer.data());
 }
 
 }  // namespace
@@ -49,8 +46,6 @@ bool writePdf(const QByteArray& html, QIODevice& device) {
 bool writeReport(const runs::Calculation& calculation, const QString& author, const QString& path,
                  QString& error) {
     const QByteArray html = htmlOf(calculation, author);
-    return writeFile(path, error, [&](QIODevice& device) {
-        return path.endsWith(".pdf", Qt::CaseInsensitive) ? writePdf(html, device)
-                                                          : device.write(html) == html.size();
-    });
+    const bool isPdf = path.endsWith(".pdf", Qt::CaseInsensitive);
+    return writeFile(path, isPdf ? pdfOf(html) : html, error);
 }

@@ -1,17 +1,18 @@
 #include "sheet/sheet_printing.h"
 
 #include <QAction>
+#include <QBuffer>
 #include <QPainter>
 #include <QPdfWriter>
 #include <QPrintDialog>
 #include <QPrintPreviewDialog>
 #include <QPrinter>
-#include <QSaveFile>
 
 #include "sheet/page_painter.h"
 #include "sheet/say.h"
 #include "spread/tw_sheet_settings.h"
 #include "window/dialog_font.h"
+#include "window/written_file.h"
 
 namespace {
 
@@ -74,16 +75,16 @@ bool printSheet(Vor_Spread& spread, QPagedPaintDevice& device) {
 }
 
 bool writeSheetPdf(Vor_Spread& spread, const QString& path, QString& error) {
-    QSaveFile file(path);
-    bool isDone = file.open(QIODevice::WriteOnly);
-    if (isDone) {
-        QPdfWriter writer(&file);
+    QBuffer buffer;
+    bool isDone = buffer.open(QIODevice::WriteOnly);
+    {
+        QPdfWriter writer(&buffer);
         writer.setResolution(pdfResolution);
         writer.setPageSize(QPageSize(QPageSize::A4));
-        isDone = printSheet(spread, writer);
+        isDone = isDone && printSheet(spread, writer);
     }
-    if (isDone && file.commit()) return true;
-    error = path + ": " + file.errorString();
+    if (isDone) return writeFile(path, withoutMoment(buffer.data()), error);
+    error = say(sayNotPrinted).arg(path);
     return false;
 }
 
