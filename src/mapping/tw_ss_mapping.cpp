@@ -140,10 +140,13 @@ ErrorStatus TwSSMapping::sortValidVars(AcArray<int>& indexes, const AcArray<int>
 ErrorStatus TwSSMapping::getMappingFromFile(const Vor_String& standardsName,
                                             const Vor_String& key) {
     const auto lines = readMappingLines(standardsName);
-    if (!lines) return Acad::eInvalidInput;
-    if (lines->isEmpty()) return Acad::eOk;
-    const int index = findMappingLine(*lines, key);
-    return index < 0 ? Acad::eInvalidInput : initMappingFromLine((*lines)[index]);
+    return lines ? getMappingFromLines(*lines, key) : Acad::eInvalidInput;
+}
+
+ErrorStatus TwSSMapping::getMappingFromLines(const Vor_StringArray& lines, const Vor_String& key) {
+    if (lines.isEmpty()) return Acad::eOk;
+    const int index = findMappingLine(lines, key);
+    return index < 0 ? Acad::eInvalidInput : initMappingFromLine(lines[index]);
 }
 
 ErrorStatus TwSSMapping::setMappingToFile(const Vor_String& standardsName, const Vor_String& key,

@@ -60,6 +60,8 @@ class VORMANT_API TwSSMapping {
     /// The mapping stored under `key`. Fails for an unreadable file or an absent key; a file
     /// without lines succeeds and leaves the entries as they are.
     ErrorStatus getMappingFromFile(const Vor_String& standardsName, const Vor_String& key);
+    /// The same from the lines of a file that was read.
+    ErrorStatus getMappingFromLines(const Vor_StringArray& lines, const Vor_String& key);
     /// Stores the mapping under `key` unless an equal one is there. Entries whose variable is
     /// named twice or could not be a file name are dropped. On failure `message`, when asked for,
     /// says why.

@@ -2,7 +2,6 @@
 
 #include <unistd.h>
 
-#include <algorithm>
 #include <cerrno>
 #include <cstdlib>
 #include <utility>
@@ -25,9 +24,18 @@ constexpr std::chrono::milliseconds patience{10'000};
 struct KnownFile {
     std::string target;
     std::optional<Stamp> stamp;
+    KnownFile* older = nullptr;
 };
 
-thread_local std::vector<KnownFile*> begun;
+// A list through the files themselves, so that none of it takes memory.
+thread_local KnownFile* newestBegun = nullptr;
+
+template <class Condition>
+bool anyBegun(const std::string& target, Condition&& holds) {
+    for (const KnownFile* each = newestBegun; each; each = each->older)
+        if (each->target == target && holds(*each)) return true;
+    return false;
+}
 
 void removeEmpty(std::vector<std::string>& folders) {
     while (!folders.empty() && ::rmdir(folders.back().c_str()) == 0) folders.pop_back();
@@ -47,11 +55,15 @@ class ExclusiveChange::State {
   public:
     State(const std::string& target, std::shared_ptr<FolderLock> lock,
           std::vector<std::string> made)
-        : m_lock(std::move(lock)), m_made(std::move(made)), m_file{target, machineStampOf(target)} {
-        begun.push_back(&m_file);
+        : m_lock(std::move(lock)),
+          m_made(std::move(made)),
+          m_file{target, machineStampOf(target), newestBegun} {
+        newestBegun = &m_file;
     }
     ~State() {
-        std::erase(begun, &m_file);
+        KnownFile** begun = &newestBegun;
+        while (*begun && *begun != &m_file) begun = &(*begun)->older;
+        if (*begun) *begun = m_file.older;
         removeEmpty(m_made);
     }
     State(const State&) = delete;
@@ -96,19 +108,16 @@ const std::optional<Stamp>& ExclusiveChange::stamp() const {
 }
 
 bool changedMeanwhile(const std::string& target) {
-    return std::any_of(begun.begin(), begun.end(), [&](const KnownFile* each) {
-        return each->target == target && each->stamp != machineStampOf(target);
-    });
+    return anyBegun(target,
+                    [&](const KnownFile& each) { return each.stamp != machineStampOf(target); });
 }
 
 bool isBegunAsNew(const std::string& target) {
-    return std::any_of(begun.begin(), begun.end(), [&](const KnownFile* each) {
-        return each->target == target && !each->stamp;
-    });
+    return anyBegun(target, [](const KnownFile& each) { return !each.stamp; });
 }
 
 void noteWritten(const std::string& target) {
-    for (KnownFile* each : begun)
+    for (KnownFile* each = newestBegun; each; each = each->older)
         if (each->target == target) each->stamp = machineStampOf(target);
 }
 

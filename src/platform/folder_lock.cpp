@@ -4,10 +4,8 @@
 #include <sys/file.h>
 #include <unistd.h>
 
-#include <algorithm>
 #include <cerrno>
 #include <thread>
-#include <vector>
 
 #include "platform/file_error.h"
 
@@ -17,7 +15,9 @@ namespace {
 
 using Clock = std::chrono::steady_clock;
 
-thread_local std::vector<std::weak_ptr<FolderLock>> heldLocks;
+// A list through the locks themselves: the first object of a thread that has a destructor takes
+// memory, and the system's library ends the program when there is none.
+thread_local FolderLock* newestHeld = nullptr;
 
 /// 0, an errno, or folderIsBusy. Not a wait without end: the other program may have been stopped.
 int lockUntil(int descriptor, Clock::time_point end) {
@@ -32,17 +32,16 @@ int lockUntil(int descriptor, Clock::time_point end) {
 }  // namespace
 
 std::shared_ptr<FolderLock> FolderLock::heldByThread(const struct stat& folder) {
-    std::erase_if(heldLocks, [](const auto& each) { return each.expired(); });
-    for (const auto& each : heldLocks)
-        if (auto lock = each.lock();
-            lock && lock->m_device == folder.st_dev && lock->m_number == folder.st_ino)
-            return lock;
+    for (FolderLock* each = newestHeld; each; each = each->m_older)
+        if (each->m_device == folder.st_dev && each->m_number == folder.st_ino)
+            return each->shared_from_this();
     return nullptr;
 }
 
 std::shared_ptr<FolderLock> FolderLock::make(int descriptor, const struct stat& folder) {
     std::shared_ptr<FolderLock> lock(new FolderLock(descriptor, folder.st_dev, folder.st_ino));
-    heldLocks.push_back(lock);
+    lock->m_older = newestHeld;
+    newestHeld = lock.get();
     return lock;
 }
 
@@ -76,6 +75,9 @@ std::shared_ptr<FolderLock> FolderLock::take(const std::string& folder,
 }
 
 FolderLock::~FolderLock() {
+    FolderLock** held = &newestHeld;
+    while (*held && *held != this) held = &(*held)->m_older;
+    if (*held) *held = m_older;
     if (m_descriptor >= 0) ::close(m_descriptor);
 }
 

@@ -11,12 +11,12 @@
 
 namespace files {
 
-class FolderLock {
+class FolderLock : public std::enable_shared_from_this<FolderLock> {
   public:
     /// Waits up to `patience` for the folder (a machine path, empty for the current one). One
     /// thread may take the same folder again and again. Null, with an errno or folderIsBusy
     /// (platform/file_error.h) in `code`, when the folder cannot be had. On a disk that has no
-    /// locks the lock is an empty one.
+    /// locks the lock is an empty one. The thread that took it lets it go.
     static std::shared_ptr<FolderLock> take(const std::string& folder,
                                             std::chrono::milliseconds patience, int& code);
     ~FolderLock();
@@ -32,6 +32,7 @@ class FolderLock {
     int m_descriptor;
     dev_t m_device;
     ino_t m_number;
+    FolderLock* m_older = nullptr;  ///< that the thread holds too
 };
 
 }  // namespace files

@@ -17,6 +17,10 @@ int32_t littleEndian(std::string_view bytes, size_t at) {
                                 byteAt(bytes, at + 2) << 16 | byteAt(bytes, at + 3) << 24);
 }
 
+int32_t littleEndian16(std::string_view bytes, size_t at) {
+    return static_cast<int32_t>(byteAt(bytes, at) | byteAt(bytes, at + 1) << 8);
+}
+
 int32_t bigEndian(std::string_view bytes, size_t at) {
     return static_cast<int32_t>(byteAt(bytes, at) << 24 | byteAt(bytes, at + 1) << 16 |
                                 byteAt(bytes, at + 2) << 8 | byteAt(bytes, at + 3));
@@ -61,5 +65,7 @@ std::optional<PictureSize> pictureSizeOf(std::string_view bytes) {
     if (bytes.starts_with("\x89PNG\r\n\x1A\n") && bytes.size() >= 24)
         return checked(bigEndian(bytes, 16), bigEndian(bytes, 20));
     if (bytes.starts_with("\xFF\xD8\xFF")) return jpegSize(bytes);
+    if ((bytes.starts_with("GIF87a") || bytes.starts_with("GIF89a")) && bytes.size() >= 10)
+        return checked(littleEndian16(bytes, 6), littleEndian16(bytes, 8));
     return std::nullopt;
 }

@@ -9,5 +9,6 @@ struct PictureSize {
     int height = 0;  ///< pixels
 };
 
-/// The size of a bitmap (.bmp), PNG or JPEG file by the headers in its bytes. Nothing for others.
+/// The size of a bitmap (.bmp), PNG, JPEG or GIF file by the headers in its bytes. Nothing for
+/// others and for what no picture can be.
 std::optional<PictureSize> pictureSizeOf(std::string_view bytes);

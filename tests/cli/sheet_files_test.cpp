@@ -113,6 +113,52 @@ TEST(SheetConvert, WorkbooksAreWellFormedAndExactWhateverTheyHold) {
     EXPECT_THAT(notes, HasSubstr("a_x0007_&lt;&amp;"));
 }
 
+TEST(SheetConvert, WorkbooksCarryPicturesOfEveryKind) {
+    const program::Folder folder;
+    std::string bitmap(58, '\0');  // one pixel of 24 bits
+    for (const auto& [at, value] : {std::pair(0, 'B'),
+                                    {1, 'M'},
+                                    {2, 58},
+                                    {10, 54},
+                                    {14, 40},
+                                    {18, 1},
+                                    {22, 1},
+                                    {26, 1},
+                                    {28, 24},
+                                    {34, 4}})
+        bitmap[static_cast<size_t>(at)] = static_cast<char>(value);
+    const struct {
+        std::string name, bytes, extent;  // of 9525 units to the pixel
+    } pictures[] = {
+        {"image1.bmp", bitmap, "cx=\"9525\" cy=\"9525\""},
+        {"image2.png", std::string("\x89PNG\r\n\x1A\n\0\0\0\rIHDR\0\0\0\3\0\0\0\2", 24),
+         "cx=\"28575\" cy=\"19050\""},
+        {"image3.jpeg", std::string("\xFF\xD8\xFF\xC0\0\x0B\x08\0\4\0\5\1\1\x11\0", 15),
+         "cx=\"47625\" cy=\"38100\""},
+        {"image4.gif", std::string("GIF87a\7\0\6\0\0\0\0", 13), "cx=\"66675\" cy=\"57150\""},
+    };
+    std::string looks, cells;
+    for (size_t i = 0; i < std::size(pictures); ++i) {
+        const std::string number = std::to_string(i + 1);
+        looks += "look " + number + " picture text=\"" +
+                 folder.write("from" + number, pictures[i].bytes) + "\"\n";
+        cells += "A" + number + " @" + number + " \"\n";
+    }
+    const auto file = folder.write(
+        "a.tws", "vormant-sheet 1\nsize 1 4\n" + looks + "cells\n" + cells + "end 4\n");
+    const auto result = program::run({"sheet", "convert", file, folder / "a.xlsx"});
+    ASSERT_EQ(result.exitCode, 0) << result.err;
+    const std::string archive = folder.read("a.xlsx");
+    const std::string drawing = zipEntry(archive, "xl/drawings/drawing1.xml");
+    const std::string types = zipEntry(archive, "[Content_Types].xml");
+    for (const auto& [name, bytes, extent] : pictures) {
+        EXPECT_EQ(zipEntry(archive, "xl/media/" + name), bytes) << name;
+        EXPECT_THAT(drawing, HasSubstr(extent)) << name;
+        const std::string extension = name.substr(name.find('.') + 1);
+        EXPECT_THAT(types, HasSubstr("\"image/" + extension + "\"")) << name;
+    }
+}
+
 TEST(SheetConvert, WhatAWorkbookCannotHoldIsNamed) {
     const struct {
         std::string cell, message;
@@ -121,8 +167,8 @@ TEST(SheetConvert, WhatAWorkbookCannotHoldIsNamed) {
                   "cell C2: its formula is longer than 8192"}};
     for (const auto& each : cases) {
         const program::Folder folder;
-        const auto file = folder.write(
-            "a.tws", "vormant-sheet 1\nsize 3 3\ncells\n" + each.cell + "\nend 1\n");
+        const auto file =
+            folder.write("a.tws", "vormant-sheet 1\nsize 3 3\ncells\n" + each.cell + "\nend 1\n");
         folder.write("a.xlsx", "old");
         const auto result = program::run({"sheet", "convert", file, folder / "a.xlsx"});
         EXPECT_EQ(result.exitCode, 1);

@@ -409,9 +409,14 @@ TEST_F(VorSpreadTest, PicturesGiveTheirRowsHeight) {
                            24);
     EXPECT_TRUE(spread.setPictureCell(1, 2, folder.write("photo.jpg", jpeg)));
     EXPECT_EQ(spread.rowHeightInPixels(2), 80);
+    const std::string gif("GIF89a\x2C\1\x3C\0\x80\0\0", 13);
+    EXPECT_TRUE(spread.setPictureCell(1, 2, folder.write("cut.gif", gif.substr(0, 9))));
+    EXPECT_EQ(spread.rowHeightInPixels(2), 80);
+    EXPECT_TRUE(spread.setPictureCell(1, 2, folder.write("sketch.gif", gif)));
+    EXPECT_EQ(spread.rowHeightInPixels(2), 60);
     bitmap.replace(22, 4, std::string("\0\0\0\x80", 4));
     EXPECT_TRUE(spread.setPictureCell(1, 2, folder.write("endless.bmp", bitmap)));
-    EXPECT_EQ(spread.rowHeightInPixels(2), 80) << "no picture has 2^31 lines";
+    EXPECT_EQ(spread.rowHeightInPixels(2), 60) << "no picture has 2^31 lines";
     EXPECT_TRUE(spread.setIconCell(1, 1, 251, false));
     EXPECT_EQ(spread.grid().look(1, 1).type.picture, 251);
 }

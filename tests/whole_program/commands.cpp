@@ -84,8 +84,11 @@ Files filesIn(const std::filesystem::path& folder) {
             files[name + "/"];
             continue;
         }
+        std::string& content = files[name];
+        content.resize(entry.file_size());
         std::ifstream file(entry.path(), std::ios::binary);
-        files[name] = {std::istreambuf_iterator<char>(file), {}};
+        file.read(content.data(), static_cast<std::streamsize>(content.size()));
+        content.resize(static_cast<size_t>(file.gcount()));
     }
     return files;
 }

@@ -123,12 +123,12 @@ TEST_F(SectionEditing, WhatWasTypedIsKeptUntilTheTableCanBeWritten) {
         std::filesystem::remove(folder);
         std::filesystem::rename(away, folder);
     };
-    press(addSize, {type, answers("Cancel", "cannot create folder")});
+    press(addSize, {type, answers("Cancel", "Not a directory")});
     clearTheWay();
     EXPECT_FALSE(sizes().contains("225"));
-    press(addSize, {type, answers("Retry", "cannot create folder"), [&](QWidget& question) {
+    press(addSize, {type, answers("Retry", "Not a directory"), [&](QWidget& question) {
                         clearTheWay();
-                        answers("Retry", "cannot create folder")(question);
+                        answers("Retry", "Not a directory")(question);
                     }});
     EXPECT_TRUE(sizes().contains("225"));
 }

@@ -141,13 +141,14 @@ ExitCode setMapping(const SetMappingRequest& request) {
     if (!macro) return ExitCode::failed;
 
     Vor_String failure;
-    if (!readMappingLines(standard->name, &failure) &&
-        ObjectExportFileExists(mappingFilePath(standard->name))) {
+    // Read once: what a second reading missed would be written away.
+    const auto lines = readMappingLines(standard->name, &failure);
+    if (!lines && ObjectExportFileExists(mappingFilePath(standard->name))) {
         complainText(failure);
         return ExitCode::failed;
     }
     TwSSMapping stored;
-    if (!key->isEmpty()) (void)stored.getMappingFromFile(standard->name, *key);
+    if (lines && !key->isEmpty()) (void)stored.getMappingFromLines(*lines, *key);
     SheetChoices choices(standard->declared, stored, macro->objects);
     Assigning assigning(choices, macro->objects);
     for (const std::string& assignment : request.assignments) {

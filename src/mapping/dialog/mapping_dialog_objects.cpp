@@ -47,10 +47,9 @@ ErrorStatus TwMappingDlg::loadChoices(AttachedSheet& sheet) {
         return Acad::eInvalidInput;
     }
     Vor_String unreadable;
-    if (!readMappingLines(sheet.name, &unreadable) &&
-        ObjectExportFileExists(mappingFilePath(sheet.name)))
-        warn(21540, unreadable);
-    (void)m_stored.getMappingFromFile(sheet.name, sheet.key);
+    const auto lines = readMappingLines(sheet.name, &unreadable);
+    if (!lines && ObjectExportFileExists(mappingFilePath(sheet.name))) warn(21540, unreadable);
+    if (lines) (void)m_stored.getMappingFromLines(*lines, sheet.key);
     sheet.choices.emplace(*declared, m_stored, m_all);
     return Acad::eOk;
 }
