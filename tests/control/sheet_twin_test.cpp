@@ -4,19 +4,33 @@
 #include <gtest/gtest.h>
 
 #include <cstdlib>
+#include <numeric>
 #include <random>
+#include <vector>
 
 namespace {
+
+unsigned fromEnvironment(const char* name, unsigned otherwise) {
+    const char* given = std::getenv(name);
+    return given ? static_cast<unsigned>(std::strtoul(given, nullptr, 10)) : otherwise;
+}
+
+// The first few, and those far out that once found what no other did: VORMANT_TWIN_RUNS tries so
+// many instead, from VORMANT_TWIN_FIRST on.
+std::vector<unsigned> seeds() {
+    std::vector<unsigned> seeds(fromEnvironment("VORMANT_TWIN_RUNS", 300));
+    std::iota(seeds.begin(), seeds.end(), fromEnvironment("VORMANT_TWIN_FIRST", 1));
+    if (!std::getenv("VORMANT_TWIN_RUNS")) seeds.insert(seeds.end(), {586, 797, 1204, 1360, 1378});
+    return seeds;
+}
 
 class SheetTwinTest : public testing::TestWithParam<bool> {};
 
 TEST_P(SheetTwinTest, EveryEditLeavesWhatAFreshSheetGives) {
-    constexpr unsigned runs = 400;
     constexpr int steps = 60;
-    const char* given = std::getenv("VORMANT_TWIN_RUNS");
-    const unsigned last = given ? static_cast<unsigned>(std::atoi(given)) : runs;
     int failures = 0;
-    for (unsigned seed = 1; seed <= last && failures < 3; ++seed) {
+    for (const unsigned seed : seeds()) {
+        if (failures == 3) break;
         std::mt19937 random(seed);
         twin::Twins twins(
             [&](int n) { return static_cast<int>(random() % static_cast<unsigned>(n)); },

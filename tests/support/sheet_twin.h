@@ -356,6 +356,7 @@ class Twins {
         } else {
             isDone = m_grid.setFormula(c, r, text);
         }
+        if (isDone && !m_asUser && !made.isArray) m_calculated = Place(c, r);
         if (isDone) m_twin.set(c, r, std::move(made));
         return say("formula", {c, r}, isDone) + " =" + text;
     }

@@ -14,6 +14,10 @@ void Sheet::setAutomatic(bool on) {
 void Sheet::touched(int col, int row) {
     if (m_liveFormulas == 0) return;
     touchedQuietly(col, row);
+    follow();
+}
+
+void Sheet::follow() {
     if (m_automatic) {
         recalculateDirty();
     } else if (m_changed.size() > 4096) {
@@ -85,10 +89,9 @@ void Sheet::settle() {
 bool Sheet::recalculateCell(int col, int row) {
     Cell* cell = m_cells.find(col, row);
     if (!cell || !cell->formula) return false;
-    settle();
     m_isStopped = false;
     m_cells.setDirty(col, row, *cell, true);
-    calculate(cell->formula);
+    calculateChanged(cell->formula);
     return true;
 }
 
@@ -198,6 +201,16 @@ void Sheet::calculate(uint32_t first) {
     if (m_isStopped) m_dirtied.push_back(first);
 }
 
+// Calculates a formula that is new or may give something else now. What reads its cell is dirty
+// before, not after: else a circle through the cell would read what the cell showed last.
+void Sheet::calculateChanged(uint32_t id) {
+    const FormulaSlot& slot = m_slots[id];
+    touchedQuietly(slot.col, slot.row);
+    if (m_automatic) settle();
+    calculate(id);
+    follow();
+}
+
 // Goes through the formulas that wait as one goes through a graph for its circles: a formula is
 // done when all it waits for are. Formulas that lead to each other stay in m_waiting until it is
 // clear which of them is the first, and then are one circle, wherever calculating began. One that
@@ -230,7 +243,7 @@ void Sheet::wait(size_t bottom, uint32_t top) {
             Waiting& waiting = m_waiting[top];
             waiting.isRough = waiting.isRough || waiting.isBlocked;
             waiting.isBlocked = waiting.hasProgress = false;
-            meetDirty();
+            meetDirty(waiting);
         }
     }
 }
@@ -242,12 +255,15 @@ uint32_t Sheet::beginWaiting(uint32_t id, uint32_t parent) {
     if (m_places.size() < m_slots.size()) m_places.resize(m_slots.size());
     m_places[id] = place;
     m_slots[id].inProgress = true;
-    meetDirty();
+    meetDirty(m_waiting[place]);
     return place;
 }
 
-// Every dirty formula that the last run met.
-void Sheet::meetDirty() {
+// Every dirty formula that the last run of `waiting` met. Of what was met before changes were
+// followed, nobody knew whether it was dirty: a run that did not read what is up to date says
+// nothing about circles.
+void Sheet::meetDirty(Waiting& waiting) {
+    if (m_calculation.m_unsettled) waiting.hasProgress = true;
     settle();
     for (const Area& area : m_calculation.m_dirtyAreas)
         m_cells.each(area, [&](int, int, const Cell& cell) {

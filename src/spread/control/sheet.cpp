@@ -177,8 +177,7 @@ void Sheet::place(int col, int row, const ProgramRef& program, TextBlock* text, 
     m_resultText += textSize(cell);
     m_cells.setDirty(col, row, cell, true);
     m_isStopped = false;
-    calculate(id);
-    touched(col, row);
+    calculateChanged(id);
 }
 
 void Sheet::loadFormula(int col, int row, std::string_view text, const Value& cached,

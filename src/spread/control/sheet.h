@@ -104,7 +104,8 @@ class Sheet {
     /// Follows every change at once when on; going on brings everything up to date.
     void setAutomatic(bool on);
     bool isAutomatic() const { return m_automatic; }
-    /// Calculates the cell's formula, after the dirty ones that it reads. False without a formula.
+    /// Calculates the cell's formula, after the dirty ones that it reads; what reads the cell
+    /// becomes dirty. False without a formula.
     bool recalculateCell(int col, int row);
     /// Every formula.
     void recalculate();
@@ -158,7 +159,7 @@ class Sheet {
         uint32_t low;       // the lowest index that it leads to
         uint32_t firstMet;  // where those that it waits for begin in m_met
         bool isBlocked;     // one that it waits for waits itself
-        bool hasProgress;   // one that it waited for is done
+        bool hasProgress;   // one that it waited for is done, or was so before
         bool isRough;       // it was run again in between: `low` may be lower than it need be
     };
     static constexpr uint32_t nobody = static_cast<uint32_t>(-1);
@@ -173,6 +174,7 @@ class Sheet {
 
     // Following changes (recalculation.cpp).
     void touched(int col, int row);
+    void follow();
     void touchedQuietly(int col, int row) {
         if (m_liveFormulas == 0) return;
         m_changed.push_back({col, row});
@@ -189,8 +191,9 @@ class Sheet {
         return cell.type == ValueType::text ? cell.text->size : 0;
     }
     void calculate(uint32_t first);
+    void calculateChanged(uint32_t id);
     uint32_t beginWaiting(uint32_t id, uint32_t parent);
-    void meetDirty();
+    void meetDirty(Waiting& waiting);
     void wait(size_t bottom, uint32_t top);
     uint32_t endWaiting(uint32_t top);
     void markCircle(uint32_t root);
@@ -203,6 +206,7 @@ class Sheet {
     void replaceText(FormulaSlot& slot, std::string_view text);
     void touchAll(const Area& area);
     void carryFormula(int col, int row, int cols, int rows);
+    std::string carriedText(std::string_view text, CellAddress from, CellAddress to) const;
 
     CellStore m_cells;
     std::vector<FormulaSlot> m_slots;  // index 0 stays unused

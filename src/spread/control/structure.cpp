@@ -200,6 +200,16 @@ void Sheet::swapCols(int first, int other, int count) {
     if (m_automatic) recalculateDirty();
 }
 
+// In the notation of the sheet.
+std::string Sheet::carriedText(std::string_view text, CellAddress from, CellAddress to) const {
+    using formula::convertStyle;
+    constexpr formula::ReferenceStyle a1 = formula::ReferenceStyle::a1;
+    const auto plain = convertStyle(text, m_style, a1, from.col, from.row);
+    const std::string carried =
+        carriedFormula(plain ? *plain : text, to.col - from.col, to.row - from.row);
+    return convertStyle(carried, a1, m_style, to.col, to.row).value_or(carried);
+}
+
 void Sheet::copyCell(CellAddress from, CellAddress to) {
     const Cell* source = m_cells.find(from.col, from.row);
     if (!source || source->isBlank()) {
@@ -208,17 +218,15 @@ void Sheet::copyCell(CellAddress from, CellAddress to) {
     }
     const uint16_t look = source->look;
     if (source->formula) {
-        const formula::ReferenceStyle style = m_style;
-        writeFormulasIn(formula::ReferenceStyle::a1);
+        // Nothing else changes its notation meanwhile: the copy is calculated at once, and
+        // FORMULATEXT reads it.
         const FormulaSlot& slot = m_slots[source->formula];
         const bool isArray = slot.isArray;
-        const std::string text =
-            carriedFormula(slot.text->view(), to.col - from.col, to.row - from.row);
+        const std::string text = carriedText(slot.text->view(), from, to);
         ParseError error;
         if (isArray ? !setArrayFormula(to.col, to.row, text, error)
                     : !setFormula(to.col, to.row, text, error))
             putFormula(to.col, to.row, text, Value(), isArray);
-        writeFormulasIn(style);
     } else {
         setValue(to.col, to.row, source->value());
     }
