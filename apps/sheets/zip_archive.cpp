@@ -65,7 +65,7 @@ void ZipArchive::appendHeader(const Entry& entry, bool isCentral) {
     appendNumber(m_bytes, entry.name.size(), 2);
     appendNumber(m_bytes, 0, 2);
     if (isCentral) {
-        appendNumber(m_bytes, 0, 10);  // no comment, first disk, no attributes
+        m_bytes.append(10, '\0');  // no comment, first disk, no attributes
         appendNumber(m_bytes, entry.offset, 4);
     }
     m_bytes += entry.name;

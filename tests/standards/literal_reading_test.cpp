@@ -77,7 +77,8 @@ TEST(LiteralReading, HoldsForTextsHandedFromEquationToEquation) {
             {"Note", TwCellType::output, TwValueType::String, ""},
             {"Same", TwCellType::output, TwValueType::String, "given"},
             {"Length", TwCellType::output, TwValueType::Double, ""}};
-        CompareRuns runs(path, given, {});
+        const GenValues noGenVariables;  // borrowed for as long as `runs` lives
+        CompareRuns runs(path, given, noGenVariables);
         EXPECT_EQ(runs.difference(), "") << width;
         EXPECT_TRUE(runs.wentWell());
     }
