@@ -1,6 +1,7 @@
 #include "spread/control/cells.h"
 
 #include <new>
+#include <utility>
 
 namespace control {
 
@@ -34,8 +35,8 @@ CellStore& CellStore::operator=(CellStore&& other) noexcept {
         clear();
         m_columns = std::move(other.m_columns);
         other.m_columns.clear();
-        refreshViews();
-        other.refreshViews();
+        m_views = std::move(other.m_views);
+        m_viewCount = std::exchange(other.m_viewCount, 0);
     }
     return *this;
 }
@@ -92,20 +93,20 @@ CellStore::Block& CellStore::obtainBlock(int col, int row) {
     const auto c = static_cast<size_t>(col);
     const auto b = static_cast<size_t>(row - 1) >> blockShift;
     if (c >= m_columns.size()) m_columns.resize(c + 1);
+    // Before a column moves, as this may find no memory and the views would lead to where it was.
+    if (m_viewCount != m_columns.size()) refreshViews();
     Column& column = m_columns[c];
     if (b >= column.size()) column.resize(b + 1);
-    if (m_viewCount != m_columns.size() || m_views[c].rows != column.size() << blockShift ||
-        m_views[c].blocks != column.data())
+    if (m_views[c].rows != column.size() << blockShift || m_views[c].blocks != column.data())
         refreshViews();
     if (!column[b]) column[b] = std::make_unique<Block>();
     return *column[b];
 }
 
 void CellStore::refreshViews() {
-    if (m_viewCount != m_columns.size()) {
-        m_viewCount = static_cast<uint32_t>(m_columns.size());
-        m_views = std::make_unique<View[]>(m_viewCount);
-    }
+    // Fewer columns take no memory: they come about where it has run out, too.
+    if (m_columns.size() > m_viewCount) m_views = std::make_unique<View[]>(m_columns.size());
+    m_viewCount = static_cast<uint32_t>(m_columns.size());
     for (size_t c = 0; c < m_columns.size(); ++c)
         m_views[c] = {m_columns[c].data(),
                       static_cast<uint32_t>(m_columns[c].size() << blockShift)};
@@ -191,6 +192,7 @@ void CellStore::insertCols(int at, int count) {
     const auto columns =
         std::min<size_t>(m_columns.size() + static_cast<size_t>(count), formula::maxCols + 1);
     std::vector<Column> moved(columns);
+    auto views = std::make_unique<View[]>(columns);
     for (size_t c = 1; c < m_columns.size(); ++c) {
         const size_t target = static_cast<int>(c) < at ? c : c + static_cast<size_t>(count);
         if (target < columns) {
@@ -201,6 +203,8 @@ void CellStore::insertCols(int at, int count) {
         }
     }
     m_columns = std::move(moved);
+    m_views = std::move(views);
+    m_viewCount = static_cast<uint32_t>(columns);
     refreshViews();
 }
 

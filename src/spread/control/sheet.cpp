@@ -280,11 +280,14 @@ void Sheet::writeFormulasIn(ReferenceStyle style) {
 
 void Sheet::addCustomFunction(const formula::CustomFunction* function) {
     m_customReplaces |= formula::findFunction(function->name) != nullptr;
-    const int known = m_customNames.add(function->name, static_cast<int>(m_custom.size()));
-    if (known < 0)
-        m_custom.push_back(function);
-    else
+    // In this order a name leads to a function even where memory runs out in between.
+    const auto place = static_cast<int>(m_custom.size());
+    m_custom.push_back(function);
+    const int known = m_customNames.add(function->name, place);
+    if (known >= 0) {
+        m_custom.pop_back();
         m_custom[static_cast<size_t>(known)] = function;
+    }
     if (!m_unknown.empty()) compileUnknown();
 }
 

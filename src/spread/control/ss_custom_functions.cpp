@@ -122,8 +122,6 @@ const formula::CustomFunction* registered(std::string_view name, int least, int 
         if (r.callback == callback && r.flags == flags && r.least == least && r.most == most &&
             r.name == name)
             return r.function;
-    Registered& added =
-        known->emplace_back(Registered{std::string(name), least, most, flags, callback, nullptr});
     formula::CustomFunction function;
     function.name = encodings::uppered(name);
     function.least = least;
@@ -132,7 +130,14 @@ const formula::CustomFunction* registered(std::string_view name, int least, int 
     function.call = [callback](Calculation& calculation, std::span<const Value> args) {
         return callBack(callback, calculation, args);
     };
-    added.function = control::internCustomFunction(std::move(function), &added);
+    Registered& added =
+        known->emplace_back(Registered{std::string(name), least, most, flags, callback, nullptr});
+    try {
+        added.function = control::internCustomFunction(std::move(function), &added);
+    } catch (...) {
+        known->pop_back();  // nobody may find it without its function
+        throw;
+    }
     return added.function;
 }
 
