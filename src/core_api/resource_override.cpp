@@ -1,13 +1,12 @@
 #include "core_api/resource_override.h"
 
-#include <utility>
-
 // Needs no code to come to life: libraries attach before main().
 constinit TwTempResourceOverride gResourceOverride;
 
 bool TwTempResourceOverride::SetDefaultResource() {
     if (!m_default) return false;
-    m_originals.push_back(std::exchange(m_current, m_default));
+    m_originals.push_back(m_current);  // first, as it may find no memory
+    m_current = m_default;
     return true;
 }
 

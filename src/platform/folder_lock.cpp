@@ -6,6 +6,7 @@
 
 #include <cerrno>
 #include <thread>
+#include <utility>
 
 #include "platform/file_error.h"
 
@@ -38,13 +39,6 @@ std::shared_ptr<FolderLock> FolderLock::heldByThread(const struct stat& folder) 
     return nullptr;
 }
 
-std::shared_ptr<FolderLock> FolderLock::make(int descriptor, const struct stat& folder) {
-    std::shared_ptr<FolderLock> lock(new FolderLock(descriptor, folder.st_dev, folder.st_ino));
-    lock->m_older = newestHeld;
-    newestHeld = lock.get();
-    return lock;
-}
-
 std::shared_ptr<FolderLock> FolderLock::take(const std::string& folder,
                                              std::chrono::milliseconds patience, int& code) {
     const char* path = folder.empty() ? "." : folder.c_str();
@@ -56,29 +50,40 @@ std::shared_ptr<FolderLock> FolderLock::take(const std::string& folder,
             return nullptr;
         }
         if (auto held = heldByThread(status)) return held;
-        const int descriptor = ::open(path, O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-        code = descriptor < 0 ? errno : lockUntil(descriptor, end);
+        // Before the folder is open, so that no memory that runs out leaves it locked.
+        std::shared_ptr<FolderLock> lock(new FolderLock);
+        lock->m_descriptor = ::open(path, O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+        code = lock->m_descriptor < 0 ? errno : lockUntil(lock->m_descriptor, end);
         struct stat locked {};
         // Whoever held it may have removed the folder, and somebody else made a new one.
-        if (code == 0 && (::fstat(descriptor, &locked) != 0 || ::stat(path, &status) != 0 ||
-                          locked.st_ino != status.st_ino || locked.st_dev != status.st_dev)) {
-            ::close(descriptor);
+        if (code == 0 && (::fstat(lock->m_descriptor, &locked) != 0 || ::stat(path, &status) != 0 ||
+                          locked.st_ino != status.st_ino || locked.st_dev != status.st_dev))
             continue;
-        }
-        if (code == 0) return make(descriptor, locked);
-        if (descriptor >= 0) ::close(descriptor);
         if (code == ENOENT) continue;  // removed just now
         if (code == ENOTDIR || code == folderIsBusy) return nullptr;
+        if (code != 0) lock->close();  // it cannot be opened, or its disk has no locks
         code = 0;
-        return make(-1, status);  // it cannot be opened, or its disk has no locks
+        lock->hold(status);
+        return lock;
     }
+}
+
+void FolderLock::hold(const struct stat& folder) {
+    m_device = folder.st_dev;
+    m_number = folder.st_ino;
+    m_older = std::exchange(newestHeld, this);
+}
+
+void FolderLock::close() {
+    if (m_descriptor >= 0) ::close(m_descriptor);
+    m_descriptor = -1;
 }
 
 FolderLock::~FolderLock() {
     FolderLock** held = &newestHeld;
     while (*held && *held != this) held = &(*held)->m_older;
     if (*held) *held = m_older;
-    if (m_descriptor >= 0) ::close(m_descriptor);
+    close();
 }
 
 }  // namespace files

@@ -24,14 +24,14 @@ class FolderLock : public std::enable_shared_from_this<FolderLock> {
     FolderLock& operator=(const FolderLock&) = delete;
 
   private:
-    FolderLock(int descriptor, dev_t device, ino_t number)
-        : m_descriptor(descriptor), m_device(device), m_number(number) {}
+    FolderLock() = default;
     static std::shared_ptr<FolderLock> heldByThread(const struct stat& folder);
-    static std::shared_ptr<FolderLock> make(int descriptor, const struct stat& folder);
+    void hold(const struct stat& folder);
+    void close();
 
-    int m_descriptor;
-    dev_t m_device;
-    ino_t m_number;
+    int m_descriptor = -1;
+    dev_t m_device = 0;
+    ino_t m_number = 0;
     FolderLock* m_older = nullptr;  ///< that the thread holds too
 };
 

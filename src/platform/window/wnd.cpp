@@ -1,6 +1,7 @@
 #include "platform/window/wnd.h"
 
 #include <algorithm>
+#include <new>
 #include <utility>
 
 #include "platform/window/controls.h"
@@ -14,14 +15,22 @@ CWnd* capturedWindow = nullptr;
 MessageScope* innermostMessage = nullptr;
 
 // Never destroyed: windows that are globals go at the very end.
+/// There from the beginning, without memory of its own, to the very end: windows go late.
+template <class List>
+union Lasting {
+    constexpr Lasting() : list() {}
+    ~Lasting() {}
+    List list;
+};
+
 std::vector<CWnd*>& leavingWindows() {
-    static auto& windows = *new std::vector<CWnd*>;
-    return windows;
+    static constinit Lasting<std::vector<CWnd*>> windows;
+    return windows.list;
 }
 
 std::vector<std::unique_ptr<CWnd>>& retiredWindows() {
-    static auto& windows = *new std::vector<std::unique_ptr<CWnd>>;
-    return windows;
+    static constinit Lasting<std::vector<std::unique_ptr<CWnd>>> windows;
+    return windows.list;
 }
 
 /// Takes the first that is not busy out of `windows`; null when there is none.
@@ -98,7 +107,11 @@ bool CWnd::destroy() {
 void CWnd::destroyNow() {
     if (!m_isCreated) return;
     std::erase(leavingWindows(), this);
-    onDestroy();
+    try {
+        onDestroy();
+    } catch (const std::bad_alloc&) {
+        // It goes all the same, where memory has run out: without keeping its size, say.
+    }
     while (!m_children.empty()) {
         CWnd& child = *m_children.back();
         if (!child.isBusy()) {
