@@ -1,5 +1,9 @@
 #include "frame/entry_point.h"
 
+#include <new>
+#include <utility>
+
+#include "core_api/dialogs/no_memory.h"
 #include "core_api/resource_override.h"
 #include "frame/starters.h"
 #include "platform/host/host.h"
@@ -16,8 +20,9 @@ void initialise(void* application) {
         linker->unlockApplication(application);
         linker->registerAppMDIAware(application);
     }
-    gBitmapChecked = bitmapResource(bitmapChecked);
-    gBitmapUnchecked = bitmapResource(bitmapUnchecked);
+    CBitmap checked = bitmapResource(bitmapChecked), unchecked = bitmapResource(bitmapUnchecked);
+    gBitmapChecked = std::move(checked);  // both or none
+    gBitmapUnchecked = std::move(unchecked);
 }
 
 void unload() {
@@ -29,7 +34,7 @@ void unload() {
 
 }  // namespace
 
-AcRx::AppRetCode acrxEntryPoint(AcRx::AppMsgCode message, void* application) {
+AcRx::AppRetCode acrxEntryPoint(AcRx::AppMsgCode message, void* application) try {
     switch (message) {
         case AcRx::kInitAppMsg:
             initialise(application);
@@ -38,5 +43,8 @@ AcRx::AppRetCode acrxEntryPoint(AcRx::AppMsgCode message, void* application) {
             unload();
             break;
     }
+    return AcRx::kRetOK;
+} catch (const std::bad_alloc&) {
+    noMemoryForDialog();
     return AcRx::kRetOK;
 }

@@ -1,11 +1,15 @@
 // What other modules ask of a designed dialog without opening it.
+#include <new>
+#include <utility>
+
+#include "core_api/dialogs/no_memory.h"
 #include "core_api/files.h"
 #include "core_api/library_names.h"
 #include "designer/designer_templates.h"
 #include "frame/starters.h"
 #include "platform/host/host.h"
 
-bool GetImageDlgCtrlNames(const Vor_String& dialog, Vor_StringArray& names) {
+bool GetImageDlgCtrlNames(const Vor_String& dialog, Vor_StringArray& names) try {
     const bool isFile = mayBeOwnPath(dialog) && ObjectExportFileExists(dialog);
     const Vor_String path = isFile ? dialog : getDesignerRootFolder() + dialog + ".txt";
     if (const auto refusal = outsideRefusal(path)) {
@@ -18,8 +22,11 @@ bool GetImageDlgCtrlNames(const Vor_String& dialog, Vor_StringArray& names) {
         acutPrint(message.str() + "\n");
         return false;
     }
-    names = Vor_StringArray();
+    Vor_StringArray variables;
     for (const Vor_DesignerControl& control : controls)
-        if (control.type == ctVarEdit) names.append(control.contents);
+        if (control.type == ctVarEdit) variables.append(control.contents);
+    names = std::move(variables);
     return true;
+} catch (const std::bad_alloc&) {
+    return noMemoryForDialog();
 }

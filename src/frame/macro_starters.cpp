@@ -112,14 +112,16 @@ void eraseObjects(const MacroData& data, AcDbObjectId created) {
 }  // namespace
 
 void StartDlgMacroProfAdv(MacroData& data, const Vor_String& tab, const Vor_String& group,
-                          bool showsMember) {
+                          bool showsMember) try {
     ShownProfAdvDialog dialog(showsMember);
     AdvancedProfiles profiles{data, tab, group};
     if (runDialog(dialog, profiles)) data = profiles.macro;
     eraseObjects(data, dialog.createdObject());
+} catch (const std::bad_alloc&) {
+    noMemoryForDialog();
 }
 
-void StartDlgMacroProfAdv(AcArray<AcDbObjectId>* objects, bool& forAll, TwMACallBack callBack) {
+void StartDlgMacroProfAdv(AcArray<AcDbObjectId>* objects, bool& forAll, TwMACallBack callBack) try {
     if (!objects || objects->isEmpty()) return;
     const ResourceOverrideScope resources;
     TwMACallBackData request{*objects, forAll};
@@ -131,6 +133,8 @@ void StartDlgMacroProfAdv(AcArray<AcDbObjectId>* objects, bool& forAll, TwMACall
     forAll = dialog.data().forAll;
     request.forAll = forAll;
     if (isOk && callBack) callBack(TwMACallBackType::apply, request, profile.properties);
+} catch (const std::bad_alloc&) {
+    noMemoryForDialog();
 }
 
 bool StartEditProfCutsDlg(DlgProfCutsData& data) try {

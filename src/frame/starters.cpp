@@ -12,16 +12,6 @@
 #include "frame/string_array_dialog.h"
 #include "platform/host/host.h"
 
-bool noMemoryForDialog() {
-    constexpr int noMemoryText = 21006;
-    try {
-        acutPrintf("%s\n", dialString(noMemoryText).str().c_str());
-    } catch (const std::bad_alloc&) {
-        // There is not even enough to say so.
-    }
-    return false;
-}
-
 bool StartDlgCSP2(DlgCSP2Data& data) try {
     return startDialog<CSP2Dialog>(data);
 } catch (const std::bad_alloc&) {
@@ -98,12 +88,14 @@ void StartDSTVPointsDlg() try {
     noMemoryForDialog();
 }
 
-bool StartDlgDesigner(const Vor_String& path) {
+bool StartDlgDesigner(const Vor_String& path) try {
     constexpr int titleText = 21005, missingText = 21004;
     const ResourceOverrideScope resources;
     const Vor_String file = path.isEmpty() ? Vor_String() : "\n" + path;
     showWarning(dialString(titleText), dialString(missingText) + file);
     return false;
+} catch (const std::bad_alloc&) {
+    return noMemoryForDialog();
 }
 
 bool startGridDialog(const Vor_StringArray& columns, const Vor_StringArray& choices,
@@ -122,16 +114,18 @@ bool startGridDialog(const Vor_StringArray& columns, const Vor_StringArray& choi
 
 bool StartDlgSelectMacro(const Vor_String& title, const Vor_StringArray& macros,
                          const int& previewWidth, const int& previewHeight, Vor_String& macro,
-                         bool& isAlternative, bool explains) {
+                         bool& isAlternative, bool explains) try {
     AcArray<bool> enabled;
     for (int i = 0; i < macros.length(); ++i) enabled.append(true);
     return StartDlgSelectMacro(title, macros, enabled, previewWidth, previewHeight, macro,
                                isAlternative, explains);
+} catch (const std::bad_alloc&) {
+    return noMemoryForDialog();
 }
 
 bool StartDlgSelectMacro(const Vor_String& title, const Vor_StringArray& macros,
                          const AcArray<bool>& enabled, const int&, const int&, Vor_String& macro,
-                         bool& isAlternative, bool) {
+                         bool& isAlternative, bool) try {
     const ResourceOverrideScope resources;
     MacroChoice choice;
     Vor_StringArray files;
@@ -149,6 +143,8 @@ bool StartDlgSelectMacro(const Vor_String& title, const Vor_StringArray& macros,
     macro = isChosen ? files[choice.chosen] : Vor_String();
     isAlternative = choice.isAlternative;
     return true;
+} catch (const std::bad_alloc&) {
+    return noMemoryForDialog();
 }
 
 // --- the section library ------------------------------------------------------------------------

@@ -6,6 +6,7 @@
 #include <new>
 #include <utility>
 
+#include "core_api/dialogs/no_memory.h"
 #include "core_api/resource_override.h"
 #include "platform/window/message_box.h"
 
@@ -22,9 +23,6 @@ bool runDialog(Dialog& dialog, Data& data, CopyBack copyBack = CopyBack::onOk) {
     }
     return isOk;
 }
-
-/// Prints that there was no memory for a dialog. False, for the starter to hand on.
-bool noMemoryForDialog();
 
 /// The common starter: a dialog of the module's own resources.
 template <class Dialog, class Data>

@@ -3,6 +3,7 @@
 #include <new>
 #include <utility>
 
+#include "core_api/dialogs/no_memory.h"
 #include "core_api/macros/macro_data.h"
 #include "mapping/dialog/mapping_dialog.h"
 #include "platform/host/host.h"
@@ -16,7 +17,7 @@ bool startMappingDialog(TabMappingData& data, const TwSSMapping& all, bool& chan
     data = std::move(chosen);
     return true;
 } catch (const std::bad_alloc&) {
-    return false;
+    return noMemoryForDialog();
 }
 
 bool startMappingDialog(Vor_DbMacro& macro, bool& changed) try {
@@ -28,5 +29,5 @@ bool startMappingDialog(Vor_DbMacro& macro, bool& changed) try {
     macro.macroWrite()->setStandards(data);
     return true;
 } catch (const std::bad_alloc&) {
-    return false;
+    return noMemoryForDialog();
 }

@@ -1,10 +1,13 @@
 #include "spread/formulas/formulas_starters.h"
 
+#include <new>
+
+#include "core_api/dialogs/no_memory.h"
 #include "core_api/resource_override.h"
 #include "platform/window/host_window.h"
 #include "spread/formulas/formulas_dialog.h"
 
-void EvaluateSS() {
+void EvaluateSS() try {
     const ResourceOverrideScope resources;
     TwFormulasDlg dialog(livingMainWindow());
     dialog.mode = TwFormulasDlg::Mode::evaluateCell;
@@ -12,10 +15,12 @@ void EvaluateSS() {
     dialog.cellColumn = 1;
     dialog.cellRow = 1;
     dialog.doModal();
+} catch (const std::bad_alloc&) {
+    noMemoryForDialog();
 }
 
 bool ReadSSFile(const Vor_String& path, Vor_String& title, Vor_StringArray& header,
-                Vor_Array<Vor_StringArray>& rows) {
+                Vor_Array<Vor_StringArray>& rows) try {
     const ResourceOverrideScope resources;
     TwFormulasDlg dialog(livingMainWindow());
     dialog.mode = TwFormulasDlg::Mode::readFile;
@@ -25,4 +30,9 @@ bool ReadSSFile(const Vor_String& path, Vor_String& title, Vor_StringArray& head
     dialog.doModal();
     title = dialog.title;
     return dialog.isLoaded();
+} catch (const std::bad_alloc&) {
+    title.clear();
+    header.clear();
+    rows.clear();
+    return noMemoryForDialog();
 }
