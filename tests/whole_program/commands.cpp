@@ -19,6 +19,11 @@ Command inLibrary(std::string name, std::vector<std::string> arguments, std::str
     return {std::move(name), std::move(arguments), std::move(input)};
 }
 
+Command dated(Command command) {
+    command.isDated = true;
+    return command;
+}
+
 }  // namespace
 
 const std::vector<Command>& writingCommands() {
@@ -39,16 +44,16 @@ const std::vector<Command>& writingCommands() {
         inLibrary("mapping set --attach",
                   {"mapping", "set", "EndPlate", "--macro", "library/Macros/EndPlate.macro",
                    "--key", "Other", "--attach", "PlateWidth=Plate.Height"}),
-        inLibrary("bill as document", {"bill", "EndPlate", "--pictures", "-o", "there.sss"}),
+        dated(inLibrary("bill as document", {"bill", "EndPlate", "--pictures", "-o", "there.sss"})),
         inLibrary("bill as workbook", {"bill", "EndPlate", "--pictures", "-o", "there.xlsx"}),
         inLibrary("bill as csv", {"bill", "table.csv", "--group", "Phase", "-o", "there.csv"}),
-        inLibrary("bill in another language",
-                  {"bill", "EndPlate", "--language", "de", "--title", "T", "-o", "new.tws"}),
+        dated(inLibrary("bill in another language",
+                        {"bill", "EndPlate", "--language", "de", "--title", "T", "-o", "new.tws"})),
         inLibrary("sections import", {"sections", "import", "flats.json", "FLATS"}),
         inLibrary("sections import --force", {"sections", "import", "flats.json", "FL", "--force"}),
         inLibrary("sections export", {"sections", "export", "FL", "there.csv"}),
         inLibrary("sections export as JSON", {"sections", "export", "FL", "there.json"}),
-        inLibrary("sections find", {"sections", "find", "h>=200", "--json"}),
+        inLibrary("sections find", {"sections", "find", "name=IPE 2*", "--json"}),
         inLibrary("cutstock import --new", {"cutstock", "import", "-", "HEA-220", "shp", "--new"},
                   "12000,4\n6000,2\n"),
         inLibrary("cutstock import --force",
@@ -108,8 +113,9 @@ void Workplace::reset() {
 }
 
 program::Result Workplace::run(const Command& command, std::vector<std::string> environment) const {
-    environment.insert(environment.end(), {"SOURCE_DATE_EPOCH=1700000000", "TMPDIR=" + path("tmp"),
-                                           "HOME=" + path("tmp"), "QT_QPA_PLATFORM=offscreen"});
+    if (command.isDated) environment.push_back("SOURCE_DATE_EPOCH=1700000000");
+    environment.insert(environment.end(), {"TMPDIR=" + path("tmp"), "HOME=" + path("tmp"),
+                                           "QT_QPA_PLATFORM=offscreen"});
     return program::run({.program = command.isDesktop ? VORMANT_WORKBENCH_PROGRAM : VORMANT_PROGRAM,
                          .folder = m_folder.path().string(),
                          .environment = std::move(environment)},

@@ -15,6 +15,7 @@ struct Command {
     std::vector<std::string> arguments;
     std::string input = {};
     bool isDesktop = false;  ///< of vormant-workbench
+    bool isDated = false;    ///< what it writes carries the date, which is then a fixed one
 };
 
 /// Files by their names below the workplace; folders end with a slash.
@@ -31,7 +32,7 @@ class Workplace {
     /// As it was before the first command.
     void reset();
     Files files() const { return filesIn(m_folder.path()); }
-    /// Runs with what the environment is to have beside "NAME=value" pairs that make dates fixed.
+    /// Runs with what the environment is to have beside what belongs to the workplace.
     program::Result run(const Command& command, std::vector<std::string> environment = {}) const;
     std::string path(const std::string& name) const { return m_folder / name; }
 
