@@ -4,6 +4,7 @@
 
 #include <cerrno>
 #include <cstdlib>
+#include <memory>
 #include <utility>
 #include <vector>
 
@@ -42,11 +43,11 @@ void removeEmpty(std::vector<std::string>& folders) {
 }
 
 std::optional<std::string> realPath(const std::string& machine) {
-    char* real = ::realpath(machine.empty() ? "." : machine.c_str(), nullptr);
+    // Freed also when there is no memory for the copy.
+    const std::unique_ptr<char, void (*)(void*)> real(
+        ::realpath(machine.empty() ? "." : machine.c_str(), nullptr), std::free);
     if (!real) return std::nullopt;
-    std::string resolved(real);
-    std::free(real);
-    return resolved;
+    return std::string(real.get());
 }
 
 }  // namespace

@@ -1,5 +1,4 @@
 // Listing files by pattern.
-#include <dirent.h>
 #include <sys/stat.h>
 
 #include <algorithm>
@@ -10,6 +9,7 @@
 #include "platform/encodings.h"
 #include "platform/file_error.h"
 #include "platform/files.h"
+#include "platform/folder_listing.h"
 #include "platform/paths.h"
 
 namespace files {
@@ -42,13 +42,11 @@ class Finder {
   private:
     void list(const std::string& folder) {
         const std::string machine = paths::toMachine(folder);
-        DIR* listing = ::opendir(machine.empty() ? "." : machine.c_str());
-        if (!listing) return;
-        while (const dirent* entry = ::readdir(listing)) {
-            const std::string_view name = entry->d_name;
+        FolderListing listing(machine);
+        while (const char* entry = listing.next()) {
+            const std::string_view name = entry;
             if (name != "." && name != "..") take(folder, machine, name);
         }
-        ::closedir(listing);
     }
 
     void take(const std::string& folder, const std::string& machine, std::string_view name) {

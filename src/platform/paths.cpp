@@ -1,6 +1,5 @@
 #include "platform/paths.h"
 
-#include <dirent.h>
 #include <sys/stat.h>
 
 #include <algorithm>
@@ -10,6 +9,7 @@
 #include <unordered_set>
 
 #include "platform/encodings.h"
+#include "platform/folder_listing.h"
 
 namespace paths {
 
@@ -23,16 +23,15 @@ bool existsExactly(const std::string& machine) {
 // The entry of `folder` that equals `name` but for letter case; empty when there is none.
 std::string findFolded(const std::string& folder, std::string_view name) {
     const auto wanted = encodings::fromUtf8(name);
-    DIR* listing = wanted ? ::opendir(folder.empty() ? "." : folder.c_str()) : nullptr;
-    if (!listing) return {};
+    if (!wanted) return {};
+    files::FolderListing listing(folder);
     std::string best;
-    while (const dirent* entry = ::readdir(listing)) {
-        const std::string_view found = entry->d_name;
+    while (const char* entry = listing.next()) {
+        const std::string_view found = entry;
         if (!best.empty() && found >= best) continue;
         const auto inside = encodings::fromUtf8(found);
         if (inside && encodings::equalFolded(*inside, *wanted)) best = found;
     }
-    ::closedir(listing);
     return best;
 }
 

@@ -1,6 +1,6 @@
 #include "platform/temporary_files.h"
+#include "platform/folder_listing.h"
 
-#include <dirent.h>
 #include <fcntl.h>
 #include <signal.h>
 #include <sys/file.h>
@@ -65,14 +65,12 @@ void markInUse(int descriptor) {
 }
 
 void removeLeftovers(const std::string& folder) {
-    DIR* listing = ::opendir(folder.empty() ? "." : folder.c_str());
-    if (!listing) return;
-    while (const dirent* entry = ::readdir(listing)) {
-        const auto writer = writerOf(entry->d_name);
-        const std::string file = folder + entry->d_name;
+    FolderListing listing(folder);
+    while (const char* name = listing.next()) {
+        const auto writer = writerOf(name);
+        const std::string file = folder + name;
         if (writer && isDead(*writer, file)) ::unlink(file.c_str());
     }
-    ::closedir(listing);
 }
 
 }  // namespace files
