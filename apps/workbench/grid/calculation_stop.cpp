@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QElapsedTimer>
+#include <QPointer>
 #include <QProgressDialog>
 #include <QTimer>
 #include <memory>
@@ -36,6 +37,11 @@ class OnlyFor : public QObject {
 
 class CalculationWindow {
   public:
+    CalculationWindow() = default;
+    CalculationWindow(const CalculationWindow&) = delete;
+    CalculationWindow& operator=(const CalculationWindow&) = delete;
+    ~CalculationWindow() { delete m_window; }
+
     bool mustStop() {
         const bool goesOn = m_lastQuestion.isValid() && m_lastQuestion.elapsed() < pause;
         if (!goesOn) m_begin.start();
@@ -47,26 +53,27 @@ class CalculationWindow {
             QCoreApplication::processEvents(QEventLoop::ExcludeSocketNotifiers);
         }
         m_lastQuestion.start();
-        if (!m_window->wasCanceled()) return false;
-        m_window.reset();
+        if (!m_window || !m_window->wasCanceled()) return false;
+        delete m_window;
         m_lastQuestion.invalidate();
         acutPrint(dialString(sayStopped).str() + "\n");
         return true;
     }
 
   private:
-    // Nobody tells when a calculation is done: the window goes as soon as events are handled again.
+    // Nobody tells when a calculation is done: the window goes as soon as events are handled again,
+    // or before with the window above it.
     void open() {
-        m_window = std::make_unique<QProgressDialog>(say(sayCalculating), say(sayStop), 0, 0,
-                                                     QApplication::activeWindow());
+        m_window = new QProgressDialog(say(sayCalculating), say(sayStop), 0, 0,
+                                       QApplication::activeWindow());
         m_window->setWindowModality(Qt::ApplicationModal);
         m_window->setMinimumDuration(0);
         m_window->show();
-        QTimer::singleShot(closesAfter, qApp, [this] { m_window.reset(); });
+        QTimer::singleShot(closesAfter, m_window, &QObject::deleteLater);
     }
 
     QElapsedTimer m_begin, m_lastQuestion;
-    std::unique_ptr<QProgressDialog> m_window;
+    QPointer<QProgressDialog> m_window;
 };
 
 }  // namespace
