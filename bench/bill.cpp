@@ -8,9 +8,9 @@
 #include <string>
 
 #include "bench/claim.h"
+#include "bill/bill_from_table.h"
+#include "bill/feed_bill.h"
 #include "bill/tw_ss_bill_output.h"
-#include "core_api/bill/bill_from_table.h"
-#include "core_api/bill/feed_bill.h"
 #include "core_api/settings.h"
 
 namespace {

@@ -1,6 +1,6 @@
 // Check problems of a standard: a header or a row is taken, or refused with a reason; what is
 // expected belongs to outputs.
-#include "standards/case_table.h"
+#include "cli/standards/case_table.h"
 
 #include <cmath>
 

@@ -3,10 +3,10 @@
 #include <cstdint>
 #include <vector>
 
+#include "cli/standards/batch_input.h"
 #include "core_api/text/delimited_text.h"
+#include "exchange/csv.h"
 #include "fed_lines.h"
-#include "io/csv.h"
-#include "standards/batch_input.h"
 
 namespace {
 

@@ -11,8 +11,8 @@
 #include <string>
 #include <string_view>
 
-#include "io/line_source.h"
-#include "standards/batch_output.h"
+#include "cli/standards/batch_output.h"
+#include "exchange/line_source.h"
 
 inline void require(bool holds) {
     if (!holds) std::abort();

@@ -2,8 +2,8 @@
 // values they are.
 #include <cstdint>
 
+#include "cli/standards/batch_input.h"
 #include "fed_lines.h"
-#include "standards/batch_input.h"
 
 namespace {
 

@@ -1,7 +1,7 @@
 // Conditions of a search for sections: one is read or refused with a reason, and what was read
 // judges numbers as a comparison of its own column does. The input is a condition and, behind a
 // line's end, the name of a section.
-#include "sections/section_condition.h"
+#include "cli/sections/section_condition.h"
 
 #include <cstdint>
 #include <cstdlib>

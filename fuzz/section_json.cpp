@@ -2,9 +2,9 @@
 // of a table comes back as the same table.
 #include <cstdint>
 
+#include "cli/sections/imported_table.h"
+#include "cli/sections/section_json.h"
 #include "fed_lines.h"
-#include "sections/imported_table.h"
-#include "sections/section_json.h"
 
 namespace {
 

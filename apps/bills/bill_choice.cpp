@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <filesystem>
 
+#include "bill/bill_from_table.h"
+#include "bill/macro_parts.h"
 #include "bills/bill_table.h"
-#include "core_api/bill/bill_from_table.h"
-#include "core_api/bill/macro_parts.h"
 #include "core_api/macros/macro_file.h"
 #include "core_api/text/text_helpers.h"
 #include "platform/paths.h"

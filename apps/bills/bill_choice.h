@@ -5,8 +5,8 @@
 #include <optional>
 #include <string>
 
-#include "core_api/bill/bill_from_parts.h"
-#include "core_api/bill/vor_bill.h"
+#include "bill/bill_from_parts.h"
+#include "bill/vor_bill.h"
 #include "core_api/macros/vor_db_macro.h"
 #include "core_api/text/vor_string_array.h"
 

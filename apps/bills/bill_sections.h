@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "core_api/bill/vor_bill.h"
+#include "bill/vor_bill.h"
 
 namespace bills {
 

@@ -7,8 +7,8 @@
 #include "core_api/library_names.h"
 #include "core_api/settings.h"
 #include "core_api/text/text_helpers.h"
+#include "exchange/sheet_writing.h"
 #include "platform/files.h"
-#include "sheets/sheet_writing.h"
 #include "spread/sheet_preparation.h"
 #include "spread/tw_sheet_settings.h"
 

@@ -4,8 +4,8 @@
 #include <optional>
 #include <string>
 
+#include "bill/feed_bill.h"
 #include "bill/tw_ss_bill_output.h"
-#include "core_api/bill/feed_bill.h"
 #include "platform/scratch.h"
 #include "spread/tw_sheet_settings.h"
 

@@ -1,7 +1,7 @@
 #include "bills/bill_table.h"
 
-#include "io/csv.h"
-#include "io/texts.h"
+#include "exchange/csv.h"
+#include "exchange/texts.h"
 #include "platform/encodings.h"
 #include "platform/paths.h"
 

@@ -1,20 +1,20 @@
 // The only file that knows the parser of command lines; it is slow to compile.
-#include "command_line.h"
+#include "cli/command_line.h"
 
 #include <CLI/CLI.hpp>
 #include <cstdio>
 #include <iostream>
 
-#include "bill/bill_command.h"
+#include "cli/bill/bill_command.h"
+#include "cli/cutstock/cutstock_commands.h"
+#include "cli/io/suggestion.h"
+#include "cli/mapping/mapping_commands.h"
+#include "cli/sections/section_commands.h"
+#include "cli/sheets/sheet_commands.h"
+#include "cli/standards/library.h"
+#include "cli/standards/standards_commands.h"
 #include "core_api/library_names.h"
 #include "core_api/texts/language_codes.h"
-#include "cutstock/cutstock_commands.h"
-#include "io/suggestion.h"
-#include "mapping/mapping_commands.h"
-#include "sections/section_commands.h"
-#include "sheets/sheet_commands.h"
-#include "standards/library.h"
-#include "standards/standards_commands.h"
 
 namespace cli {
 

@@ -1,7 +1,7 @@
 // From the words of a call to the work: subcommands, options, help.
 #pragma once
 
-#include "console.h"
+#include "cli/io/console.h"
 
 namespace cli {
 

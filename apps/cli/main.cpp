@@ -3,7 +3,7 @@
 
 #include <new>
 
-#include "command_line.h"
+#include "cli/command_line.h"
 #include "core_api/program_data.h"
 #include "platform/out_of_memory.h"
 

@@ -3,8 +3,8 @@
 #include <cstdio>
 #include <string>
 
-#include "core_api/drawing/canvas.h"
-#include "core_api/drawing/figure.h"
+#include "drawing/canvas.h"
+#include "drawing/figure.h"
 #include "platform/paths.h"
 #include "sections/section_types.h"
 

@@ -15,17 +15,17 @@
 
 #include "core_api/program_data.h"
 #include "core_api/texts/language_codes.h"
-#include "grid/calculation_stop.h"
 #include "platform/out_of_memory.h"
 #include "platform/paths.h"
 #include "platform/terminal_text.h"
-#include "sheet/sheet_file.h"
-#include "sheet/sheet_printing.h"
-#include "shell/main_window.h"
-#include "shell/starters_menu.h"
-#include "window/dialog_font.h"
-#include "window/say.h"
-#include "window/written_file.h"
+#include "workbench/grid/calculation_stop.h"
+#include "workbench/module/starters_menu.h"
+#include "workbench/sheet/sheet_file.h"
+#include "workbench/sheet/sheet_printing.h"
+#include "workbench/shell/main_window.h"
+#include "workbench/window/dialog_font.h"
+#include "workbench/window/say.h"
+#include "workbench/window/written_file.h"
 
 namespace {
 

@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
+#include "bill/bill_pictures.h"
 #include "bill/bill_title.h"
-#include "core_api/bill/bill_pictures.h"
 #include "core_api/text/text_helpers.h"
 #include "core_api/texts/bill_text_numbers.h"
 #include "core_api/texts/date_text.h"

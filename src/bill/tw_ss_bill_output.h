@@ -10,8 +10,8 @@
 #include <string>
 #include <vector>
 
-#include "core_api/bill/vor_bill.h"
-#include "core_api/bill/vor_list_output_callback.h"
+#include "bill/vor_bill.h"
+#include "bill/vor_list_output_callback.h"
 #include "platform/host/ac_array.h"
 #include "platform/host/transaction.h"
 #include "spread/header_copies.h"

@@ -5,9 +5,9 @@
 #include <memory>
 #include <vector>
 
-#include "frame/standards_dialog.h"
 #include "platform/export.h"
 #include "platform/host/error_status.h"
+#include "standards/standards_dialog.h"
 
 class VORMANT_API TwSSDlgsMgr {
   public:

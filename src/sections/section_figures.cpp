@@ -5,10 +5,10 @@
 #include <cmath>
 #include <string>
 
-#include "core_api/drawing/section_outline.h"
 #include "core_api/sections/section_tables.h"
 #include "core_api/steel.h"
 #include "core_api/text/text_helpers.h"
+#include "drawing/section_outline.h"
 #include "platform/encodings.h"
 #include "sections/section_area.h"
 #include "sections/section_shape.h"

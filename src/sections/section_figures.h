@@ -12,8 +12,8 @@
 #include <string_view>
 #include <vector>
 
-#include "core_api/drawing/plane.h"
 #include "core_api/text/vor_string.h"
+#include "drawing/plane.h"
 
 class Vor_ProfValuesTable;
 

@@ -3,8 +3,8 @@
 #include <numbers>
 #include <optional>
 
-#include "core_api/drawing/contours.h"
-#include "core_api/drawing/section_outline.h"
+#include "drawing/contours.h"
+#include "drawing/section_outline.h"
 
 namespace {
 

@@ -4,7 +4,7 @@
 #include <span>
 #include <vector>
 
-#include "core_api/drawing/plane.h"
+#include "drawing/plane.h"
 
 /// The contours of a section type, counter-clockwise, holes clockwise; none when the values, in the
 /// order of the type's columns, give no shape. x points right and y up, as in

@@ -7,10 +7,10 @@
 #include "mapping/mapping_file.h"
 #include "mapping/run_timers.h"
 #include "standards/found_files.h"
-#include "standards/functions/standards_functions.h"
 #include "standards/prepared_standard.h"
 #include "standards/run_failure.h"
 #include "standards/run_observer.h"
+#include "standards/standards_functions.h"
 #include "standards/standards_messages.h"
 
 namespace {

@@ -6,9 +6,9 @@
 
 #include <set>
 
+#include "bill/bill_pictures.h"
 #include "bill/bill_title.h"
-#include "core_api/bill/bill_pictures.h"
-#include "core_api/bill/feed_bill.h"
+#include "bill/feed_bill.h"
 #include "core_api/settings.h"
 #include "platform/files.h"
 #include "platform/host/host.h"

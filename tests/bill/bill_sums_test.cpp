@@ -5,9 +5,9 @@
 #include <map>
 #include <random>
 
+#include "bill/bill_from_parts.h"
+#include "bill/feed_bill.h"
 #include "bill/tw_ss_bill_output.h"
-#include "core_api/bill/bill_from_parts.h"
-#include "core_api/bill/feed_bill.h"
 #include "core_api/text/text_helpers.h"
 #include "platform/encodings.h"
 #include "support/temporary_folder.h"

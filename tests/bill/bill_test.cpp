@@ -2,9 +2,9 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "core_api/bill/bill_from_parts.h"
-#include "core_api/bill/bill_from_table.h"
-#include "core_api/bill/feed_bill.h"
+#include "bill/bill_from_parts.h"
+#include "bill/bill_from_table.h"
+#include "bill/feed_bill.h"
 #include "core_api/settings.h"
 
 namespace {

@@ -1,5 +1,5 @@
 // Which pieces a macro gives, and how heavy they are.
-#include "core_api/bill/macro_parts.h"
+#include "bill/macro_parts.h"
 
 #include <gtest/gtest.h>
 

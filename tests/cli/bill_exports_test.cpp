@@ -5,14 +5,14 @@
 #include <nlohmann/json.hpp>
 #include <random>
 
+#include "cli/program.h"
+#include "cli/zip_entry.h"
 #include "core_api/text/delimited_text.h"
 #include "core_api/text/text_helpers.h"
 #include "platform/encodings.h"
-#include "program.h"
 #include "spread/control/document.h"
 #include "spread/control/grid.h"
 #include "test_folders.h"
-#include "zip_entry.h"
 
 namespace {
 

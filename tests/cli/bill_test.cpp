@@ -4,9 +4,9 @@
 
 #include <nlohmann/json.hpp>
 
-#include "program.h"
+#include "cli/program.h"
+#include "cli/zip_entry.h"
 #include "test_folders.h"
-#include "zip_entry.h"
 
 namespace {
 

@@ -1,11 +1,11 @@
 // CSV as it comes from spreadsheets, from pipes and from people who mean harm.
-#include "io/csv.h"
+#include "exchange/csv.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "cli/program.h"
 #include "core_api/text/delimited_text.h"
-#include "program.h"
 
 namespace {
 

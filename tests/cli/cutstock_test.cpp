@@ -6,7 +6,7 @@
 
 #include <nlohmann/json.hpp>
 
-#include "program.h"
+#include "cli/program.h"
 
 namespace {
 

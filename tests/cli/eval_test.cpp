@@ -2,7 +2,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "program.h"
+#include "cli/program.h"
 
 namespace {
 

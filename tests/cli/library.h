@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "program.h"
+#include "cli/program.h"
 
 /// A document holding texts in column A from row 1 on.
 inline std::string column(const std::vector<std::string>& texts) {

@@ -4,7 +4,7 @@
 
 #include <nlohmann/json.hpp>
 
-#include "library.h"
+#include "cli/library.h"
 
 namespace {
 

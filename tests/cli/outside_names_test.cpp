@@ -5,7 +5,7 @@
 
 #include <filesystem>
 
-#include "library.h"
+#include "cli/library.h"
 
 namespace {
 

@@ -1,4 +1,4 @@
-#include "program.h"
+#include "cli/program.h"
 #include "test_folders.h"
 
 #include <fcntl.h>

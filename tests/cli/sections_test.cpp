@@ -4,7 +4,7 @@
 
 #include <nlohmann/json.hpp>
 
-#include "program.h"
+#include "cli/program.h"
 
 namespace {
 

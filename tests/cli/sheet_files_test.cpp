@@ -2,8 +2,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "program.h"
-#include "zip_entry.h"
+#include "cli/program.h"
+#include "cli/zip_entry.h"
 
 namespace {
 

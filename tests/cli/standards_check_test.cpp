@@ -2,7 +2,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "library.h"
+#include "cli/library.h"
 
 namespace {
 

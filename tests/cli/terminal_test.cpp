@@ -7,7 +7,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include "program.h"
+#include "cli/program.h"
 #include "test_folders.h"
 
 namespace {

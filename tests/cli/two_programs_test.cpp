@@ -7,7 +7,7 @@
 #include <functional>
 #include <thread>
 
-#include "library.h"
+#include "cli/library.h"
 
 namespace {
 

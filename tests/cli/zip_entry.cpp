@@ -1,4 +1,4 @@
-#include "zip_entry.h"
+#include "cli/zip_entry.h"
 
 #include <gtest/gtest.h>
 #include <zlib.h>

@@ -1,4 +1,4 @@
-#include "cases.h"
+#include "conformance/cases.h"
 
 #include <algorithm>
 #include <cmath>
@@ -8,7 +8,7 @@
 #include <nlohmann/json.hpp>
 
 #include "core_api/text/number_text.h"
-#include "io/texts.h"
+#include "exchange/texts.h"
 #include "support/called_functions.h"
 #include "test_folders.h"
 

@@ -7,7 +7,7 @@
 #include <string_view>
 #include <vector>
 
-#include "sheets/eval_record.h"
+#include "cli/sheets/eval_record.h"
 #include "spread/control/formula/value.h"
 
 namespace conformance {
@@ -27,8 +27,8 @@ struct Case {
     cli::EvalRecord record;
     Expected expected;
     double tolerance = 1e-9;
-    bool complex = false;      ///< compare the texts as complex numbers
-    std::string unreadable;    ///< why it cannot be tried; a text outside Windows-1252
+    bool complex = false;    ///< compare the texts as complex numbers
+    std::string unreadable;  ///< why it cannot be tried; a text outside Windows-1252
     std::string json;
 
     bool hasTag(std::string_view tag) const;

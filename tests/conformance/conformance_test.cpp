@@ -13,7 +13,7 @@
 #include <map>
 #include <set>
 
-#include "cases.h"
+#include "conformance/cases.h"
 #include "spread/control/formula/function.h"
 #include "spread/control/sheet.h"
 #include "support/called_functions.h"

@@ -4,11 +4,11 @@
 #include <algorithm>
 #include <set>
 
-#include "core_api/drawing/canvas.h"
-#include "core_api/drawing/contours.h"
-#include "core_api/drawing/figure.h"
-#include "core_api/drawing/part_picture.h"
-#include "core_api/drawing/stroke_font.h"
+#include "drawing/canvas.h"
+#include "drawing/contours.h"
+#include "drawing/figure.h"
+#include "drawing/part_picture.h"
+#include "drawing/stroke_font.h"
 
 namespace {
 

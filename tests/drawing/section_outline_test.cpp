@@ -1,6 +1,6 @@
 // The outlines of section types against closed formulas for their areas and boxes, and what becomes
 // of values that make no section.
-#include "core_api/drawing/section_outline.h"
+#include "drawing/section_outline.h"
 
 #include <gtest/gtest.h>
 

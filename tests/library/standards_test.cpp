@@ -1,4 +1,6 @@
 // The sample standards are sound, and the sample macros get from them what the sheets promise.
+#include "cli/standards/library.h"
+#include "cli/standards/standards_commands.h"
 #include "core_api/files.h"
 #include "core_api/macros/macro_access.h"
 #include "core_api/macros/macro_data.h"
@@ -6,10 +8,8 @@
 #include "core_api/text/text_helpers.h"
 #include "library/sample_library.h"
 #include "mapping/start_dlg_standards_ss.h"
-#include "standards/library.h"
+#include "standards/check/standards_check.h"
 #include "standards/run_observer.h"
-#include "standards/standards_check.h"
-#include "standards/standards_commands.h"
 #include "support/test_user.h"
 #include "test_folders.h"
 

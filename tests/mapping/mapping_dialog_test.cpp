@@ -6,9 +6,9 @@
 
 #include "core_api/macros/macro_file.h"
 #include "macros/sample_macro.h"
-#include "mapping/dialog/mapping_dialog.h"
 #include "mapping/mapping_file.h"
-#include "mapping/start_mapping_dialog.h"
+#include "mapping_dialog/mapping_dialog.h"
+#include "mapping_dialog/start_mapping_dialog.h"
 #include "platform/files.h"
 #include "support/printed.h"
 #include "support/standard_file.h"

@@ -8,11 +8,11 @@
 #include <numbers>
 #include <vector>
 
-#include "core_api/drawing/section_outline.h"
 #include "core_api/files.h"
 #include "core_api/sections/section_tables.h"
 #include "core_api/settings.h"
 #include "core_api/text/text_helpers.h"
+#include "drawing/section_outline.h"
 #include "sections/section_types.h"
 #include "support/temporary_folder.h"
 #include "test_folders.h"

@@ -9,9 +9,9 @@
 #include <numbers>
 #include <random>
 
-#include "core_api/drawing/section_outline.h"
 #include "core_api/files.h"
 #include "core_api/text/text_helpers.h"
+#include "drawing/section_outline.h"
 #include "sections/section_area.h"
 #include "sections/section_types.h"
 #include "sections/vor_prof_values_table.h"

@@ -3,8 +3,8 @@
 
 #include <gmock/gmock.h>
 
-#include "core_api/drawing/section_outline.h"
 #include "core_api/settings.h"
+#include "drawing/section_outline.h"
 #include "frame/starters.h"
 #include "platform/window/bitmap.h"
 #include "sections/section_area.h"

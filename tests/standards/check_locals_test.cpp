@@ -2,7 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "core_api/settings.h"
-#include "standards/standards_check.h"
+#include "standards/check/standards_check.h"
 #include "support/temporary_folder.h"
 
 namespace {

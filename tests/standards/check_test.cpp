@@ -1,5 +1,5 @@
 // What is found in a standard before anybody runs it.
-#include "standards/standards_check.h"
+#include "standards/check/standards_check.h"
 
 #include <gtest/gtest.h>
 

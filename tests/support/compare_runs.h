@@ -2,11 +2,11 @@
 // literal reading of the same run.
 #pragma once
 
-#include "frame/standards_dialog.h"
 #include "mapping/start_dlg_standards_ss.h"
 #include "platform/window/message_box.h"
 #include "standards/run_chain.h"
 #include "standards/run_observer.h"
+#include "standards/standards_dialog.h"
 #include "support/literal_run.h"
 
 /// What came of a run, to be compared line by line.

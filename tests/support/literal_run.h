@@ -14,7 +14,7 @@
 #include "mapping/tw_var_cell.h"
 #include "spread/control/formula/value.h"
 #include "spread/vor_spread.h"
-#include "standards/functions/standards_functions.h"
+#include "standards/standards_functions.h"
 
 struct LiteralVariable {
     Vor_String name;

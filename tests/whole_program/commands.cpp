@@ -1,4 +1,4 @@
-#include "commands.h"
+#include "whole_program/commands.h"
 
 #include <fstream>
 

@@ -9,7 +9,7 @@
 #include <cstdio>
 #include <cstdlib>
 
-#include "commands.h"
+#include "whole_program/commands.h"
 
 namespace whole_program {
 namespace {

@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 #include <unistd.h>
 
-#include "commands.h"
+#include "whole_program/commands.h"
 
 namespace whole_program {
 namespace {

@@ -10,14 +10,14 @@
 #include <QSpinBox>
 #include <QTableWidget>
 
-#include "bill/bill_dialog.h"
-#include "bill/bill_window_button.h"
-#include "dialog_problems.h"
 #include "platform/files.h"
 #include "platform/paths.h"
-#include "starters_fixture.h"
 #include "support/test_user.h"
 #include "test_folders.h"
+#include "workbench/bill/bill_dialog.h"
+#include "workbench/bill/bill_window_button.h"
+#include "workbench/dialog_problems.h"
+#include "workbench/starters_fixture.h"
 
 namespace {
 

@@ -8,10 +8,10 @@
 #include <QMessageBox>
 
 #include "core_api/settings.h"
-#include "desktop_fixture.h"
-#include "dialog_problems.h"
-#include "grid/show_grids.h"
 #include "support/own_settings.h"
+#include "workbench/desktop_fixture.h"
+#include "workbench/dialog_problems.h"
+#include "workbench/grid/show_grids.h"
 
 namespace {
 

@@ -13,7 +13,7 @@
 #include <utility>
 
 #include "platform/window/dialog.h"
-#include "window/qt_window_system.h"
+#include "workbench/window/qt_window_system.h"
 
 class Desktop : public testing::Test {
   protected:

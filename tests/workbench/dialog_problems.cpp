@@ -1,4 +1,4 @@
-#include "dialog_problems.h"
+#include "workbench/dialog_problems.h"
 
 #include <QAbstractButton>
 #include <QAbstractScrollArea>

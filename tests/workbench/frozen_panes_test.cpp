@@ -4,7 +4,7 @@
 #include <QScrollBar>
 #include <QWheelEvent>
 
-#include "sheet_fixture.h"
+#include "workbench/sheet_fixture.h"
 
 namespace {
 

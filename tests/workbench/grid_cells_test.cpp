@@ -2,9 +2,9 @@
 #include <QHeaderView>
 #include <QSignalSpy>
 
-#include "grid/cell_painter.h"
-#include "grid/item_list.h"
-#include "grid_window.h"
+#include "workbench/grid/cell_painter.h"
+#include "workbench/grid/item_list.h"
+#include "workbench/grid_window.h"
 
 namespace {
 

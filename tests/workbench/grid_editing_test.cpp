@@ -2,10 +2,10 @@
 #include <QPlainTextEdit>
 #include <QProgressDialog>
 
-#include "grid/calculation_stop.h"
-#include "grid/refusal.h"
-#include "grid_window.h"
 #include "spread/control/stop_calculation.h"
+#include "workbench/grid/calculation_stop.h"
+#include "workbench/grid/refusal.h"
+#include "workbench/grid_window.h"
 
 namespace {
 

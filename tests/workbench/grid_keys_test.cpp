@@ -2,8 +2,8 @@
 #include <QContextMenuEvent>
 #include <QHeaderView>
 
-#include "grid_window.h"
 #include "support/test_user.h"
+#include "workbench/grid_window.h"
 
 namespace {
 

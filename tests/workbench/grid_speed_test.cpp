@@ -5,7 +5,7 @@
 #include <QScrollBar>
 #include <iostream>
 
-#include "grid_window.h"
+#include "workbench/grid_window.h"
 
 namespace {
 

@@ -9,9 +9,9 @@
 #include <QTest>
 #include <QVBoxLayout>
 
-#include "grid/grid_view.h"
 #include "platform/window/window_system.h"
 #include "spread/vor_spread.h"
+#include "workbench/grid/grid_view.h"
 
 constexpr int gridId = 1004;
 

@@ -3,7 +3,7 @@
 #include <QApplication>
 #include <QFontDatabase>
 
-#include "window/dialog_font.h"
+#include "workbench/window/dialog_font.h"
 
 int main(int argc, char** argv) {
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");

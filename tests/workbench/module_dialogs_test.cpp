@@ -6,19 +6,19 @@
 #include <memory>
 
 #include "core_api/settings.h"
-#include "dialog_problems.h"
 #include "frame/select_image_dialog.h"
 #include "frame/starter_dialogs.h"
 #include "frame/string_array_dialog.h"
-#include "grid/show_grids.h"
-#include "mapping/dialog/mapping_dialog.h"
+#include "mapping_dialog/mapping_dialog.h"
 #include "platform/paths.h"
 #include "sections/dialogs/library_dialog.h"
 #include "sections/dialogs/size_dialog.h"
 #include "spread/formulas/formulas_dialog.h"
 #include "support/temporary_folder.h"
 #include "test_folders.h"
-#include "window/qt_window_system.h"
+#include "workbench/dialog_problems.h"
+#include "workbench/grid/show_grids.h"
+#include "workbench/window/qt_window_system.h"
 
 namespace {
 

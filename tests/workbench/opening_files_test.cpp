@@ -3,12 +3,12 @@
 #include <QPushButton>
 
 #include "cutstock/cutting_stock_dialog.h"
-#include "dialog_problems.h"
 #include "platform/paths.h"
-#include "run/run_page.h"
-#include "sheet/sheet_page.h"
-#include "starters_fixture.h"
-#include "window/dialog_font.h"
+#include "workbench/dialog_problems.h"
+#include "workbench/run/run_page.h"
+#include "workbench/sheet/sheet_page.h"
+#include "workbench/starters_fixture.h"
+#include "workbench/window/dialog_font.h"
 
 namespace {
 

@@ -5,17 +5,17 @@
 #include <QMenuBar>
 #include <QMessageBox>
 
-#include "bill/bill_words.h"
-#include "dialog_problems.h"
-#include "run/run_page.h"
-#include "run/section_picker.h"
-#include "sheet/sheet_commands.h"
-#include "sheet/sheet_page.h"
-#include "sheet/sheet_words.h"
-#include "shell/words.h"
-#include "starters_fixture.h"
-#include "window/dialog_font.h"
-#include "window/say.h"
+#include "workbench/bill/bill_words.h"
+#include "workbench/dialog_problems.h"
+#include "workbench/run/run_page.h"
+#include "workbench/run/section_picker.h"
+#include "workbench/sheet/sheet_commands.h"
+#include "workbench/sheet/sheet_page.h"
+#include "workbench/sheet/sheet_words.h"
+#include "workbench/starters_fixture.h"
+#include "workbench/window/dialog_font.h"
+#include "workbench/window/say.h"
+#include "workbench/words/workbench_words.h"
 
 namespace {
 

@@ -11,11 +11,11 @@
 #include <QScreen>
 #include <memory>
 
-#include "desktop_fixture.h"
-#include "dialog_problems.h"
-#include "sample_dialog.h"
 #include "spread/vor_spread.h"
 #include "support/temporary_folder.h"
+#include "workbench/desktop_fixture.h"
+#include "workbench/dialog_problems.h"
+#include "workbench/sample_dialog.h"
 
 namespace {
 

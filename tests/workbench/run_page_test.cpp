@@ -13,15 +13,15 @@
 #include <set>
 
 #include "core_api/settings.h"
-#include "macro/kind_words.h"
-#include "macro/macro_page.h"
 #include "platform/window/message_box.h"
-#include "run/run_page.h"
-#include "shell/main_window.h"
 #include "support/standard_file.h"
 #include "support/test_user.h"
 #include "test_folders.h"
-#include "window/dialog_font.h"
+#include "workbench/macro/kind_words.h"
+#include "workbench/macro/macro_page.h"
+#include "workbench/run/run_page.h"
+#include "workbench/shell/main_window.h"
+#include "workbench/window/dialog_font.h"
 
 namespace {
 

@@ -7,16 +7,16 @@
 #include <iterator>
 
 #include "core_api/sections/section_tables.h"
-#include "dialog_problems.h"
-#include "grid/grid_view.h"
 #include "platform/paths.h"
-#include "run/run_page.h"
 #include "sections/dialogs/library_dialog.h"
 #include "sections/dialogs/size_dialog.h"
-#include "sections/table_page.h"
 #include "spread/find_replace_dlg.h"
-#include "starters_fixture.h"
-#include "window/dialog_font.h"
+#include "workbench/dialog_problems.h"
+#include "workbench/grid/grid_view.h"
+#include "workbench/run/run_page.h"
+#include "workbench/sections/table_page.h"
+#include "workbench/starters_fixture.h"
+#include "workbench/window/dialog_font.h"
 
 namespace {
 

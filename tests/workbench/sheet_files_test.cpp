@@ -3,9 +3,9 @@
 #include <iostream>
 
 #include "core_api/settings.h"
-#include "run/run_page.h"
-#include "sheet_fixture.h"
 #include "test_folders.h"
+#include "workbench/run/run_page.h"
+#include "workbench/sheet_fixture.h"
 
 namespace {
 

@@ -13,12 +13,12 @@
 #include <functional>
 
 #include "platform/paths.h"
-#include "sheet/sheet_commands.h"
-#include "sheet/sheet_page.h"
-#include "sheet/sheet_words.h"
-#include "shell/main_window.h"
 #include "support/test_user.h"
-#include "window/dialog_font.h"
+#include "workbench/sheet/sheet_commands.h"
+#include "workbench/sheet/sheet_page.h"
+#include "workbench/sheet/sheet_words.h"
+#include "workbench/shell/main_window.h"
+#include "workbench/window/dialog_font.h"
 
 class SheetWindow : public testing::Test {
   protected:

@@ -5,12 +5,12 @@
 #include <QToolButton>
 #include <QToolTip>
 
-#include "sheet/cell_reference.h"
-#include "sheet/function_dialog.h"
-#include "sheet/sheet_settings_dialog.h"
-#include "sheet/sort_dialog.h"
-#include "sheet_fixture.h"
 #include "spread/tw_sheet_settings.h"
+#include "workbench/sheet/cell_reference.h"
+#include "workbench/sheet/function_dialog.h"
+#include "workbench/sheet/sheet_settings_dialog.h"
+#include "workbench/sheet/sort_dialog.h"
+#include "workbench/sheet_fixture.h"
 
 namespace {
 

@@ -14,11 +14,11 @@
 #include <QToolButton>
 
 #include "platform/window/bitmap.h"
-#include "sheet/page_painter.h"
-#include "sheet/say.h"
-#include "sheet_fixture.h"
 #include "spread/control/document.h"
 #include "spread/tw_sheet_settings.h"
+#include "workbench/sheet/page_painter.h"
+#include "workbench/sheet/say.h"
+#include "workbench/sheet_fixture.h"
 
 namespace {
 

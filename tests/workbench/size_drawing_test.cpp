@@ -4,10 +4,10 @@
 
 #include "core_api/sections/section_tables.h"
 #include "core_api/text/text_helpers.h"
-#include "dialog_problems.h"
 #include "sections/section_types.h"
-#include "starters_fixture.h"
-#include "window/dialog_font.h"
+#include "workbench/dialog_problems.h"
+#include "workbench/starters_fixture.h"
+#include "workbench/window/dialog_font.h"
 
 namespace {
 

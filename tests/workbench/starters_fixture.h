@@ -16,14 +16,14 @@
 
 #include "core_api/macros/macro_file.h"
 #include "frame/editor/named_values_dialog.h"
-#include "macro/macro_page.h"
 #include "macros/sample_macro.h"
 #include "platform/window/bitmap.h"
-#include "sections/table_page.h"
-#include "shell/main_window.h"
-#include "shell/starters_menu.h"
 #include "support/temporary_folder.h"
 #include "test_folders.h"
+#include "workbench/macro/macro_page.h"
+#include "workbench/module/starters_menu.h"
+#include "workbench/sections/table_page.h"
+#include "workbench/shell/main_window.h"
 
 struct StarterTitles {
     static constexpr int macro = 24030, macroModeless = 24031, takeMacroData = 24032,

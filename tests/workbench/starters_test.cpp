@@ -8,13 +8,13 @@
 #include <QMimeData>
 
 #include "core_api/macros/vor_bolt_module.h"
-#include "dialog_problems.h"
 #include "frame/open_macro_dialogs.h"
 #include "frame/string_array_dialog.h"
-#include "starters_fixture.h"
 #include "test_folders.h"
-#include "window/dialog_font.h"
-#include "window/dialog_navigation.h"
+#include "workbench/dialog_problems.h"
+#include "workbench/starters_fixture.h"
+#include "workbench/window/dialog_font.h"
+#include "workbench/window/dialog_navigation.h"
 
 namespace {
 

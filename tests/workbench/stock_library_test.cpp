@@ -9,7 +9,7 @@
 #include "platform/paths.h"
 #include "platform/window/text_question.h"
 #include "spread/vor_spread.h"
-#include "starters_fixture.h"
+#include "workbench/starters_fixture.h"
 
 namespace {
 

@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "window/dialog_font.h"
+#include "workbench/window/dialog_font.h"
 
 namespace {
 

@@ -15,7 +15,7 @@
 #include <QToolButton>
 #include <map>
 
-#include "dialog_problems.h"
+#include "workbench/dialog_problems.h"
 
 namespace {
 

@@ -12,9 +12,9 @@
 #include <QTabWidget>
 #include <QToolTip>
 
-#include "desktop_fixture.h"
-#include "dialog_problems.h"
-#include "sample_dialog.h"
+#include "workbench/desktop_fixture.h"
+#include "workbench/dialog_problems.h"
+#include "workbench/sample_dialog.h"
 
 namespace {
 

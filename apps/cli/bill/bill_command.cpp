@@ -1,21 +1,21 @@
-#include "bill/bill_command.h"
+#include "cli/bill/bill_command.h"
 
-#include "bill/bill_summary.h"
-#include "bill/print_document.h"
 #include "bills/bill_choice.h"
 #include "bills/bill_sheet.h"
+#include "cli/bill/bill_summary.h"
+#include "cli/bill/print_document.h"
 #include "core_api/settings.h"
 #include "core_api/text/delimited_text.h"
 #include "core_api/text/text_helpers.h"
 #include "core_api/texts/language_codes.h"
 
-#include "io/output.h"
-#include "io/suggestion.h"
-#include "io/texts.h"
-#include "io/typed_paths.h"
+#include "cli/io/output.h"
+#include "cli/io/suggestion.h"
+#include "cli/io/typed_paths.h"
+#include "cli/standards/library.h"
+#include "exchange/texts.h"
 #include "platform/files.h"
 #include "platform/host/host.h"
-#include "standards/library.h"
 
 namespace cli {
 

@@ -1,9 +1,9 @@
-#include "bill/bill_summary.h"
+#include "cli/bill/bill_summary.h"
 
 #include "bills/bill_choice.h"
+#include "cli/io/typed_paths.h"
 #include "core_api/text/text_helpers.h"
-#include "io/json_writer.h"
-#include "io/typed_paths.h"
+#include "exchange/json_writer.h"
 
 namespace cli {
 

@@ -1,4 +1,4 @@
-#include "bill/print_document.h"
+#include "cli/bill/print_document.h"
 
 #include <spawn.h>
 #include <sys/wait.h>
@@ -10,8 +10,8 @@
 #include <cstring>
 #include <filesystem>
 
-#include "console.h"
-#include "io/typed_paths.h"
+#include "cli/io/console.h"
+#include "cli/io/typed_paths.h"
 #include "platform/paths.h"
 
 namespace cli {

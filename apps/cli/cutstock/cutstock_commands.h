@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "console.h"
+#include "cli/io/console.h"
 
 namespace cli {
 

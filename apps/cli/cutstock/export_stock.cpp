@@ -1,6 +1,6 @@
-#include "cutstock/cutstock_commands.h"
-#include "cutstock/stock_items.h"
-#include "io/export_file.h"
+#include "cli/cutstock/cutstock_commands.h"
+#include "cli/cutstock/stock_items.h"
+#include "cli/io/export_file.h"
 
 namespace cli {
 

@@ -1,7 +1,7 @@
-#include "cutstock/cutstock_commands.h"
+#include "cli/cutstock/cutstock_commands.h"
+#include "cli/cutstock/stock_items.h"
+#include "cli/io/output.h"
 #include "cutstock/load_all.h"
-#include "cutstock/stock_items.h"
-#include "io/output.h"
 
 namespace cli {
 

@@ -1,10 +1,10 @@
+#include "cli/cutstock/cutstock_commands.h"
+#include "cli/cutstock/stock_items.h"
+#include "cli/io/output.h"
+#include "cli/io/text_table.h"
 #include "core_api/text/text_helpers.h"
 #include "core_api/texts/texts.h"
-#include "cutstock/cutstock_commands.h"
 #include "cutstock/load_all.h"
-#include "cutstock/stock_items.h"
-#include "io/output.h"
-#include "io/text_table.h"
 #include "platform/encodings.h"
 
 namespace cli {

@@ -1,15 +1,15 @@
-#include "cutstock/stock_items.h"
+#include "cli/cutstock/stock_items.h"
 
 #include <ctime>
 
-#include "console.h"
+#include "cli/io/console.h"
+#include "cli/io/suggestion.h"
+#include "cli/io/typed_paths.h"
 #include "core_api/files.h"
 #include "core_api/settings.h"
 #include "core_api/text/text_helpers.h"
 #include "cutstock/cutting_stock_library.h"
 #include "cutstock/item_names.h"
-#include "io/suggestion.h"
-#include "io/typed_paths.h"
 #include "platform/encodings.h"
 #include "platform/files.h"
 

@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "cutstock/stock_files.h"
-#include "io/json_writer.h"
+#include "exchange/json_writer.h"
 
 namespace cli {
 

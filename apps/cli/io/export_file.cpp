@@ -1,8 +1,8 @@
-#include "io/export_file.h"
+#include "cli/io/export_file.h"
 
+#include "cli/io/output.h"
+#include "cli/io/typed_paths.h"
 #include "core_api/text/delimited_text.h"
-#include "io/output.h"
-#include "io/typed_paths.h"
 #include "platform/encodings.h"
 #include "platform/files.h"
 

@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "console.h"
+#include "cli/io/console.h"
 #include "core_api/text/vor_string_array.h"
 
 namespace cli {

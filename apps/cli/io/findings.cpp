@@ -1,9 +1,9 @@
-#include "io/findings.h"
+#include "cli/io/findings.h"
 
 #include <algorithm>
 
-#include "io/texts.h"
-#include "io/typed_paths.h"
+#include "cli/io/typed_paths.h"
+#include "exchange/texts.h"
 
 namespace cli {
 

@@ -1,11 +1,11 @@
-#include "io/output.h"
+#include "cli/io/output.h"
 
 #include <unistd.h>
 
 #include <cerrno>
 #include <cstring>
 
-#include "console.h"
+#include "cli/io/console.h"
 #include "platform/terminal_text.h"
 
 namespace cli {

@@ -1,4 +1,4 @@
-#include "io/suggestion.h"
+#include "cli/io/suggestion.h"
 
 #include <algorithm>
 

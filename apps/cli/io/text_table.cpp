@@ -1,4 +1,4 @@
-#include "io/text_table.h"
+#include "cli/io/text_table.h"
 
 #include <algorithm>
 

@@ -1,9 +1,9 @@
-#include "io/typed_paths.h"
+#include "cli/io/typed_paths.h"
 
 #include <algorithm>
 #include <vector>
 
-#include "console.h"
+#include "cli/io/console.h"
 #include "platform/encodings.h"
 #include "platform/paths.h"
 #include "platform/readable_paths.h"

@@ -1,16 +1,16 @@
-#include "mapping/mapped_standard.h"
+#include "cli/mapping/mapped_standard.h"
 
 #include <algorithm>
 
-#include "console.h"
+#include "cli/io/console.h"
+#include "cli/io/typed_paths.h"
+#include "cli/standards/library.h"
 #include "core_api/macros/macro_file.h"
-#include "io/texts.h"
-#include "io/typed_paths.h"
-#include "mapping/dialog/object_list.h"
+#include "exchange/texts.h"
 #include "mapping/mapping_file.h"
+#include "mapping_dialog/object_list.h"
 #include "platform/host/transaction.h"
 #include "standards/declarations.h"
-#include "standards/library.h"
 
 namespace cli {
 

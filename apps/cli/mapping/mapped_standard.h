@@ -6,7 +6,7 @@
 #include <string>
 
 #include "core_api/macros/vor_db_macro.h"
-#include "mapping/dialog/sheet_choices.h"
+#include "mapping_dialog/sheet_choices.h"
 
 namespace cli {
 

@@ -1,10 +1,10 @@
-#include "io/findings.h"
-#include "io/json_writer.h"
-#include "io/output.h"
-#include "io/typed_paths.h"
+#include "cli/io/findings.h"
+#include "cli/io/output.h"
+#include "cli/io/typed_paths.h"
+#include "cli/sections/section_commands.h"
+#include "cli/sections/table_files.h"
+#include "exchange/json_writer.h"
 #include "sections/section_check.h"
-#include "sections/section_commands.h"
-#include "sections/table_files.h"
 
 namespace cli {
 

@@ -1,4 +1,4 @@
-#include "sections/column_names.h"
+#include "cli/sections/column_names.h"
 
 #include <algorithm>
 

@@ -1,6 +1,6 @@
-#include "io/csv.h"
-#include "io/texts.h"
-#include "sections/imported_table.h"
+#include "cli/sections/imported_table.h"
+#include "exchange/csv.h"
+#include "exchange/texts.h"
 
 namespace cli {
 

@@ -1,7 +1,7 @@
-#include "io/export_file.h"
-#include "sections/section_commands.h"
-#include "sections/section_json.h"
-#include "sections/table_files.h"
+#include "cli/io/export_file.h"
+#include "cli/sections/section_commands.h"
+#include "cli/sections/section_json.h"
+#include "cli/sections/table_files.h"
 
 namespace cli {
 

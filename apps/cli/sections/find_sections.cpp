@@ -1,16 +1,16 @@
 #include <algorithm>
 
-#include "io/json_writer.h"
-#include "io/output.h"
-#include "io/suggestion.h"
-#include "io/text_table.h"
-#include "io/texts.h"
+#include "cli/io/output.h"
+#include "cli/io/suggestion.h"
+#include "cli/io/text_table.h"
+#include "cli/sections/section_commands.h"
+#include "cli/sections/section_json.h"
+#include "cli/sections/table_search.h"
+#include "exchange/json_writer.h"
+#include "exchange/texts.h"
 #include "platform/encodings.h"
 #include "sections/section_area.h"
-#include "sections/section_commands.h"
-#include "sections/section_json.h"
 #include "sections/section_types.h"
-#include "sections/table_search.h"
 
 namespace cli {
 

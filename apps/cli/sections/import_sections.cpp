@@ -1,15 +1,15 @@
+#include "cli/io/findings.h"
+#include "cli/io/output.h"
+#include "cli/io/typed_paths.h"
+#include "cli/sections/imported_table.h"
+#include "cli/sections/section_commands.h"
+#include "cli/sections/table_files.h"
 #include "core_api/files.h"
 #include "core_api/settings.h"
 #include "core_api/text/text_helpers.h"
-#include "io/findings.h"
-#include "io/output.h"
-#include "io/typed_paths.h"
 #include "platform/exclusive_change.h"
-#include "sections/imported_table.h"
 #include "sections/section_check.h"
-#include "sections/section_commands.h"
 #include "sections/section_types.h"
-#include "sections/table_files.h"
 
 namespace cli {
 

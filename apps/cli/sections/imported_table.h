@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "io/line_source.h"
+#include "exchange/line_source.h"
 #include "sections/vor_prof_values_table.h"
 
 namespace cli {

@@ -3,10 +3,10 @@
 #include <nlohmann/json.hpp>
 #include <unordered_map>
 
+#include "cli/sections/imported_table.h"
 #include "core_api/texts/texts.h"
-#include "io/texts.h"
+#include "exchange/texts.h"
 #include "platform/encodings.h"
-#include "sections/imported_table.h"
 
 namespace cli {
 

@@ -1,12 +1,12 @@
 #include <algorithm>
 
-#include "io/json_writer.h"
-#include "io/output.h"
-#include "io/text_table.h"
+#include "cli/io/output.h"
+#include "cli/io/text_table.h"
+#include "cli/sections/section_commands.h"
+#include "cli/sections/section_json.h"
+#include "cli/sections/table_files.h"
+#include "exchange/json_writer.h"
 #include "platform/encodings.h"
-#include "sections/section_commands.h"
-#include "sections/section_json.h"
-#include "sections/table_files.h"
 
 namespace cli {
 

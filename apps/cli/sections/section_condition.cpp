@@ -1,7 +1,7 @@
-#include "sections/section_condition.h"
+#include "cli/sections/section_condition.h"
 
 #include "core_api/text/text_helpers.h"
-#include "io/texts.h"
+#include "exchange/texts.h"
 #include "platform/encodings.h"
 #include "platform/files.h"
 

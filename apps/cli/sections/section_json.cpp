@@ -1,4 +1,4 @@
-#include "sections/section_json.h"
+#include "cli/sections/section_json.h"
 
 #include <algorithm>
 

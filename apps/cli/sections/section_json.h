@@ -1,7 +1,7 @@
 // Section tables as JSON.
 #pragma once
 
-#include "io/json_writer.h"
+#include "exchange/json_writer.h"
 #include "sections/vor_prof_values_table.h"
 
 namespace cli {

@@ -1,20 +1,20 @@
 #include <algorithm>
 
+#include "cli/io/output.h"
+#include "cli/io/suggestion.h"
+#include "cli/io/text_table.h"
+#include "cli/sections/column_names.h"
+#include "cli/sections/section_commands.h"
+#include "cli/sections/section_json.h"
+#include "cli/sections/table_files.h"
 #include "core_api/sections/section_tables.h"
 #include "core_api/text/text_helpers.h"
-#include "io/output.h"
-#include "io/suggestion.h"
-#include "io/text_table.h"
-#include "io/texts.h"
+#include "exchange/texts.h"
 #include "platform/encodings.h"
-#include "sections/column_names.h"
 #include "sections/section_area.h"
-#include "sections/section_commands.h"
 #include "sections/section_figures.h"
-#include "sections/section_json.h"
 #include "sections/section_names.h"
 #include "sections/section_types.h"
-#include "sections/table_files.h"
 
 namespace cli {
 

@@ -1,14 +1,14 @@
-#include "sections/table_search.h"
+#include "cli/sections/table_search.h"
 
 #include <algorithm>
 
-#include "console.h"
+#include "cli/io/console.h"
+#include "cli/io/typed_paths.h"
 #include "core_api/files.h"
 #include "core_api/record_reader.h"
 #include "core_api/text/number_text.h"
 #include "core_api/text/text_helpers.h"
-#include "io/texts.h"
-#include "io/typed_paths.h"
+#include "exchange/texts.h"
 #include "platform/files.h"
 #include "sections/section_area.h"
 #include "sections/section_types.h"

@@ -8,9 +8,9 @@
 #include <string>
 #include <vector>
 
-#include "sections/column_names.h"
-#include "sections/section_condition.h"
-#include "sections/table_files.h"
+#include "cli/sections/column_names.h"
+#include "cli/sections/section_condition.h"
+#include "cli/sections/table_files.h"
 
 namespace cli {
 

@@ -1,5 +1,5 @@
-#include "sheets/sheet_commands.h"
-#include "sheets/sheet_file.h"
+#include "cli/sheets/sheet_commands.h"
+#include "cli/sheets/sheet_file.h"
 
 namespace cli {
 

@@ -1,10 +1,10 @@
-#include "console.h"
+#include "cli/io/console.h"
+#include "cli/sheets/eval_record.h"
+#include "cli/sheets/sheet_file.h"
 #include "core_api/text/delimited_text.h"
 #include "core_api/text/text_helpers.h"
-#include "io/csv.h"
-#include "io/texts.h"
-#include "sheets/eval_record.h"
-#include "sheets/sheet_file.h"
+#include "exchange/csv.h"
+#include "exchange/texts.h"
 
 namespace cli {
 

@@ -1,10 +1,10 @@
 #include <algorithm>
 
-#include "io/line_source.h"
-#include "io/output.h"
-#include "io/texts.h"
-#include "sheets/eval_record.h"
-#include "sheets/sheet_commands.h"
+#include "cli/io/output.h"
+#include "cli/sheets/eval_record.h"
+#include "cli/sheets/sheet_commands.h"
+#include "exchange/line_source.h"
+#include "exchange/texts.h"
 
 namespace cli {
 

@@ -1,9 +1,9 @@
-#include "sheets/eval_record.h"
+#include "cli/sheets/eval_record.h"
 
 #include <nlohmann/json.hpp>
 
 #include "core_api/text/text_helpers.h"
-#include "io/texts.h"
+#include "exchange/texts.h"
 #include "platform/encodings.h"
 
 namespace cli {

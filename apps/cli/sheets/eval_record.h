@@ -15,7 +15,7 @@
 #include <variant>
 #include <vector>
 
-#include "sheets/sheet_writing.h"
+#include "exchange/sheet_writing.h"
 #include "spread/control/sheet.h"
 
 namespace cli {

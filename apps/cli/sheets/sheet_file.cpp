@@ -1,12 +1,12 @@
-#include "sheets/sheet_file.h"
+#include "cli/sheets/sheet_file.h"
 
 #include <filesystem>
 
-#include "console.h"
-#include "io/typed_paths.h"
+#include "cli/io/console.h"
+#include "cli/io/typed_paths.h"
+#include "exchange/sheet_writing.h"
 #include "platform/encodings.h"
 #include "platform/files.h"
-#include "sheets/sheet_writing.h"
 #include "spread/control/document.h"
 
 namespace cli {

@@ -2,11 +2,11 @@
 #include <map>
 #include <vector>
 
+#include "cli/io/output.h"
+#include "cli/sheets/sheet_commands.h"
+#include "cli/sheets/sheet_file.h"
 #include "core_api/text/text_helpers.h"
-#include "io/output.h"
-#include "io/texts.h"
-#include "sheets/sheet_commands.h"
-#include "sheets/sheet_file.h"
+#include "exchange/texts.h"
 
 namespace cli {
 

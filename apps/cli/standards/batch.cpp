@@ -1,13 +1,13 @@
-#include "console.h"
-#include "io/output.h"
-#include "io/texts.h"
-#include "standards/batch_input.h"
-#include "standards/batch_output.h"
-#include "standards/library.h"
-#include "standards/progress.h"
-#include "standards/standards_commands.h"
-#include "standards/value_run.h"
-#include "standards/variables.h"
+#include "cli/io/console.h"
+#include "cli/io/output.h"
+#include "cli/standards/batch_input.h"
+#include "cli/standards/batch_output.h"
+#include "cli/standards/library.h"
+#include "cli/standards/progress.h"
+#include "cli/standards/standards_commands.h"
+#include "cli/standards/value_run.h"
+#include "cli/standards/variables.h"
+#include "exchange/texts.h"
 
 namespace cli {
 

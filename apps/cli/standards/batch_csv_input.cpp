@@ -1,7 +1,7 @@
-#include "io/csv.h"
-#include "io/texts.h"
-#include "standards/batch_input.h"
-#include "standards/variables.h"
+#include "cli/standards/batch_input.h"
+#include "cli/standards/variables.h"
+#include "exchange/csv.h"
+#include "exchange/texts.h"
 
 namespace cli {
 

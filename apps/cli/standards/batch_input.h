@@ -7,7 +7,7 @@
 #include <string_view>
 #include <vector>
 
-#include "io/line_source.h"
+#include "exchange/line_source.h"
 #include "mapping/tw_var_cells.h"
 
 namespace cli {

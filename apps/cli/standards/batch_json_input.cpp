@@ -1,8 +1,8 @@
 #include <algorithm>
 #include <nlohmann/json.hpp>
 
-#include "io/texts.h"
-#include "standards/batch_input.h"
+#include "cli/standards/batch_input.h"
+#include "exchange/texts.h"
 
 namespace cli {
 

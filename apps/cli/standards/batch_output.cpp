@@ -1,8 +1,8 @@
-#include "standards/batch_output.h"
+#include "cli/standards/batch_output.h"
 
 #include "core_api/text/delimited_text.h"
 #include "core_api/text/text_helpers.h"
-#include "io/texts.h"
+#include "exchange/texts.h"
 #include "platform/encodings.h"
 
 namespace cli {

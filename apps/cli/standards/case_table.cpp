@@ -1,13 +1,13 @@
-#include "standards/case_table.h"
+#include "cli/standards/case_table.h"
 
 #include <algorithm>
 
-#include "console.h"
+#include "cli/io/console.h"
+#include "cli/standards/variables.h"
 #include "core_api/text/text_helpers.h"
-#include "io/texts.h"
+#include "exchange/texts.h"
 #include "platform/encodings.h"
 #include "runs/given_value.h"
-#include "standards/variables.h"
 
 namespace cli {
 

@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "io/csv.h"
+#include "exchange/csv.h"
 #include "mapping/tw_var_cells.h"
 
 namespace cli {

@@ -1,9 +1,9 @@
-#include "io/findings.h"
-#include "io/output.h"
-#include "io/typed_paths.h"
-#include "standards/library.h"
-#include "standards/standards_check.h"
-#include "standards/standards_commands.h"
+#include "cli/io/findings.h"
+#include "cli/io/output.h"
+#include "cli/io/typed_paths.h"
+#include "cli/standards/library.h"
+#include "cli/standards/standards_commands.h"
+#include "standards/check/standards_check.h"
 
 namespace cli {
 

@@ -1,14 +1,14 @@
-#include "standards/library.h"
+#include "cli/standards/library.h"
 
 #include <algorithm>
 
-#include "console.h"
+#include "cli/io/console.h"
+#include "cli/io/suggestion.h"
+#include "cli/io/typed_paths.h"
 #include "core_api/program_data.h"
 #include "core_api/settings.h"
 #include "core_api/text/text_helpers.h"
-#include "io/suggestion.h"
-#include "io/texts.h"
-#include "io/typed_paths.h"
+#include "exchange/texts.h"
 #include "platform/files.h"
 #include "runs/library_standards.h"
 

@@ -1,14 +1,14 @@
 #include <algorithm>
 
-#include "console.h"
+#include "cli/io/console.h"
+#include "cli/io/output.h"
+#include "cli/io/typed_paths.h"
+#include "cli/standards/library.h"
+#include "cli/standards/standards_commands.h"
+#include "cli/standards/variables.h"
 #include "core_api/settings.h"
-#include "io/output.h"
-#include "io/texts.h"
-#include "io/typed_paths.h"
+#include "exchange/texts.h"
 #include "standards/declarations.h"
-#include "standards/library.h"
-#include "standards/standards_commands.h"
-#include "standards/variables.h"
 
 namespace cli {
 

@@ -1,4 +1,4 @@
-#include "standards/progress.h"
+#include "cli/standards/progress.h"
 
 #include <unistd.h>
 

@@ -3,7 +3,7 @@
 
 #include <chrono>
 
-#include "io/line_source.h"
+#include "exchange/line_source.h"
 
 namespace cli {
 

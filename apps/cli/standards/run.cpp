@@ -1,14 +1,14 @@
-#include "console.h"
+#include "cli/io/console.h"
+#include "cli/io/output.h"
+#include "cli/io/typed_paths.h"
+#include "cli/standards/library.h"
+#include "cli/standards/run_report_output.h"
+#include "cli/standards/standards_commands.h"
+#include "cli/standards/variables.h"
 #include "core_api/settings.h"
-#include "io/output.h"
-#include "io/texts.h"
-#include "io/typed_paths.h"
+#include "exchange/texts.h"
 #include "runs/macro_run.h"
 #include "runs/named_request.h"
-#include "standards/library.h"
-#include "standards/run_report_output.h"
-#include "standards/standards_commands.h"
-#include "standards/variables.h"
 
 namespace cli {
 
@@ -44,8 +44,7 @@ ExitCode runOnMacro(const RunRequest& request, const StandardName& standard,
         return ExitCode::failed;
     const auto unread = request.write == "always" ? runs::MacroRun::Unread::written
                                                   : runs::MacroRun::Unread::refused;
-    if (!request.write.empty() &&
-        run->save(report, unread, report.failure) != OpenFile::Saved::yes)
+    if (!request.write.empty() && run->save(report, unread, report.failure) != OpenFile::Saved::yes)
         return ExitCode::failed;
     return ExitCode::done;
 }

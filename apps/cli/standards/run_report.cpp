@@ -1,8 +1,8 @@
-#include "standards/run_report_output.h"
+#include "cli/standards/run_report_output.h"
 
-#include "io/json_writer.h"
-#include "io/typed_paths.h"
-#include "standards/variables.h"
+#include "cli/io/typed_paths.h"
+#include "cli/standards/variables.h"
+#include "exchange/json_writer.h"
 
 namespace cli {
 

@@ -1,10 +1,10 @@
 #include <algorithm>
 
-#include "console.h"
+#include "cli/io/console.h"
+#include "cli/io/typed_paths.h"
+#include "cli/standards/run_report_output.h"
 #include "core_api/text/text_helpers.h"
-#include "io/texts.h"
-#include "io/typed_paths.h"
-#include "standards/run_report_output.h"
+#include "exchange/texts.h"
 
 namespace cli {
 

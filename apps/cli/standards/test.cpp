@@ -1,15 +1,15 @@
 #include <cmath>
 
-#include "console.h"
+#include "cli/io/console.h"
+#include "cli/io/output.h"
+#include "cli/io/typed_paths.h"
+#include "cli/standards/case_table.h"
+#include "cli/standards/library.h"
+#include "cli/standards/standards_commands.h"
+#include "cli/standards/value_run.h"
 #include "core_api/text/text_helpers.h"
-#include "io/output.h"
-#include "io/texts.h"
-#include "io/typed_paths.h"
+#include "exchange/texts.h"
 #include "platform/files.h"
-#include "standards/case_table.h"
-#include "standards/library.h"
-#include "standards/standards_commands.h"
-#include "standards/value_run.h"
 
 namespace cli {
 

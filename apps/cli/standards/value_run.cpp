@@ -1,12 +1,12 @@
-#include "standards/value_run.h"
+#include "cli/standards/value_run.h"
 
 #include <algorithm>
 
-#include "console.h"
-#include "io/texts.h"
-#include "io/typed_paths.h"
+#include "cli/io/console.h"
+#include "cli/io/typed_paths.h"
+#include "cli/standards/variables.h"
+#include "exchange/texts.h"
 #include "runs/run_report.h"
-#include "standards/variables.h"
 
 namespace cli {
 

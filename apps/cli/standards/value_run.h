@@ -7,9 +7,9 @@
 #include <string_view>
 #include <vector>
 
+#include "cli/standards/library.h"
 #include "platform/window/message_box.h"
 #include "runs/named_request.h"
-#include "standards/library.h"
 #include "standards/run_observer.h"
 
 namespace cli {

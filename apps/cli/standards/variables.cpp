@@ -1,8 +1,8 @@
-#include "standards/variables.h"
+#include "cli/standards/variables.h"
 
-#include "console.h"
+#include "cli/io/console.h"
 #include "core_api/text/text_helpers.h"
-#include "io/texts.h"
+#include "exchange/texts.h"
 #include "platform/encodings.h"
 #include "runs/given_value.h"
 

@@ -1,4 +1,4 @@
-#include "bill/bill_dialog.h"
+#include "workbench/bill/bill_dialog.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -14,7 +14,6 @@
 #include <QTableWidget>
 #include <algorithm>
 
-#include "bill/bill_words.h"
 #include "bills/bill_table.h"
 #include "core_api/files.h"
 #include "core_api/settings.h"
@@ -23,9 +22,10 @@
 #include "platform/paths.h"
 #include "platform/window/file_question.h"
 #include "platform/window/message_box.h"
-#include "window/dialog_buttons.h"
-#include "window/dialog_font.h"
-#include "window/say.h"
+#include "workbench/bill/bill_words.h"
+#include "workbench/window/dialog_buttons.h"
+#include "workbench/window/dialog_font.h"
+#include "workbench/window/say.h"
 
 namespace {
 

@@ -1,17 +1,17 @@
-#include "bill/bill_maker.h"
+#include "workbench/bill/bill_maker.h"
 
 #include <QProgressDialog>
 
-#include "bill/bill_dialog.h"
-#include "bill/bill_window_button.h"
-#include "bill/bill_words.h"
 #include "core_api/text/text_helpers.h"
 #include "platform/host/host.h"
 #include "platform/window/message_box.h"
-#include "sheet/sheet_printing.h"
-#include "window/dialog_font.h"
-#include "window/machine_path.h"
-#include "window/say.h"
+#include "workbench/bill/bill_dialog.h"
+#include "workbench/bill/bill_window_button.h"
+#include "workbench/bill/bill_words.h"
+#include "workbench/sheet/sheet_printing.h"
+#include "workbench/window/dialog_font.h"
+#include "workbench/window/machine_path.h"
+#include "workbench/window/say.h"
 
 namespace {
 

@@ -1,18 +1,18 @@
-#include "bill/bill_window_button.h"
+#include "workbench/bill/bill_window_button.h"
 
 #include <QEvent>
 #include <QMenu>
 
-#include "bill/bill_words.h"
 #include "core_api/text/text_helpers.h"
-#include "grid/grid_view.h"
 #include "platform/host/host.h"
 #include "platform/window/message_box.h"
-#include "sheet/say.h"
-#include "sheet/sheet_export.h"
-#include "sheet/sheet_printing.h"
-#include "window/machine_path.h"
-#include "window/qt_window_system.h"
+#include "workbench/bill/bill_words.h"
+#include "workbench/grid/grid_view.h"
+#include "workbench/sheet/say.h"
+#include "workbench/sheet/sheet_export.h"
+#include "workbench/sheet/sheet_printing.h"
+#include "workbench/window/machine_path.h"
+#include "workbench/window/qt_window_system.h"
 
 namespace {
 

@@ -1,4 +1,4 @@
-#include "grid/calculation_stop.h"
+#include "workbench/grid/calculation_stop.h"
 
 #include <QApplication>
 #include <QElapsedTimer>
@@ -10,7 +10,7 @@
 #include "core_api/texts/texts.h"
 #include "platform/host/host.h"
 #include "spread/control/stop_calculation.h"
-#include "window/say.h"
+#include "workbench/window/say.h"
 
 namespace {
 

@@ -1,11 +1,11 @@
-#include "grid/cell_font.h"
+#include "workbench/grid/cell_font.h"
 
 #include <QFontDatabase>
 #include <algorithm>
 #include <deque>
 
 #include "spread/control/text_fit.h"
-#include "window/dialog_font.h"
+#include "workbench/window/dialog_font.h"
 
 namespace {
 

@@ -1,14 +1,14 @@
-#include "grid/cell_painter.h"
+#include "workbench/grid/cell_painter.h"
 
 #include <QApplication>
 #include <QPainter>
 #include <algorithm>
 #include <optional>
 
-#include "grid/grid_steps.h"
 #include "platform/window/bitmap.h"
 #include "spread/control/text_overflow.h"
-#include "window/dialog_font.h"
+#include "workbench/grid/grid_steps.h"
+#include "workbench/window/dialog_font.h"
 
 using control::CellAddress;
 using control::CellKind;

@@ -3,9 +3,9 @@
 
 #include <QStyledItemDelegate>
 
-#include "grid/cell_font.h"
-#include "grid/cell_pictures.h"
 #include "spread/control/grid.h"
+#include "workbench/grid/cell_font.h"
+#include "workbench/grid/cell_pictures.h"
 
 /// Colours of the module as Qt has them; `automatic` gives the fallback.
 QColor toQt(control::Colour colour, const QColor& fallback);

@@ -1,10 +1,10 @@
-#include "grid/cell_pictures.h"
+#include "workbench/grid/cell_pictures.h"
 
 #include <QFile>
 #include <QPainter>
 
 #include "platform/files.h"
-#include "window/pictures.h"
+#include "workbench/window/pictures.h"
 
 namespace {
 

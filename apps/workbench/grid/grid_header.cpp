@@ -1,10 +1,10 @@
-#include "grid/grid_header.h"
+#include "workbench/grid/grid_header.h"
 
 #include <QPainter>
 
-#include "grid/cell_font.h"
-#include "grid/cell_painter.h"
-#include "grid/grid_model.h"
+#include "workbench/grid/cell_font.h"
+#include "workbench/grid/cell_painter.h"
+#include "workbench/grid/grid_model.h"
 
 using control::headerIndex;
 

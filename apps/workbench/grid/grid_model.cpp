@@ -1,7 +1,7 @@
-#include "grid/grid_model.h"
+#include "workbench/grid/grid_model.h"
 
 #include "spread/control/formula/lexer.h"
-#include "window/dialog_font.h"
+#include "workbench/window/dialog_font.h"
 
 using control::Reading;
 

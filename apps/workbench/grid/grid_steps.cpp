@@ -1,4 +1,4 @@
-#include "grid/grid_steps.h"
+#include "workbench/grid/grid_steps.h"
 
 #include <algorithm>
 

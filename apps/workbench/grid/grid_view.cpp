@@ -1,4 +1,4 @@
-#include "grid/grid_view.h"
+#include "workbench/grid/grid_view.h"
 
 #include <QAbstractButton>
 #include <QGuiApplication>
@@ -7,12 +7,12 @@
 #include <QPainter>
 #include <QToolTip>
 
-#include "grid/cell_font.h"
-#include "grid/grid_header.h"
-#include "grid/message_bubble.h"
-#include "grid/refusal.h"
-#include "window/dialog_font.h"
-#include "window/dialog_style.h"
+#include "workbench/grid/cell_font.h"
+#include "workbench/grid/grid_header.h"
+#include "workbench/grid/message_bubble.h"
+#include "workbench/grid/refusal.h"
+#include "workbench/window/dialog_font.h"
+#include "workbench/window/dialog_style.h"
 
 using control::CellAddress;
 using control::headerIndex;

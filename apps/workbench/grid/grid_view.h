@@ -5,12 +5,12 @@
 
 #include <QTableView>
 
-#include "grid/cell_painter.h"
-#include "grid/grid_model.h"
-#include "grid/grid_steps.h"
-#include "grid/in_cell_editor.h"
-#include "grid/layout_follower.h"
 #include "spread/t_spread.h"
+#include "workbench/grid/cell_painter.h"
+#include "workbench/grid/grid_model.h"
+#include "workbench/grid/grid_steps.h"
+#include "workbench/grid/in_cell_editor.h"
+#include "workbench/grid/layout_follower.h"
 
 class MessageBubble;
 

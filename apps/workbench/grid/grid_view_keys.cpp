@@ -3,14 +3,14 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 
-#include "grid/grid_view.h"
-#include "grid/item_list.h"
-#include "grid/message_bubble.h"
-#include "grid/refusal.h"
 #include "platform/window/window_system.h"
 #include "spread/vor_spread.h"
-#include "window/dialog_font.h"
-#include "window/input_translation.h"
+#include "workbench/grid/grid_view.h"
+#include "workbench/grid/item_list.h"
+#include "workbench/grid/message_bubble.h"
+#include "workbench/grid/refusal.h"
+#include "workbench/window/dialog_font.h"
+#include "workbench/window/input_translation.h"
 
 using control::Block;
 using control::CellAddress;

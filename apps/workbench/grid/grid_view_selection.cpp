@@ -3,8 +3,8 @@
 #include <QHeaderView>
 #include <QMouseEvent>
 
-#include "grid/grid_view.h"
-#include "grid/message_bubble.h"
+#include "workbench/grid/grid_view.h"
+#include "workbench/grid/message_bubble.h"
 
 using control::Block;
 using control::CellAddress;

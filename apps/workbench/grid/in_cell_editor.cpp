@@ -1,14 +1,14 @@
-#include "grid/in_cell_editor.h"
+#include "workbench/grid/in_cell_editor.h"
 
 #include <QFocusEvent>
 #include <QKeyEvent>
 #include <QTableView>
 #include <algorithm>
 
-#include "grid/cell_font.h"
-#include "grid/refusal.h"
-#include "window/dialog_font.h"
-#include "window/typed_text.h"
+#include "workbench/grid/cell_font.h"
+#include "workbench/grid/refusal.h"
+#include "workbench/window/dialog_font.h"
+#include "workbench/window/typed_text.h"
 
 using control::CellAddress;
 

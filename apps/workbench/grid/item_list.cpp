@@ -1,4 +1,4 @@
-#include "grid/item_list.h"
+#include "workbench/grid/item_list.h"
 
 #include <QKeyEvent>
 #include <QScreen>

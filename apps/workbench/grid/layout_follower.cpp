@@ -1,10 +1,10 @@
-#include "grid/layout_follower.h"
+#include "workbench/grid/layout_follower.h"
 
 #include <QHeaderView>
 #include <QSignalBlocker>
 #include <QTableView>
 
-#include "grid/cell_font.h"
+#include "workbench/grid/cell_font.h"
 
 namespace {
 

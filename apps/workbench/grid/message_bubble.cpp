@@ -1,4 +1,4 @@
-#include "grid/message_bubble.h"
+#include "workbench/grid/message_bubble.h"
 
 #include <algorithm>
 

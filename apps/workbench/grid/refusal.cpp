@@ -1,8 +1,8 @@
-#include "grid/refusal.h"
+#include "workbench/grid/refusal.h"
 
-#include "grid/grid_steps.h"
-#include "window/dialog_font.h"
-#include "window/say.h"
+#include "workbench/grid/grid_steps.h"
+#include "workbench/window/dialog_font.h"
+#include "workbench/window/say.h"
 
 using control::CellKind;
 using control::CellType;

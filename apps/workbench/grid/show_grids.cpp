@@ -1,8 +1,8 @@
-#include "grid/show_grids.h"
+#include "workbench/grid/show_grids.h"
 
-#include "grid/cell_font.h"
-#include "grid/grid_view.h"
-#include "window/qt_window_system.h"
+#include "workbench/grid/cell_font.h"
+#include "workbench/grid/grid_view.h"
+#include "workbench/window/qt_window_system.h"
 
 void showGrids(QtWindowSystem& system) {
     measureWithCellFonts();  // dialogs fit their columns before a view of them is made

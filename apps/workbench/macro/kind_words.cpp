@@ -1,6 +1,6 @@
-#include "macro/kind_words.h"
+#include "workbench/macro/kind_words.h"
 
-#include "window/say.h"
+#include "workbench/window/say.h"
 
 namespace {
 

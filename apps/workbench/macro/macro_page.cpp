@@ -1,4 +1,4 @@
-#include "macro/macro_page.h"
+#include "workbench/macro/macro_page.h"
 
 #include <QHBoxLayout>
 #include <QHeaderView>
@@ -6,16 +6,16 @@
 #include <QVBoxLayout>
 
 #include "core_api/text/text_helpers.h"
-#include "macro/kind_words.h"
 #include "mapping/mapping_file.h"
-#include "mapping/start_mapping_dialog.h"
 #include "mapping/tw_ss_mapping.h"
+#include "mapping_dialog/start_mapping_dialog.h"
 #include "platform/window/message_box.h"
-#include "run/calculation_view.h"
 #include "runs/library_standards.h"
-#include "shell/words.h"
-#include "window/dialog_font.h"
-#include "window/say.h"
+#include "workbench/macro/kind_words.h"
+#include "workbench/run/calculation_view.h"
+#include "workbench/window/dialog_font.h"
+#include "workbench/window/say.h"
+#include "workbench/words/workbench_words.h"
 
 namespace {
 

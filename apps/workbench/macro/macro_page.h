@@ -8,8 +8,8 @@
 #include <QTableWidget>
 #include <memory>
 
-#include "run/calculation_model.h"
 #include "runs/macro_run.h"
+#include "workbench/run/calculation_model.h"
 
 class MacroPage : public QWidget {
   public:

@@ -5,9 +5,9 @@
 #include "core_api/text/text_helpers.h"
 #include "core_api/texts/texts.h"
 #include "designer/designer_templates.h"
-#include "module/module_data.h"
-#include "module/starts.h"
 #include "platform/host/host.h"
+#include "workbench/module/module_data.h"
+#include "workbench/module/starts.h"
 
 namespace starts {
 

@@ -7,10 +7,10 @@
 #include "cutstock/cutting_stock_library.h"
 #include "cutstock/item_names.h"
 #include "cutstock/item_rows.h"
-#include "module/module_data.h"
-#include "module/starts.h"
 #include "platform/window/message_box.h"
-#include "sections/section_editing.h"
+#include "workbench/module/module_data.h"
+#include "workbench/module/starts.h"
+#include "workbench/sections/section_editing.h"
 
 namespace starts {
 

@@ -1,10 +1,10 @@
-#include "module/module_data.h"
+#include "workbench/module/module_data.h"
 
 #include "core_api/files.h"
 #include "core_api/sections/section_tables.h"
 #include "core_api/settings.h"
-#include "macro/macro_page.h"
 #include "platform/host/host.h"
+#include "workbench/macro/macro_page.h"
 
 ModuleData::ModuleData(PageOf pageOf)
     : openMacros([this](const Vor_String& path, const MacroData& data) {

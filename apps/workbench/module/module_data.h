@@ -8,8 +8,8 @@
 #include <optional>
 
 #include "frame/starters.h"
-#include "module/open_macros.h"
 #include "runs/macro_run.h"
+#include "workbench/module/open_macros.h"
 
 class MacroPage;
 

@@ -1,4 +1,4 @@
-#include "module/open_macros.h"
+#include "workbench/module/open_macros.h"
 
 #include <utility>
 

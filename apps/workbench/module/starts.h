@@ -2,7 +2,7 @@
 // with the result.
 #pragma once
 
-#include "shell/starters_menu.h"
+#include "workbench/module/starters_menu.h"
 
 namespace starts {
 

@@ -2,13 +2,13 @@
 #include "core_api/settings.h"
 #include "core_api/texts/texts.h"
 #include "mapping/mapping_file.h"
-#include "mapping/start_mapping_dialog.h"
-#include "module/module_data.h"
-#include "module/starts.h"
-#include "shell/words.h"
+#include "mapping_dialog/start_mapping_dialog.h"
 #include "spread/formulas/formulas_dialog.h"
 #include "spread/formulas/formulas_starters.h"
 #include "standards/run_observer.h"
+#include "workbench/module/module_data.h"
+#include "workbench/module/starts.h"
+#include "workbench/words/workbench_words.h"
 
 namespace starts {
 

@@ -1,12 +1,12 @@
-#include "run/calculation_model.h"
+#include "workbench/run/calculation_model.h"
 
 #include <QColor>
 #include <QFont>
 
 #include "core_api/text/text_helpers.h"
-#include "shell/words.h"
-#include "window/dialog_font.h"
-#include "window/say.h"
+#include "workbench/window/dialog_font.h"
+#include "workbench/window/say.h"
+#include "workbench/words/workbench_words.h"
 
 using runs::Calculation;
 using runs::CalculationLine;

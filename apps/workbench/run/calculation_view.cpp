@@ -1,6 +1,6 @@
-#include "run/calculation_view.h"
+#include "workbench/run/calculation_view.h"
 
-#include "run/calculation_model.h"
+#include "workbench/run/calculation_model.h"
 
 QTreeView* makeCalculationView(CalculationModel& model) {
     auto* view = new QTreeView;

@@ -1,7 +1,7 @@
-#include "run/example_values.h"
+#include "workbench/run/example_values.h"
 
 #include "core_api/text/text_helpers.h"
-#include "io/csv.h"
+#include "exchange/csv.h"
 #include "platform/encodings.h"
 #include "platform/paths.h"
 

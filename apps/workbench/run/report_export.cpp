@@ -1,4 +1,4 @@
-#include "run/report_export.h"
+#include "workbench/run/report_export.h"
 
 #include <QAbstractTextDocumentLayout>
 #include <QBuffer>
@@ -9,7 +9,7 @@
 #include "core_api/texts/date_text.h"
 #include "platform/clock.h"
 #include "runs/html_report.h"
-#include "window/written_file.h"
+#include "workbench/window/written_file.h"
 
 namespace {
 

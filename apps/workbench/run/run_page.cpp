@@ -1,4 +1,4 @@
-#include "run/run_page.h"
+#include "workbench/run/run_page.h"
 
 #include <QComboBox>
 #include <QCompleter>
@@ -12,14 +12,14 @@
 #include <QVBoxLayout>
 
 #include "core_api/text/text_helpers.h"
-#include "run/calculation_view.h"
-#include "run/report_export.h"
-#include "run/section_names.h"
-#include "run/section_picker.h"
-#include "shell/words.h"
-#include "window/dialog_font.h"
-#include "window/say.h"
-#include "window/typed_text.h"
+#include "workbench/run/calculation_view.h"
+#include "workbench/run/report_export.h"
+#include "workbench/run/section_names.h"
+#include "workbench/run/section_picker.h"
+#include "workbench/window/dialog_font.h"
+#include "workbench/window/say.h"
+#include "workbench/window/typed_text.h"
+#include "workbench/words/workbench_words.h"
 
 namespace {
 

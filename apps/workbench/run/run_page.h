@@ -10,8 +10,8 @@
 #include <map>
 #include <memory>
 
-#include "run/calculation_model.h"
-#include "run/run_session.h"
+#include "workbench/run/calculation_model.h"
+#include "workbench/run/run_session.h"
 
 class RunPage : public QWidget {
   public:

@@ -1,4 +1,4 @@
-#include "run/run_session.h"
+#include "workbench/run/run_session.h"
 
 #include <algorithm>
 

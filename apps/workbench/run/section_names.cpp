@@ -1,7 +1,7 @@
-#include "run/section_names.h"
+#include "workbench/run/section_names.h"
 
 #include "core_api/sections/section_tables.h"
-#include "window/dialog_font.h"
+#include "workbench/window/dialog_font.h"
 
 QStringList sectionNames() {
     QStringList names;

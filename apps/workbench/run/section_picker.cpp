@@ -1,4 +1,4 @@
-#include "run/section_picker.h"
+#include "workbench/run/section_picker.h"
 
 #include <QDialogButtonBox>
 #include <QHBoxLayout>
@@ -7,10 +7,10 @@
 #include <QVBoxLayout>
 
 #include "core_api/sections/section_tables.h"
-#include "shell/words.h"
-#include "window/dialog_buttons.h"
-#include "window/dialog_font.h"
-#include "window/say.h"
+#include "workbench/window/dialog_buttons.h"
+#include "workbench/window/dialog_font.h"
+#include "workbench/window/say.h"
+#include "workbench/words/workbench_words.h"
 
 SectionPicker::SectionPicker(const QString& present, QWidget* parent) : QDialog(parent) {
     setWindowTitle(say(wordChooseSection));

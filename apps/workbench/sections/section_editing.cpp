@@ -1,4 +1,4 @@
-#include "sections/section_editing.h"
+#include "workbench/sections/section_editing.h"
 
 #include "core_api/sections/section_tables.h"
 #include "core_api/text/text_helpers.h"

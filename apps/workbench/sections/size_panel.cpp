@@ -1,4 +1,4 @@
-#include "sections/size_panel.h"
+#include "workbench/sections/size_panel.h"
 
 #include <QPainter>
 #include <QVBoxLayout>
@@ -8,8 +8,8 @@
 #include "sections/section_area.h"
 #include "sections/section_figures.h"
 #include "sections/section_types.h"
-#include "sections/sketch_painter.h"
-#include "window/dialog_font.h"
+#include "workbench/sections/sketch_painter.h"
+#include "workbench/window/dialog_font.h"
 
 namespace {
 

@@ -5,8 +5,8 @@
 #include <QLabel>
 #include <QWidget>
 
-#include "core_api/drawing/figure.h"
 #include "core_api/text/vor_string_array.h"
+#include "drawing/figure.h"
 
 /// Paints a figure as large as it has room for.
 class FigureView : public QWidget {

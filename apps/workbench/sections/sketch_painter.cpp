@@ -1,4 +1,4 @@
-#include "sections/sketch_painter.h"
+#include "workbench/sections/sketch_painter.h"
 
 #include <QPainter>
 #include <QPainterPath>
@@ -6,9 +6,9 @@
 #include <algorithm>
 #include <cmath>
 
-#include "core_api/drawing/dashes.h"
-#include "core_api/drawing/sketch.h"
-#include "core_api/drawing/stroke_font.h"
+#include "drawing/dashes.h"
+#include "drawing/sketch.h"
+#include "drawing/stroke_font.h"
 
 namespace {
 

@@ -1,4 +1,4 @@
-#include "sections/table_page.h"
+#include "workbench/sections/table_page.h"
 
 #include <QCollator>
 #include <QHeaderView>
@@ -10,9 +10,9 @@
 #include "core_api/text/text_helpers.h"
 #include "core_api/texts/texts.h"
 #include "platform/paths.h"
-#include "shell/words.h"
-#include "window/dialog_font.h"
-#include "window/say.h"
+#include "workbench/window/dialog_font.h"
+#include "workbench/window/say.h"
+#include "workbench/words/workbench_words.h"
 
 namespace {
 

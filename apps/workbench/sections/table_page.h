@@ -9,7 +9,7 @@
 #include <functional>
 
 #include "core_api/sections/section_table.h"
-#include "sections/size_panel.h"
+#include "workbench/sections/size_panel.h"
 
 class TablePage : public QWidget {
   public:

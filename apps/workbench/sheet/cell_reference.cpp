@@ -1,10 +1,10 @@
-#include "sheet/cell_reference.h"
+#include "workbench/sheet/cell_reference.h"
 
 #include <QRegularExpression>
 
 #include "core_api/text/text_helpers.h"
-#include "sheets/sheet_writing.h"
-#include "window/dialog_font.h"
+#include "exchange/sheet_writing.h"
+#include "workbench/window/dialog_font.h"
 
 using control::Block;
 

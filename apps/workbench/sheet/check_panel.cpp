@@ -1,14 +1,14 @@
-#include "sheet/check_panel.h"
+#include "workbench/sheet/check_panel.h"
 
 #include <QStyle>
 #include <QVBoxLayout>
 
 #include "core_api/texts/texts.h"
-#include "sheet/sheet_words.h"
-#include "sheets/sheet_writing.h"
-#include "standards/standards_check.h"
-#include "window/dialog_font.h"
-#include "window/say.h"
+#include "exchange/sheet_writing.h"
+#include "standards/check/standards_check.h"
+#include "workbench/sheet/sheet_words.h"
+#include "workbench/window/dialog_font.h"
+#include "workbench/window/say.h"
 
 namespace {
 

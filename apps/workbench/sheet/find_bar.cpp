@@ -1,13 +1,13 @@
-#include "sheet/find_bar.h"
+#include "workbench/sheet/find_bar.h"
 
 #include <QGridLayout>
 #include <QKeyEvent>
 #include <QToolButton>
 
 #include "core_api/texts/sheet_text_numbers.h"
-#include "sheet/cell_reference.h"
-#include "sheet/say.h"
-#include "window/typed_text.h"
+#include "workbench/sheet/cell_reference.h"
+#include "workbench/sheet/say.h"
+#include "workbench/window/typed_text.h"
 
 FindBar::FindBar(SheetSpread& spread, std::function<void()> changed, std::function<void()> closed,
                  QWidget* parent)

@@ -6,7 +6,7 @@
 #include <QPushButton>
 #include <functional>
 
-#include "sheet/sheet_spread.h"
+#include "workbench/sheet/sheet_spread.h"
 
 class FindBar : public QWidget {
   public:

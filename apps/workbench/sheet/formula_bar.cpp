@@ -1,13 +1,13 @@
-#include "sheet/formula_bar.h"
+#include "workbench/sheet/formula_bar.h"
 
 #include <QHBoxLayout>
 #include <QKeyEvent>
 
 #include "core_api/texts/texts.h"
-#include "sheet/cell_reference.h"
-#include "sheet/sheet_words.h"
-#include "window/dialog_font.h"
-#include "window/typed_text.h"
+#include "workbench/sheet/cell_reference.h"
+#include "workbench/sheet/sheet_words.h"
+#include "workbench/window/dialog_font.h"
+#include "workbench/window/typed_text.h"
 
 namespace {
 

@@ -6,8 +6,8 @@
 #include <QToolButton>
 #include <functional>
 
-#include "sheet/formula_typing.h"
-#include "sheet/sheet_view.h"
+#include "workbench/sheet/formula_typing.h"
+#include "workbench/sheet/sheet_view.h"
 
 class FormulaBar : public QWidget {
     Q_OBJECT

@@ -1,10 +1,10 @@
-#include "sheet/formula_typing.h"
+#include "workbench/sheet/formula_typing.h"
 
 #include <QKeyEvent>
 #include <QSyntaxHighlighter>
 
-#include "grid/cell_painter.h"
-#include "window/dialog_font.h"
+#include "workbench/grid/cell_painter.h"
+#include "workbench/window/dialog_font.h"
 
 namespace {
 

@@ -1,4 +1,4 @@
-#include "sheet/frozen_panes.h"
+#include "workbench/sheet/frozen_panes.h"
 
 #include <QCoreApplication>
 #include <QHeaderView>
@@ -6,11 +6,11 @@
 #include <QPainter>
 #include <QScrollBar>
 
-#include "grid/cell_painter.h"
-#include "grid/grid_header.h"
-#include "grid/grid_model.h"
-#include "grid/layout_follower.h"
-#include "sheet/sheet_view.h"
+#include "workbench/grid/cell_painter.h"
+#include "workbench/grid/grid_header.h"
+#include "workbench/grid/grid_model.h"
+#include "workbench/grid/layout_follower.h"
+#include "workbench/sheet/sheet_view.h"
 
 class FrozenPane : public QTableView {
   public:

@@ -1,14 +1,14 @@
-#include "sheet/function_dialog.h"
+#include "workbench/sheet/function_dialog.h"
 
 #include <QDialogButtonBox>
 #include <QKeyEvent>
 #include <QVBoxLayout>
 #include <set>
 
-#include "sheet/say.h"
-#include "shell/words.h"
 #include "spread/editor/formula_help.h"
-#include "window/dialog_buttons.h"
+#include "workbench/sheet/say.h"
+#include "workbench/window/dialog_buttons.h"
+#include "workbench/words/workbench_words.h"
 
 FunctionDialog::FunctionDialog(QWidget* parent)
     : QDialog(parent),

@@ -1,16 +1,16 @@
-#include "sheet/page_painter.h"
+#include "workbench/sheet/page_painter.h"
 
 #include <QImage>
 #include <QPainter>
 #include <algorithm>
 #include <cmath>
 
-#include "grid/cell_font.h"
-#include "grid/cell_painter.h"
-#include "grid/cell_pictures.h"
 #include "platform/files.h"
-#include "window/dialog_font.h"
-#include "window/pictures.h"
+#include "workbench/grid/cell_font.h"
+#include "workbench/grid/cell_painter.h"
+#include "workbench/grid/cell_pictures.h"
+#include "workbench/window/dialog_font.h"
+#include "workbench/window/pictures.h"
 
 using printing::PrintedCell;
 

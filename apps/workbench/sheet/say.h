@@ -2,6 +2,6 @@
 #pragma once
 
 #include "core_api/texts/texts.h"
-#include "sheet/sheet_words.h"
-#include "window/dialog_font.h"
-#include "window/say.h"
+#include "workbench/sheet/sheet_words.h"
+#include "workbench/window/dialog_font.h"
+#include "workbench/window/say.h"

@@ -1,11 +1,11 @@
-#include "sheet/sheet_clipboard.h"
+#include "workbench/sheet/sheet_clipboard.h"
 
 #include <QClipboard>
 #include <QGuiApplication>
 #include <utility>
 
-#include "window/dialog_font.h"
-#include "window/typed_text.h"
+#include "workbench/window/dialog_font.h"
+#include "workbench/window/typed_text.h"
 
 SheetClipboard& SheetClipboard::shared() {
     static SheetClipboard clipboard;

@@ -5,7 +5,7 @@
 #include <QString>
 #include <optional>
 
-#include "sheet/sheet_spread.h"
+#include "workbench/sheet/sheet_spread.h"
 
 class SheetClipboard {
   public:

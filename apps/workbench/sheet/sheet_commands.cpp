@@ -1,10 +1,10 @@
-#include "sheet/sheet_commands.h"
+#include "workbench/sheet/sheet_commands.h"
 
 #include <QCursor>
 
-#include "sheet/function_dialog.h"
-#include "sheet/say.h"
-#include "sheet/sheet_page.h"
+#include "workbench/sheet/function_dialog.h"
+#include "workbench/sheet/say.h"
+#include "workbench/sheet/sheet_page.h"
 
 SheetCommands::SheetCommands(SheetPage& page)
     : QObject(&page), m_page(page), m_toolBar(new QToolBar(&page)) {

@@ -9,8 +9,8 @@
 #include <functional>
 #include <map>
 
-#include "sheet/sheet_icons.h"
 #include "spread/editor/sheet_editor.h"
+#include "workbench/sheet/sheet_icons.h"
 
 class SheetPage;
 

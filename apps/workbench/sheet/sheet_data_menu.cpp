@@ -1,14 +1,14 @@
 // Filling, sorting, notes, functions, settings, and the checks of standards.
 #include <QInputDialog>
 
-#include "sheet/cell_reference.h"
-#include "sheet/say.h"
-#include "sheet/sheet_commands.h"
-#include "sheet/sheet_page.h"
-#include "sheet/sheet_settings_dialog.h"
-#include "sheet/sort_dialog.h"
-#include "window/desktop_texts.h"
-#include "window/typed_text.h"
+#include "workbench/sheet/cell_reference.h"
+#include "workbench/sheet/say.h"
+#include "workbench/sheet/sheet_commands.h"
+#include "workbench/sheet/sheet_page.h"
+#include "workbench/sheet/sheet_settings_dialog.h"
+#include "workbench/sheet/sort_dialog.h"
+#include "workbench/window/desktop_texts.h"
+#include "workbench/window/typed_text.h"
 
 using control::Block;
 using editor::SheetEditor;

@@ -1,8 +1,8 @@
 // Undoing, the clipboard, clearing and searching.
-#include "sheet/say.h"
-#include "sheet/sheet_clipboard.h"
-#include "sheet/sheet_commands.h"
-#include "sheet/sheet_page.h"
+#include "workbench/sheet/say.h"
+#include "workbench/sheet/sheet_clipboard.h"
+#include "workbench/sheet/sheet_commands.h"
+#include "workbench/sheet/sheet_page.h"
 
 void SheetCommands::makeEditMenu() {
     QMenu& menu = *addMenu(sayMenuEdit);

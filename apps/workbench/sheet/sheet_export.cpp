@@ -1,14 +1,14 @@
-#include "sheet/sheet_export.h"
+#include "workbench/sheet/sheet_export.h"
 
 #include <QMenu>
 
+#include "exchange/sheet_writing.h"
 #include "platform/files.h"
 #include "platform/window/file_question.h"
-#include "sheet/say.h"
-#include "sheet/sheet_file.h"
-#include "sheet/sheet_printing.h"
-#include "sheets/sheet_writing.h"
-#include "window/machine_path.h"
+#include "workbench/sheet/say.h"
+#include "workbench/sheet/sheet_file.h"
+#include "workbench/sheet/sheet_printing.h"
+#include "workbench/window/machine_path.h"
 
 namespace {
 

@@ -6,7 +6,7 @@
 #include <functional>
 #include <string>
 
-#include "sheets/sheet_writing.h"
+#include "exchange/sheet_writing.h"
 #include "spread/vor_spread.h"
 
 class QMenu;

@@ -1,4 +1,4 @@
-#include "sheet/sheet_file.h"
+#include "workbench/sheet/sheet_file.h"
 
 #include <algorithm>
 

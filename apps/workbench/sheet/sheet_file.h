@@ -6,7 +6,7 @@
 #include <string>
 
 #include "core_api/dialogs/open_file.h"
-#include "sheet/sheet_spread.h"
+#include "workbench/sheet/sheet_spread.h"
 
 class SheetFile {
   public:

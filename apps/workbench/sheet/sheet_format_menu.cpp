@@ -4,12 +4,12 @@
 #include <QInputDialog>
 
 #include "core_api/texts/sheet_text_numbers.h"
-#include "grid/cell_painter.h"
-#include "sheet/say.h"
-#include "sheet/sheet_commands.h"
-#include "sheet/sheet_page.h"
-#include "window/desktop_texts.h"
-#include "window/typed_text.h"
+#include "workbench/grid/cell_painter.h"
+#include "workbench/sheet/say.h"
+#include "workbench/sheet/sheet_commands.h"
+#include "workbench/sheet/sheet_page.h"
+#include "workbench/window/desktop_texts.h"
+#include "workbench/window/typed_text.h"
 
 using control::Block;
 using control::CellKind;

@@ -1,9 +1,9 @@
-#include "sheet/sheet_icons.h"
+#include "workbench/sheet/sheet_icons.h"
 
 #include <QPainter>
 #include <QPainterPath>
 
-#include "window/dialog_font.h"
+#include "workbench/window/dialog_font.h"
 
 namespace {
 

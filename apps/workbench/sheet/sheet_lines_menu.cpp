@@ -1,10 +1,10 @@
 // Rows and columns: inserting, deleting, moving, hiding and their sizes.
 #include <QInputDialog>
 
-#include "sheet/say.h"
-#include "sheet/sheet_commands.h"
-#include "sheet/sheet_page.h"
-#include "window/desktop_texts.h"
+#include "workbench/sheet/say.h"
+#include "workbench/sheet/sheet_commands.h"
+#include "workbench/sheet/sheet_page.h"
+#include "workbench/window/desktop_texts.h"
 
 using control::Block;
 using editor::SheetEditor;

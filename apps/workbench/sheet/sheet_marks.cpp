@@ -1,9 +1,9 @@
-#include "sheet/sheet_marks.h"
+#include "workbench/sheet/sheet_marks.h"
 
 #include <QPainter>
 #include <QTableView>
 
-#include "grid/cell_painter.h"
+#include "workbench/grid/cell_painter.h"
 
 using control::Block;
 using control::CellAddress;

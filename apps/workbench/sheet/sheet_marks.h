@@ -4,8 +4,8 @@
 
 #include <memory>
 
-#include "sheet/formula_typing.h"
-#include "sheet/standard_marks.h"
+#include "workbench/sheet/formula_typing.h"
+#include "workbench/sheet/standard_marks.h"
 
 class QPainter;
 class QTableView;

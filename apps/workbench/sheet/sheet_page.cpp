@@ -1,4 +1,4 @@
-#include "sheet/sheet_page.h"
+#include "workbench/sheet/sheet_page.h"
 
 #include <QFileInfo>
 #include <QSplitter>
@@ -8,13 +8,13 @@
 #include "core_api/text/text_helpers.h"
 #include "platform/window/file_question.h"
 #include "platform/window/message_box.h"
-#include "sheet/say.h"
-#include "sheet/sheet_commands.h"
-#include "sheet/sheet_export.h"
-#include "sheet/sheet_printing.h"
 #include "spread/editor/block_statistics.h"
-#include "window/machine_path.h"
-#include "window/typed_text.h"
+#include "workbench/sheet/say.h"
+#include "workbench/sheet/sheet_commands.h"
+#include "workbench/sheet/sheet_export.h"
+#include "workbench/sheet/sheet_printing.h"
+#include "workbench/window/machine_path.h"
+#include "workbench/window/typed_text.h"
 
 namespace {
 

@@ -6,11 +6,11 @@
 #include <QTimer>
 #include <QWidget>
 
-#include "sheet/check_panel.h"
-#include "sheet/find_bar.h"
-#include "sheet/formula_bar.h"
-#include "sheet/sheet_file.h"
-#include "sheet/sheet_view.h"
+#include "workbench/sheet/check_panel.h"
+#include "workbench/sheet/find_bar.h"
+#include "workbench/sheet/formula_bar.h"
+#include "workbench/sheet/sheet_file.h"
+#include "workbench/sheet/sheet_view.h"
 
 class QSplitter;
 class SheetCommands;

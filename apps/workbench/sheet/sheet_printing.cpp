@@ -1,4 +1,4 @@
-#include "sheet/sheet_printing.h"
+#include "workbench/sheet/sheet_printing.h"
 
 #include <QAction>
 #include <QBuffer>
@@ -8,11 +8,11 @@
 #include <QPrintPreviewDialog>
 #include <QPrinter>
 
-#include "sheet/page_painter.h"
-#include "sheet/say.h"
 #include "spread/tw_sheet_settings.h"
-#include "window/dialog_font.h"
-#include "window/written_file.h"
+#include "workbench/sheet/page_painter.h"
+#include "workbench/sheet/say.h"
+#include "workbench/window/dialog_font.h"
+#include "workbench/window/written_file.h"
 
 namespace {
 

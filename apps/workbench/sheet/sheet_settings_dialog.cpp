@@ -1,4 +1,4 @@
-#include "sheet/sheet_settings_dialog.h"
+#include "workbench/sheet/sheet_settings_dialog.h"
 
 #include <QDialogButtonBox>
 #include <QFontDatabase>
@@ -13,10 +13,10 @@
 #include "core_api/text/text_helpers.h"
 #include "platform/window/file_question.h"
 #include "platform/window/message_box.h"
-#include "sheet/say.h"
-#include "shell/words.h"
-#include "window/dialog_buttons.h"
-#include "window/typed_text.h"
+#include "workbench/sheet/say.h"
+#include "workbench/window/dialog_buttons.h"
+#include "workbench/window/typed_text.h"
+#include "workbench/words/workbench_words.h"
 
 namespace {
 

@@ -1,4 +1,4 @@
-#include "sheet/sheet_spread.h"
+#include "workbench/sheet/sheet_spread.h"
 
 SheetSpread::SheetSpread() {
     attachHidden();

@@ -1,9 +1,9 @@
 // The tool bar, what stays in view, and how large the cells are shown.
 #include <QFontDatabase>
 
-#include "sheet/say.h"
-#include "sheet/sheet_commands.h"
-#include "sheet/sheet_page.h"
+#include "workbench/sheet/say.h"
+#include "workbench/sheet/sheet_commands.h"
+#include "workbench/sheet/sheet_page.h"
 
 using control::Block;
 using editor::SheetEditor;

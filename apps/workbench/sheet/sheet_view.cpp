@@ -1,4 +1,4 @@
-#include "sheet/sheet_view.h"
+#include "workbench/sheet/sheet_view.h"
 
 #include <QMouseEvent>
 #include <QPainter>

@@ -2,9 +2,9 @@
 // takes references by the mouse, and marks what means something in a standard.
 #pragma once
 
-#include "grid/grid_view.h"
-#include "sheet/frozen_panes.h"
-#include "sheet/sheet_marks.h"
+#include "workbench/grid/grid_view.h"
+#include "workbench/sheet/frozen_panes.h"
+#include "workbench/sheet/sheet_marks.h"
 
 class SheetView : public GridView {
   public:

@@ -1,12 +1,12 @@
-#include "sheet/sort_dialog.h"
+#include "workbench/sheet/sort_dialog.h"
 
 #include <QDialogButtonBox>
 #include <QGridLayout>
 #include <QLabel>
 
 #include "core_api/text/text_helpers.h"
-#include "sheet/say.h"
-#include "window/dialog_buttons.h"
+#include "workbench/sheet/say.h"
+#include "workbench/window/dialog_buttons.h"
 
 SortDialog::SortDialog(const control::Grid& grid, const control::Block& block, QWidget* parent)
     : QDialog(parent), m_grid(grid), m_block(block), m_hasTitles(new QCheckBox(say(sayHasTitles))) {

@@ -1,4 +1,4 @@
-#include "sheet/standard_marks.h"
+#include "workbench/sheet/standard_marks.h"
 
 #include "mapping/tw_var_cell.h"
 #include "standards/standard_layout.h"

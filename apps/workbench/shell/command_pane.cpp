@@ -1,6 +1,6 @@
-#include "shell/command_pane.h"
+#include "workbench/shell/command_pane.h"
 
-#include "window/say.h"
+#include "workbench/window/say.h"
 
 namespace {
 

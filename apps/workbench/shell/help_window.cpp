@@ -1,11 +1,11 @@
-#include "shell/help_window.h"
+#include "workbench/shell/help_window.h"
 
 #include <QFile>
 #include <QPointer>
 #include <QUrl>
 
-#include "shell/words.h"
-#include "window/say.h"
+#include "workbench/window/say.h"
+#include "workbench/words/workbench_words.h"
 
 HelpWindow::HelpWindow(QWidget* parent) : QTextBrowser(parent) {
     setWindowFlag(Qt::Window);

@@ -1,4 +1,4 @@
-#include "shell/host_session.h"
+#include "workbench/shell/host_session.h"
 
 #include "frame/entry_point.h"
 #include "frame/library.h"

@@ -1,9 +1,9 @@
-#include "shell/library_kinds.h"
+#include "workbench/shell/library_kinds.h"
 
 #include <algorithm>
 
 #include "core_api/settings.h"
-#include "shell/words.h"
+#include "workbench/words/workbench_words.h"
 
 namespace {
 

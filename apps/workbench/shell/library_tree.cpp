@@ -1,12 +1,12 @@
-#include "shell/library_tree.h"
+#include "workbench/shell/library_tree.h"
 
 #include <QSet>
 
 #include "core_api/files.h"
 #include "core_api/settings.h"
 #include "cutstock/cutting_stock_library.h"
-#include "window/dialog_font.h"
-#include "window/say.h"
+#include "workbench/window/dialog_font.h"
+#include "workbench/window/say.h"
 
 namespace {
 

@@ -6,7 +6,7 @@
 #include <functional>
 
 #include "core_api/text/vor_string_array.h"
-#include "shell/library_kinds.h"
+#include "workbench/shell/library_kinds.h"
 
 class LibraryTree : public QTreeWidget {
   public:

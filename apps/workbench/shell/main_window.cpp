@@ -1,4 +1,4 @@
-#include "shell/main_window.h"
+#include "workbench/shell/main_window.h"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -11,25 +11,25 @@
 #include <QMessageBox>
 #include <QVBoxLayout>
 
-#include "bill/bill_words.h"
 #include "core_api/text/text_helpers.h"
 #include "core_api/texts/texts.h"
 #include "frame/starters.h"
-#include "grid/show_grids.h"
-#include "macro/macro_page.h"
-#include "module/starts.h"
 #include "platform/paths.h"
 #include "platform/window/message_box.h"
-#include "run/example_values.h"
-#include "run/run_page.h"
-#include "sheet/sheet_page.h"
-#include "shell/help_window.h"
-#include "shell/settings_dialog.h"
-#include "shell/start_page.h"
-#include "shell/starters_menu.h"
-#include "shell/words.h"
-#include "window/dialog_font.h"
-#include "window/say.h"
+#include "workbench/bill/bill_words.h"
+#include "workbench/grid/show_grids.h"
+#include "workbench/macro/macro_page.h"
+#include "workbench/module/starters_menu.h"
+#include "workbench/module/starts.h"
+#include "workbench/run/example_values.h"
+#include "workbench/run/run_page.h"
+#include "workbench/sheet/sheet_page.h"
+#include "workbench/shell/help_window.h"
+#include "workbench/shell/settings_dialog.h"
+#include "workbench/shell/start_page.h"
+#include "workbench/window/dialog_font.h"
+#include "workbench/window/say.h"
+#include "workbench/words/workbench_words.h"
 
 namespace {
 

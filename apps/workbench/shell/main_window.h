@@ -8,13 +8,13 @@
 #include <QTabWidget>
 #include <QTimer>
 
-#include "bill/bill_maker.h"
-#include "module/module_data.h"
-#include "shell/command_pane.h"
-#include "shell/host_session.h"
-#include "shell/library_tree.h"
-#include "shell/workbench_settings.h"
-#include "window/qt_window_system.h"
+#include "workbench/bill/bill_maker.h"
+#include "workbench/module/module_data.h"
+#include "workbench/shell/command_pane.h"
+#include "workbench/shell/host_session.h"
+#include "workbench/shell/library_tree.h"
+#include "workbench/shell/workbench_settings.h"
+#include "workbench/window/qt_window_system.h"
 
 class QLineEdit;
 struct ExportFormat;

@@ -3,12 +3,12 @@
 #include "core_api/sections/section_tables.h"
 #include "core_api/settings.h"
 #include "core_api/text/text_helpers.h"
-#include "run/run_page.h"
-#include "sections/section_editing.h"
-#include "sections/table_page.h"
-#include "shell/main_window.h"
-#include "window/dialog_font.h"
-#include "window/machine_path.h"
+#include "workbench/run/run_page.h"
+#include "workbench/sections/section_editing.h"
+#include "workbench/sections/table_page.h"
+#include "workbench/shell/main_window.h"
+#include "workbench/window/dialog_font.h"
+#include "workbench/window/machine_path.h"
 
 namespace {
 

@@ -7,15 +7,15 @@
 #include <QMimeData>
 
 #include "core_api/text/text_helpers.h"
-#include "macro/macro_page.h"
 #include "platform/paths.h"
-#include "sheet/say.h"
-#include "sheet/sheet_commands.h"
-#include "sheet/sheet_export.h"
-#include "sheet/sheet_page.h"
-#include "sheet/sheet_printing.h"
-#include "shell/main_window.h"
-#include "window/machine_path.h"
+#include "workbench/macro/macro_page.h"
+#include "workbench/sheet/say.h"
+#include "workbench/sheet/sheet_commands.h"
+#include "workbench/sheet/sheet_export.h"
+#include "workbench/sheet/sheet_page.h"
+#include "workbench/sheet/sheet_printing.h"
+#include "workbench/shell/main_window.h"
+#include "workbench/window/machine_path.h"
 
 void MainWindow::addSheetFileActions(QMenu& file) {
     m_sheetActions.clear();  // those of another language

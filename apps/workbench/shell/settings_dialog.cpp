@@ -1,4 +1,4 @@
-#include "shell/settings_dialog.h"
+#include "workbench/shell/settings_dialog.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -10,10 +10,10 @@
 #include <QPushButton>
 
 #include "core_api/texts/texts.h"
-#include "shell/words.h"
-#include "window/dialog_buttons.h"
-#include "window/dialog_font.h"
-#include "window/say.h"
+#include "workbench/window/dialog_buttons.h"
+#include "workbench/window/dialog_font.h"
+#include "workbench/window/say.h"
+#include "workbench/words/workbench_words.h"
 
 namespace {
 

@@ -3,7 +3,7 @@
 
 #include <QDialog>
 
-#include "shell/workbench_settings.h"
+#include "workbench/shell/workbench_settings.h"
 
 class QCheckBox;
 class QComboBox;

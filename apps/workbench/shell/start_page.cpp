@@ -1,12 +1,12 @@
-#include "shell/start_page.h"
+#include "workbench/shell/start_page.h"
 
 #include <QLabel>
 #include <QPushButton>
 #include <QVBoxLayout>
 
-#include "shell/words.h"
-#include "window/dialog_font.h"
-#include "window/say.h"
+#include "workbench/window/dialog_font.h"
+#include "workbench/window/say.h"
+#include "workbench/words/workbench_words.h"
 
 namespace {
 

@@ -1,4 +1,4 @@
-#include "shell/workbench_settings.h"
+#include "workbench/shell/workbench_settings.h"
 
 #include <algorithm>
 #include <cstdlib>

@@ -8,11 +8,11 @@
 #include <algorithm>
 
 #include "platform/window/dialog.h"
-#include "window/captions.h"
-#include "window/control_views.h"
-#include "window/dialog_navigation.h"
-#include "window/pictures.h"
-#include "window/qt_window_system.h"
+#include "workbench/window/captions.h"
+#include "workbench/window/control_views.h"
+#include "workbench/window/dialog_navigation.h"
+#include "workbench/window/pictures.h"
+#include "workbench/window/qt_window_system.h"
 
 namespace {
 

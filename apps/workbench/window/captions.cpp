@@ -1,8 +1,8 @@
-#include "window/captions.h"
+#include "workbench/window/captions.h"
 
 #include <QTextDocument>
 
-#include "window/dialog_font.h"
+#include "workbench/window/dialog_font.h"
 
 namespace {
 

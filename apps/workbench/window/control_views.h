@@ -1,7 +1,7 @@
 // The widgets of controls, by kind.
 #pragma once
 
-#include "window/window_view.h"
+#include "workbench/window/window_view.h"
 
 class CButton;
 class CComboBox;

@@ -1,6 +1,6 @@
-#include "window/desktop_texts.h"
+#include "workbench/window/desktop_texts.h"
 
-#include "window/say.h"
+#include "workbench/window/say.h"
 
 QString desktopText(DesktopText text) {
     return say(static_cast<int>(text));

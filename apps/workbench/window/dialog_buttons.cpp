@@ -1,10 +1,10 @@
-#include "window/dialog_buttons.h"
+#include "workbench/window/dialog_buttons.h"
 
 #include <QDialog>
 #include <QDialogButtonBox>
 #include <QPushButton>
 
-#include "window/desktop_texts.h"
+#include "workbench/window/desktop_texts.h"
 
 QDialogButtonBox* dialogButtons(QDialog& dialog, const QString& accept) {
     auto* buttons = new QDialogButtonBox;

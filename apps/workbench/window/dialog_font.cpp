@@ -1,4 +1,4 @@
-#include "window/dialog_font.h"
+#include "workbench/window/dialog_font.h"
 
 #include "platform/encodings.h"
 

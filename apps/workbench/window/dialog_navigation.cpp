@@ -1,4 +1,4 @@
-#include "window/dialog_navigation.h"
+#include "workbench/window/dialog_navigation.h"
 
 #include <algorithm>
 #include <vector>

@@ -1,4 +1,4 @@
-#include "window/dialog_style.h"
+#include "workbench/window/dialog_style.h"
 
 #include <QAbstractScrollArea>
 

@@ -1,14 +1,14 @@
-#include "window/dialog_view.h"
+#include "workbench/window/dialog_view.h"
 
 #include <QApplication>
 #include <algorithm>
 
 #include "platform/window/dialog.h"
-#include "window/dialog_font.h"
-#include "window/dialog_navigation.h"
-#include "window/dialog_widget.h"
-#include "window/placement.h"
-#include "window/qt_window_system.h"
+#include "workbench/window/dialog_font.h"
+#include "workbench/window/dialog_navigation.h"
+#include "workbench/window/dialog_widget.h"
+#include "workbench/window/placement.h"
+#include "workbench/window/qt_window_system.h"
 
 namespace {
 

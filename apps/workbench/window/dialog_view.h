@@ -1,7 +1,7 @@
 // A dialog with a frame of its own: what its user does with the frame, and its place on the screen.
 #pragma once
 
-#include "window/surface_view.h"
+#include "workbench/window/surface_view.h"
 
 class CDialog;
 class DialogWidget;

@@ -1,9 +1,9 @@
-#include "window/dialog_widget.h"
+#include "workbench/window/dialog_widget.h"
 
 #include <QCloseEvent>
 #include <QKeyEvent>
 
-#include "window/dialog_view.h"
+#include "workbench/window/dialog_view.h"
 
 DialogWidget::DialogWidget(QWidget* parent) : QDialog(parent) {
     setSizeGripEnabled(false);

@@ -4,10 +4,10 @@
 #include <algorithm>
 
 #include "platform/window/controls.h"
-#include "window/control_views.h"
-#include "window/dialog_font.h"
-#include "window/qt_window_system.h"
-#include "window/typed_text.h"
+#include "workbench/window/control_views.h"
+#include "workbench/window/dialog_font.h"
+#include "workbench/window/qt_window_system.h"
+#include "workbench/window/typed_text.h"
 
 namespace {
 

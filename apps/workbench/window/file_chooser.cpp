@@ -9,11 +9,11 @@
 
 #include "platform/paths.h"
 #include "platform/window/wnd.h"
-#include "window/desktop_texts.h"
-#include "window/dialog_font.h"
-#include "window/folder_taker.h"
-#include "window/qt_window_system.h"
-#include "window/typed_text.h"
+#include "workbench/window/desktop_texts.h"
+#include "workbench/window/dialog_font.h"
+#include "workbench/window/folder_taker.h"
+#include "workbench/window/qt_window_system.h"
+#include "workbench/window/typed_text.h"
 
 namespace {
 

@@ -1,4 +1,4 @@
-#include "window/folder_taker.h"
+#include "workbench/window/folder_taker.h"
 
 #include <QDialogButtonBox>
 #include <QFileSystemModel>
@@ -6,7 +6,7 @@
 #include <QListView>
 #include <algorithm>
 
-#include "window/desktop_texts.h"
+#include "workbench/window/desktop_texts.h"
 
 namespace {
 

@@ -1,4 +1,4 @@
-#include "window/input_translation.h"
+#include "workbench/window/input_translation.h"
 
 #include <algorithm>
 #include <array>

@@ -1,9 +1,9 @@
-#include "window/item_model.h"
+#include "workbench/window/item_model.h"
 
 #include <utility>
 
-#include "window/dialog_font.h"
-#include "window/pictures.h"
+#include "workbench/window/dialog_font.h"
+#include "workbench/window/pictures.h"
 
 ItemModel::ItemModel(const ItemControl& items, Check check, QObject* parent)
     : QAbstractListModel(parent), m_items(&items), m_check(std::move(check)) {}

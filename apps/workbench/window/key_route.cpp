@@ -1,12 +1,12 @@
-#include "window/key_route.h"
+#include "workbench/window/key_route.h"
 
 #include <QApplication>
 #include <QKeyEvent>
 #include <QWidget>
 
 #include "platform/window/wnd.h"
-#include "window/input_translation.h"
-#include "window/qt_window_system.h"
+#include "workbench/window/input_translation.h"
+#include "workbench/window/qt_window_system.h"
 
 KeyRoute::KeyRoute(QtWindowSystem& system) : m_system(system) {
     QCoreApplication::instance()->installEventFilter(this);

@@ -4,9 +4,9 @@
 #include <vector>
 
 #include "platform/window/controls.h"
-#include "window/control_views.h"
-#include "window/item_model.h"
-#include "window/qt_window_system.h"
+#include "workbench/window/control_views.h"
+#include "workbench/window/item_model.h"
+#include "workbench/window/qt_window_system.h"
 
 namespace {
 

@@ -1,10 +1,10 @@
 #include "platform/window/dialog.h"
 #include "spread/t_spread.h"
-#include "window/control_views.h"
-#include "window/dialog_view.h"
-#include "window/dialog_widget.h"
-#include "window/qt_window_system.h"
-#include "window/surface_view.h"
+#include "workbench/window/control_views.h"
+#include "workbench/window/dialog_view.h"
+#include "workbench/window/dialog_widget.h"
+#include "workbench/window/qt_window_system.h"
+#include "workbench/window/surface_view.h"
 
 namespace {
 

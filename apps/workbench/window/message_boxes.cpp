@@ -3,10 +3,10 @@
 #include <QPushButton>
 
 #include "platform/window/wnd.h"
-#include "window/desktop_texts.h"
-#include "window/dialog_font.h"
-#include "window/qt_window_system.h"
-#include "window/say.h"
+#include "workbench/window/desktop_texts.h"
+#include "workbench/window/dialog_font.h"
+#include "workbench/window/qt_window_system.h"
+#include "workbench/window/say.h"
 
 namespace {
 

@@ -1,7 +1,7 @@
-#include "window/painter_dc.h"
+#include "workbench/window/painter_dc.h"
 
-#include "window/dialog_font.h"
-#include "window/pictures.h"
+#include "workbench/window/dialog_font.h"
+#include "workbench/window/pictures.h"
 
 namespace {
 

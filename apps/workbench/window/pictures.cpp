@@ -1,4 +1,4 @@
-#include "window/pictures.h"
+#include "workbench/window/pictures.h"
 
 #include <QFile>
 

@@ -1,4 +1,4 @@
-#include "window/placement.h"
+#include "workbench/window/placement.h"
 
 #include <QGuiApplication>
 #include <QScreen>

@@ -3,8 +3,8 @@
 #include <QMenu>
 
 #include "platform/window/wnd.h"
-#include "window/captions.h"
-#include "window/qt_window_system.h"
+#include "workbench/window/captions.h"
+#include "workbench/window/qt_window_system.h"
 
 namespace {
 

@@ -1,4 +1,4 @@
-#include "window/qt_window_system.h"
+#include "workbench/window/qt_window_system.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -10,10 +10,10 @@
 
 #include "platform/window/dialog.h"
 #include "spread/t_spread.h"
-#include "window/control_views.h"
-#include "window/dialog_font.h"
-#include "window/dialog_style.h"
-#include "window/key_route.h"
+#include "workbench/window/control_views.h"
+#include "workbench/window/dialog_font.h"
+#include "workbench/window/dialog_style.h"
+#include "workbench/window/key_route.h"
 
 namespace {
 

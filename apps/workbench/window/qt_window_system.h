@@ -15,8 +15,8 @@
 #include <vector>
 
 #include "platform/window/window_system.h"
-#include "window/qt_words.h"
-#include "window/timers.h"
+#include "workbench/window/qt_words.h"
+#include "workbench/window/timers.h"
 
 class KeyRoute;
 class QEventLoop;

@@ -1,10 +1,10 @@
-#include "window/qt_words.h"
+#include "workbench/window/qt_words.h"
 
 #include <QLibraryInfo>
 #include <algorithm>
 #include <string_view>
 
-#include "window/say.h"
+#include "workbench/window/say.h"
 
 namespace {
 

@@ -1,8 +1,8 @@
-#include "window/say.h"
+#include "workbench/window/say.h"
 
 #include "core_api/texts/texts.h"
 #include "platform/readable_paths.h"
-#include "window/dialog_font.h"
+#include "workbench/window/dialog_font.h"
 
 QString say(int number) {
     return toQt(dialString(number));

@@ -1,12 +1,12 @@
-#include "window/surface_view.h"
+#include "workbench/window/surface_view.h"
 
 #include <QMouseEvent>
 #include <QPainter>
 
 #include "platform/window/wnd.h"
-#include "window/input_translation.h"
-#include "window/painter_dc.h"
-#include "window/qt_window_system.h"
+#include "workbench/window/input_translation.h"
+#include "workbench/window/painter_dc.h"
+#include "workbench/window/qt_window_system.h"
 
 SurfaceView::SurfaceView(QtWindowSystem& system, CWnd& window, QWidget* widget)
     : WindowView(system, window, widget) {

@@ -1,7 +1,7 @@
 // A window that draws itself and hears the mouse: a page, and every window that is no control.
 #pragma once
 
-#include "window/window_view.h"
+#include "workbench/window/window_view.h"
 
 class SurfaceView : public WindowView {
   public:

@@ -4,9 +4,9 @@
 #include <QTabWidget>
 
 #include "platform/window/controls.h"
-#include "window/captions.h"
-#include "window/control_views.h"
-#include "window/qt_window_system.h"
+#include "workbench/window/captions.h"
+#include "workbench/window/control_views.h"
+#include "workbench/window/qt_window_system.h"
 
 namespace {
 

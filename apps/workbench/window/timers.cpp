@@ -1,4 +1,4 @@
-#include "window/timers.h"
+#include "workbench/window/timers.h"
 
 #include <QTimer>
 #include <algorithm>

@@ -1,10 +1,10 @@
-#include "window/typed_text.h"
+#include "workbench/window/typed_text.h"
 
 #include <QApplication>
 #include <QToolTip>
 
-#include "window/desktop_texts.h"
-#include "window/dialog_font.h"
+#include "workbench/window/desktop_texts.h"
+#include "workbench/window/dialog_font.h"
 
 QString refusalOf(const QString& text) {
     for (const char32_t character : text.toStdU32String()) {

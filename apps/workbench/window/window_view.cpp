@@ -1,12 +1,12 @@
-#include "window/window_view.h"
+#include "workbench/window/window_view.h"
 
 #include <QAbstractItemView>
 #include <cmath>
 
 #include "platform/window/message_scope.h"
 #include "platform/window/wnd.h"
-#include "window/captions.h"
-#include "window/qt_window_system.h"
+#include "workbench/window/captions.h"
+#include "workbench/window/qt_window_system.h"
 
 namespace {
 

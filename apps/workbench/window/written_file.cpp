@@ -1,4 +1,4 @@
-#include "window/written_file.h"
+#include "workbench/window/written_file.h"
 
 #include <QCryptographicHash>
 #include <QFile>
@@ -6,7 +6,7 @@
 
 #include "platform/files.h"
 #include "platform/paths.h"
-#include "window/dialog_font.h"
+#include "workbench/window/dialog_font.h"
 
 bool writeFile(const QString& path, const QByteArray& bytes, QString& error) {
     const auto inside = paths::toInside(QFile::encodeName(path).toStdString());

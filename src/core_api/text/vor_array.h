@@ -1,7 +1,7 @@
 // The core module's growing array: a value with indexes from 0.
 #pragma once
 
-#include "platform/growing_array.h"
+#include "platform/host/growing_array.h"
 
 template <class T>
 class Vor_Array : public GrowingArray<T> {

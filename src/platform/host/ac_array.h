@@ -2,7 +2,7 @@
 // Inside the module a Vor_Array or a std::vector serves as well; this one is for the borders.
 #pragma once
 
-#include "platform/growing_array.h"
+#include "platform/host/growing_array.h"
 
 template <class T>
 class AcArray : public GrowingArray<T> {

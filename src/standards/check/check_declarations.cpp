@@ -5,7 +5,7 @@
 #include "platform/encodings.h"
 #include "spread/control/formula/function.h"
 #include "standards/check/standard_check.h"
-#include "standards/functions/standards_functions.h"
+#include "standards/standards_functions.h"
 
 namespace {
 

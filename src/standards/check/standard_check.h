@@ -4,8 +4,8 @@
 
 #include <vector>
 
+#include "standards/check/standards_check.h"
 #include "standards/prepared_standard.h"
-#include "standards/standards_check.h"
 #include "standards/tw_standards_ss.h"
 
 /// A standard opened for reading, not for a run.

@@ -1,4 +1,4 @@
-#include "standards/functions/standards_functions.h"
+#include "standards/standards_functions.h"
 
 #include "standards/functions/families.h"
 
