@@ -17,11 +17,11 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     const auto table = cli::CaseTable::open(reader, "cases.csv", cells);
     if (!table) return 0;
     std::vector<std::string_view> fields;
-    for (auto got = reader.next(fields); got != cli::CsvReader::Got::end;
+    for (auto got = reader.next(fields); got != cli::CsvReader::ReadResult::end;
          got = reader.next(fields)) {
-        require(got == cli::CsvReader::Got::record || !reader.error().empty());
-        if (got == cli::CsvReader::Got::failed) return 0;
-        if (got != cli::CsvReader::Got::record) continue;
+        require(got == cli::CsvReader::ReadResult::record || !reader.error().empty());
+        if (got == cli::CsvReader::ReadResult::failed) return 0;
+        if (got != cli::CsvReader::ReadResult::record) continue;
         cli::CaseTable::Case row;
         std::string error;
         if (!table->take(fields, cells, row, error)) {

@@ -11,7 +11,7 @@
 namespace {
 
 using Records = std::vector<std::vector<std::string>>;
-using Got = cli::BatchInput::Got;
+using ReadResult = cli::BatchInput::ReadResult;
 
 Records recordsOf(std::string_view text, size_t pieceSize) {
     auto source = feedLines(text, pieceSize);
@@ -21,12 +21,13 @@ Records recordsOf(std::string_view text, size_t pieceSize) {
     long long line = 0;
     while (true) {
         const auto got = reader.next(fields);
-        require(got != cli::CsvReader::Got::failed);
-        if (got == cli::CsvReader::Got::end) return records;
+        require(got != cli::CsvReader::ReadResult::failed);
+        if (got == cli::CsvReader::ReadResult::end) return records;
         require(reader.lineNumber() > line);
         line = reader.lineNumber();
-        if (got == cli::CsvReader::Got::record) records.emplace_back(fields.begin(), fields.end());
-        require(got == cli::CsvReader::Got::record || !reader.error().empty());
+        if (got == cli::CsvReader::ReadResult::record)
+            records.emplace_back(fields.begin(), fields.end());
+        require(got == cli::CsvReader::ReadResult::record || !reader.error().empty());
     }
 }
 
@@ -57,10 +58,10 @@ void checkBatch(std::string_view text, const Feeding& feeding) {
     std::string answers, error;
     size_t count = 0;
     if (!input->begin(cells, error)) return require(!error.empty());
-    for (Got got; error.clear(), (got = input->next(cells, error)) != Got::end;) {
-        require(got == Got::values || got == Got::bad);
-        require((got == Got::bad) == !error.empty());
-        if (got == Got::bad) continue;
+    for (ReadResult got; error.clear(), (got = input->next(cells, error)) != ReadResult::end;) {
+        require(got == ReadResult::values || got == ReadResult::bad);
+        require((got == ReadResult::bad) == !error.empty());
+        if (got == ReadResult::bad) continue;
         answers += writtenAsOutputs(cells, false);
         ++count;
     }

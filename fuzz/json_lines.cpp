@@ -7,7 +7,7 @@
 
 namespace {
 
-using Got = cli::BatchInput::Got;
+using ReadResult = cli::BatchInput::ReadResult;
 
 /// The results that stand for the values of every good line.
 std::string resultsOf(std::string_view text, size_t pieceSize, bool allGood) {
@@ -19,14 +19,14 @@ std::string resultsOf(std::string_view text, size_t pieceSize, bool allGood) {
     require(input->begin(cells, error));
     while (true) {
         error.clear();
-        const Got got = input->next(cells, error);
-        require(got != Got::failed);
-        if (got == Got::end) return results;
+        const ReadResult got = input->next(cells, error);
+        require(got != ReadResult::failed);
+        if (got == ReadResult::end) return results;
         require(source.lineNumber() > line);
         line = source.lineNumber();
-        require((got == Got::bad) == !error.empty());
-        require(got == Got::values || !allGood);
-        if (got == Got::values) results += writtenAsOutputs(cells, true);
+        require((got == ReadResult::bad) == !error.empty());
+        require(got == ReadResult::values || !allGood);
+        if (got == ReadResult::values) results += writtenAsOutputs(cells, true);
     }
 }
 

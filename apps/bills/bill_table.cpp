@@ -19,7 +19,7 @@ class TableReader {
         std::vector<std::string_view> fields;
         for (bool isFirst = true;; isFirst = false) {
             switch (m_reader.next(fields)) {
-                case cli::CsvReader::Got::record: {
+                case cli::CsvReader::ReadResult::record: {
                     Vor_StringArray record;
                     if (!take(fields, record)) return std::nullopt;
                     if (isFirst && hasOtherSeparators(record))
@@ -32,7 +32,7 @@ class TableReader {
                         table.rows.append(std::move(record));
                     break;
                 }
-                case cli::CsvReader::Got::end:
+                case cli::CsvReader::ReadResult::end:
                     if (table.header.isEmpty()) return fail("the file is empty");
                     return table;
                 default:

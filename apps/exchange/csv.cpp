@@ -45,39 +45,40 @@ class QuoteCheck {
 
 }  // namespace
 
-CsvReader::Got CsvReader::next(std::vector<std::string_view>& fields) {
+CsvReader::ReadResult CsvReader::next(std::vector<std::string_view>& fields) {
     std::string_view record;
     do {
         switch (m_source.next(record)) {
-            case LineSource::Got::line:
+            case LineSource::ReadResult::line:
                 break;
-            case LineSource::Got::end:
-                return Got::end;
-            case LineSource::Got::tooLong:
+            case LineSource::ReadResult::end:
+                return ReadResult::end;
+            case LineSource::ReadResult::tooLong:
                 return bad("the line is longer than 16 MiB");
-            case LineSource::Got::failed:
+            case LineSource::ReadResult::failed:
                 m_error = m_source.error();
-                return Got::failed;
+                return ReadResult::failed;
         }
     } while (record.empty() && m_emptyLines == EmptyLines::skipped);
     return split(record, fields);
 }
 
-CsvReader::Got CsvReader::split(std::string_view record, std::vector<std::string_view>& fields) {
+CsvReader::ReadResult CsvReader::split(std::string_view record,
+                                       std::vector<std::string_view>& fields) {
     if (record.find('"') != record.npos) return splitQuoted(record, fields);
     fields.clear();
     while (true) {
         const size_t comma = record.find(',');
         fields.push_back(record.substr(0, comma));
-        if (comma == record.npos) return Got::record;
+        if (comma == record.npos) return ReadResult::record;
         if (fields.size() == maxFields) return bad("more than 16384 fields");
         record.remove_prefix(comma + 1);
     }
 }
 
-CsvReader::Got CsvReader::splitQuoted(std::string_view record,
-                                      std::vector<std::string_view>& fields) {
-    if (!completeQuotes(record)) return Got::bad;
+CsvReader::ReadResult CsvReader::splitQuoted(std::string_view record,
+                                             std::vector<std::string_view>& fields) {
+    if (!completeQuotes(record)) return ReadResult::bad;
     m_unquoted.clear();
     m_unquoted.reserve(record.size());  // so that fields can point into it
     fields.clear();
@@ -95,7 +96,7 @@ CsvReader::Got CsvReader::splitQuoted(std::string_view record,
             end = std::min(record.find(','), record.size());
             fields.push_back(record.substr(0, end));
         }
-        if (end == record.size()) return Got::record;
+        if (end == record.size()) return ReadResult::record;
         if (fields.size() == maxFields) return bad("more than 16384 fields");
         record.remove_prefix(end + 1);
     }
@@ -110,7 +111,7 @@ bool CsvReader::completeQuotes(std::string_view& record) {
         if (state == QuoteCheck::State::closed) return true;
         if (state == QuoteCheck::State::malformed)
             bad("a quoted field must be followed by a comma or the end of the line");
-        else if (m_source.extend(record) == LineSource::Got::line)
+        else if (m_source.extend(record) == LineSource::ReadResult::line)
             continue;
         else
             bad("a quoted field has no end");
@@ -119,9 +120,9 @@ bool CsvReader::completeQuotes(std::string_view& record) {
     }
 }
 
-CsvReader::Got CsvReader::bad(std::string_view message) {
+CsvReader::ReadResult CsvReader::bad(std::string_view message) {
     m_error = message;
-    return Got::bad;
+    return ReadResult::bad;
 }
 
 }  // namespace cli

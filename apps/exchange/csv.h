@@ -24,7 +24,7 @@ class CsvReader {
     explicit CsvReader(LineSource& source, EmptyLines emptyLines = EmptyLines::skipped)
         : m_source(source), m_emptyLines(emptyLines) {}
 
-    enum class Got {
+    enum class ReadResult {
         record,
         end,
         bad,     ///< this record is no CSV, see error(); the next line can be read
@@ -32,15 +32,15 @@ class CsvReader {
     };
 
     /// The next record. Fields live until the next call; a kept empty line has one empty field.
-    Got next(std::vector<std::string_view>& fields);
+    ReadResult next(std::vector<std::string_view>& fields);
 
     long long lineNumber() const { return m_source.lineNumber(); }
     const std::string& error() const { return m_error; }
 
   private:
-    Got split(std::string_view record, std::vector<std::string_view>& fields);
-    Got splitQuoted(std::string_view record, std::vector<std::string_view>& fields);
-    Got bad(std::string_view message);
+    ReadResult split(std::string_view record, std::vector<std::string_view>& fields);
+    ReadResult splitQuoted(std::string_view record, std::vector<std::string_view>& fields);
+    ReadResult bad(std::string_view message);
     bool completeQuotes(std::string_view& record);
 
     LineSource& m_source;

@@ -16,10 +16,10 @@ std::unique_ptr<control::Grid> withHeaderRow(const control::Grid& grid) {
     copy->setRows(copy->rows() + 1);
     copy->insertRows(1, 1);
     for (const auto& [col, word] : words) {
-        const control::Look header = grid.look(col, control::headerIndex);
-        copy->changeLooks({col, 1, col, 1}, [&](control::Look& look) {
-            look = header;
-            look.type = control::editType(0);
+        const control::CellFormat header = grid.format(col, control::headerIndex);
+        copy->changeFormats({col, 1, col, 1}, [&](control::CellFormat& format) {
+            format = header;
+            format.type = control::editType(0);
         });
         copy->setData(col, 1, word);
     }

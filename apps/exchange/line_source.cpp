@@ -61,25 +61,25 @@ LineSource::LineSource(Descriptor descriptor, std::string name, long long size)
       m_size(size),
       m_buffer(firstBuffer) {}
 
-LineSource::Got LineSource::next(std::string_view& line) {
+LineSource::ReadResult LineSource::next(std::string_view& line) {
     line = {};
     m_recordLine += m_recordLines;
     m_recordLines = 1;
     m_begin = m_next;
-    Got got = takeLine(0, line);
-    if (got == Got::tooLong) got = skipRecord();
+    ReadResult got = takeLine(0, line);
+    if (got == ReadResult::tooLong) got = skipRecord();
     if (m_recordLine <= 1 && line.starts_with(byteOrderMark)) {
         m_begin += byteOrderMark.size();
         line.remove_prefix(byteOrderMark.size());
     }
-    if (got == Got::end || got == Got::failed) m_recordLines = 0;
+    if (got == ReadResult::end || got == ReadResult::failed) m_recordLines = 0;
     m_firstNext = m_next;
     return got;
 }
 
-LineSource::Got LineSource::extend(std::string_view& record) {
-    const Got got = takeLine(m_next - m_begin, record);
-    if (got == Got::line) ++m_recordLines;
+LineSource::ReadResult LineSource::extend(std::string_view& record) {
+    const ReadResult got = takeLine(m_next - m_begin, record);
+    if (got == ReadResult::line) ++m_recordLines;
     return got;
 }
 
@@ -90,7 +90,7 @@ void LineSource::keepFirstLineOnly() {
 
 // Makes the record, `length` bytes long so far with its line ends, one line longer. Reading may
 // move the record within the buffer, so places are counted from its beginning.
-LineSource::Got LineSource::takeLine(size_t length, std::string_view& record) {
+LineSource::ReadResult LineSource::takeLine(size_t length, std::string_view& record) {
     size_t searched = length;
     while (true) {
         const std::string_view buffered(m_buffer.data() + m_begin, m_filled - m_begin);
@@ -98,31 +98,31 @@ LineSource::Got LineSource::takeLine(size_t length, std::string_view& record) {
         const size_t lineEnd = buffered.find('\n', searched);
         const bool found = lineEnd != buffered.npos;
         const size_t end = found ? lineEnd : available;
-        if (end > maxRecord) return Got::tooLong;
+        if (end > maxRecord) return ReadResult::tooLong;
         if (!found && fill()) {
             searched = available;
             continue;
         }
-        if (!found && !m_error.empty()) return Got::failed;
-        if (!found && available == length) return Got::end;
+        if (!found && !m_error.empty()) return ReadResult::failed;
+        if (!found && available == length) return ReadResult::end;
         m_next = m_begin + end + (found ? 1 : 0);  // the last line may lack its end
         // Not `buffered`: looking for more may have moved it, even when there was no more.
         record = std::string_view(m_buffer.data() + m_begin, end);
         if (record.ends_with('\r')) record.remove_suffix(1);
-        return Got::line;
+        return ReadResult::line;
     }
 }
 
 // Reads on to the end of a line that does not fit, without keeping it.
-LineSource::Got LineSource::skipRecord() {
+LineSource::ReadResult LineSource::skipRecord() {
     while (true) {
         const char* begin = m_buffer.data() + m_begin;
         if (const void* found = std::memchr(begin, '\n', m_filled - m_begin)) {
             m_next = m_begin + static_cast<size_t>(static_cast<const char*>(found) - begin) + 1;
-            return Got::tooLong;
+            return ReadResult::tooLong;
         }
         m_begin = m_next = m_filled;
-        if (!fill()) return m_error.empty() ? Got::tooLong : Got::failed;
+        if (!fill()) return m_error.empty() ? ReadResult::tooLong : ReadResult::failed;
     }
 }
 

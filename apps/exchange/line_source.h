@@ -39,7 +39,7 @@ class LineSource {
 
     static std::string shownName(const std::string& path);
 
-    enum class Got {
+    enum class ReadResult {
         line,
         end,
         tooLong,  ///< skipped up to its end
@@ -47,10 +47,10 @@ class LineSource {
     };
 
     /// The next line without its "\n" or "\r\n"; it lives until the next call.
-    Got next(std::string_view& line);
+    ReadResult next(std::string_view& line);
     /// Makes `record` longer by the line after it, with the line end between them as it was read.
     /// `end` and `tooLong` leave the place of reading as it was; `record` is then of no more use.
-    Got extend(std::string_view& record);
+    ReadResult extend(std::string_view& record);
     /// Goes back to the line after the first one of the record last read.
     void keepFirstLineOnly();
 
@@ -69,8 +69,8 @@ class LineSource {
     LineSource(Descriptor descriptor, std::string name, long long size);
     bool fill();
     void makeRoom();
-    Got takeLine(size_t length, std::string_view& record);
-    Got skipRecord();
+    ReadResult takeLine(size_t length, std::string_view& record);
+    ReadResult skipRecord();
 
     Descriptor m_descriptor;
     std::string m_name;

@@ -31,7 +31,7 @@ enum class CsvTexts {
 std::optional<std::string> sheetAsCsv(const control::Grid& grid, CsvTexts texts,
                                       std::string& error);
 /// The bytes of a workbook with the words of column headers, formulas, their results, pictures and
-/// the looks of cells. Nothing, with the reason.
+/// the formats of cells. Nothing, with the reason.
 std::optional<std::string> sheetAsXlsx(const control::Grid& grid, std::string& error);
 
 /// "B7".

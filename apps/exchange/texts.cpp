@@ -85,14 +85,14 @@ double asShown(double number) {
 
 std::string shortened(std::string_view message) {
     constexpr size_t longest = 1000;
-    constexpr size_t keptOfEnd = 300;  // it says what to do
+    constexpr size_t snapshotOfEnd = 300;  // it says what to do
     const auto isInsideCharacter = [&](size_t at) { return (message[at] & 0xC0) == 0x80; };
     std::string result;
     for (size_t begin = 0; begin < message.size();) {
         const size_t end = std::min(message.find('\n', begin), message.size() - 1) + 1;
         if (end - begin > longest) {
-            size_t first = begin + longest - keptOfEnd;
-            size_t last = end - keptOfEnd;
+            size_t first = begin + longest - snapshotOfEnd;
+            size_t last = end - snapshotOfEnd;
             while (first > begin && isInsideCharacter(first)) --first;
             while (last < end && isInsideCharacter(last)) ++last;
             result.append(message.substr(begin, first - begin)).append(" ... ");

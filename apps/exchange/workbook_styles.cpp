@@ -17,37 +17,37 @@ std::string colourXml(const char* element, control::Colour colour) {
     return std::string("<") + element + " rgb=\"FF" + rgb + "\"/>";
 }
 
-std::string fontXml(const control::Look& look) {
+std::string fontXml(const control::CellFormat& format) {
     constexpr double pointsOfPixel = 0.75;  // at 96 pixels to the inch
-    const control::Font& font = look.font;
+    const control::Font& font = format.font;
     std::string xml = "<font>";
     if (font.weight >= 600) xml += "<b/>";
     if (font.italic) xml += "<i/>";
     if (font.underlined) xml += "<u/>";
     xml += "<sz val=\"" + xmlNumber(font.height * pointsOfPixel) + "\"/>";
-    if (look.textColour != control::automatic) xml += colourXml("color", look.textColour);
+    if (format.textColour != control::automatic) xml += colourXml("color", format.textColour);
     return xml + "<name val=\"" + xmlAttribute(font.name) + "\"/><family val=\"2\"/></font>";
 }
 
-std::string fillXml(const control::Look& look) {
-    if (look.background == control::automatic)
+std::string fillXml(const control::CellFormat& format) {
+    if (format.background == control::automatic)
         return "<fill><patternFill patternType=\"none\"/></fill>";
-    return "<fill><patternFill patternType=\"solid\">" + colourXml("fgColor", look.background) +
+    return "<fill><patternFill patternType=\"solid\">" + colourXml("fgColor", format.background) +
            "<bgColor indexed=\"64\"/></patternFill></fill>";
 }
 
-std::string borderXml(const control::Look& look) {
+std::string borderXml(const control::CellFormat& format) {
     static constexpr std::pair<const char*, control::BorderSide> sides[] = {
         {"left", control::borderLeft},
         {"right", control::borderRight},
         {"top", control::borderTop},
         {"bottom", control::borderBottom}};
-    const std::string colour = look.borderColour == control::automatic
+    const std::string colour = format.borderColour == control::automatic
                                    ? "<color auto=\"1\"/>"
-                                   : colourXml("color", look.borderColour);
+                                   : colourXml("color", format.borderColour);
     std::string xml = "<border>";
     for (const auto& [name, side] : sides) {
-        const bool isDrawn = look.borderStyle != 0 && (look.borderSides & side) != 0;
+        const bool isDrawn = format.borderStyle != 0 && (format.borderSides & side) != 0;
         xml += std::string("<") + name;
         xml += isDrawn ? " style=\"thin\">" + colour + "</" + name + ">" : "/>";
     }
@@ -102,11 +102,11 @@ int WorkbookStyles::numberFormatOf(const control::CellType& type) {
     return firstOwnNumberFormat + type.decimals;
 }
 
-int WorkbookStyles::numberOf(const control::Look& look) {
+int WorkbookStyles::numberOf(const control::CellFormat& format) {
     constexpr int mostFormats = 64000;
-    const std::string xml = formatXml(numberFormatOf(look.type), m_fonts.numberOf(fontXml(look)),
-                                      m_fills.numberOf(fillXml(look)),
-                                      m_borders.numberOf(borderXml(look)), look.alignment);
+    const std::string xml = formatXml(
+        numberFormatOf(format.type), m_fonts.numberOf(fontXml(format)),
+        m_fills.numberOf(fillXml(format)), m_borders.numberOf(borderXml(format)), format.alignment);
     return m_formats.count() < mostFormats ? m_formats.numberOf(xml) : 0;
 }
 

@@ -1,4 +1,4 @@
-// The formats of a workbook: each look of a sheet becomes one, equal parts are written once.
+// The formats of a workbook: each format of a sheet becomes one, equal parts are written once.
 #pragma once
 
 #include <set>
@@ -6,7 +6,7 @@
 #include <unordered_map>
 #include <vector>
 
-#include "spread/control/look.h"
+#include "spread/control/cell_format.h"
 
 namespace sheets {
 
@@ -28,8 +28,8 @@ class NumberedPieces {
 class WorkbookStyles {
   public:
     WorkbookStyles();
-    /// The number by which cells name the format of `look`.
-    int numberOf(const control::Look& look);
+    /// The number by which cells name the format of `format`.
+    int numberOf(const control::CellFormat& format);
     /// The part "xl/styles.xml".
     std::string xml() const;
 

@@ -128,9 +128,9 @@ class Workbook {
         std::stable_sort(m_places.begin(), m_places.end(), isBefore);
     }
 
-    int formatOf(control::LookIndex index) {
+    int formatOf(control::FormatIndex index) {
         const auto [found, isNew] = m_formats.try_emplace(index);
-        if (isNew) found->second = m_styles.numberOf(m_grid.looks()[index]);
+        if (isNew) found->second = m_styles.numberOf(m_grid.formats()[index]);
         return found->second;
     }
 
@@ -142,14 +142,14 @@ class Workbook {
         for (int col = 1; col <= cols; ++col) {
             const bool isHidden = sides.cols.hidden.contains(col);
             const bool isSized = sides.cols.sizes.contains(col);
-            const auto look = sides.columnLook(col);
-            if (!isSized && !isHidden && look == control::inheritedLook) continue;
+            const auto cellFormat = sides.columnFormat(col);
+            if (!isSized && !isHidden && cellFormat == control::inheritedFormat) continue;
             const double digits = std::min(m_grid.colWidth(col) / pixelsOfDigit, mostDigits);
             const std::string number = std::to_string(col);
             xml += "<col min=\"" + number + "\" max=\"" + number + "\" width=\"" +
                    xmlNumber(std::max(std::floor(digits * 256) / 256, 0.0)) + "\"";
-            if (look != control::inheritedLook)
-                xml += " style=\"" + std::to_string(formatOf(look)) + "\"";
+            if (cellFormat != control::inheritedFormat)
+                xml += " style=\"" + std::to_string(formatOf(cellFormat)) + "\"";
             xml += isHidden ? " hidden=\"1\" customWidth=\"1\"/>" : " customWidth=\"1\"/>";
         }
         return xml.empty() ? xml : "<cols>" + xml + "</cols>";
@@ -196,7 +196,7 @@ class Workbook {
     void writeCell(const Place& place) {
         const std::string name = cellName({place.col, place.row});
         m_rows += "<c r=\"" + name + "\"";
-        const int format = formatOf(m_grid.lookIndex(place.col, place.row));
+        const int format = formatOf(m_grid.formatIndex(place.col, place.row));
         if (format != 0) m_rows += " s=\"" + std::to_string(format) + "\"";
         const auto formula =
             place.cell ? m_grid.sheet().formula(place.col, place.row) : std::nullopt;
@@ -277,11 +277,11 @@ class Workbook {
             m_notes.add(cell, text);
         }
         for (const Place& place : m_places) {
-            const control::Look& look = m_grid.look(place.col, place.row);
-            if (place.cell && look.type.kind == control::CellKind::picture)
-                addPicture({place.col, place.row}, look.type.text);
-            if (place.cell && look.type.kind == control::CellKind::pictureHandle &&
-                look.type.picture == pictureMark)
+            const control::CellFormat& cellFormat = m_grid.format(place.col, place.row);
+            if (place.cell && cellFormat.type.kind == control::CellKind::picture)
+                addPicture({place.col, place.row}, cellFormat.type.text);
+            if (place.cell && cellFormat.type.kind == control::CellKind::pictureHandle &&
+                cellFormat.type.picture == pictureMark)
                 m_pictures.add({place.col, place.row}, markBitmap());
         }
     }
@@ -291,7 +291,7 @@ class Workbook {
     void addPicture(control::CellAddress cell, const std::string& name) {
         std::string ignored;
         std::optional<std::string> file;
-        const std::string* kept = m_grid.keptPicture(name);
+        const std::string* kept = m_grid.embeddedImage(name);
         if (!kept) file = files::readWhole(name, ignored);
         if (!kept && !file) return;
         std::string bytes = kept ? *kept : std::move(*file);
@@ -405,7 +405,7 @@ class Workbook {
     int m_spanCount = 0;
     SharedTexts m_texts;
     WorkbookStyles m_styles;
-    std::unordered_map<control::LookIndex, int> m_formats;
+    std::unordered_map<control::FormatIndex, int> m_formats;
     WorkbookPictures m_pictures;
     WorkbookNotes m_notes;
     std::string m_error;

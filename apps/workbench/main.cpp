@@ -24,7 +24,7 @@
 #include "workbench/sheet/sheet_printing.h"
 #include "workbench/shell/main_window.h"
 #include "workbench/window/dialog_font.h"
-#include "workbench/window/say.h"
+#include "workbench/window/ui_text.h"
 #include "workbench/window/written_file.h"
 
 namespace {

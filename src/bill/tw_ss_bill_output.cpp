@@ -132,7 +132,7 @@ void TwSSBillOutput::setRowProperties(const int& row) {
         }
     }
     for (int col = 1; col <= count; ++col) {
-        if (spread.grid().look(col, row).borderSides != 0)
+        if (spread.grid().format(col, row).borderSides != 0)
             spread.setBorder({col, row, col, row}, subtotalSides, 0);
         spread.removeCellSpan(col, row);
     }
@@ -187,7 +187,7 @@ bool TwSSBillOutput::addPicture(Vor_Spread& spread, const Vor_String& imageFile)
     if (col > 1) spread.setIconCell(1, m_currentRow, pictureMark, false);
     // Its file goes: what the sheet does not keep is lost.
     const control::Grid& grid = spread.grid();
-    return isSet && grid.keptPicture(grid.look(col, m_currentRow).type.text);
+    return isSet && grid.embeddedImage(grid.format(col, m_currentRow).type.text);
 }
 
 void TwSSBillOutput::onAddRow(const Vor_StringArray& cells) {

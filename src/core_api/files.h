@@ -1,7 +1,7 @@
-// Files as the core module offers them, by host-style path (platform/paths.h): whole files of lines, record files, listings. Text is Windows-1252; lines end in "\n"
-// when written, and "\r\n" is accepted; files above textFileLimit are refused. Writing is all or
-// nothing. On failure outputs stay as they were and `message`, when asked for, says what failed,
-// where and what to do.
+// Files as the core module offers them, by host-style path (platform/paths.h): whole files of
+// lines, record files, listings. Text is Windows-1252; lines end in "\n" when written, and "\r\n"
+// is accepted; files above textFileLimit are refused. Writing is all or nothing. On failure outputs
+// stay as they were and `message`, when asked for, says what failed, where and what to do.
 #pragma once
 
 #include <cstddef>
@@ -20,8 +20,9 @@ VORMANT_API ErrorStatus ObjectExportWriteFile(std::string_view path, const Vor_S
 
 using RecordRows = Vor_Array<Vor_StringArray>;
 
-/// A record file: one record a line, fields parted by tabs; inside a field tab, line end, carriage
-/// return and backslash are written \t \n \r \\. `name` is the file's base name without extension.
+/// A record file: one record a line, fields separated by tabs; inside a field tab, line end,
+/// carriage return and backslash are written \t \n \r \\. `name` is the file's base name without
+/// extension.
 VORMANT_API bool readFile(std::string_view path, Vor_String& name, RecordRows& records,
                           Vor_String* message = nullptr);
 VORMANT_API bool writeFile(std::string_view path, const RecordRows& records,

@@ -12,14 +12,14 @@ bool readRecords(std::string_view text, std::string_view source, RecordRows& rec
     RecordReader reader(text);
     RecordRows read;
     std::vector<std::string_view> fields;
-    RecordReader::Got got;
-    while ((got = reader.next(fields)) == RecordReader::Got::record) {
+    RecordReader::ReadResult got;
+    while ((got = reader.next(fields)) == RecordReader::ReadResult::record) {
         Vor_StringArray record;
         record.reserve(static_cast<int>(fields.size()));
         for (const std::string_view field : fields) record.append(field);
         read.append(std::move(record));
     }
-    if (got == RecordReader::Got::damaged) {
+    if (got == RecordReader::ReadResult::damaged) {
         message = std::string(source) + ":" + std::to_string(reader.line()) + ": " + reader.damage;
         return false;
     }

@@ -2,10 +2,10 @@
 
 #include "platform/escaped_text.h"
 
-RecordReader::Got RecordReader::next(std::vector<std::string_view>& fields) {
+RecordReader::ReadResult RecordReader::next(std::vector<std::string_view>& fields) {
     fields.clear();
     m_unescaped.clear();
-    if (m_rest.empty()) return Got::end;
+    if (m_rest.empty()) return ReadResult::end;
     ++m_line;
     const std::string_view line = takeLine(m_rest);
     // Fields have a few characters each: one look at each of those beats a search for every field.
@@ -16,11 +16,11 @@ RecordReader::Got RecordReader::next(std::vector<std::string_view>& fields) {
         begin = at + 1;
     }
     fields.push_back(line.substr(begin));
-    if (line.find('\\') == line.npos) return Got::record;
+    if (line.find('\\') == line.npos) return ReadResult::record;
     for (std::string_view& field : fields) {
         auto text = unescaped(field);
-        if (!text) return Got::damaged;
+        if (!text) return ReadResult::damaged;
         field = m_unescaped.emplace_back(std::move(*text));
     }
-    return Got::record;
+    return ReadResult::record;
 }

@@ -14,13 +14,13 @@ class VORMANT_API RecordReader {
     /// Borrows `text`.
     explicit RecordReader(std::string_view text) : m_rest(text) {}
 
-    enum class Got {
+    enum class ReadResult {
         record,
         end,
         damaged,  ///< see damage; the next record can be read
     };
     /// The next record; its fields live until the next call. An empty line has one empty field.
-    Got next(std::vector<std::string_view>& fields);
+    ReadResult next(std::vector<std::string_view>& fields);
     /// Of the record last read, from 1.
     int line() const { return m_line; }
 

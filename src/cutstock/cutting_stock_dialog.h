@@ -64,7 +64,7 @@ class TwCuttingStockDlg : public CDialog {
     void runAction();
     void saveAll();
     void loadAll();
-    void tell(const Vor_StringArray& failures);
+    void report(const Vor_StringArray& failures);
 
     DlgCSP2Data m_data;
     std::optional<int> m_shownId;  ///< of the item that the sheets show

@@ -32,20 +32,20 @@ void TwCuttingStockDlg::openFile(const FileKind& kind) {
     Vor_String message;
     const auto folder = cutstock::itemFolder(m_data.itemNames[item], message);
     if (!folder || ObjectExportCreateDirectory(*folder, &message) != Acad::eOk)
-        return tell({message});
+        return report({message});
     const auto newest = cutstock::newestFile(*folder, kind);
     Vor_String path = newest ? newest->path : *folder;
     if (!askPath(true, kind, path)) return;
     const bool isRead = cutstock::readItem(m_data, item, kind, path, message);
     showItem();
-    if (!isRead) tell({message, dialString(noRowsNowText)});
+    if (!isRead) report({message, dialString(noRowsNowText)});
 }
 
 void TwCuttingStockDlg::saveFile(const FileKind& kind) {
     takeItemBack();
     Vor_StringArray failures;
     save(current(), kind, Asks::forName, failures);
-    tell(failures);
+    report(failures);
 }
 
 /// The table as it is in the data, under the default name or one that is asked for.
@@ -79,7 +79,7 @@ void TwCuttingStockDlg::saveAll() {
     Vor_StringArray failures;
     for (int item = 0; cutstock::isItem(m_data, item); ++item)
         save(item, cutstock::stockKind, asks, failures);
-    tell(failures);
+    report(failures);
 }
 
 // A folder is there for the files that the report misses.
@@ -95,7 +95,7 @@ void TwCuttingStockDlg::loadAll() {
 }
 
 /// On the command line, and to whoever sits before the screen.
-void TwCuttingStockDlg::tell(const Vor_StringArray& failures) {
+void TwCuttingStockDlg::report(const Vor_StringArray& failures) {
     if (failures.isEmpty()) return;
     const Vor_String text = arrToStr(failures, "\n");
     if (WindowSystem::isAttended()) acutPrint(text + "\n");

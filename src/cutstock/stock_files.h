@@ -1,7 +1,7 @@
 // The files of a cutting-stock calculation: for every item a folder of its own, in it the stock in
-// ".shp" and the purchases in ".buy" files. A line of a file is a row, its cells parted by the byte
-// 0xBF. Files are never changed by themselves: every saving makes a new one unless the user chooses
-// an old one.
+// ".shp" and the purchases in ".buy" files. A line of a file is a row, its cells separated by the
+// byte 0xBF. Files are never changed by themselves: every saving makes a new one unless the user
+// chooses an old one.
 #pragma once
 
 #include <array>

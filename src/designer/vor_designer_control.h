@@ -52,7 +52,7 @@ class VORMANT_API Vor_DesignerControl {
     void getFromPropList(const Vor_PropertyList& properties, const int& i);
     void setToPropList(Vor_PropertyList& properties, const int& i) const;
 
-    /// The extension texts as one, parted by ";": four of a flex/fix button, five of a value
+    /// The extension texts as one, separated by ";": four of a flex/fix button, five of a value
     /// button, else comboList as it is.
     Vor_String getMergedExtComboList() const;
     /// The way back, by the present type; parts too many are dropped. Always true.

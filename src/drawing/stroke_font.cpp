@@ -12,8 +12,8 @@ constexpr double capUnits = 16;
 constexpr int baseLine = 4;
 constexpr double gapUnits = 4;
 
-/// Lines are parted by blanks; a point is two signs, x and y, each 0 to 9 or a to z for 10 to 35.
-/// A line that begins with "~" is a curve that its points pull, closed when it ends where it
+/// Lines are separated by blanks; a point is two signs, x and y, each 0 to 9 or a to z for 10
+/// to 35. A line that begins with "~" is a curve that its points pull, closed when it ends where it
 /// begins.
 struct Glyph {
     char character;

@@ -72,9 +72,9 @@ bool StartDlgSelectImage(TwSelectImageDlgData& data) try {
     return noMemoryForDialog();
 }
 
-bool StartDlgLookUp(TwLookUpDlgData& data) try {
+bool StartDlgFormatUp(TwLookUpDlgData& data) try {
     const ResourceOverrideScope resources;
-    LookUpDialog dialog;
+    FormatUpDialog dialog;
     dialog.setTitle(data.title);
     return runDialog(dialog, data);
 } catch (const std::bad_alloc&) {

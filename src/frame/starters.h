@@ -85,8 +85,8 @@ VORMANT_API bool StartDlgGenVars(TwAutoStandardsData& data);
 
 // --- tables -------------------------------------------------------------------------------------
 
-/// Edits rows of texts. `choices` has, for each column, the texts to choose from parted by ";", or
-/// an empty text for a column that is typed into; it may be short. `fixedRows`: rows are neither
+/// Edits rows of texts. `choices` has, for each column, the texts to choose from separated by ";",
+/// or an empty text for a column that is typed into; it may be short. `fixedRows`: rows are neither
 /// added, removed nor moved. The dialog's size is kept under `name` ("DLG_SS_STRINGARRAY" when
 /// empty); `title` heads it unless empty. False at once without columns.
 VORMANT_API bool startGridDialog(const Vor_StringArray& columns, const Vor_StringArray& choices,
@@ -115,5 +115,5 @@ VORMANT_API bool StartDlgGrid(TwGridDlgData& data);
 VORMANT_API bool StartDlgLevels(TwLevelsDlgData& data);
 VORMANT_API bool StartDlgCladdingSettings(TwCladdingDlgData& data);
 VORMANT_API bool StartDlgBracing(TwBracingDlgData& data);
-VORMANT_API bool StartDlgLookUp(TwLookUpDlgData& data);
+VORMANT_API bool StartDlgFormatUp(TwLookUpDlgData& data);
 VORMANT_API bool StartDlgSelectImage(TwSelectImageDlgData& data);

@@ -9,7 +9,7 @@
 
 namespace {
 
-constexpr int tableLook = 1;  // one that is typed into
+constexpr int tableFormat = 1;  // one that is typed into
 constexpr int textLength = 4096;
 
 constexpr ControlTemplate controls[] = {
@@ -35,7 +35,7 @@ StringArrayDialog::StringArrayDialog(const StringTable& table)
 void StringArrayDialog::onInit() {
     if (!m_table.title.isEmpty()) setText(m_table.title);
     m_grid.attach(this, stringArrayGrid, true);
-    m_grid.setStandardLook(tableLook);
+    m_grid.setStandardFormat(tableFormat);
     m_grid.setNrCols(m_table.columns.length(), false);
     for (int col = 1; col <= m_grid.nrCols(); ++col)
         m_grid.setData(col, Vor_Spread::headerIndex, m_table.columns[col - 1]);

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "mapping/tw_var_cell.h"
-#include "spread/control/look.h"
+#include "spread/control/cell_format.h"
 
 /// A number cell of 0 or 7 decimals, or a text cell.
 const control::CellType& variableCellType(TwValueType type);

@@ -25,7 +25,7 @@ void VarValue::take(const control::CellType& type, const formula::Value& value) 
 }
 
 void VarValue::readFrom(const control::Grid& grid, int column, int row) {
-    take(grid.look(column, row).type, grid.sheet().value(column, row));
+    take(grid.format(column, row).type, grid.sheet().value(column, row));
 }
 
 bool VarValue::isError() const {

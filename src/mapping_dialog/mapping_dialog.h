@@ -88,9 +88,9 @@ class TwMappingDlg : public CDialog {
     /// What the mapping file said of the row shown last. A row without a line of its own is
     /// proposed the same objects.
     TwSSMapping m_stored;
-    int m_shownId = 0;                   // of the sheet in the lower grid; 0 for none
-    std::vector<int> m_variableOfRow;    // by row of the lower grid, -1 for headings
-    std::set<std::string> m_toldFailed;  // spreadsheets whose failure was told
+    int m_shownId = 0;                       // of the sheet in the lower grid; 0 for none
+    std::vector<int> m_variableOfRow;        // by row of the lower grid, -1 for headings
+    std::set<std::string> m_reportedFailed;  // spreadsheets whose failure was told
     bool m_isChanged = false;
     Vor_Spread m_sheetsGrid;
     Vor_Spread m_objectsGrid;

@@ -43,7 +43,7 @@ ErrorStatus TwMappingDlg::loadChoices(AttachedSheet& sheet) {
     Vor_String failure;
     const auto declared = listDeclarations(standardsFolder() + sheet.name + ".tws", failure);
     if (!declared) {
-        if (m_toldFailed.insert(sheet.name.str()).second) warn(21538, failure);
+        if (m_reportedFailed.insert(sheet.name.str()).second) warn(21538, failure);
         return Acad::eInvalidInput;
     }
     Vor_String unreadable;

@@ -45,7 +45,7 @@ std::string whatHappened(int error) {
 
 }  // namespace
 
-bool tellsMissing(int error) {
+bool isMissingFile(int error) {
     return error == ENOENT || error == ENOTDIR || error == ENAMETOOLONG || error == ELOOP;
 }
 

@@ -17,6 +17,6 @@ std::string errorText(std::string_view action, std::string_view path, int error)
 std::string notOrdinaryText(std::string_view action, std::string_view path);
 
 /// Whether the system's error says that there is no such file, and not that it cannot be asked.
-bool tellsMissing(int error);
+bool isMissingFile(int error);
 
 }  // namespace files

@@ -36,7 +36,7 @@ std::optional<struct stat> statusOf(std::string_view path) {
     // Asked at every run of a standard: one system call when the exact name exists.
     const std::string written = paths::asWritten(path);
     if (::stat(written.c_str(), &status) == 0) return status;
-    if (!tellsMissing(errno)) return std::nullopt;
+    if (!isMissingFile(errno)) return std::nullopt;
     const std::string found = paths::toMachine(path);
     if (found == written) return std::nullopt;
     return ::stat(found.c_str(), &status) == 0 ? std::optional(status) : std::nullopt;
@@ -113,7 +113,7 @@ std::optional<Stamp> folderStampOf(std::string_view path) {
 
 bool mayExist(std::string_view path) {
     errno = ENOENT;
-    return statusOf(path) ? !isFolder(path) : !tellsMissing(errno);
+    return statusOf(path) ? !isFolder(path) : !isMissingFile(errno);
 }
 
 bool exists(std::string_view path) {

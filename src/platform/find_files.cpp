@@ -54,7 +54,7 @@ class Finder {
         struct stat status {};
         // What cannot be asked about is listed: reading it says what is wrong.
         if (!inside ||
-            (::stat((machine + std::string(name)).c_str(), &status) != 0 && tellsMissing(errno)))
+            (::stat((machine + std::string(name)).c_str(), &status) != 0 && isMissingFile(errno)))
             return;
         if (S_ISDIR(status.st_mode)) {
             // A folder reached twice through links is listed once, so links in a circle end.

@@ -40,7 +40,7 @@ bool copyFile(const Vor_String& from, const Vor_String& to, std::string& error) 
 }
 
 /// Once for each section: its picture is wanted whenever a dialog shows it.
-void tellNotKept(const Vor_String& source, const std::string& why) {
+void reportNotKept(const Vor_String& source, const std::string& why) {
     static std::set<std::string> told;
     if (!told.insert(source.str()).second) return;
     Vor_String message = dialString(wordNotKept);
@@ -73,7 +73,7 @@ bool makeUserSectionPicture(const Vor_String& name, Vor_String& file) {
         return false;
     std::string error;
     if (isOutOfDate(iconPath(made), sourceTime) && !copyFile(source, iconPath(made), error)) {
-        tellNotKept(source, error);
+        reportNotKept(source, error);
         return false;
     }
     file = made;

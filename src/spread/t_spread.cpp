@@ -130,9 +130,9 @@ bool TSpread::clipboardPaste() {
 
 // --- what a user does ---------------------------------------------------------------------------
 
-bool TSpread::tellListener(GridNotice::What what, int col, int row) {
+bool TSpread::notifyListener(GridNotice::What what, int col, int row) {
     const MessageScope message(*this);
-    tell(WindowChange::content);
+    notify(WindowChange::content);
     // A copy: the listener may set another one, or none.
     if (const Listener listener = m_listener) listener({what, col, row});
     return true;
@@ -140,13 +140,13 @@ bool TSpread::tellListener(GridNotice::What what, int col, int row) {
 
 bool TSpread::userEnters(int col, int row, std::string_view text) {
     return isCreated() && m_grid->enter(col, row, text) &&
-           tellListener(GridNotice::What::changed, col, row);
+           notifyListener(GridNotice::What::changed, col, row);
 }
 
-void TSpread::tellChanged(const std::vector<CellAddress>& cells) {
+void TSpread::notifyChanged(const std::vector<CellAddress>& cells) {
     if (cells.empty()) return;
     const MessageScope message(*this);
-    tell(WindowChange::content);
+    notify(WindowChange::content);
     const Listener listener = m_listener;
     if (!listener) return;
     for (const CellAddress& cell : cells) listener({GridNotice::What::changed, cell.col, cell.row});
@@ -164,7 +164,7 @@ bool TSpread::userClears(const Block& given) {
     });
     std::erase_if(filled,
                   [&](const CellAddress& cell) { return !m_grid->enter(cell.col, cell.row, ""); });
-    tellChanged(filled);
+    notifyChanged(filled);
     return !filled.empty();
 }
 
@@ -174,36 +174,36 @@ bool TSpread::userPastes(int col, int row, std::string_view text) {
     const bool isWhole = m_grid->pasteText(col, row, text, [&](int toCol, int toRow) {
         taken.push_back({toCol, toRow});
     });
-    tellChanged(taken);
+    notifyChanged(taken);
     return isWhole;
 }
 
 bool TSpread::userMoves(int col, int row) {
     return isCreated() && m_grid->setActive(col, row) &&
-           tellListener(GridNotice::What::moved, col, row);
+           notifyListener(GridNotice::What::moved, col, row);
 }
 
 bool TSpread::userSelects(const control::Block& block) {
     return isCreated() && m_grid->select(block) &&
-           tellListener(GridNotice::What::moved, block.col1, block.row1);
+           notifyListener(GridNotice::What::moved, block.col1, block.row1);
 }
 
 bool TSpread::userClicks(int col, int row) {
     if (!isCreated() || !m_grid->isInside(col, row)) return false;
-    const control::Look& look = m_grid->look(col, row);
-    if (look.locked) return false;
-    if (look.type.kind == control::CellKind::button)
-        return tellListener(GridNotice::What::pressed, col, row);
-    if (look.type.kind != control::CellKind::checkBox) return false;
+    const control::CellFormat& format = m_grid->format(col, row);
+    if (format.locked) return false;
+    if (format.type.kind == control::CellKind::button)
+        return notifyListener(GridNotice::What::pressed, col, row);
+    if (format.type.kind != control::CellKind::checkBox) return false;
     constexpr int boxClicked = 0x3B;
     const bool isChecked = m_grid->text(col, row, control::Reading::value) == "1";
     if (!m_grid->enter(col, row, isChecked ? "0" : "1")) return false;
     const MessageScope message(*this);
     onCellCommand(boxClicked, col, row);
-    return tellListener(GridNotice::What::checked, col, row);
+    return notifyListener(GridNotice::What::checked, col, row);
 }
 
 bool TSpread::userDoubleClicks(int col, int row) {
     return isCreated() && m_grid->isAddress(col, row) &&
-           tellListener(GridNotice::What::doubleClicked, col, row);
+           notifyListener(GridNotice::What::doubleClicked, col, row);
 }

@@ -111,10 +111,10 @@ class VORMANT_API TSpread : public CWnd {
     SSHandle handle() const { return isCreated() ? m_grid.get() : nullptr; }
 
     /// Always true.
-    bool tellListener(GridNotice::What what, int col, int row);
+    bool notifyListener(GridNotice::What what, int col, int row);
 
   private:
-    void tellChanged(const std::vector<control::CellAddress>& cells);
+    void notifyChanged(const std::vector<control::CellAddress>& cells);
 
     std::unique_ptr<control::Grid> m_grid;
     Listener m_listener;

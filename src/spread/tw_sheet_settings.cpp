@@ -79,7 +79,7 @@ Vor_String settingsPath(const Vor_String& name) {
 
 /// A header or footer may lie beside the settings file that names it, so that both can be moved.
 /// It goes before one of the same name in the folder that a program was started in.
-void lookBesideSettings(Vor_String& reference) {
+void formatBesideSettings(Vor_String& reference) {
     const bool isWholePath = reference.beginsWith("\\") || reference.hasSubString(":");
     const Vor_String beside = settingsFolder() + reference;
     if (!reference.isEmpty() && !isWholePath && files::exists(beside)) reference = beside;
@@ -106,8 +106,8 @@ bool TwSheetSettings::readFromFile(const Vor_String& name) {
     TwPropList list;
     list.read(*text);
     fromList(list);
-    lookBesideSettings(headerFile);
-    lookBesideSettings(footerFile);
+    formatBesideSettings(headerFile);
+    formatBesideSettings(footerFile);
     return true;
 }
 

@@ -64,7 +64,7 @@ bool Vor_Spread::attachHidden() {
     return create({gridClassName, {}, {}, 0, 0, false}, nullptr);
 }
 
-bool Vor_Spread::setStandardLook(int mode) {
+bool Vor_Spread::setStandardFormat(int mode) {
     if (!isAttached() || mode < 0 || mode > 1) return false;
     constexpr OptionSetting common[] = {{8, false},  {12, false}, {7, false}, {21, true},
                                         {26, false}, {34, true},  {32, true}, {18, false},
@@ -117,7 +117,7 @@ bool Vor_Spread::changeRowCount(int count) {
     const int before = nrRows();
     if (!setMaxRows(count)) return false;
     if (before > 0)
-        for (int row = before + 1; row <= count; ++row) grid().copyRowLooks(before, row);
+        for (int row = before + 1; row <= count; ++row) grid().copyRowFormats(before, row);
     return true;
 }
 
@@ -130,7 +130,7 @@ bool Vor_Spread::setNrCols(int count, bool copyFormat) {
     const int before = nrCols();
     if (!setMaxCols(count)) return false;
     if (copyFormat && before > 0)
-        for (int col = before + 1; col <= count; ++col) grid().copyColLooks(before, col);
+        for (int col = before + 1; col <= count; ++col) grid().copyColFormats(before, col);
     return setFonts();
 }
 

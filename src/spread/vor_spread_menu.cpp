@@ -97,7 +97,7 @@ bool Vor_Spread::checkSelection(bool checked) {
     if (!block) return false;
     for (int row = block->row1; row <= block->row2; ++row)
         for (int col = block->col1; col <= block->col2; ++col)
-            if (grid().look(col, row).type.kind == control::CellKind::checkBox)
+            if (grid().format(col, row).type.kind == control::CellKind::checkBox)
                 setCheck(col, row, checked);
     return true;
 }

@@ -77,11 +77,11 @@ bool Vor_Spread::moveRowDown() {
 }
 
 bool Vor_Spread::copyRowFormat(int from, int to) {
-    return isAttached() && grid().copyRowLooks(from, to);
+    return isAttached() && grid().copyRowFormats(from, to);
 }
 
 bool Vor_Spread::copyColFormat(int from, int to) {
-    return isAttached() && grid().copyColLooks(from, to);
+    return isAttached() && grid().copyColFormats(from, to);
 }
 
 bool Vor_Spread::getActiveCell(int& col, int& row) {

@@ -15,7 +15,7 @@ constexpr int uncheckedPicture = 8136;
 constexpr int frameStyle = 6;
 constexpr int frameSides = control::borderRight;
 constexpr int pictureNeighbourSides = control::borderOutline | control::borderRight;
-constexpr size_t largestKeptPicture = size_t{16} << 20;  // bytes
+constexpr size_t largestEmbeddedImage = size_t{16} << 20;  // bytes
 
 /// A bitmap file in as few bytes as it takes; other files as they are.
 std::string packed(std::string bytes) {
@@ -80,7 +80,7 @@ bool Vor_Spread::setButtonCell(const Block& block, const Vor_String& text) {
 bool Vor_Spread::setPictureCell(int col, int row, const Vor_String& file) {
     if (!isAttached() || !grid().isInside(col, row) || !files::exists(file)) return false;
     std::string error, shown = file.str();
-    if (auto bytes = files::readWhole(file, error, largestKeptPicture)) {
+    if (auto bytes = files::readWhole(file, error, largestEmbeddedImage)) {
         if (const auto size = pictureSizeOf(*bytes)) {
             setRowHeightInPixels(row, size->height);
             shown = grid().keepPicture(packed(std::move(*bytes)));

@@ -15,7 +15,7 @@
 
 namespace {
 
-void tellObserver(const Vor_String& text) {
+void notifyObserver(const Vor_String& text) {
     if (RunObserver* observer = runObserver()) observer->dataFileFailed(text);
 }
 
@@ -34,7 +34,7 @@ std::optional<Vor_StringArray> readLines(std::string_view path) {
     Vor_StringArray lines;
     Vor_String message;
     if (ObjectExportReadFile(path, lines, &message) == Acad::eOk) return lines;
-    tellObserver(message);
+    notifyObserver(message);
     return std::nullopt;
 }
 
@@ -60,11 +60,11 @@ class ReadInRun {
     std::shared_ptr<const Content> readFrom(std::string_view name, Read&& read) {
         if (const auto path = findDataFile(name)) return m_files.get(*path, read);
         if (const auto refusal = FoundFiles::refusal(dataFileCandidates(name))) {
-            tellObserver(*refusal);
+            notifyObserver(*refusal);
             return nullptr;
         }
-        tellObserver("there is no data file \"" + Vor_String(name) + "\" in " + standardsFolder() +
-                     "Data\\: put it there, or correct its name");
+        notifyObserver("there is no data file \"" + Vor_String(name) + "\" in " +
+                       standardsFolder() + "Data\\: put it there, or correct its name");
         return nullptr;
     }
 
@@ -99,8 +99,8 @@ std::optional<SizeList> parseSizeList(std::string_view path) {
         sizes.second.push_back(textToDouble(after));
     }
     if (damaged > 0)
-        tellObserver(Vor_String(path) + ":" + Vor_String(damaged, 0) +
-                     ": this is no size and counts as 0: write a number, or width x thickness");
+        notifyObserver(Vor_String(path) + ":" + Vor_String(damaged, 0) +
+                       ": this is no size and counts as 0: write a number, or width x thickness");
     return sizes;
 }
 
@@ -120,7 +120,7 @@ std::optional<LookupTable> parseLookupTable(std::string_view path) {
     auto rows = arrToArrArr(kept, '\t');
     const auto hasValue = [](const Vor_StringArray& row) { return row.length() > 1; };
     if (std::none_of(rows.begin(), rows.end(), hasValue)) {
-        tellObserver(Vor_String(path) + ": there is no row in it: write key, tab, value");
+        notifyObserver(Vor_String(path) + ": there is no row in it: write key, tab, value");
         return std::nullopt;
     }
     return LookupTable(std::move(rows));

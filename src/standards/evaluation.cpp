@@ -53,13 +53,13 @@ void TwStandardsSS::evaluateAll(PreparedStandard& prepared) {
     m_fillsNow = m_fillsEquationCells || !prepared.needsNoEquationCells(m_varCells, grid());
     findValuePlaces();
     const RunObserver* observer = runObserver();
-    const bool tellsAll = observer && observer->wantsEveryEquation();
+    const bool reportsAll = observer && observer->wantsEveryEquation();
     PreparedEquation changed;
     for (PreparedEquation& known : prepared.equations()) {
         const PreparedEquation& equation =
             m_fillsNow ? prepared.equationIn(known, m_varCells, grid(), changed) : known;
         const formula::Value* result = hiddenResult(equation);
-        if (result && !tellsAll && takeAtOnce(equation, *result)) continue;
+        if (result && !reportsAll && takeAtOnce(equation, *result)) continue;
         if (equation.text.view().empty()) continue;
         fetchTexts();
         (void)evaluate(prepared, equation, result);

@@ -34,8 +34,8 @@ const std::optional<Vor_String>* FoundFiles::knownAs(const std::string& key) {
     return known == m_found.end() ? nullptr : &known->second;
 }
 
-std::optional<Vor_String> FoundFiles::look(const std::string& key,
-                                           const std::vector<Vor_String>& candidates) {
+std::optional<Vor_String> FoundFiles::format(const std::string& key,
+                                             const std::vector<Vor_String>& candidates) {
     if (RunningStandard::serial() == 0) return firstAllowed(candidates);
     for (const Vor_String& candidate : candidates) noteFolderOf(candidate);
     return m_found.insert_or_assign(key, firstAllowed(candidates)).first->second;

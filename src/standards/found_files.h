@@ -21,7 +21,7 @@ class FoundFiles {
     template <class Candidates>
     std::optional<Vor_String> find(const std::string& key, Candidates&& candidates) {
         const std::optional<Vor_String>* known = knownAs(key);
-        return known ? *known : look(key, candidates());
+        return known ? *known : format(key, candidates());
     }
 
     /// Why the first that exists was refused; nothing when none exists.
@@ -29,8 +29,8 @@ class FoundFiles {
 
   private:
     const std::optional<Vor_String>* knownAs(const std::string& key);
-    std::optional<Vor_String> look(const std::string& key,
-                                   const std::vector<Vor_String>& candidates);
+    std::optional<Vor_String> format(const std::string& key,
+                                     const std::vector<Vor_String>& candidates);
     void startRun();
     void noteFolderOf(const Vor_String& file);
 

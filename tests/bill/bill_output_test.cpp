@@ -43,7 +43,9 @@ class BillOutput : public testing::Test {
     std::string cell(int col, int row, Reading reading = Reading::value) {
         return output.sheet()->grid().text(col, row, reading);
     }
-    const control::Look& look(int col, int row) { return output.sheet()->grid().look(col, row); }
+    const control::CellFormat& format(int col, int row) {
+        return output.sheet()->grid().format(col, row);
+    }
 
     TemporaryFolder folder;
     Vor_String path;
@@ -76,8 +78,8 @@ TEST_F(BillOutput, LongerRowsWidenTheSheet) {
     output.onAddRow({"8", ""});
     EXPECT_EQ(output.sheet()->nrCols(), 3);
     EXPECT_EQ(cell(3, 1), "007");
-    EXPECT_EQ(look(3, 1).type, control::editType(100)) << "no kind, so the sheet's own";
-    EXPECT_EQ(look(2, 2).type.most, 99999999999999.0);
+    EXPECT_EQ(format(3, 1).type, control::editType(100)) << "no kind, so the sheet's own";
+    EXPECT_EQ(format(2, 2).type.most, 99999999999999.0);
     EXPECT_EQ(cell(2, 2), "");
 }
 
@@ -121,7 +123,7 @@ TEST_F(BillOutput, EachKindRoundsOrKeepsWhatItIsGiven) {
         output.onAddRow({each.given});
         EXPECT_EQ(cell(1, 1), each.value) << each.kind << " given " << each.given;
         EXPECT_EQ(cell(1, 1, Reading::data), each.shown) << each.kind << " given " << each.given;
-        const control::CellType& type = look(1, 1).type;
+        const control::CellType& type = format(1, 1).type;
         if (each.kind == 1 || each.kind == 2) {
             EXPECT_EQ(type.decimals, each.kind - 1) << each.given;
             EXPECT_TRUE(type.isNumber());
@@ -137,13 +139,13 @@ TEST_F(BillOutput, SubtotalsAreFramedAndColouredWhereTheySaySomething) {
     output.onAddSubTotals({"Subtotal", "", "25"}, {}, false, 10);
     output.onAddRow({"Bolt", "1", "0.2"});  // the sheet grows behind the subtotal
     for (const int col : {1, 3}) {
-        EXPECT_EQ(look(col, 11).background, control::rgb(164, 208, 255)) << col;
-        EXPECT_EQ(look(col, 11).borderSides, 15) << col;
-        EXPECT_EQ(look(col, 11).borderStyle, 1) << col;
+        EXPECT_EQ(format(col, 11).background, control::rgb(164, 208, 255)) << col;
+        EXPECT_EQ(format(col, 11).borderSides, 15) << col;
+        EXPECT_EQ(format(col, 11).borderStyle, 1) << col;
     }
     for (const auto& [col, row] : {std::pair{2, 11}, {1, 10}, {1, 12}, {3, 12}, {3, 40}}) {
-        EXPECT_EQ(look(col, row).background, control::automatic) << col << ' ' << row;
-        EXPECT_EQ(look(col, row).borderSides, 0) << col << ' ' << row;
+        EXPECT_EQ(format(col, row).background, control::automatic) << col << ' ' << row;
+        EXPECT_EQ(format(col, row).borderSides, 0) << col << ' ' << row;
     }
 }
 
@@ -154,11 +156,11 @@ TEST_F(BillOutput, RowsComeWithoutTheFramesAndSpansThatWereThere) {
     sheet.addCellSpan({1, 1, 2, 1});
     output.onAddRow({"Plate", "1"});
     for (const int col : {1, 2}) {
-        EXPECT_EQ(look(col, 1).borderStyle, 0) << col;
+        EXPECT_EQ(format(col, 1).borderStyle, 0) << col;
         EXPECT_EQ(sheet.grid().spanAt(col, 1), nullptr) << col;
     }
-    EXPECT_EQ(look(3, 1).borderStyle, 1) << "a column without a kind is left alone";
-    EXPECT_EQ(look(1, 2).borderStyle, 1) << "not yet fed";
+    EXPECT_EQ(format(3, 1).borderStyle, 1) << "a column without a kind is left alone";
+    EXPECT_EQ(format(1, 2).borderStyle, 1) << "not yet fed";
 }
 
 TEST_F(BillOutput, TextsInColumnsOfNumbersLeaveANoteAndAreReported) {
@@ -218,7 +220,7 @@ TEST_F(BillOutput, VariablesStandBeforeTheCallersAndTheSheetIsSavedWithThem) {
     EXPECT_EQ(settings.varValues[2].str(), "Autre.pdf");
     EXPECT_EQ(loaded.colWidthInPixels(1), loaded.grid().fitWidth(1));
     EXPECT_GT(loaded.colWidthInPixels(1), 200);
-    EXPECT_EQ(loaded.grid().look(1, Vor_Spread::headerIndex).type.kind,
+    EXPECT_EQ(loaded.grid().format(1, Vor_Spread::headerIndex).type.kind,
               control::CellKind::staticText);
     EXPECT_EQ(loaded.grid().sides().gridType, 7);
 }
@@ -231,8 +233,8 @@ TEST_F(BillOutput, FontsComeFromTheSettingsFile) {
     ASSERT_TRUE(settings.writeToFile("Bill", error)) << error;
     start({"Name"}, {3});
     output.onAddRow({"x"});
-    EXPECT_EQ(look(1, 1).font.name, "Courier");
-    EXPECT_EQ(look(1, Vor_Spread::headerIndex).font.weight, 700);
+    EXPECT_EQ(format(1, 1).font.name, "Courier");
+    EXPECT_EQ(format(1, Vor_Spread::headerIndex).font.weight, 700);
     EXPECT_EQ(output.sheet()->fontHeight(), 20);
     EXPECT_GT(output.sheet()->rowHeightInPixels(1), 20);
 }
@@ -302,18 +304,18 @@ TEST_F(BillOutput, PicturesStandBelowTheirRowsAndGoWithTheSheet) {
     const control::Grid& grid = output.sheet()->grid();
     ASSERT_EQ(grid.rows(), 4) << "one picture, below the row of the plate";
     EXPECT_EQ(grid.rowHeight(2), 90);
-    EXPECT_EQ(look(2, 2).type.kind, control::CellKind::picture);
+    EXPECT_EQ(format(2, 2).type.kind, control::CellKind::picture);
     ASSERT_NE(grid.spanAt(3, 2), nullptr);
     EXPECT_EQ(*grid.spanAt(3, 2), (control::Span{2, 2, 2, 1}));
-    EXPECT_EQ(look(1, 2).type.picture, 251);
-    EXPECT_EQ(look(1, 2).borderStyle, 6);
+    EXPECT_EQ(format(1, 2).type.picture, 251);
+    EXPECT_EQ(format(1, 2).borderStyle, 6);
     EXPECT_EQ(cell(1, 3), "Unknown");
     EXPECT_EQ(cell(1, 4), "Incomplete");
 
     Vor_Spread loaded;
     loaded.attachHidden();
     ASSERT_TRUE(loaded.loadFromFile(path)) << loaded.lastError();
-    const std::string* kept = loaded.grid().keptPicture(loaded.grid().look(2, 2).type.text);
+    const std::string* kept = loaded.grid().embeddedImage(loaded.grid().format(2, 2).type.text);
     ASSERT_NE(kept, nullptr);
     std::string error;
     const auto picture = decodeBitmap(*kept, error);
@@ -345,7 +347,7 @@ TEST_F(BillOutput, PiecesThatLookAlikeShareTheirPictureAndNoOthersDo) {
     output.setVars(-1, 0, 0, true, true, &bill, &transaction);
     ASSERT_EQ(feedBill(bill, output), BillFeed::done);
     std::vector<std::string> pictures;
-    for (int row = 2; row <= 16; row += 2) pictures.push_back(look(2, row).type.text);
+    for (int row = 2; row <= 16; row += 2) pictures.push_back(format(2, row).type.text);
     EXPECT_EQ(pictures[0], pictures[1]);
     EXPECT_EQ(pictures[0], pictures[2]);
     EXPECT_EQ(std::set(pictures.begin(), pictures.end()).size(), 6U);
@@ -360,7 +362,7 @@ TEST_F(BillOutput, OneColumnHasItsPicturesToo) {
     output.setVars(-1, 90, 200, true, true, &bill, &transaction);
     ASSERT_EQ(feedBill(bill, output), BillFeed::done);
     ASSERT_EQ(output.sheet()->nrRows(), 4);
-    EXPECT_EQ(look(1, 2).type.kind, control::CellKind::picture);
+    EXPECT_EQ(format(1, 2).type.kind, control::CellKind::picture);
     EXPECT_EQ(output.sheet()->colWidthInPixels(1), 200) << "nothing of it is cut";
 }
 
@@ -390,8 +392,8 @@ TEST_F(BillOutput, ASubtotalOrPictureBeforeNewRowsDoesNotShowInThem) {
     output.setVars(-1, 0, 0, true, true, &bill, &transaction);
     ASSERT_EQ(feedBill(bill, output), BillFeed::done);
     ASSERT_EQ(output.sheet()->nrRows(), 12) << "the sheet grew for the last picture";
-    EXPECT_EQ(look(2, 11).type, control::editType(100)) << "columns without a kind";
-    EXPECT_EQ(look(2, 12).type.kind, control::CellKind::picture);
+    EXPECT_EQ(format(2, 11).type, control::editType(100)) << "columns without a kind";
+    EXPECT_EQ(format(2, 12).type.kind, control::CellKind::picture);
 }
 
 TEST_F(BillOutput, ImagesAreMadeOfKnownPiecesInsideATransactionAlone) {

@@ -22,10 +22,11 @@ Records recordsOf(const std::string& text) {
     CsvReader reader(*source);
     Records records;
     std::vector<std::string_view> fields;
-    CsvReader::Got got;
-    while ((got = reader.next(fields)) == CsvReader::Got::record || got == CsvReader::Got::bad) {
+    CsvReader::ReadResult got;
+    while ((got = reader.next(fields)) == CsvReader::ReadResult::record ||
+           got == CsvReader::ReadResult::bad) {
         std::string record = std::to_string(reader.lineNumber()) + " ";
-        if (got == CsvReader::Got::bad) {
+        if (got == CsvReader::ReadResult::bad) {
             record += "!" + reader.error();
         } else {
             for (const auto field : fields) record += std::string(field) + "|";

@@ -137,15 +137,15 @@ TEST(SheetConvert, WorkbooksCarryPicturesOfEveryKind) {
          "cx=\"47625\" cy=\"38100\""},
         {"image4.gif", std::string("GIF87a\7\0\6\0\0\0\0", 13), "cx=\"66675\" cy=\"57150\""},
     };
-    std::string looks, cells;
+    std::string formats, cells;
     for (size_t i = 0; i < std::size(pictures); ++i) {
         const std::string number = std::to_string(i + 1);
-        looks += "look " + number + " picture text=\"" +
-                 folder.write("from" + number, pictures[i].bytes) + "\"\n";
+        formats += "look " + number + " picture text=\"" +
+                   folder.write("from" + number, pictures[i].bytes) + "\"\n";
         cells += "A" + number + " @" + number + " \"\n";
     }
     const auto file = folder.write(
-        "a.tws", "vormant-sheet 1\nsize 1 4\n" + looks + "cells\n" + cells + "end 4\n");
+        "a.tws", "vormant-sheet 1\nsize 1 4\n" + formats + "cells\n" + cells + "end 4\n");
     const auto result = program::run({"sheet", "convert", file, folder / "a.xlsx"});
     ASSERT_EQ(result.exitCode, 0) << result.err;
     const std::string archive = folder.read("a.xlsx");

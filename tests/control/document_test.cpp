@@ -12,9 +12,9 @@
 namespace {
 
 using control::Block;
+using control::CellFormat;
 using control::Grid;
 using control::headerIndex;
-using control::Look;
 using control::Reading;
 using testing::HasSubstr;
 
@@ -29,11 +29,13 @@ void fill(Grid& grid) {
     combo.kind = control::CellKind::comboBox;
     combo.text = "S235\t\"S355\"\\";
     grid.setType(4, 2, combo);
-    grid.changeLooks({1, headerIndex, -1, headerIndex}, [](Look& look) { look.font.weight = 700; });
-    grid.changeLooks({headerIndex, 2, headerIndex, 2}, [](Look& look) { look.locked = true; });
-    EXPECT_EQ(grid.look(5, headerIndex).font.weight, 700);
-    EXPECT_EQ(grid.look(headerIndex, 2).locked, true);
-    EXPECT_EQ(grid.look(headerIndex, 3).locked, false);
+    grid.changeFormats({1, headerIndex, -1, headerIndex},
+                       [](CellFormat& format) { format.font.weight = 700; });
+    grid.changeFormats({headerIndex, 2, headerIndex, 2},
+                       [](CellFormat& format) { format.locked = true; });
+    EXPECT_EQ(grid.format(5, headerIndex).font.weight, 700);
+    EXPECT_EQ(grid.format(headerIndex, 2).locked, true);
+    EXPECT_EQ(grid.format(headerIndex, 3).locked, false);
     grid.setBorder({1, 1, 2, 2}, control::borderOutline, 6, control::rgb(1, 2, 3));
     grid.setData(1, 1, "quote \" backslash \\ tab \t line \n return \r euro \x80 e \xE9");
     grid.setData(2, 1, "0.1");
@@ -74,7 +76,7 @@ void expectSame(const Grid& a, const Grid& b) {
                  {Reading::data, Reading::formula, Reading::tag, Reading::value})
                 EXPECT_EQ(a.text(col, row, reading), b.text(col, row, reading));
             EXPECT_EQ(a.note(col, row), b.note(col, row));
-            EXPECT_TRUE(a.look(col, row) == b.look(col, row));
+            EXPECT_TRUE(a.format(col, row) == b.format(col, row));
             EXPECT_EQ(a.spanAt(col, row) != nullptr, b.spanAt(col, row) != nullptr);
         }
     }
@@ -264,10 +266,10 @@ TEST(Document, StartingAgainUndoesWhateverWasDone) {
             g.clearCells({1, 1, -1, -1});
         },
         [](Grid& g) {
-            g.changeLooks({1, 1, 4, 10}, [](Look& look) { look.locked = true; });
+            g.changeFormats({1, 1, 4, 10}, [](CellFormat& format) { format.locked = true; });
         },
         [](Grid& g) {
-            g.changeLooks({-1, -1, -1, -1}, [](Look& look) { look.locked = true; });
+            g.changeFormats({-1, -1, -1, -1}, [](CellFormat& format) { format.locked = true; });
         },
         [](Grid& g) { g.insertRows(2, 3), g.setData(1, 2, "x"); },
         [](Grid& g) { g.setRows(2), g.setCols(2); },
@@ -372,9 +374,9 @@ TEST(Document, CarriesThePicturesThatItsCellsShow) {
     ASSERT_TRUE(document) << error;
     Grid read;
     read.restore(document);
-    ASSERT_NE(read.keptPicture(read.look(1, 1).type.text), nullptr);
-    EXPECT_EQ(*read.keptPicture(name), bytes);
-    EXPECT_EQ(read.keptPicture(unused), nullptr);
+    ASSERT_NE(read.embeddedImage(read.format(1, 1).type.text), nullptr);
+    EXPECT_EQ(*read.embeddedImage(name), bytes);
+    EXPECT_EQ(read.embeddedImage(unused), nullptr);
     EXPECT_EQ(control::writeDocument(read), text);
 
     const auto with = [](const std::string& line) {

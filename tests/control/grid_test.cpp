@@ -10,11 +10,11 @@
 namespace {
 
 using control::Block;
+using control::CellFormat;
 using control::CellKind;
 using control::CellType;
 using control::Grid;
 using control::headerIndex;
-using control::Look;
 using control::Reading;
 using formula::ErrorCode;
 using formula::Value;
@@ -189,13 +189,13 @@ TEST_F(GridTest, EverythingOfARowMovesWithIt) {
     grid.setRowHeight(3, 55);
     grid.setData(headerIndex, 3, "head");
     grid.addSpan({2, 3, 2, 2});
-    grid.changeLooks({1, 3, 1, 3}, [](Look& look) { look.locked = true; });
+    grid.changeFormats({1, 3, 1, 3}, [](CellFormat& format) { format.locked = true; });
     grid.setFormula(1, 5, "A3");
     const auto isAt = [&](int row) {
         return value(1, row) == "three" && grid.text(1, row, Reading::tag) == "tag" &&
                grid.note(1, row) == "note" && grid.rowHeight(row) == 55 &&
                data(headerIndex, row) == "head" && grid.spanAt(3, row + 1) != nullptr &&
-               grid.look(1, row).locked;
+               grid.format(1, row).locked;
     };
     ASSERT_TRUE(isAt(3));
     EXPECT_TRUE(grid.insertRows(2, 1));
@@ -230,15 +230,15 @@ TEST_F(GridTest, ColumnsMoveWithTheirLooks) {
     EXPECT_TRUE(grid.insertCols(1, 1));
     EXPECT_EQ(data(3, 1), "1.3");
     EXPECT_EQ(grid.colWidth(3), 99);
-    EXPECT_TRUE(grid.look(3, 8).type.isNumber());
-    EXPECT_FALSE(grid.look(2, 8).type.isNumber());
-    EXPECT_TRUE(grid.copyColLooks(3, 5));
-    EXPECT_TRUE(grid.look(5, 8).type.isNumber());
+    EXPECT_TRUE(grid.format(3, 8).type.isNumber());
+    EXPECT_FALSE(grid.format(2, 8).type.isNumber());
+    EXPECT_TRUE(grid.copyColFormats(3, 5));
+    EXPECT_TRUE(grid.format(5, 8).type.isNumber());
     EXPECT_TRUE(grid.deleteCols(1, 2));
-    EXPECT_TRUE(grid.look(1, 1).type.isNumber());
+    EXPECT_TRUE(grid.format(1, 1).type.isNumber());
     // Rows that come later look like the rest of the column.
     grid.setRows(100'000);
-    EXPECT_TRUE(grid.look(1, 100'000).type.isNumber());
+    EXPECT_TRUE(grid.format(1, 100'000).type.isNumber());
 }
 
 TEST_F(GridTest, SizesHaveLimitsAndShrinkingDrops) {
@@ -273,17 +273,17 @@ TEST_F(GridTest, NewSpansPushOverlappingOnesOut) {
 
 TEST_F(GridTest, BordersGoRoundABlock) {
     EXPECT_TRUE(grid.setBorder({2, 2, 4, 3}, control::borderOutline, 6, control::rgb(1, 2, 3)));
-    EXPECT_EQ(grid.look(2, 2).borderSides, control::borderLeft | control::borderTop);
-    EXPECT_EQ(grid.look(4, 3).borderSides, control::borderRight | control::borderBottom);
-    EXPECT_EQ(grid.look(3, 2).borderSides, control::borderTop);
-    EXPECT_EQ(grid.look(3, 3).borderColour, 0x030201U);
+    EXPECT_EQ(grid.format(2, 2).borderSides, control::borderLeft | control::borderTop);
+    EXPECT_EQ(grid.format(4, 3).borderSides, control::borderRight | control::borderBottom);
+    EXPECT_EQ(grid.format(3, 2).borderSides, control::borderTop);
+    EXPECT_EQ(grid.format(3, 3).borderColour, 0x030201U);
     EXPECT_TRUE(grid.setBorder({2, 2, 4, 3}, 31, 0, control::automatic));
-    EXPECT_EQ(grid.look(2, 2).borderSides, 0);
+    EXPECT_EQ(grid.format(2, 2).borderSides, 0);
 }
 
 TEST_F(GridTest, UsersAreHeldToLocksKindsAndLengths) {
     grid.setOption(control::Option::userFormulas, true);
-    grid.changeLooks({1, 1, 1, 1}, [](Look& look) { look.locked = true; });
+    grid.changeFormats({1, 1, 1, 1}, [](CellFormat& format) { format.locked = true; });
     CellType combo = typeOf(CellKind::comboBox);
     combo.text = "S235\tS355";
     grid.setType(2, 1, combo);

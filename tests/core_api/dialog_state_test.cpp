@@ -51,7 +51,7 @@ TEST_F(Registry, DamagedFileIsToldOnceAndNeverReplaced) {
     EXPECT_FALSE(registry::read(Root::user, "a", "b"));
     EXPECT_FALSE(registry::read(Root::user, "a", "b"));
     EXPECT_EQ(host.text, folder.inside("vormant\\user.registry") +
-                             ":2: this is no key, name and value parted by tabs; remove the "
+                             ":2: this is no key, name and value separated by tabs; remove the "
                              "line\n");
     EXPECT_FALSE(registry::write(Root::user, "a", "b", "c", error));
     EXPECT_THAT(error, HasSubstr("user.registry:2:"));

@@ -27,13 +27,13 @@ TEST_F(OpenFiles, AskBeforeTheyReplaceWhatSomebodyElseWrote) {
     EXPECT_EQ(save("one"), Saved::yes);
     EXPECT_EQ(save("two"), Saved::yes);
     folder.write("a.txt", "other");
-    user.whenTold("changed by another program").presses(IDCANCEL);
+    user.whenMessage("changed by another program").presses(IDCANCEL);
     EXPECT_EQ(save("three"), Saved::no);
     EXPECT_EQ(error, "");
-    user.whenTold("changed by another program").presses(IDNO);
+    user.whenMessage("changed by another program").presses(IDNO);
     EXPECT_EQ(save("three"), Saved::reload);
     EXPECT_EQ(folder.read("a.txt"), "other");
-    user.whenTold("changed by another program").presses(IDYES);
+    user.whenMessage("changed by another program").presses(IDYES);
     EXPECT_EQ(save("three"), Saved::yes);
     EXPECT_EQ(folder.read("a.txt"), "three");
     EXPECT_EQ(save("four"), Saved::yes);
@@ -44,8 +44,8 @@ TEST_F(OpenFiles, AskBeforeTheyReplaceWhatSomebodyElseWrote) {
         if (tells++ == 0) folder.write("a.txt", "another one");
         return false;
     });
-    user.whenTold("changed by another program").presses(IDYES);
-    user.whenTold("changed by another program").presses(IDCANCEL);
+    user.whenMessage("changed by another program").presses(IDYES);
+    user.whenMessage("changed by another program").presses(IDCANCEL);
     EXPECT_EQ(save("five"), Saved::no);
     EXPECT_EQ(folder.read("a.txt"), "another one");
 }
@@ -61,7 +61,7 @@ TEST_F(OpenFiles, GoToAnotherPathRemovedFilesAndNewOnes) {
     EXPECT_EQ(file.path(), folder.inside("b.txt"));
     EXPECT_FALSE(std::filesystem::exists(folder.path() / "no"));
     file.startNew(folder.write("c.txt", "somebody's"));
-    user.whenTold("changed by another program").presses(IDCANCEL);
+    user.whenMessage("changed by another program").presses(IDCANCEL);
     EXPECT_EQ(save("three", "c.txt"), Saved::no);
 }
 

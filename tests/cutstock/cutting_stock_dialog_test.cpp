@@ -130,7 +130,7 @@ TEST_F(CuttingStock, AddsItemsOfNewNames) {
     names("a/b");
     names("UPN 180");
     EXPECT_TRUE(StartDlgCSP2(data));
-    EXPECT_EQ(user.told().size(), 3u);
+    EXPECT_EQ(user.messages().size(), 3u);
     EXPECT_EQ(data.itemIds, (AcArray<int>{7, 2, 8}));
     EXPECT_EQ(data.itemNames[2], "UPN 180");
     EXPECT_EQ(rows(0, 8), (Rows{{"first", ""}}));
@@ -277,12 +277,12 @@ TEST_F(CuttingStock, TellsWhatCouldNotBeReadOrWrittenAndHarmsNoFile) {
     for (const int title : {openTitle, saveTitle})
         user.whenAskedForFile(dialString(title)).chooses({inside("IPE\\folder.shp")});
     EXPECT_TRUE(StartDlgCSP2(data));
-    ASSERT_EQ(user.told().size(), 2u);
-    for (const MessageBox& box : user.told()) {
+    ASSERT_EQ(user.messages().size(), 2u);
+    for (const MessageBox& box : user.messages()) {
         EXPECT_NE(box.text.find("folder.shp"), std::string::npos);
         EXPECT_NE(host.printed.find(box.text), std::string::npos);
     }
-    EXPECT_NE(user.told()[0].text.find(dialString(25204).view()), std::string::npos);
+    EXPECT_NE(user.messages()[0].text.find(dialString(25204).view()), std::string::npos);
     EXPECT_EQ(rows(1, 7), Rows()) << "as a file that cannot be read leaves it";
     EXPECT_EQ(rows(0, 7)[0][0], "kept");
 }
@@ -310,8 +310,8 @@ TEST_F(CuttingStock, SavesTheStockOfAllItemsUnderDefaultNames) {
     EXPECT_EQ(library.read("HEA/stock5.shp"),
               "12000\xBF"
               "5\n");
-    ASSERT_EQ(user.told().size(), 1u);
-    EXPECT_NE(user.told()[0].text.find("\"L 50/5\""), std::string::npos);
+    ASSERT_EQ(user.messages().size(), 1u);
+    EXPECT_NE(user.messages()[0].text.find("\"L 50/5\""), std::string::npos);
 }
 
 TEST_F(CuttingStock, AsksForEachNameWhenWanted) {

@@ -11,7 +11,7 @@ using editor::CsvSettings;
 using editor::DecimalMark;
 using namespace std::string_literals;
 
-/// Numbers as they are, texts in quotes, formulas with "="; cells parted by "|", rows by "/".
+/// Numbers as they are, texts in quotes, formulas with "="; cells separated by "|", rows by "/".
 std::string shown(const Grid& grid) {
     std::string all;
     for (int row = 1; row <= grid.rows(); ++row) {

@@ -15,7 +15,7 @@ using control::Reading;
 using editor::PasteWhat;
 using editor::SheetEditor;
 
-/// Formulas (with "=") or data; cells parted by "|", rows by "/".
+/// Formulas (with "=") or data; cells separated by "|", rows by "/".
 std::string shown(const Grid& grid) {
     std::string all;
     for (int row = 1; row <= grid.rows(); ++row) {
@@ -206,8 +206,8 @@ TEST(Operations, CopiesTakeLooksTagsNotesAndMergedCellsToAnotherSheet) {
     ASSERT_TRUE(source.setTag(1, 1, "t") && source.setNote(2, 2, "n"));
     ASSERT_TRUE(source.mergeCells({1, 1, 2, 1}));
     ASSERT_TRUE(target.paste(*source.copy({1, 1, 2, 2}), {1, 1, 1, 1}));
-    EXPECT_EQ(to.look(1, 1).font.weight, 700);
-    EXPECT_EQ(to.look(2, 2).font.weight, 400);
+    EXPECT_EQ(to.format(1, 1).font.weight, 700);
+    EXPECT_EQ(to.format(2, 2).font.weight, 400);
     EXPECT_EQ(to.text(1, 1, Reading::tag), "t");
     EXPECT_EQ(to.note(2, 2), "n");
     ASSERT_NE(to.spanAt(2, 1), nullptr);

@@ -118,7 +118,7 @@ TEST(PrintJob, PlacesCellsUnderRepeatedHeadings) {
     grid.setData(2, control::headerIndex, "Size");
     grid.addSpan({1, 53, 2, 3});
     grid.setData(1, 53, "merged");
-    grid.changeLooks({1, 1, 1, 1}, [](control::Look& look) { look.background = 255; });
+    grid.changeFormats({1, 1, 1, 1}, [](control::CellFormat& format) { format.background = 255; });
     TwSheetSettings settings;
     settings.colors = false;
     const PrintJob job(grid, settings, {});
@@ -137,13 +137,13 @@ TEST(PrintJob, PlacesCellsUnderRepeatedHeadings) {
         EXPECT_NEAR(merged->place.height, (page == 0 ? 20 : 40) * pixel, 1e-9);
         EXPECT_NEAR(printed.frame.width, (40 + 3 * 64) * pixel, 1e-9);
     }
-    EXPECT_EQ(find(job.page(0).body, "first")->look.background, control::automatic);
+    EXPECT_EQ(find(job.page(0).body, "first")->format.background, control::automatic);
     EXPECT_FALSE(find(job.page(1).body, "first"));
     EXPECT_TRUE(find(job.page(1).body, "54"));
     settings.colors = true;
     settings.border = settings.rowHeader = false;
     const PrintJob plain(grid, settings, {});
-    EXPECT_EQ(find(plain.page(0).body, "first")->look.background, 255u);
+    EXPECT_EQ(find(plain.page(0).body, "first")->format.background, 255u);
     EXPECT_DOUBLE_EQ(find(plain.page(0).body, "first")->place.left, 9);
     EXPECT_EQ(plain.page(0).frame, printing::Rect());
 }
@@ -151,7 +151,7 @@ TEST(PrintJob, PlacesCellsUnderRepeatedHeadings) {
 // Where a text may be drawn: from its own column to the last that it may reach, "1-3".
 TEST(PrintJob, TextsReachOverEmptyCells) {
     const auto right = [](control::Grid& grid) {
-        grid.changeLooks({1, 1, 1, 1}, [](control::Look& look) { look.alignment = 2; });
+        grid.changeFormats({1, 1, 1, 1}, [](control::CellFormat& format) { format.alignment = 2; });
     };
     const struct {
         const char* text;

@@ -67,7 +67,7 @@ TEST_F(Cis2, NamesOfOtherSectionsComeAndGo) {
             dialog.press(namedValuesInsert);
             const int added = goTo("3: Section name");
             EXPECT_TRUE(grid.userEnters(namedValuesValueColumn, added, "hea-100"));
-            EXPECT_EQ(user.told().size(), 1u) << "it has a name already";
+            EXPECT_EQ(user.messages().size(), 1u) << "it has a name already";
             EXPECT_TRUE(grid.userEnters(namedValuesValueColumn, added, "IPE-240"));
             goTo("HEA-100: Section name");
             dialog.press(namedValuesDelete);
@@ -80,7 +80,7 @@ TEST_F(Cis2, NamesOfOtherSectionsComeAndGo) {
 TEST_F(Cis2, ADamagedFileIsToldOfAndKept) {
     constexpr const char* damaged = "a\tb\nIPE-200\t\\x\n";
     library.write(fileName, damaged);
-    user.whenToldWithCaption("CIS/2 names of sections").presses(IDOK);
+    user.whenMessageWithCaption("CIS/2 names of sections").presses(IDOK);
     EXPECT_TRUE(run("Phase", "2", IDOK));
     EXPECT_FALSE(data.areSectionNamesKnown) << "so none can be added, which would be lost";
     EXPECT_EQ(data.phase, 2);

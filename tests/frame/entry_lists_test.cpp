@@ -149,7 +149,7 @@ TEST_F(EntryLists, NothingComesOrGoesWhileATypedValueCannotBeUsed) {
             },
             IDCANCEL));
     }
-    EXPECT_EQ(user.told().size(), 2u);
+    EXPECT_EQ(user.messages().size(), 2u);
 }
 
 TEST_F(EntryLists, TheKeysAreThoseOfTheButtons) {
@@ -260,9 +260,9 @@ TEST_F(EntryLists, CutsComeAndGoInTheModulesThatCanHaveThem) {
     enter(dialog, "Plate2, COPE: Module", "Plate1");
     EXPECT_GT(rowOf(dialog, "Plate1, COPE_2: Name"), 0) << "the name is taken there";
     for (const char* bad : {"Cope_1", "cope", "", ".x"}) {
-        const size_t told = user.told().size();
+        const size_t told = user.messages().size();
         enter(dialog, "Plate1, COPE_2: Name", bad);
-        EXPECT_EQ(user.told().size(), told + 1) << bad;
+        EXPECT_EQ(user.messages().size(), told + 1) << bad;
     }
     enter(dialog, "Plate1, COPE_2: Name", "cope_2");
     enter(dialog, "Plate1, cope_2: Type of cut", "Round");
@@ -295,8 +295,8 @@ TEST_F(EntryLists, ConstraintsHaveNamesThatAMacroTakes) {
     dialog.press(namedValuesInsert);
     enter(dialog, "Gap_1 (mm)", "5");
     enter(dialog, "Gap_1: Name", "GAP");
-    EXPECT_EQ(user.told().size(), 1u);
-    EXPECT_EQ(user.told()[0].text,
+    EXPECT_EQ(user.messages().size(), 1u);
+    EXPECT_EQ(user.messages()[0].text,
               "\"Gap_1: Name\" does not take \"GAP\". Type another value, or cancel.");
     enter(dialog, "Gap_1: Name", "Pitch");
     dialog.press(IDOK);

@@ -40,12 +40,12 @@ TEST_F(NamedValuesEditor, ShowsEachValueInACellOfItsKind) {
         grid.getCellText(2, row.row, value, Vor_Spread::Reading::value);
         EXPECT_EQ(name, row.name);
         EXPECT_EQ(value, row.value);
-        EXPECT_EQ(grid.grid().look(2, row.row).type.kind, row.kind) << row.name;
+        EXPECT_EQ(grid.grid().format(2, row.row).type.kind, row.kind) << row.name;
         EXPECT_TRUE(grid.isLocked(1, row.row));
         EXPECT_FALSE(grid.userEnters(1, row.row, "x"));
     }
     BracingDialog bracing;
-    EXPECT_EQ(open(bracing).grid().look(2, 1).type.kind, CellKind::comboBox);
+    EXPECT_EQ(open(bracing).grid().format(2, 1).type.kind, CellKind::comboBox);
 }
 
 TEST_F(NamedValuesEditor, KeepsTheDialogOpenUntilNumbersAreInRange) {
@@ -61,15 +61,15 @@ TEST_F(NamedValuesEditor, KeepsTheDialogOpenUntilNumbersAreInRange) {
         CladdingDialog dialog;
         Vor_Spread& grid = open(dialog);
         ASSERT_TRUE(grid.userEnters(2, row.row, row.typed)) << row.typed;
-        const size_t told = user.told().size();
+        const size_t told = user.messages().size();
         dialog.press(IDOK);
         EXPECT_EQ(dialog.isEnded(), row.isTaken) << row.typed;
-        EXPECT_EQ(user.told().size(), told + (row.isTaken ? 0 : 1)) << row.typed;
+        EXPECT_EQ(user.messages().size(), told + (row.isTaken ? 0 : 1)) << row.typed;
         if (!row.isTaken) {
             EXPECT_EQ(grid.currentRow(), row.row);
         }
     }
-    EXPECT_EQ(user.told()[0].text,
+    EXPECT_EQ(user.messages()[0].text,
               "\"Panel width (mm)\" needs a number from 0.001 to 1000000. Type another one, or "
               "cancel.");
 }
@@ -83,7 +83,7 @@ TEST_F(NamedValuesEditor, ARefusedValueLeavesTheDataAsItWas) {
     ASSERT_TRUE(grid.userEnters(2, 2, "-3"));  // no hole is smaller than its bolt
     dialog.press(IDOK);
     EXPECT_FALSE(dialog.isEnded());
-    EXPECT_EQ(user.told().size(), 1u);
+    EXPECT_EQ(user.messages().size(), 1u);
     EXPECT_EQ(dialog.data(), before);
     ASSERT_TRUE(grid.userEnters(2, 2, "3"));
     dialog.press(IDOK);

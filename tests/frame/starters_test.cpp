@@ -71,7 +71,7 @@ TwLevelsDlgData sampleLevels() {
     return data;
 }
 
-TwLookUpDlgData sampleLookUp() {
+TwLookUpDlgData sampleFormatUp() {
     TwLookUpDlgData data;
     data.names = {"S235", "S355"};
     data.chosen = 0;
@@ -159,7 +159,7 @@ std::vector<Case> cases() {
          over<TwLevelsDlgData>(StartDlgLevels, sampleLevels(),
                                [](auto& d) { return Vor_String(d.levels[0].height, 3); })},
         {"look up", 8728, 1, "S355", "0",
-         over<TwLookUpDlgData>(StartDlgLookUp, sampleLookUp(),
+         over<TwLookUpDlgData>(StartDlgFormatUp, sampleFormatUp(),
                                [](auto& d) { return Vor_String(d.chosen, 0); })},
         {"cladding", 8729, 4, "8000", "6000",
          over<TwCladdingDlgData>(StartDlgCladdingSettings, {},
@@ -405,8 +405,8 @@ TEST_F(Starters, SelectImageShowsThumbnailsAndSaysWhatCannotBeRead) {
 
 TEST_F(Starters, DesignerThatIsMissingIsSaid) {
     EXPECT_FALSE(StartDlgDesigner("c:\\t\\a.txt"));
-    ASSERT_EQ(user.told().size(), 1u);
-    EXPECT_NE(user.told()[0].text.find("a.txt"), std::string::npos);
+    ASSERT_EQ(user.messages().size(), 1u);
+    EXPECT_NE(user.messages()[0].text.find("a.txt"), std::string::npos);
 }
 
 TEST_F(Starters, DstvPointsKeepTheirSettings) {

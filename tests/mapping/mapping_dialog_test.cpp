@@ -291,8 +291,8 @@ TEST_F(MappingDialog, ASpreadsheetThatCannotBeReadIsToldOnceAndKept) {
     data.insertRow(1, "Gone", "k");
     data.insertRow(2, "NoMarkers", "");
     const TabMappingData before = data;
-    user.whenTold("Gone.tws").presses(IDOK);
-    user.whenTold("NoMarkers.tws").presses(IDOK);
+    user.whenMessage("Gone.tws").presses(IDOK);
+    user.whenMessage("NoMarkers.tws").presses(IDOK);
     user.whenOpens(Dlg::resourceNumber)
         .does(selectsRow(2))
         .does(showsObjects(plateAsStored))
@@ -301,12 +301,12 @@ TEST_F(MappingDialog, ASpreadsheetThatCannotBeReadIsToldOnceAndKept) {
         .does(selectsRow(1))
         .presses(IDOK);
     EXPECT_TRUE(run());
-    EXPECT_EQ(user.told().size(), 2u);
+    EXPECT_EQ(user.messages().size(), 2u);
     EXPECT_EQ(data, before);
 }
 
 TEST_F(MappingDialog, ARowNeedsASpreadsheet) {
-    user.whenTold("Row: 1").presses(IDOK);
+    user.whenMessage("Row: 1").presses(IDOK);
     user.whenOpens(Dlg::resourceNumber)
         .presses(Dlg::addButton)
         .presses(IDOK)
@@ -321,7 +321,7 @@ TEST_F(MappingDialog, WhenOneMappingCannotBeWrittenNoneIsAndNothingIsLost) {
     data.insertRow(1, "Other\\Bolt", "k");
     library.write("Connection Standards/Other/Bolt.map", header + "k=\n");
     auto readOnly = std::make_unique<ReadOnly>("/Other/");
-    user.whenTold("no file was changed").presses(IDOK);
+    user.whenMessage("no file was changed").presses(IDOK);
     user.whenOpens(Dlg::resourceNumber)
         .does(maps(2, "Plates.D2"))
         .does(selectsRow(2))
@@ -334,8 +334,8 @@ TEST_F(MappingDialog, WhenOneMappingCannotBeWrittenNoneIsAndNothingIsLost) {
         })
         .presses(IDOK);
     ASSERT_TRUE(run());
-    ASSERT_EQ(user.told().size(), 1u);
-    EXPECT_THAT(user.told()[0].text, HasSubstr("Bolt.map"));
+    ASSERT_EQ(user.messages().size(), 1u);
+    EXPECT_THAT(user.messages()[0].text, HasSubstr("Bolt.map"));
     EXPECT_THAT(plateMap(), HasSubstr(data.mappingKeys()[0].str() + "=Gap"));
     EXPECT_THAT(library.read("Connection Standards/Other/Bolt.map"),
                 HasSubstr(data.mappingKeys()[1].str() + "="));
@@ -345,8 +345,8 @@ TEST_F(MappingDialog, AMappingFileThatCannotBeReadIsToldAndStays) {
     const std::string big(40 << 20, 'x');  // beyond what text files may be
     library.write("Connection Standards/Plate.map", big);
     data.insertRow(0, "Plate", "first");
-    user.whenTold("cannot be read").presses(IDOK);
-    user.whenTold("not saved").presses(IDOK);
+    user.whenMessage("cannot be read").presses(IDOK);
+    user.whenMessage("not saved").presses(IDOK);
     user.whenOpens(Dlg::resourceNumber)
         .does(maps(2, "Plates.D2"))
         .presses(IDOK)
@@ -361,7 +361,7 @@ TEST_F(MappingDialog, ObjectsThatARunWouldNotFindAreToldOfAndNamesThatNoFileHold
     library.writeStandard("Names",
                           standardOf({"Int Start", "Double a:b"}, {"Double Start"}, {}, {}));
     data.insertRow(0, "Names", "");
-    user.whenTold("Start").presses(IDOK);
+    user.whenMessage("Start").presses(IDOK);
     user.whenOpens(Dlg::resourceNumber)
         .does(showsObjects("Input||\nGetal|Start|\nDecim|a:b|cannot be mapped under this name\n"
                            "Output||\n"))

@@ -206,9 +206,9 @@ TEST(Dialogs, TextQuestionGivesTheAnswerOnlyOnOk) {
 TEST(ScriptedUserProblems, AreNamed) {
     ScriptedUser user;
     user.whenOpens(218).types(9999, "x").presses(1205);
-    user.whenToldWithCaption("Save").presses(IDRETRY);
+    user.whenMessageWithCaption("Save").presses(IDRETRY);
     user.whenMenuOpens().picks("Cut");
-    user.whenTold("never");
+    user.whenMessage("never");
     SampleDialog dialog;
     EXPECT_EQ(dialog.doModal(), IDCANCEL);
     EXPECT_EQ(dialog.doModal(), IDCANCEL);
@@ -229,7 +229,7 @@ TEST(ScriptedUserProblems, AreNamed) {
 
 TEST(MessageBoxes, ListenersHearBeforeTheScreen) {
     TestUser user;
-    user.whenToldWithCaption("Ask").presses(IDYES);
+    user.whenMessageWithCaption("Ask").presses(IDYES);
     std::string heard;
     {
         const MessageListenerScope outer([&](const MessageBox& box) {
@@ -246,7 +246,8 @@ TEST(MessageBoxes, ListenersHearBeforeTheScreen) {
     }
     showWarning("", "alone\n");
     EXPECT_EQ(heard, "inner:Taken outer:Taken inner:Ask outer:Ask ");
-    EXPECT_THAT(user.toldLines(), ElementsAre(ElementsAre("a", "", "b"), ElementsAre("alone", "")));
+    EXPECT_THAT(user.messageLines(),
+                ElementsAre(ElementsAre("a", "", "b"), ElementsAre("alone", "")));
 }
 
 TEST(Host, PrintsTextsOfAnyLength) {

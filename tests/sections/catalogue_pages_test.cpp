@@ -181,12 +181,12 @@ TEST_F(CataloguePages, AFileThatCannotBeReadIsToldAndReplacedOnlyWhenTheUserSays
     folder.write("prof/Groups.dat", "damaged\n");
     for (const int answer : {IDNO, IDYES}) {
         EXPECT_FALSE(data.readCatalogue());
-        user.whenTold("Replace the files by what is shown here?").presses(answer);
+        user.whenMessage("Replace the files by what is shown here?").presses(answer);
         work(LibraryDialog::groups, {shows({}, -1), edit});
         EXPECT_EQ(file() == "damaged\n", answer == IDNO);
     }
-    ASSERT_EQ(user.told().size(), 4u);
-    EXPECT_THAT(user.told()[0].text, HasSubstr("Groups.dat:1: the titles are others"));
+    ASSERT_EQ(user.messages().size(), 4u);
+    EXPECT_THAT(user.messages()[0].text, HasSubstr("Groups.dat:1: the titles are others"));
     EXPECT_THAT(file(), HasSubstr("New group"));
 }
 

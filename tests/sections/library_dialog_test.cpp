@@ -54,7 +54,7 @@ class LibraryDialogTest : public testing::Test {
         return StartDlgEditLibSections(data, section);
     }
     void answersToSaving(const char* table, int button) {
-        user.whenTold(std::string("The table <") + table + "> was changed. Save it?")
+        user.whenMessage(std::string("The table <") + table + "> was changed. Save it?")
             .presses(button);
     }
     void asksForName(const char* name, int button = IDOK) {
@@ -168,7 +168,7 @@ TEST_F(LibraryDialogTest, StaysOpenWhenTheUserOrTheDiskSaysNo) {
     const std::string before = file("HEA");
     answersToSaving("HEA", IDCANCEL);
     answersToSaving("HEA", IDYES);
-    user.whenTold("HEA.pr").presses(IDOK);
+    user.whenMessage("HEA.pr").presses(IDOK);
     answersToSaving("HEA", IDNO);
     auto full = std::make_shared<std::optional<FailingSteps>>();
     user.whenOpens(LibraryDialog::resourceNumber)
@@ -238,13 +238,13 @@ TEST_F(LibraryDialogTest, KeepsTextsAsTheyAreTypedAndPastesRows) {
              EXPECT_EQ(page.sheet().nrCols(), 11);
          },
          presses(Page::saveButton)});
-    ASSERT_EQ(user.told().size(), 1u);
-    EXPECT_THAT(user.told()[0].text, HasSubstr("more fields in a line"));
+    ASSERT_EQ(user.messages().size(), 1u);
+    EXPECT_THAT(user.messages()[0].text, HasSubstr("more fields in a line"));
     EXPECT_THAT(file("HEA"), HasSubstr("\n050\t1\t"));
 }
 
 TEST_F(LibraryDialogTest, ReplacedTextsCanBeSavedAndUndone) {
-    user.whenTold("cells").presses(IDOK);
+    user.whenMessage("cells").presses(IDOK);
     run({presses(Page::findButton), [](Page& page) {
              CDialog& find = *page.sheet().findDialog();
              find.type(TwFindReplaceDlg::findField, "HEA");
@@ -260,7 +260,7 @@ TEST_F(LibraryDialogTest, ReplacedTextsCanBeSavedAndUndone) {
 
 TEST_F(LibraryDialogTest, AsksBeforeItReplacesAFileThatSomebodyElseChanged) {
     answersToSaving("HEA", IDYES);
-    user.whenTold("changed by another program").presses(IDCANCEL);
+    user.whenMessage("changed by another program").presses(IDCANCEL);
     answersToSaving("HEA", IDNO);
     run({types(1, 1, "110"), [this](Page&) { folder.write("prof/HEA.pr", "other\n"); },
          picks("RHS"),
@@ -272,8 +272,8 @@ TEST_F(LibraryDialogTest, AsksBeforeItReplacesAFileThatSomebodyElseChanged) {
 
 TEST_F(LibraryDialogTest, LoadsOrReplacesAFileThatSomebodyElseChanged) {
     const std::string other = "1\nSysName\tI/O\tEN\n999\t1\tother\n";
-    user.whenTold("changed by another program").presses(IDNO);
-    user.whenTold("changed by another program").presses(IDYES);
+    user.whenMessage("changed by another program").presses(IDNO);
+    user.whenMessage("changed by another program").presses(IDYES);
     run({types(1, 1, "110"), [&](Page&) { folder.write("prof/HEA.pr", other); },
          [&](Page& page) {
              page.press(Page::saveButton);
@@ -379,9 +379,9 @@ TEST_F(LibraryDialogTest, RefusesNamesThatAreTakenOrNone) {
     steps.push_back(presses(Page::renameButton));
     const std::string before = file("HEA");
     run(steps);
-    ASSERT_EQ(user.told().size(), std::size(refused));
+    ASSERT_EQ(user.messages().size(), std::size(refused));
     for (size_t i = 0; i < std::size(refused); ++i)
-        EXPECT_THAT(user.told()[i].text, HasSubstr(refused[i].second));
+        EXPECT_THAT(user.messages()[i].text, HasSubstr(refused[i].second));
     EXPECT_EQ(file("HEA"), before);
 }
 
@@ -392,13 +392,13 @@ TEST_F(LibraryDialogTest, AFailedRenameKeepsTheOldFile) {
         const FailingSteps full(FailingSteps::opening, ENOSPC);
         page.press(Page::renameButton);
     }});
-    EXPECT_THAT(user.told().back().text, HasSubstr("HEB.pr"));
+    EXPECT_THAT(user.messages().back().text, HasSubstr("HEB.pr"));
     EXPECT_EQ(file("HEA"), before);
 }
 
 TEST_F(LibraryDialogTest, DeletesATableAfterAskingAndShowsTheFirst) {
-    user.whenTold("Delete the table <RHS> and its file?").presses(IDNO);
-    user.whenTold("Delete the table <RHS> and its file?").presses(IDYES);
+    user.whenMessage("Delete the table <RHS> and its file?").presses(IDNO);
+    user.whenMessage("Delete the table <RHS> and its file?").presses(IDYES);
     run({picks("RHS"), presses(Page::deleteButton),
          [](Page& page) { EXPECT_THAT(tables(page), ElementsAre("HEA", "RHS")); },
          presses(Page::deleteButton),
@@ -407,14 +407,14 @@ TEST_F(LibraryDialogTest, DeletesATableAfterAskingAndShowsTheFirst) {
              EXPECT_EQ(cell(page, 1, 1), "100");
          }});
     EXPECT_EQ(file("RHS"), "");
-    EXPECT_EQ(user.told()[0].icon, MessageIcon::exclamation);
+    EXPECT_EQ(user.messages()[0].icon, MessageIcon::exclamation);
 }
 
 // --- how sections are drawn ---------------------------------------------------------------------
 
 TEST_F(LibraryDialogTest, ATypeWithFewerValuesAsksBeforeItDropsColumns) {
-    user.whenTold("Remove the surplus columns?").presses(IDNO);
-    user.whenTold("The type <C section> has fewer values").presses(IDYES);
+    user.whenMessage("Remove the surplus columns?").presses(IDNO);
+    user.whenMessage("The type <C section> has fewer values").presses(IDYES);
     run({picksTemplate("<Cold formed channel>"),
          [](Page& page) {
              EXPECT_EQ(page.sheet().nrCols(), 11);
@@ -449,7 +449,7 @@ TEST_F(LibraryDialogTest, ShowsThePictureOfTheType) {
             EXPECT_EQ(page.itemAs<CStatic>(Page::templatePicture)->bitmap().width(), width);
         };
     };
-    user.whenTold("Remove the surplus columns?").presses(IDNO);
+    user.whenMessage("Remove the surplus columns?").presses(IDNO);
     run({shows(30), picks("RHS"), shows(50), picksTemplate("Frame.dwg"), shows(40),
          presses(Page::undoButton), shows(50)});
 }
@@ -487,7 +487,7 @@ TEST_F(LibraryDialogTest, HasKeysForRowsAndTables) {
             dispatchKey(page.sheet(), {key, true, false, ctrl, alt});
         };
     };
-    user.whenTold("Delete the table <HEA>").presses(IDNO);
+    user.whenMessage("Delete the table <HEA>").presses(IDNO);
     run({hit(keyInsert, true, false), [](Page& page) { EXPECT_EQ(page.sheet().nrRows(), 3); },
          hit(keyDelete, true, false), [](Page& page) { EXPECT_EQ(page.sheet().nrRows(), 2); },
          hit(keyDown, false, true), [](Page& page) { EXPECT_EQ(cell(page, 1, 2), "100"); },

@@ -222,9 +222,9 @@ TEST_F(SizeDialogTest, RefusesWhatIsNoSizeAndStaysOpen) {
     EXPECT_TRUE(run());
     const char* const told[] = {"a size \"220\" in this table already", "\"21,5\" is no number",
                                 "The size has no name"};
-    ASSERT_EQ(user.told().size(), std::size(told));
+    ASSERT_EQ(user.messages().size(), std::size(told));
     for (size_t i = 0; i < std::size(told); ++i)
-        EXPECT_THAT(user.told()[i].text, HasSubstr(told[i]));
+        EXPECT_THAT(user.messages()[i].text, HasSubstr(told[i]));
     EXPECT_EQ(table.rows[2][0], "225");
 }
 
@@ -237,7 +237,7 @@ TEST_F(SizeDialogTest, APatternThatIsNotWholeGivesNoSize) {
         run();
         EXPECT_EQ(row, -1);
         EXPECT_EQ(namesOf(table), "100 220 240 ");
-        EXPECT_THAT(user.told().back().text, HasSubstr("is not complete"));
+        EXPECT_THAT(user.messages().back().text, HasSubstr("is not complete"));
     }
 }
 
@@ -365,7 +365,7 @@ TEST_F(SizeDialogTest, CalculatesWhatFollowsFromTheShapeUnlessItWasTyped) {
         .presses(IDOK)
         .presses(IDCANCEL);
     EXPECT_FALSE(run());
-    EXPECT_THAT(user.told().back().text, HasSubstr("F. Mass kg/m cannot be calculated"));
+    EXPECT_THAT(user.messages().back().text, HasSubstr("F. Mass kg/m cannot be calculated"));
 }
 
 TEST_F(SizeDialogTest, ShowsThePictureOfTheType) {

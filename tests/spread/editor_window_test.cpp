@@ -137,7 +137,7 @@ TEST_F(EditorWindow, TheGridMayGoWhileItIsSearched) {
             return false;
         });
         if (button != Find::replaceAllButton)
-            user.whenToldWithCaption(dialString(1144)).presses(IDYES);
+            user.whenMessageWithCaption(dialString(1144)).presses(IDYES);
         alone->findDialog()->press(button);
         EXPECT_FALSE(alone);
     }
@@ -153,17 +153,18 @@ TEST_F(EditorWindow, FindsFromCellToCellAndInsideTheOneBeingEdited) {
     EXPECT_EQ(place(), "B1:6+3");
     grid->findDialog()->press(IDOK);
     EXPECT_EQ(place(), "C2:0+3");
-    user.whenToldWithCaption(dialString(1144)).presses(IDNO);
+    user.whenMessageWithCaption(dialString(1144)).presses(IDNO);
     grid->findDialog()->press(IDOK);
     EXPECT_EQ(place(), "C2:0+3");
-    user.whenToldWithCaption(dialString(1144)).presses(IDYES);
+    user.whenMessageWithCaption(dialString(1144)).presses(IDYES);
     grid->findDialog()->press(IDOK);
     EXPECT_EQ(place(), "A1:0+3");
-    EXPECT_EQ(user.told()[1].text, dialString(1142).str() + "\n" + dialString(1143).str() + "\n");
+    EXPECT_EQ(user.messages()[1].text,
+              dialString(1142).str() + "\n" + dialString(1143).str() + "\n");
     find("nowhere");
-    user.whenToldWithCaption(dialString(1144)).presses(IDYES);
+    user.whenMessageWithCaption(dialString(1144)).presses(IDYES);
     EXPECT_FALSE(grid->findDialog()->findNext(true));
-    EXPECT_EQ(user.told().back().text, dialString(1145).str());
+    EXPECT_EQ(user.messages().back().text, dialString(1145).str());
     EXPECT_FALSE(grid->findDialog()->findNext(false));
     EXPECT_FALSE(find("").findNext(true)) << "nothing to look for";
 }
@@ -189,8 +190,8 @@ TEST_F(EditorWindow, ReplacesAllAsOneStepOfTheHistory) {
     editor::SheetEditor editor(grid->grid());
     grid->setChangeObserver(&editor);
     find("12", "x").press(Find::replaceAllButton);
-    EXPECT_EQ(user.told().back().caption, dialString(1149).str());
-    EXPECT_EQ(user.told().back().text, "Replaced in 3 cells.") << "B1 takes numbers alone";
+    EXPECT_EQ(user.messages().back().caption, dialString(1149).str());
+    EXPECT_EQ(user.messages().back().text, "Replaced in 3 cells.") << "B1 takes numbers alone";
     EXPECT_EQ(cell(1, 1) + cell(2, 1) + cell(1, 2) + cell(3, 2), "Mx Mx12mxMx0");
     EXPECT_EQ(editor.undoTitle(), "Undo replacing all");
     EXPECT_TRUE(editor.undo());

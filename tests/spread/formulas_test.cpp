@@ -123,7 +123,7 @@ TEST_F(FormulasTest, ReadingAFileStopsNobodyAndPutsTheModulesResourcesInFront) {
     Vor_StringArray names;
     Vor_Array<Vor_StringArray> rows;
     EXPECT_FALSE(ReadSSFile(path("missing.sss"), title, names, rows));
-    EXPECT_TRUE(user.told().empty());
+    EXPECT_TRUE(user.messages().empty());
     EXPECT_THAT(watched.text, HasSubstr("missing.sss"));
     user.whenOpens(Dlg::resourceNumber).presses(IDCANCEL);
     EvaluateSS();
@@ -270,9 +270,9 @@ TEST_F(FormulasTest, AUserTriesFormulasOnASheet) {
     EXPECT_EQ(dialog.doModal(), IDCANCEL);
     EXPECT_THAT(host.text, HasSubstr("Load failed\n"));
     EXPECT_THAT(host.text, HasSubstr("Save failed\n"));
-    ASSERT_EQ(user.told().size(), 2u);
-    EXPECT_THAT(user.told()[0].text, HasSubstr("missing.sss"));
-    EXPECT_THAT(user.told()[1].text, HasSubstr("no folder"));
+    ASSERT_EQ(user.messages().size(), 2u);
+    EXPECT_THAT(user.messages()[0].text, HasSubstr("missing.sss"));
+    EXPECT_THAT(user.messages()[1].text, HasSubstr("no folder"));
 }
 
 TEST_F(FormulasTest, WithAUserTheDialogStaysOpenAfterALookUp) {

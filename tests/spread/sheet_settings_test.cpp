@@ -225,14 +225,14 @@ TEST_F(SheetSettings, NewSheetsArePreparedFromTheNamedOrTheUsualSettings) {
         ASSERT_TRUE(prepareSheet(sheet, each.name, true));
         EXPECT_EQ(sheet.nrCols(), 6);
         EXPECT_EQ(sheet.nrRows(), 11);
-        const control::Look& body = sheet.grid().look(6, 11);
+        const control::CellFormat& body = sheet.grid().format(6, 11);
         EXPECT_EQ(body.font.name, each.font);
         EXPECT_EQ(body.font.height, 17);
         EXPECT_EQ(body.font.weight, 400);
         EXPECT_EQ(body.type.kind, control::CellKind::edit);
         EXPECT_EQ(body.type.maxLength, 100);
-        EXPECT_EQ(sheet.grid().look(3, control::headerIndex).font.weight, 700);
-        EXPECT_EQ(sheet.grid().look(control::headerIndex, 3).font.name, each.font);
+        EXPECT_EQ(sheet.grid().format(3, control::headerIndex).font.weight, 700);
+        EXPECT_EQ(sheet.grid().format(control::headerIndex, 3).font.name, each.font);
         TwSheetSettings carried;
         carried.readFromSheet(sheet);
         EXPECT_EQ(carried.defaultFont.str(), each.font);

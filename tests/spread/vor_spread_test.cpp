@@ -84,7 +84,7 @@ TEST(VorSpread, DoesNothingBeforeItIsAttached) {
     EXPECT_FALSE(spread.getCellText(1, 1, text, Reading::value));
     EXPECT_TRUE(text.isEmpty());
     EXPECT_FALSE(spread.getCellInt(1, 1, number));
-    EXPECT_FALSE(spread.setStandardLook(0));
+    EXPECT_FALSE(spread.setStandardFormat(0));
     EXPECT_FALSE(spread.findInRow("x", false, 1, 1, foundCol));
     EXPECT_FALSE(spread.loadFromFile("nowhere"));
     EXPECT_FALSE(spread.setFormula(1, 1, "1"));
@@ -209,7 +209,7 @@ TEST_F(VorSpreadTest, RowsComeAndGo) {
     spread.setNumberCell({1, 2, 1, 2}, 3);
     EXPECT_TRUE(spread.insertRow(2, false, true));
     EXPECT_EQ(column(2), "a,,b,");
-    EXPECT_TRUE(spread.grid().look(1, 2).type.isNumber());
+    EXPECT_TRUE(spread.grid().format(1, 2).type.isNumber());
     EXPECT_FALSE(spread.insertRow(5, false, false));
     EXPECT_TRUE(spread.insertRow(4, false, false));
     EXPECT_EQ(spread.nrRows(), 4);
@@ -222,9 +222,9 @@ TEST_F(VorSpreadTest, RowsComeAndGo) {
     EXPECT_EQ(column(2), "a,b,,,");
     spread.setNumberCell({1, 4, 1, 4}, 3);
     EXPECT_TRUE(spread.setNrRows(6));
-    EXPECT_TRUE(spread.grid().look(1, 6).type.isNumber());
-    EXPECT_EQ(spread.grid().look(2, 6).font.weight, 400);
-    EXPECT_EQ(spread.grid().look(2, header).font.weight, 700);
+    EXPECT_TRUE(spread.grid().format(1, 6).type.isNumber());
+    EXPECT_EQ(spread.grid().format(2, 6).font.weight, 400);
+    EXPECT_EQ(spread.grid().format(2, header).font.weight, 700);
 }
 
 TEST_F(VorSpreadTest, NewLinesKeepWhatWasFormattedUntilTheSizeIsSet) {
@@ -235,11 +235,11 @@ TEST_F(VorSpreadTest, NewLinesKeepWhatWasFormattedUntilTheSizeIsSet) {
     EXPECT_TRUE(spread.runMenuCommand(0));
     EXPECT_TRUE(spread.insertCol(1, false, true));
     EXPECT_EQ(spread.appendRow(true), 4);
-    EXPECT_EQ(spread.grid().look(3, 3).font.height, 20) << "moved right and down";
-    EXPECT_EQ(spread.grid().look(3, 4).font.height, 20) << "appended rows look like the last";
-    EXPECT_EQ(spread.grid().look(2, 1).font.height, 15);
+    EXPECT_EQ(spread.grid().format(3, 3).font.height, 20) << "moved right and down";
+    EXPECT_EQ(spread.grid().format(3, 4).font.height, 20) << "appended rows look like the last";
+    EXPECT_EQ(spread.grid().format(2, 1).font.height, 15);
     EXPECT_TRUE(spread.setNrRows(5));
-    for (const int row : {3, 4, 5}) EXPECT_EQ(spread.grid().look(3, row).font.height, 15) << row;
+    for (const int row : {3, 4, 5}) EXPECT_EQ(spread.grid().format(3, row).font.height, 15) << row;
 }
 
 TEST_F(VorSpreadTest, NewRowsAndColumnsMayAskForTheirName) {
@@ -401,7 +401,7 @@ TEST_F(VorSpreadTest, PicturesGiveTheirRowsHeight) {
     EXPECT_TRUE(spread.setPictureCell(2, 1, path));
     EXPECT_EQ(spread.rowHeightInPixels(1), 90);
     EXPECT_EQ(spread.grid().spanAt(4, 1)->cols, 3);
-    EXPECT_NE(spread.grid().look(1, 1).borderSides & control::borderRight, 0);
+    EXPECT_NE(spread.grid().format(1, 1).borderSides & control::borderRight, 0);
     EXPECT_EQ(spread.getCellType(2, 1), static_cast<int>(CellKind::picture));
     EXPECT_TRUE(spread.setPictureCell(1, 2, folder.write("text.bmp", "no picture")));
     // A comment of 3 bytes stands before the frame: 8 bits, 80 lines of 300 pixels.
@@ -418,19 +418,19 @@ TEST_F(VorSpreadTest, PicturesGiveTheirRowsHeight) {
     EXPECT_TRUE(spread.setPictureCell(1, 2, folder.write("endless.bmp", bitmap)));
     EXPECT_EQ(spread.rowHeightInPixels(2), 60) << "no picture has 2^31 lines";
     EXPECT_TRUE(spread.setIconCell(1, 1, 251, false));
-    EXPECT_EQ(spread.grid().look(1, 1).type.picture, 251);
+    EXPECT_EQ(spread.grid().format(1, 1).type.picture, 251);
 }
 
 TEST_F(VorSpreadTest, CheckBoxAndButtonColumnsSpanHeaders) {
     size(3, 2);
     EXPECT_TRUE(spread.setCheckBoxColumn(1, true, true));
     EXPECT_EQ(spread.grid().spanAt(2, 0)->col, 1);
-    EXPECT_EQ(spread.grid().look(1, 2).borderStyle, 6);
+    EXPECT_EQ(spread.grid().format(1, 2).borderStyle, 6);
     EXPECT_TRUE(spread.setButtonColumn(3, "...", true));
     EXPECT_EQ(spread.grid().spanAt(3, 0)->col, 2);
-    EXPECT_EQ(spread.grid().look(3, 2).type.text, "...");
+    EXPECT_EQ(spread.grid().format(3, 2).type.text, "...");
     EXPECT_TRUE(spread.setComboCell({2, 1, 2, 1}, {"S235", "S355"}, true));
-    EXPECT_EQ(spread.grid().look(2, 1).type.text, "S235\tS355");
+    EXPECT_EQ(spread.grid().format(2, 1).type.text, "S235\tS355");
     EXPECT_FALSE(spread.setButtonColumn(4, "x", false));
 }
 

@@ -204,11 +204,11 @@ TEST_F(Evaluation, EquationsMayLookAtTheCellsOfOthersEvenWhenNobodyElseDoes) {
         {"SUM(A:A)", "#CIRC!"},
     };
     for (const bool fills : {true, false}) {
-        for (const auto& [look, expected] : cases) {
-            load(standardOf({}, {"Double B", "Double C"}, {}, {"B=2", "C=" + std::string(look)}));
+        for (const auto& [format, expected] : cases) {
+            load(standardOf({}, {"Double B", "Double C"}, {}, {"B=2", "C=" + std::string(format)}));
             sheet.setFillsEquationCells(fills);
             ASSERT_EQ(sheet.calcCells(), Acad::eOk);
-            EXPECT_EQ(value("C"), expected) << look;
+            EXPECT_EQ(value("C"), expected) << format;
         }
     }
 }

@@ -35,7 +35,7 @@ class LiteralRun : public Vor_Spread {
     /// `told` gets the text of every message box of this run and its children.
     LiteralRun(const GenValues& gen, std::vector<std::string>& told,
                const LiteralRun* caller = nullptr)
-        : m_gen(gen), m_told(told), m_caller(caller) {
+        : m_gen(gen), m_messages(told), m_caller(caller) {
         attachHidden();
         for (const StandardsFunctionRow& row : standardsFunctions())
             addCustomFunction(row.name, row.least, row.most, row.callback, 0);
@@ -177,11 +177,11 @@ class LiteralRun : public Vor_Spread {
         Vor_StringArray names;
         for (const LiteralVariable& variable : variables) names.append(variable.name);
         if (!hasDuplicates(names)) return;
-        m_told.push_back("There were duplicate variable names found in the standards file " +
-                         m_path.str() +
-                         ".\nThe duplicates will be ignored. Please correct this file.\n"
-                         "Duplicate variable names:\n\n" +
-                         arrToStr(getDuplicates(names), "\n").str());
+        m_messages.push_back("There were duplicate variable names found in the standards file " +
+                             m_path.str() +
+                             ".\nThe duplicates will be ignored. Please correct this file.\n"
+                             "Duplicate variable names:\n\n" +
+                             arrToStr(getDuplicates(names), "\n").str());
         const Vor_Array<int> indexes = getDuplicateIndexes(names);
         for (int i = indexes.length() - 1; i >= 0; --i)
             variables.erase(variables.begin() + indexes[i]);
@@ -197,13 +197,14 @@ class LiteralRun : public Vor_Spread {
     }
 
     void fail(int row, const Vor_String& name, const Vor_String& expression) {
-        m_told.push_back("The following equation failed:\n" +
-                         (name.isEmpty() ? std::string() : name.str() + " = ") + expression.str() +
-                         "\nSpreadsheet : " + m_path.str() + " (line: " + std::to_string(row) +
-                         ")\nHere's a tip for finding the cause :\nIf this equation contains "
-                         "variable names, then the translator does not know the value of the "
-                         "variable. Make sure the variable exists either in input, output, local "
-                         "declarations or among the gen_ variables.");
+        m_messages.push_back(
+            "The following equation failed:\n" +
+            (name.isEmpty() ? std::string() : name.str() + " = ") + expression.str() +
+            "\nSpreadsheet : " + m_path.str() + " (line: " + std::to_string(row) +
+            ")\nHere's a tip for finding the cause :\nIf this equation contains "
+            "variable names, then the translator does not know the value of the "
+            "variable. Make sure the variable exists either in input, output, local "
+            "declarations or among the gen_ variables.");
     }
 
     void calculateCell(int column, int row) {
@@ -278,7 +279,7 @@ class LiteralRun : public Vor_Spread {
             bound.push_back(*variable);
         }
         if (isRunning(file)) return false;
-        if (!LiteralRun(m_gen, m_told, this).start(file, bound)) return false;
+        if (!LiteralRun(m_gen, m_messages, this).start(file, bound)) return false;
         for (const LiteralVariable& result : bound) {
             LiteralVariable* variable = find(result.name);
             if (result.kind != TwCellType::output || !variable) continue;
@@ -289,7 +290,7 @@ class LiteralRun : public Vor_Spread {
     }
 
     const GenValues& m_gen;
-    std::vector<std::string>& m_told;
+    std::vector<std::string>& m_messages;
     const LiteralRun* m_caller;
     Vor_String m_path;
 };

@@ -72,7 +72,7 @@ class RandomStandard {
         if (!m_formulas.empty() && oneIn(5))
             return addressOf(m_formulas[m_choose(static_cast<unsigned>(m_formulas.size()))]);
         if (kind < 2) return m_isOrderly && !oneIn(6) ? constants[m_choose(4)] : pick(constants);
-        if (inEquation && (kind < 6 || !m_looksAtCells)) return variable(8);
+        if (inEquation && (kind < 6 || !m_formatsAtCells)) return variable(8);
         return cell();
     }
     /// At times one that is not declared.
@@ -87,7 +87,7 @@ class RandomStandard {
         };
         static constexpr const char* operators[] = {"+", "*", "&", "-", ">", "/", "="};
         // Most standards look at names alone, which runs make use of.
-        const unsigned first = m_looksAtCells ? 0 : 9;
+        const unsigned first = m_formatsAtCells ? 0 : 9;
         switch (first + m_choose((inEquation ? 22 : 18) - first)) {
             case 0:
                 return "SUM(" + area() + ")";
@@ -203,9 +203,9 @@ class RandomStandard {
                     text, ReferenceStyle::a1, ReferenceStyle::r1c1, place.second, place.first);
                 if (converted) text = *converted;
             }
-            static constexpr const char* looks[] = {"", "", "", "@1 ", "@2 "};
+            static constexpr const char* formats[] = {"", "", "", "@1 ", "@2 "};
             static constexpr const char* results[] = {"", "", "\t5", "\t\"old"};
-            m_cells[place] = pick(looks) + "=" + text + pick(results);
+            m_cells[place] = pick(formats) + "=" + text + pick(results);
         }
     }
 
@@ -213,7 +213,7 @@ class RandomStandard {
         m_isOrderly = !oneIn(3);
         m_isR1C1 = oneIn(4);
         m_callsOften = oneIn(3);
-        m_looksAtCells = oneIn(3);
+        m_formatsAtCells = oneIn(3);
         std::pair<const char*, TwCellType> sections[] = {{"Input", TwCellType::input},
                                                          {"Output", TwCellType::output},
                                                          {"Local", TwCellType::local}};
@@ -260,6 +260,6 @@ class RandomStandard {
     bool m_isOrderly = false;
     bool m_isR1C1 = false;
     bool m_callsOften = false;
-    bool m_looksAtCells = false;
+    bool m_formatsAtCells = false;
     std::string m_document;
 };

@@ -264,13 +264,14 @@ class Twins {
         return {c1, r1, c2, r2};
     }
     bool isR1C1() const { return m_grid.referenceStyle() == 2; }
-    std::string say(std::string_view edit, std::initializer_list<int> numbers, bool isDone) const {
+    std::string uiText(std::string_view edit, std::initializer_list<int> numbers,
+                       bool isDone) const {
         std::string text(edit);
         for (const int number : numbers) text += " " + std::to_string(number);
         return isDone ? text : text + " (refused)";
     }
-    std::string say(std::string_view edit, const Block& b, int c, int r, bool isDone) const {
-        return say(edit, {b.col1, b.row1, b.col2, b.row2, c, r}, isDone);
+    std::string uiText(std::string_view edit, const Block& b, int c, int r, bool isDone) const {
+        return uiText(edit, {b.col1, b.row1, b.col2, b.row2, c, r}, isDone);
     }
 
     End end(int at) { return {at, chance(3)}; }
@@ -358,7 +359,7 @@ class Twins {
         }
         if (isDone && !m_asUser && !made.isArray) m_calculated = Place(c, r);
         if (isDone) m_twin.set(c, r, std::move(made));
-        return say("formula", {c, r}, isDone) + " =" + text;
+        return uiText("formula", {c, r}, isDone) + " =" + text;
     }
     std::string setPlain(int c, int r) {
         const Plain value = plain();
@@ -371,7 +372,7 @@ class Twins {
             m_grid.writeValue(c, r, valueOf(value));
         }
         m_twin.set(c, r, value);
-        return say("value", {c, r}, true) + " " + shown(value);
+        return uiText("value", {c, r}, true) + " " + shown(value);
     }
 
     // Rows or columns that come, go or move.
@@ -423,8 +424,8 @@ class Twins {
             m_twin.arrange(isRows, lines, isMoved);
         }
         const char* names[] = {"insert", "delete", "move"};
-        return say(std::string(names[kind]) + (isRows ? " rows" : " cols"), {at, count, to},
-                   isDone);
+        return uiText(std::string(names[kind]) + (isRows ? " rows" : " cols"), {at, count, to},
+                      isDone);
     }
 
     std::string editGrid() {
@@ -455,7 +456,7 @@ class Twins {
                 const bool isDone = isRows ? m_grid.swapRows(first, other, count)
                                            : m_grid.swapCols(first, other, count);
                 if (isDone) m_twin.exchange(isRows, first, other, count);
-                return say(isRows ? "swap rows" : "swap cols", {first, other, count}, isDone);
+                return uiText(isRows ? "swap rows" : "swap cols", {first, other, count}, isDone);
             }
             case 15: {
                 Block from = block();
@@ -463,29 +464,29 @@ class Twins {
                 from.col2 = std::min(from.col2, m_twin.cols - c + from.col1);
                 from.row2 = std::min(from.row2, m_twin.rows - r + from.row1);
                 m_twin.put(Sheet(m_twin), from, c, r, true);
-                return say("copy", from, c, r, true);
+                return uiText("copy", from, c, r, true);
             }
             case 16: {
                 const Block cleared = block();
                 m_grid.clearCells(cleared);
                 m_twin.put({}, cleared, cleared.col1, cleared.row1, false);
-                return say("clear", cleared, 0, 0, true);
+                return uiText("clear", cleared, 0, 0, true);
             }
             case 17: {
                 m_twin.resize(3 + m_pick(6), m_twin.rows);
                 m_grid.setCols(m_twin.cols);
-                return say("cols", {m_twin.cols}, true);
+                return uiText("cols", {m_twin.cols}, true);
             }
             case 18: {
                 m_twin.resize(m_twin.cols, 4 + m_pick(10));
                 m_grid.setRows(m_twin.rows);
-                return say("rows", {m_twin.rows}, true);
+                return uiText("rows", {m_twin.rows}, true);
             }
             case 19: {
                 if (!std::holds_alternative<Formula>(m_twin.at(c, r))) return "nothing";
                 m_grid.setFormula(c, r, "");
                 m_twin.set(c, r, plainOf(m_grid.sheet().value(c, r)));
-                return say("keep value", {c, r}, true);
+                return uiText("keep value", {c, r}, true);
             }
             default:
                 return changeSettings(c, r);
@@ -497,17 +498,17 @@ class Twins {
         switch (m_pick(4)) {
             case 0:
                 m_grid.setReferenceStyle(isR1C1() ? 0 : 2);
-                return say("style", {m_grid.referenceStyle()}, true);
+                return uiText("style", {m_grid.referenceStyle()}, true);
             case 1:
                 m_grid.setOption(automatic, !m_grid.option(automatic));
-                return say("automatic", {m_grid.option(automatic)}, true);
+                return uiText("automatic", {m_grid.option(automatic)}, true);
             case 2:
                 m_grid.recalculate();
                 return "recalculate";
             default:
                 m_calculated = Place(c, r);
                 m_grid.recalculateCell(c, r);
-                return say("recalculate", {c, r}, true);
+                return uiText("recalculate", {c, r}, true);
         }
     }
 
@@ -537,20 +538,20 @@ class Twins {
                 const Block from = block();
                 const bool isDone = m_editor.moveBlock(from, c, r);
                 if (isDone) moveBlock(from, c, r);
-                return say("move", from, c, r, isDone);
+                return uiText("move", from, c, r, isDone);
             }
             case 15: {
                 const Block from = block();
                 const bool isDone = m_editor.paste(*m_editor.copy(from), {c, r, c, r});
                 m_twin.cols = m_grid.cols(), m_twin.rows = m_grid.rows();
                 if (isDone) m_twin.put(Sheet(m_twin), from, c, r, true);
-                return say("copy", from, c, r, isDone);
+                return uiText("copy", from, c, r, isDone);
             }
             case 16: {
                 const Block cleared = block();
                 m_editor.clearContents(cleared);
                 m_twin.put({}, cleared, cleared.col1, cleared.row1, false);
-                return say("clear", cleared, 0, 0, true);
+                return uiText("clear", cleared, 0, 0, true);
             }
             case 17: {
                 const Block filled = block();
@@ -559,7 +560,7 @@ class Twins {
                 for (int to = filled.row1 + 1; to <= filled.row2; ++to)
                     m_twin.put(old, {filled.col1, filled.row1, filled.col2, filled.row1},
                                filled.col1, to, true);
-                return say("fill", filled, 0, 0, true);
+                return uiText("fill", filled, 0, 0, true);
             }
             case 18:
                 m_editor.clearHistory();
@@ -619,7 +620,7 @@ class Twins {
             const int from = order[i].second, to = b.row1 + static_cast<int>(i);
             if (from != to) m_twin.put(old, {b.col1, from, b.col2, from}, b.col1, to, true);
         }
-        return say(ascending ? "sort" : "sort down", b, 0, 0, isDone);
+        return uiText(ascending ? "sort" : "sort down", b, 0, 0, isDone);
     }
 
     std::optional<std::string> difference() {

@@ -98,10 +98,10 @@ TEST_F(BillWindow, ATableBringsItsOwnColumns) {
     dialog.setResult(QDialog::Rejected);
     dialog.file().setText(table.fileName());
     TestUser user;
-    user.whenTold("t.csv is there already").presses(IDNO);
+    user.whenMessage("t.csv is there already").presses(IDNO);
     dialog.accept();
     EXPECT_EQ(dialog.result(), QDialog::Rejected);
-    user.whenTold("t.csv is there already").presses(IDYES);
+    user.whenMessage("t.csv is there already").presses(IDYES);
     dialog.accept();
     EXPECT_EQ(dialog.result(), QDialog::Accepted);
 }
@@ -134,7 +134,7 @@ TEST_F(BillWindow, WhatFailedIsToldOnceInAMessage) {
     for (const auto& [macro, file] : cases) {
         TestUser user;
         const bool isMacroGone = std::string_view(macro).ends_with("Gone.macro");
-        user.whenTold(isMacroGone ? "Gone.macro" : "Bill.").presses(IDOK);
+        user.whenMessage(isMacroGone ? "Gone.macro" : "Bill.").presses(IDOK);
         EXPECT_FALSE(make(macro, file)) << file;
         EXPECT_EQ(printed(), before) << file;
     }
@@ -169,7 +169,7 @@ TEST_F(BillWindow, ItsButtonExportsWhatIsShown) {
     const QString before = printed();
     TestUser user;
     user.whenAskedForFile("Export").chooses({inside("none\\Out.csv")});
-    user.whenTold("none").presses(IDOK);
+    user.whenMessage("none").presses(IDOK);
     entries[1]->trigger();
     user.whenAskedForFile("Export").chooses({});
     entries[0]->trigger();
@@ -255,8 +255,8 @@ TEST_F(BillWindow, CancellingLeavesTheFileAsItWas) {
 TEST_F(BillWindow, TheMenuOpensTheWindowWithTheMacroInFront) {
     openMacro("BasePlate");
     bool wasSeen = false;
-    QTimer look;
-    look.callOnTimeout([&] {
+    QTimer format;
+    format.callOnTimeout([&] {
         auto* dialog = dynamic_cast<BillDialog*>(QApplication::activeModalWidget());
         if (!dialog) return;
         wasSeen = true;
@@ -265,7 +265,7 @@ TEST_F(BillWindow, TheMenuOpensTheWindowWithTheMacroInFront) {
             EXPECT_EQ(button->isDefault(), button->text() == "OK") << "Enter makes the bill";
         escape(*dialog);
     });
-    look.start(10);
+    format.start(10);
     window->makeBill();
     EXPECT_TRUE(wasSeen);
 }

@@ -29,22 +29,22 @@ class Desktop : public testing::Test {
 
     /// What a test does once a modal question or a menu waits that was not there before.
     static void meanwhile(std::function<void()> steps) {
-        auto* look = new QTimer(qApp);
-        look->callOnTimeout([look, steps = std::move(steps), before = QPointer(waiting())] {
+        auto* format = new QTimer(qApp);
+        format->callOnTimeout([format, steps = std::move(steps), before = QPointer(waiting())] {
             const QWidget* asked = waiting();
             const bool isMenu = asked == QApplication::activePopupWidget();
             if (!asked || asked == before || (!isMenu && !asked->isActiveWindow())) return;
-            look->stop();
-            look->deleteLater();
+            format->stop();
+            format->deleteLater();
             steps();
         });
-        look->start(10);
+        format->start(10);
     }
     static QWidget* waiting() {
         QWidget* menu = QApplication::activePopupWidget();
         return menu ? menu : QApplication::activeModalWidget();
     }
-    static void settle() { QTest::qWait(20); }
+    static void propagate() { QTest::qWait(20); }
 
     template <class Widget>
     Widget& widget(const CWnd& window) const {

@@ -95,7 +95,8 @@ TEST_F(GridEditing, ARefusedTextStaysOpenAndSaysWhy) {
     items.append("M12");
     items.append("M16");
     spread.setComboCell({4, 1, 4, 1}, items, true);
-    grid().changeLooks({4, 1, 4, 1}, [](control::Look& look) { look.type.editable = true; });
+    grid().changeFormats({4, 1, 4, 1},
+                         [](control::CellFormat& format) { format.type.editable = true; });
     struct Row {
         int col;
         const char* typed;

@@ -14,7 +14,7 @@
 #include "workbench/sheet/sheet_words.h"
 #include "workbench/starters_fixture.h"
 #include "workbench/window/dialog_font.h"
-#include "workbench/window/say.h"
+#include "workbench/window/ui_text.h"
 #include "workbench/words/workbench_words.h"
 
 namespace {
@@ -30,7 +30,7 @@ class ProgramLooks : public StartersTest, public testing::WithParamInterface<Lan
     std::string name(const char* what) const {
         return std::string(what) + "-" + std::to_string(static_cast<int>(GetParam()));
     }
-    void look(QWidget& shown, const char* what) const {
+    void format(QWidget& shown, const char* what) const {
         QTest::qWait(30);
         EXPECT_THAT(windowProblems(shown), IsEmpty()) << name(what);
         saveGrab(*shown.window(), name(what));
@@ -53,7 +53,7 @@ class ProgramLooks : public StartersTest, public testing::WithParamInterface<Lan
         int seen = 0;
         whileVisiting(action, [&](QWidget& shown) {
             ++seen;
-            look(shown, what);
+            format(shown, what);
             escape(shown);
         });
         EXPECT_EQ(seen, 1) << what;
@@ -67,30 +67,30 @@ class ProgramLooks : public StartersTest, public testing::WithParamInterface<Lan
 };
 
 TEST_P(ProgramLooks, Pages) {
-    look(*window->pages().currentWidget(), "page-start");
+    format(*window->pages().currentWidget(), "page-start");
     auto* run = dynamic_cast<RunPage*>(window->open(
         LibraryKind::standard, gSettings.libDir() + "Connection Standards\\EndPlate.tws"));
     ASSERT_TRUE(run);
-    look(*run, "page-run");
+    format(*run, "page-run");
     lookAtWhatOpens([&] { SectionPicker::ask(window.get(), "HEA-200"); }, "section-picker");
     auto* macro = dynamic_cast<MacroPage*>(openMacro("EndPlate"));
     ASSERT_TRUE(macro);
-    look(*macro, "page-macro");
+    format(*macro, "page-macro");
     macro->choose("EndPlate", "BeamToColumn");
     EXPECT_TRUE(macro->run());
-    look(*macro, "page-macro-run");
+    format(*macro, "page-macro-run");
     QWidget* table = window->open(LibraryKind::sectionTable, gSettings.libDir() + "prof\\IPE.pr");
     ASSERT_TRUE(table);
-    look(*table, "page-table");
+    format(*table, "page-table");
 }
 
 TEST_P(ProgramLooks, SheetWithItsBars) {
     SheetPage& page = openSheet();
-    look(page, "page-sheet");
+    format(page, "page-sheet");
     page.commands().action(sayFind).trigger();
-    look(page.findBar(), "page-sheet-find");
+    format(page.findBar(), "page-sheet-find");
     page.check();
-    look(page.checkPanel(), "page-sheet-check");
+    format(page.checkPanel(), "page-sheet-check");
 }
 
 TEST_P(ProgramLooks, Dialogs) {
@@ -135,9 +135,9 @@ TEST_P(ProgramLooks, Help) {
     entry(window->menuBar()->actions(), wordManual)->trigger();
     int seen = 0;
     for (QWidget* each : QApplication::topLevelWidgets()) {
-        if (!each->isVisible() || each->windowTitle() != sayTitle(wordManual)) continue;
+        if (!each->isVisible() || each->windowTitle() != uiTitle(wordManual)) continue;
         ++seen;
-        look(*each, "help");
+        format(*each, "help");
     }
     EXPECT_EQ(seen, 1);
 }

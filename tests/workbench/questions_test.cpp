@@ -80,9 +80,9 @@ TEST_F(Desktop, ADialogMayEndAndGoWhileItsButtonIsPressed) {
     };
     outer->create();
     outer->show(true);
-    settle();
+    propagate();
     click(widget<QWidget>(*outer, sample::moreButton));
-    settle();
+    propagate();
     EXPECT_FALSE(outer);
 }
 
@@ -127,7 +127,7 @@ TEST_F(Desktop, AForgottenScreenBringsItsDialogsBack) {
     dialog.create();
     dialog.move({-5000, 9000, -4000, 9600});
     dialog.show(true);
-    settle();
+    propagate();
     EXPECT_TRUE(QGuiApplication::primaryScreen()->availableGeometry().intersects(
         widget<QWidget>(dialog).geometry()));
     EXPECT_EQ(dialog.rect().left, widget<QWidget>(dialog).geometry().x());
@@ -150,7 +150,7 @@ TEST_F(Desktop, GridsLookAfterEveryActionAndAreNotAskedOnceTheyAreGone) {
     Vor_Spread spread;
     ASSERT_TRUE(spread.attach(&dialog, sample::place, true));
     dialog.show(true);
-    settle();
+    propagate();
     auto& grid = *dynamic_cast<CountedGrid*>(system.widgetOf(spread));
     EXPECT_EQ(grid.geometry().topLeft(), QPoint(spread.rect().left, spread.rect().top));
 
@@ -159,17 +159,17 @@ TEST_F(Desktop, GridsLookAfterEveryActionAndAreNotAskedOnceTheyAreGone) {
     EXPECT_GE(grid.syncs, 1);
     grid.syncs = 0;
     const int timer = system.startTimer(1, [](int) {});
-    settle();
+    propagate();
     EXPECT_GE(grid.syncs, 1);
     system.killTimer(timer);
-    settle();
+    propagate();
     grid.syncs = 0;
     spread.invalidate();
     spread.invalidate();
-    settle();
+    propagate();
     EXPECT_EQ(grid.syncs, 1) << "changes of the program are shown together";
     spread.destroy();
-    settle();
+    propagate();
     EXPECT_FALSE(system.widgetOf(spread));
 }
 

@@ -195,7 +195,7 @@ TEST_F(Workbench, RunsStandardsOnMacrosAndLeavesTheFileUntilSaved) {
     ASSERT_TRUE(other.open(QIODevice::WriteOnly) && other.write(before) == before.size());
     other.close();
     TestUser user;
-    user.whenTold("another program").presses(IDNO);
+    user.whenMessage("another program").presses(IDNO);
     EXPECT_FALSE(page->save());
     EXPECT_EQ(content(), before);
     EXPECT_EQ(page->value("Plate.Height"), "200");
@@ -293,8 +293,8 @@ TEST_F(Workbench, ComplainsOfFilesThatAreNoneAndGoesOn) {
     broken.write("vormant-sheet 1\nsize 1 1\ncells\n");
     broken.close();
     EXPECT_EQ(m_window.openFile(broken.fileName()), nullptr);
-    ASSERT_EQ(user.told().size(), 3u);
-    EXPECT_NE(user.told()[2].text.find("broken.tws"), std::string::npos);
+    ASSERT_EQ(user.messages().size(), 3u);
+    EXPECT_NE(user.messages()[2].text.find("broken.tws"), std::string::npos);
     EXPECT_TRUE(m_window.openLibrary(VORMANT_SOURCE_DIR "/library"));
 }
 

@@ -102,19 +102,19 @@ class Dialog : public CDialog {
     explicit Dialog(CWnd* parent = nullptr) : CDialog(resource, parent) {}
     ~Dialog() override { destroyNow(); }
 
-    struct Told {
+    struct Reported {
         int id;
         int code;
-        bool operator==(const Told&) const = default;
+        bool operator==(const Reported&) const = default;
     };
-    std::vector<Told> told;
+    std::vector<Reported> told;
     std::vector<KeyMessage> keys;
     std::vector<MouseMessage> mouse;
     bool usesEscape = false;
     std::function<void()> whenMore;
 
-    bool wasTold(int id, int code) const {
-        return std::find(told.begin(), told.end(), Told{id, code}) != told.end();
+    bool wasReported(int id, int code) const {
+        return std::find(told.begin(), told.end(), Reported{id, code}) != told.end();
     }
     template <class ControlClass>
     ControlClass& at(int id) const {

@@ -55,19 +55,19 @@ TEST_F(SheetWindow, AsksBeforeItClosesOrOverwrites) {
         return window->pages().count() < count;
     };
     type("A1", "1");
-    user.whenTold("not saved").presses(IDCANCEL);
+    user.whenMessage("not saved").presses(IDCANCEL);
     EXPECT_FALSE(close());
     ASSERT_TRUE(page->saveTo(inside("b.sss")));
 
     // Another program wrote the file meanwhile.
     write("b.sss", "vormant-sheet 1\nsize 1 1\ncells\nend 0\n");
     type("A1", "2");
-    user.whenTold("another program").presses(IDCANCEL);
+    user.whenMessage("another program").presses(IDCANCEL);
     EXPECT_FALSE(page->save());
     EXPECT_FALSE(content(path("b.sss")).contains("A1"));
     EXPECT_TRUE(page->isChanged());
-    user.whenTold("another program").presses(IDYES);
-    user.whenTold("not saved").presses(IDYES);
+    user.whenMessage("another program").presses(IDYES);
+    user.whenMessage("not saved").presses(IDYES);
     EXPECT_TRUE(close());
     EXPECT_TRUE(content(path("b.sss")).contains("A1 2"));
 }
@@ -78,7 +78,7 @@ TEST_F(SheetWindow, LoadsWhatAnotherProgramWroteWhenAsked) {
     ASSERT_TRUE(page->saveTo(inside("d.sss")));
     write("d.sss", "vormant-sheet 1\nsize 2 2\ncells\nA1 7\nend 1\n");
     type("A1", "2");
-    user.whenTold("another program").presses(IDNO);
+    user.whenMessage("another program").presses(IDNO);
     EXPECT_FALSE(page->save());
     EXPECT_EQ(text(1, 1), "7");
     EXPECT_FALSE(page->isChanged());
@@ -100,7 +100,7 @@ TEST_F(SheetWindow, AsksBeforeItOverwritesWhatAnotherPageSaved) {
     window->pages().setCurrentWidget(first);
     open(*first);
     type("A2", "more");
-    user.whenTold("another program").presses(IDCANCEL);
+    user.whenMessage("another program").presses(IDCANCEL);
     EXPECT_FALSE(page->save());
     EXPECT_TRUE(content(path("c.sss")).contains("second"));
 }
@@ -117,8 +117,9 @@ TEST_F(SheetWindow, FailedFilesChangeNothing) {
     const int count = window->pages().count();
     EXPECT_EQ(window->openFile(path("bad.sss")), nullptr);
     EXPECT_EQ(window->pages().count(), count);
-    ASSERT_EQ(user.told().size(), 4u);
-    EXPECT_NE(user.told()[3].text.find("bad.sss:5"), std::string::npos) << user.told()[3].text;
+    ASSERT_EQ(user.messages().size(), 4u);
+    EXPECT_NE(user.messages()[3].text.find("bad.sss:5"), std::string::npos)
+        << user.messages()[3].text;
 }
 
 TEST_F(SheetWindow, StandardsAreEditedMarkedAndChecked) {

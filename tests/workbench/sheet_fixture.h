@@ -75,16 +75,16 @@ class SheetWindow : public testing::Test {
     template <class Dialog>
     void whenOpens(std::function<void(Dialog&)> steps) {
         isWaited = true;
-        auto* look = new QTimer(window.get());
-        look->callOnTimeout([this, look, steps = std::move(steps)] {
+        auto* format = new QTimer(window.get());
+        format->callOnTimeout([this, format, steps = std::move(steps)] {
             auto* dialog = dynamic_cast<Dialog*>(QApplication::activeModalWidget());
             if (!dialog || !dialog->isVisible()) return;
             isWaited = false;
-            look->stop();
-            look->deleteLater();
+            format->stop();
+            format->deleteLater();
             steps(*dialog);
         });
-        look->start(10);
+        format->start(10);
     }
     void run(int word) const { page->commands().action(word).trigger(); }
     std::string text(int col, int row) const {
@@ -93,7 +93,9 @@ class SheetWindow : public testing::Test {
     std::string formula(int col, int row) const {
         return page->grid().text(col, row, control::Reading::formula);
     }
-    const control::Look& look(int col, int row) const { return page->grid().look(col, row); }
+    const control::CellFormat& format(int col, int row) const {
+        return page->grid().format(col, row);
+    }
     QString tab() const { return window->pages().tabText(window->pages().indexOf(page)); }
 
     QTemporaryDir m_folder;

@@ -168,17 +168,17 @@ TEST_F(SheetWindow, LooksAreSwitchedAndShownOnTheToolBar) {
     run(sayMoreDecimals);
     run(sayBorderOutline);
     run(sayLock);
-    EXPECT_EQ(look(2, 2).font.weight, 700);
-    EXPECT_EQ(look(1, 1).alignment, 3);
-    EXPECT_EQ(look(1, 1).type.decimals, 1);
-    EXPECT_TRUE(look(1, 1).locked);
+    EXPECT_EQ(format(2, 2).font.weight, 700);
+    EXPECT_EQ(format(1, 1).alignment, 3);
+    EXPECT_EQ(format(1, 1).type.decimals, 1);
+    EXPECT_TRUE(format(1, 1).locked);
     EXPECT_TRUE(page->commands().action(sayBold).isChecked());
     keys("7");  // a locked cell refuses it
     key(Qt::Key_Escape);
     EXPECT_EQ(text(1, 1), "2.5");
     for (int i = 0; i < 5; ++i) key(Qt::Key_Z, Qt::ControlModifier);
-    EXPECT_EQ(look(1, 1).font.weight, 400);
-    EXPECT_FALSE(look(1, 1).locked);
+    EXPECT_EQ(format(1, 1).font.weight, 400);
+    EXPECT_FALSE(format(1, 1).locked);
     EXPECT_EQ(text(1, 1), "2.5");
     EXPECT_FALSE(page->commands().action(sayBold).isChecked());
 }
@@ -218,7 +218,7 @@ TEST_F(SheetWindow, KeysDoWhatTheManualSays) {
     EXPECT_EQ(text(2, 5), "2");
     key(Qt::Key_I, ctrl);
     key(Qt::Key_U, ctrl);
-    EXPECT_TRUE(look(1, 5).font.italic && look(1, 5).font.underlined);
+    EXPECT_TRUE(format(1, 5).font.italic && format(1, 5).font.underlined);
     key(Qt::Key_Plus, ctrl);
     EXPECT_EQ(page->view().zoom(), 110);
     key(Qt::Key_0, ctrl);

@@ -17,7 +17,7 @@
 #include "spread/control/document.h"
 #include "spread/tw_sheet_settings.h"
 #include "workbench/sheet/page_painter.h"
-#include "workbench/sheet/say.h"
+#include "workbench/sheet/ui_text.h"
 #include "workbench/sheet_fixture.h"
 
 namespace {
@@ -68,8 +68,8 @@ TEST(PrintedPictures, ShowTheArrowFromARowOfABill) {
     printing::PrintedPage page;
     page.body.emplace_back();
     page.body.back().place = {10, 10, 10, 40};
-    page.body.back().look.type.kind = control::CellKind::pictureHandle;
-    page.body.back().look.type.picture = 251;
+    page.body.back().format.type.kind = control::CellKind::pictureHandle;
+    page.body.back().format.type.picture = 251;
     QImage paper(400, 600, QImage::Format_RGB32);
     paper.fill(Qt::white);
     QPainter painter(&paper);
@@ -92,7 +92,7 @@ TEST(PrintedPictures, LeaveTheLinesOfTheirCellsVisible) {
         page.body.back().place = {10, 10 + top, 40, 20};
     }
     page.body.back().picture = "#1";
-    page.body.back().keptPicture = &white;
+    page.body.back().embeddedImage = &white;
     QImage paper(600, 600, QImage::Format_RGB32);
     paper.fill(Qt::white);
     QPainter painter(&paper);
@@ -131,7 +131,7 @@ class SheetOnPaper : public SheetWindow {
     }
     void choose(int word) const {
         for (QAction* action : window->menuBar()->findChildren<QAction*>())
-            if (action->text() == say(word)) return action->trigger();
+            if (action->text() == uiText(word)) return action->trigger();
         FAIL() << "no menu entry";
     }
     QStringList filesInFolder() const { return QDir(m_folder.path()).entryList(QDir::Files); }
@@ -242,7 +242,8 @@ TEST(PagePainter, TextsReachOverTheirNeighboursAsOnTheScreen) {
     const char* text = "a title of the sheet";  // some 120 pixels
     for (int row = 1; row <= 4; ++row) grid.setData(1, row, text);
     grid.setData(2, 2, "x");
-    grid.changeLooks({2, 3, 2, 3}, [](control::Look& look) { look.background = 0xE0FFE0; });
+    grid.changeFormats({2, 3, 2, 3},
+                       [](control::CellFormat& format) { format.background = 0xE0FFE0; });
     grid.setData(1, 4, "1234567890.12345");
     grid.setData(6, 1, "end");
     TwSheetSettings settings;
@@ -310,7 +311,7 @@ TEST_F(SheetOnPaper, WhatIsMissingOrCannotBeWrittenIsTold) {
     });
     choose(sayPrint);
     EXPECT_TRUE(page->message().startsWith(path("sub/a.pdf"))) << page->message().toStdString();
-    EXPECT_EQ(user.told().size(), 1u);
+    EXPECT_EQ(user.messages().size(), 1u);
 }
 
 }  // namespace

@@ -76,8 +76,8 @@ class StartersTest : public testing::Test, public StarterTitles {
         const auto isSeen = [&](QWidget* each) {
             return std::count(seen.begin(), seen.end(), each) > 0;
         };
-        QTimer look;
-        look.callOnTimeout([&] {
+        QTimer format;
+        format.callOnTimeout([&] {
             for (QWidget* each : shownWindows()) {
                 if (isSeen(each)) continue;
                 if (QApplication::activeModalWidget() && QApplication::activeModalWidget() != each)
@@ -87,7 +87,7 @@ class StartersTest : public testing::Test, public StarterTitles {
                 return;
             }
         });
-        look.start(10);
+        format.start(10);
         action();
         QTest::qWait(40);
         // On a busy machine a window that stays open may be shown later.
@@ -97,8 +97,8 @@ class StartersTest : public testing::Test, public StarterTitles {
     static void visitInTurn(const std::function<void()>& action, const std::vector<Visit>& visits) {
         size_t next = 0;
         std::set<QWidget*> seen;
-        QTimer look;
-        look.callOnTimeout([&] {
+        QTimer format;
+        format.callOnTimeout([&] {
             QWidget* asked = QApplication::activeModalWidget();
             if (!asked || !asked->isActiveWindow() || !seen.insert(asked).second) return;
             if (next == visits.size()) ADD_FAILURE() << "an unexpected window";
@@ -109,7 +109,7 @@ class StartersTest : public testing::Test, public StarterTitles {
                 seen.erase(asked);
             });
         });
-        look.start(10);
+        format.start(10);
         action();
         EXPECT_EQ(next, visits.size());
     }

@@ -28,7 +28,7 @@ class ModelessSample : public Desktop {
         dialog.create();
         dialog.show(true);
         QApplication::setActiveWindow(&widget<QWidget>(dialog));
-        settle();
+        propagate();
         dialog.told.clear();
     }
     template <class Widget>
@@ -60,7 +60,7 @@ TEST_F(ModelessSample, FieldsTakeWhatIsTyped) {
     EXPECT_TRUE(line.hasFocus()) << "the first field has the keyboard";
     QTest::keyClicks(&line, "HEB 200");
     EXPECT_EQ(dialog.at<CEdit>(sample::name).text(), "HEB 200");
-    EXPECT_TRUE(dialog.wasTold(sample::name, textChanged));
+    EXPECT_TRUE(dialog.wasReported(sample::name, textChanged));
     line.setSelection(0, 3);
     EXPECT_EQ(dialog.at<CEdit>(sample::name).selectionEnd(), 3);
 
@@ -84,7 +84,7 @@ TEST_F(ModelessSample, FieldsTakeWhatIsTyped) {
 TEST_F(ModelessSample, ButtonsAndBoxesFollowTheirWindow) {
     click(at<QWidget>(sample::check), {6, 8});
     EXPECT_TRUE(dialog.at<CButton>(sample::check).isChecked());
-    EXPECT_TRUE(dialog.wasTold(sample::check, clicked));
+    EXPECT_TRUE(dialog.wasReported(sample::check, clicked));
     EXPECT_EQ(at<QCheckBox>(sample::check).text(), "Bolts && nuts");
 
     for (const int state : {1, 2, 0}) {
@@ -151,7 +151,7 @@ TEST_F(ModelessSample, ListsAndCombosTakeWhatIsPicked) {
     QTest::mouseClick(checks.viewport(), Qt::LeftButton, {},
                       row.topLeft() + QPoint(8, row.height() / 2));
     EXPECT_TRUE(dialog.at<CListBox>(sample::checkList).isChecked(1));
-    EXPECT_TRUE(dialog.wasTold(sample::checkList, checkChanged));
+    EXPECT_TRUE(dialog.wasReported(sample::checkList, checkChanged));
 
     at<QComboBox>(sample::combo).setFocus();
     key(Qt::Key_Down);
@@ -179,7 +179,7 @@ TEST_F(ModelessSample, TabsTurnPages) {
     auto& bar = *at<QTabWidget>(sample::tabs).tabBar();
     QTest::mouseClick(&bar, Qt::LeftButton, {}, bar.tabRect(1).center());
     EXPECT_EQ(dialog.at<CTabCtrl>(sample::tabs).selected(), 1);
-    EXPECT_EQ(dialog.told, (std::vector<Dialog::Told>{{sample::tabs, selectionChanged}}));
+    EXPECT_EQ(dialog.told, (std::vector<Dialog::Reported>{{sample::tabs, selectionChanged}}));
     key(Qt::Key_PageDown, Qt::ControlModifier);
     EXPECT_EQ(bar.currentIndex(), 2);
 }
@@ -196,7 +196,7 @@ TEST_F(ModelessSample, TabGoesInTheOrderOfMakingThroughThePage) {
                            sample::manyList, sample::checkList, sample::thumbnails, sample::combo,
                            sample::typedCombo, sample::tabs, sample::openButton, sample::flexButton,
                            sample::moreButton, IDOK, IDCANCEL, sample::pageField, sample::pageBox));
-    EXPECT_TRUE(dialog.wasTold(sample::name, focusLost));
+    EXPECT_TRUE(dialog.wasReported(sample::name, focusLost));
     key(Qt::Key_Backtab, Qt::ShiftModifier);
     EXPECT_EQ(CWnd::focused()->id(), sample::pageBox);
 }
@@ -233,11 +233,11 @@ TEST_F(ModelessSample, ResizingByHandMovesTheControlsAndStopsAtTheLeastSize) {
     const QSize before = frame.size();
     const QPoint ok = at<QWidget>(IDOK).pos();
     frame.resize(before + QSize(100, 50));
-    settle();
+    propagate();
     EXPECT_EQ(dialog.rect().width(), before.width() + 100);
     EXPECT_EQ(at<QWidget>(IDOK).pos(), ok + QPoint(100, 50));
     frame.resize(10, 10);
-    settle();
+    propagate();
     EXPECT_EQ(frame.size(), before);
 }
 

@@ -26,7 +26,7 @@ class ListeningHost : public Host {
   public:
     void print(std::string_view text) override { m_text += text; }
 
-    void tell() const {
+    void report() const {
         for (const Vor_String& line : splitStringAtSymbol(m_text, '\n', true))
             if (!line.isEmpty()) complainText(line);
     }
@@ -168,7 +168,7 @@ class BillCall {
         };
         line(bill.columnNames());
         for (const BillRow& row : bill.rows) line(row.cells);
-        tellDoubtfulMasses(bill);
+        reportDoubtfulMasses(bill);
         return output.close() ? ExitCode::done : ExitCode::failed;
     }
 
@@ -180,13 +180,13 @@ class BillCall {
         const HostScope scope(host);
         bills::BillSheet sheet(m_target);
         const BillFeed written = sheet.write(bill, nullptr, error);
-        host.tell();
+        host.report();
         if (!error.empty()) complainText(error);
         if (written != BillFeed::done) return ExitCode::failed;
         if (isPdf && !printDocument(sheet.document(), m_target.file)) return ExitCode::failed;
         if (!m_request.json) {
-            tellRowsWithoutMass(bill);
-            tellDoubtfulMasses(bill);
+            reportRowsWithoutMass(bill);
+            reportDoubtfulMasses(bill);
             return ExitCode::done;
         }
         Output output;
@@ -194,7 +194,7 @@ class BillCall {
         return output.close() ? ExitCode::done : ExitCode::failed;
     }
 
-    static void tellDoubtfulMasses(const Vor_Bill& bill) {
+    static void reportDoubtfulMasses(const Vor_Bill& bill) {
         const Vor_StringArray doubtful = bills::doubtfulMasses(bill);
         if (doubtful.isEmpty()) return;
         std::string list;
@@ -205,7 +205,7 @@ class BillCall {
                       list + "; the bill has those of the table, see 'sections check'"));
     }
 
-    static void tellRowsWithoutMass(const Vor_Bill& bill) {
+    static void reportRowsWithoutMass(const Vor_Bill& bill) {
         const Vor_StringArray names = bills::rowsWithoutMass(bill);
         if (names.isEmpty()) return;
         std::string list;

@@ -37,7 +37,7 @@ ExitCode exportStock(const ExportStockRequest& request) {
     const auto items = stockItems();
     const StockItem* item = items ? findItem(*items, request.item) : nullptr;
     if (!item) return ExitCode::failed;
-    tellUnlisted(*item);
+    reportUnlisted(*item);
     const auto file = neededFile(item->name, request.file, kind);
     const auto table = file ? readStockTable(*file) : std::nullopt;
     if (!table) return ExitCode::failed;

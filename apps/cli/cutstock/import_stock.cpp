@@ -43,8 +43,8 @@ std::optional<cutstock::Rows> readCsv(const std::string& path) {
     CsvReader reader(*source, CsvReader::EmptyLines::kept);
     std::vector<std::string_view> fields;
     cutstock::Rows rows;
-    CsvReader::Got got;
-    while ((got = reader.next(fields)) == CsvReader::Got::record) {
+    CsvReader::ReadResult got;
+    while ((got = reader.next(fields)) == CsvReader::ReadResult::record) {
         Vor_StringArray row;
         for (const std::string_view field : fields) {
             if (takeCell(field, row, error)) continue;
@@ -53,7 +53,7 @@ std::optional<cutstock::Rows> readCsv(const std::string& path) {
         }
         rows.append(std::move(row));
     }
-    if (got == CsvReader::Got::end) return rows;
+    if (got == CsvReader::ReadResult::end) return rows;
     complainAt(name, reader.lineNumber(), reader.error());
     return std::nullopt;
 }
@@ -82,7 +82,7 @@ std::optional<ItemMeant> itemMeant(const ImportStockRequest& request) {
     const StockItem* item = findItem(*items, request.item);
     if (!item) return std::nullopt;
     if (item->id || request.newItem) return ItemMeant{item->name, !item->id};
-    tellUnlisted(*item);
+    reportUnlisted(*item);
     return std::nullopt;
 }
 

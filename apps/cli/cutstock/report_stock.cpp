@@ -15,12 +15,12 @@ std::optional<DlgCSP2Data> itemsOf(const ReportStockRequest& request) {
     for (const std::string& typed : request.items) {
         const StockItem* item = findItem(*items, typed);
         if (!item) return std::nullopt;
-        tellUnlisted(*item);
+        reportUnlisted(*item);
         cutstock::addItem(data, item->name);
     }
     if (!request.items.empty()) return data;
     for (const StockItem& item : items->all) {
-        tellUnlisted(item);
+        reportUnlisted(item);
         if (item.id) cutstock::addItem(data, item.name);
     }
     return data;

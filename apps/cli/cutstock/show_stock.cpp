@@ -119,7 +119,7 @@ ExitCode showStock(const ShowStockRequest& request) {
     const auto items = stockItems();
     const StockItem* item = items ? findItem(*items, request.item) : nullptr;
     if (!item) return ExitCode::failed;
-    tellUnlisted(*item);
+    reportUnlisted(*item);
     ShownItem shown{item->name, {}, {}};
     if (item->id && request.file.empty())
         shown.parts = cutstock::rowsOf(items->data.tables[0], *item->id);

@@ -82,7 +82,7 @@ const StockItem* findItem(const StockItems& items, const std::string& typed) {
     return nullptr;
 }
 
-void tellUnlisted(const StockItem& item) {
+void reportUnlisted(const StockItem& item) {
     if (item.id) return;
     complainAt(shownList(), 0,
                "\"" + encodings::toUtf8(item.name) +

@@ -26,7 +26,7 @@ std::optional<StockItems> stockItems();
 /// The item meant, letter case aside; null after telling what there is.
 const StockItem* findItem(const StockItems& items, const std::string& typed);
 /// Says so of folders that have no line in "Items.dat".
-void tellUnlisted(const StockItem& item);
+void reportUnlisted(const StockItem& item);
 /// The folder of an item; nothing after telling why.
 std::optional<Vor_String> folderOf(const Vor_String& item);
 /// Adds it to "Items.dat" as that is now. False after telling why.

@@ -23,8 +23,8 @@ std::optional<ImportedTable> tableFromCsv(LineSource& source, ImportProblem& pro
     std::vector<std::string_view> fields;
     ImportedTable read;
     read.lines.push_back(0);  // how it is drawn does not stand there
-    CsvReader::Got got;
-    while ((got = reader.next(fields)) == CsvReader::Got::record) {
+    CsvReader::ReadResult got;
+    while ((got = reader.next(fields)) == CsvReader::ReadResult::record) {
         problem.line = reader.lineNumber();
         Vor_StringArray record;
         if (!takeFields(fields, record, problem.message)) return std::nullopt;
@@ -34,7 +34,7 @@ std::optional<ImportedTable> tableFromCsv(LineSource& source, ImportProblem& pro
             read.table.rows.append(std::move(record));
         read.lines.push_back(static_cast<int>(reader.lineNumber()));
     }
-    if (got != CsvReader::Got::end)
+    if (got != CsvReader::ReadResult::end)
         problem = {reader.lineNumber(), reader.error()};
     else if (read.lines.size() == 1)
         problem = {0, "there is no line of column names"};

@@ -27,12 +27,12 @@ class Characters {
         if (m_at <= m_line.size() && m_isOpen) return false;
         if (m_isEnd) return true;
         m_at = 0;
-        const LineSource::Got got = m_source.next(m_line);
-        m_isOpen = got == LineSource::Got::line;
+        const LineSource::ReadResult got = m_source.next(m_line);
+        m_isOpen = got == LineSource::ReadResult::line;
         m_isEnd = !m_isOpen;
-        if (got != LineSource::Got::end) m_number = m_source.lineNumber();
-        if (got == LineSource::Got::tooLong) m_failure = "the line is longer than 16 MiB";
-        if (got == LineSource::Got::failed) m_failure = m_source.error();
+        if (got != LineSource::ReadResult::end) m_number = m_source.lineNumber();
+        if (got == LineSource::ReadResult::tooLong) m_failure = "the line is longer than 16 MiB";
+        if (got == LineSource::ReadResult::failed) m_failure = m_source.error();
         return m_isEnd;
     }
     char current() {
@@ -161,9 +161,9 @@ struct Read {
 
 /// Keeps what the parser meets, all texts in Windows-1252, and refuses what has no place in a
 /// table.
-class TableTaker : public Json::json_sax_t {
+class TableHandler : public Json::json_sax_t {
   public:
-    TableTaker(Characters& characters, ImportProblem& problem)
+    TableHandler(Characters& characters, ImportProblem& problem)
         : m_characters(characters), m_problem(problem) {}
 
     Read& read() { return m_read; }
@@ -384,12 +384,12 @@ class TableMaker {
 
 std::optional<ImportedTable> tableFromJson(LineSource& source, ImportProblem& problem) {
     Characters characters(source);
-    TableTaker taker(characters, problem);
+    TableHandler handler(characters, problem);
     const bool isRead =
-        Json::sax_parse(CharacterIterator{&characters}, CharacterIterator{}, &taker);
+        Json::sax_parse(CharacterIterator{&characters}, CharacterIterator{}, &handler);
     if (!characters.failure().empty()) problem = {characters.line(), characters.failure()};
     if (!isRead || !characters.failure().empty()) return std::nullopt;
-    return TableMaker(taker.read(), problem).make();
+    return TableMaker(handler.read(), problem).make();
 }
 
 }  // namespace cli

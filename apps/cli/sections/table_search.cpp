@@ -31,10 +31,10 @@ std::optional<double> shown(std::optional<double> calculated) {
 }
 
 /// The two records before the sizes. False when they are not there.
-bool readHead(RecordReader& reader, Fields& fields, Table& table, RecordReader::Got& got) {
-    if ((got = reader.next(fields)) != RecordReader::Got::record) return false;
+bool readHead(RecordReader& reader, Fields& fields, Table& table, RecordReader::ReadResult& got) {
+    if ((got = reader.next(fields)) != RecordReader::ReadResult::record) return false;
     table.drawnAs = fields[0];
-    if ((got = reader.next(fields)) != RecordReader::Got::record) return false;
+    if ((got = reader.next(fields)) != RecordReader::ReadResult::record) return false;
     for (const std::string_view field : fields) table.columnNames.append(field);
     return true;
 }
@@ -143,7 +143,7 @@ bool TableSearch::run(const TableFile& file,
     }
     RecordReader reader(*text);
     Fields cells;
-    auto got = RecordReader::Got::record;
+    auto got = RecordReader::ReadResult::record;
     Table table;
     table.tableName = file.name;
     if (readHead(reader, cells, table, got)) {
@@ -153,7 +153,7 @@ bool TableSearch::run(const TableFile& file,
         Fields valueColumns;
         for (size_t i = firstValue; i < static_cast<size_t>(table.columnNames.length()); ++i)
             valueColumns.push_back(table.columnNames[static_cast<int>(i)]);
-        while ((got = reader.next(cells)) == RecordReader::Got::record) {
+        while ((got = reader.next(cells)) == RecordReader::ReadResult::record) {
             const Size size{table, valueColumns, cells, firstValue};
             const bool isInactive = cells.size() > 1 && cells[Table::activeColumn] == "0";
             if ((isInactive && !m_inactive) || !holds(size)) continue;
@@ -162,12 +162,12 @@ bool TableSearch::run(const TableFile& file,
             table.rows = {std::move(copy)};
             found({table, columns, m_sort.name.empty() ? std::nullopt : valueOf(m_sort, size)});
         }
-    } else if (got == RecordReader::Got::end) {
+    } else if (got == RecordReader::ReadResult::end) {
         complainAt(shownPath(file.path), reader.line() + 1,
                    "the section table has no column names; restore the file");
         return false;
     }
-    if (got == RecordReader::Got::end) return true;
+    if (got == RecordReader::ReadResult::end) return true;
     complainAt(shownPath(file.path), reader.line(), RecordReader::damage);
     return false;
 }
@@ -179,7 +179,7 @@ void TableSearch::readColumnsOf(const TableFile& file) {
     if (!text) return;
     RecordReader reader(*text);
     Fields fields;
-    auto got = RecordReader::Got::record;
+    auto got = RecordReader::ReadResult::record;
     Table table;
     if (readHead(reader, fields, table, got)) bindAll(ColumnNames(table));
 }

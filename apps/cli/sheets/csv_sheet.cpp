@@ -54,14 +54,14 @@ bool sheetFromCsv(const std::string& path, control::Grid& grid) {
     }
     CsvReader reader(*source, CsvReader::EmptyLines::kept);
     std::vector<std::string_view> fields;
-    CsvReader::Got got;
+    CsvReader::ReadResult got;
     int row = 0;
-    while ((got = reader.next(fields)) == CsvReader::Got::record) {
+    while ((got = reader.next(fields)) == CsvReader::ReadResult::record) {
         if (placeRecord(grid, ++row, fields, error)) continue;
         complainAt(path, reader.lineNumber(), error);
         return false;
     }
-    if (got != CsvReader::Got::end) {
+    if (got != CsvReader::ReadResult::end) {
         complainAt(path, reader.lineNumber(), reader.error());
         return false;
     }

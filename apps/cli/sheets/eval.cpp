@@ -102,12 +102,14 @@ ExitCode evalLines(const EvalRequest& request) {
     control::Sheet sheet;
     long long lines = 0, failed = 0;
     std::string_view line;
-    LineSource::Got got;
-    while ((got = source->next(line)) == LineSource::Got::line || got == LineSource::Got::tooLong) {
+    LineSource::ReadResult got;
+    while ((got = source->next(line)) == LineSource::ReadResult::line ||
+           got == LineSource::ReadResult::tooLong) {
         if (!output.isOpen()) break;
-        if (got == LineSource::Got::line && line.find_first_not_of(" \t") == line.npos) continue;
+        if (got == LineSource::ReadResult::line && line.find_first_not_of(" \t") == line.npos)
+            continue;
         ++lines;
-        if (got == LineSource::Got::tooLong) {
+        if (got == LineSource::ReadResult::tooLong) {
             appendError(output.text(), "null", *source, "longer than 16 MiB");
             ++failed;
         } else if (!evalLine(line, *source, sheet, output.text())) {
@@ -116,11 +118,11 @@ ExitCode evalLines(const EvalRequest& request) {
         output.written();
     }
     const bool written = output.close();
-    if (got == LineSource::Got::failed)
+    if (got == LineSource::ReadResult::failed)
         complainAt(source->name(), source->lineNumber(), source->error());
     complainAboutLines(failed, lines);
-    return written && got == LineSource::Got::end && failed == 0 ? ExitCode::done
-                                                                 : ExitCode::failed;
+    return written && got == LineSource::ReadResult::end && failed == 0 ? ExitCode::done
+                                                                        : ExitCode::failed;
 }
 
 }  // namespace

@@ -24,13 +24,13 @@ bool runLines(ValueRun& run, LineSource& source, BatchInput& input, BatchOutput&
     Progress progress(source);
     std::string error;
     for (; output.isOpen(); ++count.lines) {
-        const BatchInput::Got got = input.next(run.cells(), error);
-        if (got == BatchInput::Got::end) return true;
-        if (got == BatchInput::Got::failed) {
+        const BatchInput::ReadResult got = input.next(run.cells(), error);
+        if (got == BatchInput::ReadResult::end) return true;
+        if (got == BatchInput::ReadResult::failed) {
             complainAt(source.name(), source.lineNumber(), error);
             return false;
         }
-        if (got == BatchInput::Got::values && run.run(error)) {
+        if (got == BatchInput::ReadResult::values && run.run(error)) {
             writer.writeOutputs(run.cells());
         } else {
             ++count.failed;

@@ -13,26 +13,26 @@ class CsvInput : public BatchInput {
 
     bool begin(const TwVarCells& cells, std::string& error) override {
         const auto got = m_reader.next(m_fields);
-        error = got == CsvReader::Got::end
+        error = got == CsvReader::ReadResult::end
                     ? "there is no header; it names " + describe(cells, TwCellType::input)
                     : m_reader.error();
-        return got == CsvReader::Got::record && takeHeader(cells, error);
+        return got == CsvReader::ReadResult::record && takeHeader(cells, error);
     }
 
-    Got next(TwVarCells& cells, std::string& error) override {
+    ReadResult next(TwVarCells& cells, std::string& error) override {
         switch (m_reader.next(m_fields)) {
-            case CsvReader::Got::record:
-                return takeValues(cells, error) ? Got::values : Got::bad;
-            case CsvReader::Got::end:
-                return Got::end;
-            case CsvReader::Got::bad:
+            case CsvReader::ReadResult::record:
+                return takeValues(cells, error) ? ReadResult::values : ReadResult::bad;
+            case CsvReader::ReadResult::end:
+                return ReadResult::end;
+            case CsvReader::ReadResult::bad:
                 error = m_reader.error();
-                return Got::bad;
-            case CsvReader::Got::failed:
+                return ReadResult::bad;
+            case CsvReader::ReadResult::failed:
                 break;
         }
         error = m_reader.error();
-        return Got::failed;
+        return ReadResult::failed;
     }
 
   private:

@@ -14,7 +14,7 @@ namespace cli {
 
 class BatchInput {
   public:
-    enum class Got {
+    enum class ReadResult {
         values,
         bad,  ///< this line cannot be used; the next can
         end,
@@ -25,7 +25,7 @@ class BatchInput {
     /// Before anything else: false with the reason when the lines cannot fit the standard.
     virtual bool begin(const TwVarCells& cells, std::string& error) = 0;
     /// Fills the inputs of `cells` from the next line, or says what is wrong with it.
-    virtual Got next(TwVarCells& cells, std::string& error) = 0;
+    virtual ReadResult next(TwVarCells& cells, std::string& error) = 0;
 };
 
 std::unique_ptr<BatchInput> makeCsvInput(LineSource& source);

@@ -12,7 +12,7 @@ using Json = nlohmann::json;
 
 // Takes the members of one flat object over as they are read. Nothing is built up, and what is
 // nested is refused where it begins, however deep it goes.
-class ValueTaker : public Json::json_sax_t {
+class ValueHandler : public Json::json_sax_t {
   public:
     /// The object of the next line goes into `cells`.
     void begin(TwVarCells& cells) {
@@ -80,34 +80,34 @@ class JsonInput : public BatchInput {
 
     bool begin(const TwVarCells&, std::string&) override { return true; }
 
-    Got next(TwVarCells& cells, std::string& error) override {
+    ReadResult next(TwVarCells& cells, std::string& error) override {
         std::string_view line;
         do {
             switch (m_source.next(line)) {
-                case LineSource::Got::line:
+                case LineSource::ReadResult::line:
                     break;
-                case LineSource::Got::end:
-                    return Got::end;
-                case LineSource::Got::tooLong:
+                case LineSource::ReadResult::end:
+                    return ReadResult::end;
+                case LineSource::ReadResult::tooLong:
                     error = "longer than 16 MiB";
-                    return Got::bad;
-                case LineSource::Got::failed:
+                    return ReadResult::bad;
+                case LineSource::ReadResult::failed:
                     error = m_source.error();
-                    return Got::failed;
+                    return ReadResult::failed;
             }
         } while (line.find_first_not_of(" \t") == line.npos);
-        return takeLine(line, cells, error) ? Got::values : Got::bad;
+        return takeLine(line, cells, error) ? ReadResult::values : ReadResult::bad;
     }
 
   private:
     bool takeLine(std::string_view line, TwVarCells& cells, std::string& error) {
-        m_taker.begin(cells);
-        if (!Json::sax_parse(line, &m_taker)) {
-            error = m_taker.error();
+        m_handler.begin(cells);
+        if (!Json::sax_parse(line, &m_handler)) {
+            error = m_handler.error();
             return false;
         }
         for (int i = 0; i < cells.length(); ++i) {
-            if (!cells[i].isInput() || m_taker.isGiven(i)) continue;
+            if (!cells[i].isInput() || m_handler.isGiven(i)) continue;
             error = "the input ";
             appendUtf8(error, cells[i].name());
             error += " is missing";
@@ -117,7 +117,7 @@ class JsonInput : public BatchInput {
     }
 
     LineSource& m_source;
-    ValueTaker m_taker;
+    ValueHandler m_handler;
 };
 
 }  // namespace

@@ -17,8 +17,9 @@ std::optional<CaseTable> CaseTable::open(CsvReader& reader, const std::string& f
     CaseTable table;
     std::string error = "there is no header";
     const auto got = reader.next(headings);
-    bool fits = got == CsvReader::Got::record;
-    if (got == CsvReader::Got::bad || got == CsvReader::Got::failed) error = reader.error();
+    bool fits = got == CsvReader::ReadResult::record;
+    if (got == CsvReader::ReadResult::bad || got == CsvReader::ReadResult::failed)
+        error = reader.error();
     for (size_t i = 0; fits && i < headings.size(); ++i) {
         std::string heading;
         fits = fromUtf8(headings[i], heading, error) && table.addColumn(heading, cells, error);

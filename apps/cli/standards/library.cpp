@@ -29,8 +29,8 @@ std::string lines(const std::vector<StandardName>& standards) {
     return text;
 }
 
-void tellWhatThereIs(const std::string& typed, const std::vector<StandardName>& standards,
-                     const std::vector<StandardName>& matches) {
+void reportWhatThereIs(const std::string& typed, const std::vector<StandardName>& standards,
+                       const std::vector<StandardName>& matches) {
     const std::string missing = "there is no standard \"" + typed + "\"";
     if (gSettings.libDir().isEmpty())
         return complain(missing +
@@ -97,7 +97,7 @@ std::optional<StandardName> findStandard(const std::string& typed) {
         if (getFileName(name).equal(*inside)) matches.push_back(standard);
     }
     if (matches.size() == 1) return matches.front();
-    tellWhatThereIs(typed, standards, matches);
+    reportWhatThereIs(typed, standards, matches);
     return std::nullopt;
 }
 

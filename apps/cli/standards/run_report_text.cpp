@@ -97,10 +97,11 @@ void complainAbout(const runs::RunReport& report) {
             "it counts as empty");
     for (const auto& lines : report.messages) {
         // These are told in fewer words: as equations, as inputs, and as a warning.
-        const bool isToldElsewhere = lines.front().starts_with("The following equation failed") ||
-                                     lines.front().starts_with("The following Input variable") ||
-                                     lines.front().starts_with("There were duplicate variable");
-        if (!isToldElsewhere) complainLines(lines);
+        const bool isReportedElsewhere =
+            lines.front().starts_with("The following equation failed") ||
+            lines.front().starts_with("The following Input variable") ||
+            lines.front().starts_with("There were duplicate variable");
+        if (!isReportedElsewhere) complainLines(lines);
     }
     if (!report.failure.isEmpty()) complainText(report.failure);
 }

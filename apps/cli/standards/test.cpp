@@ -67,11 +67,12 @@ bool testCases(ValueRun& run, const std::string& file, Count& count) {
 
     std::vector<std::string_view> fields;
     CaseTable::Case row;
-    CsvReader::Got got;
-    while ((got = reader.next(fields)) == CsvReader::Got::record || got == CsvReader::Got::bad) {
+    CsvReader::ReadResult got;
+    while ((got = reader.next(fields)) == CsvReader::ReadResult::record ||
+           got == CsvReader::ReadResult::bad) {
         ++count.cases;
         std::vector<std::string> wrong;
-        if (got == CsvReader::Got::bad)
+        if (got == CsvReader::ReadResult::bad)
             wrong.push_back(reader.error());
         else if (!table->take(fields, run.cells(), row, error) || !run.run(error))
             wrong.push_back(error);
@@ -82,9 +83,9 @@ bool testCases(ValueRun& run, const std::string& file, Count& count) {
             complainAt(file, reader.lineNumber(),
                        "case " + std::to_string(count.cases) + ": " + text);
     }
-    if (got == CsvReader::Got::failed) complainAt(file, reader.lineNumber(), reader.error());
+    if (got == CsvReader::ReadResult::failed) complainAt(file, reader.lineNumber(), reader.error());
     if (count.cases == 0) complainAt(file, reader.lineNumber(), "there are no cases");
-    return got == CsvReader::Got::end && count.cases > 0 && count.failed == 0;
+    return got == CsvReader::ReadResult::end && count.cases > 0 && count.failed == 0;
 }
 
 Vor_String casesPath(const StandardName& standard) {

@@ -30,10 +30,10 @@ void FailureWatch::resultsShifted(std::string_view text) {
     m_shifted.push_back(std::move(message));
 }
 
-ToldOnce::ToldOnce()
+ReportedOnce::ReportedOnce()
     : m_listener([this](const MessageBox& box) {
-          if (std::find(m_told.begin(), m_told.end(), box.text) == m_told.end()) {
-              m_told.push_back(box.text);
+          if (std::find(m_messages.begin(), m_messages.end(), box.text) == m_messages.end()) {
+              m_messages.push_back(box.text);
               complainLines(box.lines());
           }
           return true;

@@ -48,12 +48,12 @@ class FailureWatch : public RunObserver {
 };
 
 /// Message boxes of runs that are alike: each text is told once.
-class ToldOnce {
+class ReportedOnce {
   public:
-    ToldOnce();
+    ReportedOnce();
 
   private:
-    std::vector<std::string> m_told;
+    std::vector<std::string> m_messages;
     MessageListenerScope m_listener;
 };
 
@@ -75,7 +75,7 @@ class ValueRun {
 
     runs::NamedRequest m_request;
     FailureWatch m_watch;
-    ToldOnce m_told;
+    ReportedOnce m_messages;
 };
 
 }  // namespace cli

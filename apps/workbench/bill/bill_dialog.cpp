@@ -25,7 +25,7 @@
 #include "workbench/bill/bill_words.h"
 #include "workbench/window/dialog_buttons.h"
 #include "workbench/window/dialog_font.h"
-#include "workbench/window/say.h"
+#include "workbench/window/ui_text.h"
 
 namespace {
 
@@ -61,7 +61,7 @@ QString machinePath(std::string_view inside) {
 }  // namespace
 
 BillDialog::BillDialog(const Vor_StringArray& macros, QWidget* parent) : QDialog(parent) {
-    setWindowTitle(sayTitle(sayBill));
+    setWindowTitle(uiTitle(sayBill));
     auto* sides = new QHBoxLayout;
     sides->addWidget(makeSources(macros), 1);
     sides->addWidget(makeChoices(), 1);
@@ -79,11 +79,11 @@ BillDialog::BillDialog(const Vor_StringArray& macros, QWidget* parent) : QDialog
 // --- its parts ----------------------------------------------------------------------------------
 
 QWidget* BillDialog::makeSources(const Vor_StringArray& ticked) {
-    m_fromMacros = new QRadioButton(say(sayBillMacros));
-    m_fromTable = new QRadioButton(say(sayBillTable));
+    m_fromMacros = new QRadioButton(uiText(sayBillMacros));
+    m_fromTable = new QRadioButton(uiText(sayBillTable));
     m_fromMacros->setChecked(true);
     m_macros = new QTableWidget(0, 2);
-    m_macros->setHorizontalHeaderLabels({sayTitle(sayBillMacros), say(sayBillTimes)});
+    m_macros->setHorizontalHeaderLabels({uiTitle(sayBillMacros), uiText(sayBillTimes)});
     m_macros->horizontalHeader()->setSectionResizeMode(nameColumn, QHeaderView::Stretch);
     m_macros->verticalHeader()->hide();
     m_macros->setTabKeyNavigation(false);
@@ -127,7 +127,7 @@ QWidget* BillDialog::makeChoices() {
     m_columns = new QListWidget;
     m_columns->setDragDropMode(QAbstractItemView::InternalMove);
     m_group = new QComboBox;
-    m_pictures = new QCheckBox(say(sayBillPictures));
+    m_pictures = new QCheckBox(uiText(sayBillPictures));
     m_title = new QLineEdit;
     m_settings = new QComboBox;
     m_settings->setEditable(true);
@@ -139,12 +139,12 @@ QWidget* BillDialog::makeChoices() {
     auto* side = new QWidget;
     auto* form = new QFormLayout(side);
     form->setContentsMargins(0, 0, 0, 0);
-    form->addRow(say(sayBillColumns), m_columns);
-    form->addRow(say(sayBillGroup), m_group);
+    form->addRow(uiText(sayBillColumns), m_columns);
+    form->addRow(uiText(sayBillGroup), m_group);
     form->addRow(QString(), m_pictures);
-    form->addRow(say(sayBillTitle), m_title);
-    form->addRow(say(sayBillSettings), m_settings);
-    form->addRow(say(sayBillFile), withChooser(m_file, [this] { chooseTarget(); }));
+    form->addRow(uiText(sayBillTitle), m_title);
+    form->addRow(uiText(sayBillSettings), m_settings);
+    form->addRow(uiText(sayBillFile), withChooser(m_file, [this] { chooseTarget(); }));
     return side;
 }
 
@@ -156,7 +156,7 @@ bool BillDialog::isTable() const {
 void BillDialog::showColumns() {
     m_columns->clear();
     m_group->clear();
-    m_group->addItem(say(sayBillNoGroups), "none");
+    m_group->addItem(uiText(sayBillNoGroups), "none");
     complain({});
     const auto add = [this](const QString& name, const QString& code, bool isTicked) {
         auto* item = new QListWidgetItem(name, m_columns);
@@ -202,8 +202,8 @@ void BillDialog::useTable(const QString& path) {
 
 void BillDialog::chooseTable() {
     FileQuestion question;
-    question.title = fromQt(sayTitle(sayBillTable));
-    question.filterName = fromQt(say(sayBillTableFilter));
+    question.title = fromQt(uiTitle(sayBillTable));
+    question.filterName = fromQt(uiText(sayBillTableFilter));
     question.extension = "csv";
     question.folder = gSettings.libDir().str();
     const std::string chosen = chooseFile(question, nullptr);
@@ -214,8 +214,8 @@ void BillDialog::chooseTarget() {
     const auto path = insidePath(m_file->text());
     FileQuestion question;
     question.kind = FileQuestion::Kind::save;
-    question.title = fromQt(say(sayBillFile));
-    question.filterName = fromQt(say(sayBillFilter));
+    question.title = fromQt(uiText(sayBillFile));
+    question.filterName = fromQt(uiText(sayBillFilter));
     question.extension = "sss";
     if (path) {
         question.folder = getPath(*path).str();
@@ -258,9 +258,9 @@ bills::BillTarget BillDialog::target() const {
 void BillDialog::accept() {
     const bills::BillChoice chosen = choice();
     if (chosen.macros.isEmpty() && chosen.table.isEmpty())
-        return complain(say(sayBillNothingChosen));
+        return complain(uiText(sayBillNothingChosen));
     const Vor_String file = target().file;
-    if (!bills::billFormat(file)) return complain(say(sayBillNoFile));
+    if (!bills::billFormat(file)) return complain(uiText(sayBillNoFile));
     if (mayReplace(file)) QDialog::accept();
 }
 
@@ -268,7 +268,7 @@ void BillDialog::accept() {
 bool BillDialog::mayReplace(const Vor_String& file) const {
     if (!files::exists(file) || m_file->text() == m_confirmed) return true;
     const MessageBox question{fromQt(windowTitle()),
-                              fromQt(say(sayBillReplace).arg(m_file->text())),
+                              fromQt(uiText(sayBillReplace).arg(m_file->text())),
                               MessageIcon::question, MessageButtons::yesNo};
     return showMessage(question) == IDYES;
 }

@@ -11,12 +11,12 @@
 #include "workbench/sheet/sheet_printing.h"
 #include "workbench/window/dialog_font.h"
 #include "workbench/window/machine_path.h"
-#include "workbench/window/say.h"
+#include "workbench/window/ui_text.h"
 
 namespace {
 
 bool complain(const std::string& text) {
-    showWarning(fromQt(sayTitle(sayBill)), text);
+    showWarning(fromQt(uiTitle(sayBill)), text);
     return false;
 }
 
@@ -31,16 +31,16 @@ bool printPdf(Vor_Spread& sheet, const Vor_String& pdf, std::string& error) {
     return false;
 }
 
-void tellRowsWithoutMass(const Vor_Bill& bill) {
+void reportRowsWithoutMass(const Vor_Bill& bill) {
     const Vor_StringArray names = bills::rowsWithoutMass(bill);
     if (names.isEmpty()) return;
-    acutPrint(fromQt(say(sayBillNoMass).arg(toQt(arrToStr(names, ", ")))) + "\n");
+    acutPrint(fromQt(uiText(sayBillNoMass).arg(toQt(arrToStr(names, ", ")))) + "\n");
 }
 
-void tellDoubtfulMasses(const Vor_Bill& bill) {
+void reportDoubtfulMasses(const Vor_Bill& bill) {
     const Vor_StringArray doubtful = bills::doubtfulMasses(bill);
     if (doubtful.isEmpty()) return;
-    acutPrint(fromQt(say(sayBillDoubtfulMass).arg(toQt(arrToStr(doubtful, ", ")))) + "\n");
+    acutPrint(fromQt(uiText(sayBillDoubtfulMass).arg(toQt(arrToStr(doubtful, ", ")))) + "\n");
 }
 
 }  // namespace
@@ -53,7 +53,7 @@ bool BillMaker::askAndMake(const Vor_StringArray& macros, QWidget* parent) {
 bool BillMaker::make(bills::BillChoice choice, const bills::BillTarget& target, QWidget* parent) {
     choice.openMacro = m_openMacro;
     if (bills::isSource(choice, target.file))
-        return complain(fromQt(say(sayBillIsSource).arg(machinePath(target.file.str()))));
+        return complain(fromQt(uiText(sayBillIsSource).arg(machinePath(target.file.str()))));
     std::string error;
     auto bill = bills::makeBill(choice, error);
     if (!bill) return complain(error);
@@ -69,8 +69,8 @@ void BillMaker::offerExports(const Vor_String& file) {
 
 bool BillMaker::write(Vor_Bill& bill, const bills::BillTarget& target, QWidget* parent) {
     m_sheet = std::make_unique<bills::BillSheet>(target);
-    QProgressDialog progress(say(sayBillMaking), say(2), 0, static_cast<int>(bill.rows.size()),
-                             parent);
+    QProgressDialog progress(uiText(sayBillMaking), uiText(2), 0,
+                             static_cast<int>(bill.rows.size()), parent);
     progress.setWindowModality(Qt::WindowModal);
     progress.setMinimumDuration(untilProgressShows);
     const auto step = [&](int done, int) {
@@ -89,8 +89,8 @@ bool BillMaker::write(Vor_Bill& bill, const bills::BillTarget& target, QWidget* 
     if (written == BillFeed::failed ||
         (isPdf && !printPdf(*m_sheet->output().sheet(), target.file, error)))
         return complain(error);
-    acutPrint(fromQt(say(sayBillSaved).arg(toQt(target.file))) + "\n");
-    tellRowsWithoutMass(bill);
-    tellDoubtfulMasses(bill);
+    acutPrint(fromQt(uiText(sayBillSaved).arg(toQt(target.file))) + "\n");
+    reportRowsWithoutMass(bill);
+    reportDoubtfulMasses(bill);
     return true;
 }

@@ -8,9 +8,9 @@
 #include "platform/window/message_box.h"
 #include "workbench/bill/bill_words.h"
 #include "workbench/grid/grid_view.h"
-#include "workbench/sheet/say.h"
 #include "workbench/sheet/sheet_export.h"
 #include "workbench/sheet/sheet_printing.h"
+#include "workbench/sheet/ui_text.h"
 #include "workbench/window/machine_path.h"
 #include "workbench/window/qt_window_system.h"
 
@@ -31,7 +31,7 @@ void BillWindowButton::addTo(TwSheetEditorDlg& window, const Vor_String& file) {
 
 BillWindowButton::BillWindowButton(TwSheetEditorDlg& window, const Vor_String& file, QWidget& frame,
                                    QWidget& grid, QWidget& neighbour)
-    : QPushButton(say(sayBillExport), &frame),
+    : QPushButton(uiText(sayBillExport), &frame),
       m_sheet(window.spread()),
       m_file(file),
       m_grid(grid),
@@ -41,9 +41,9 @@ BillWindowButton::BillWindowButton(TwSheetEditorDlg& window, const Vor_String& f
     auto* menu = new QMenu(this);
     addExports(*menu, [this](const ExportFormat& format) { exportAs(format); });
     menu->addSeparator();
-    menu->addAction(say(sayPrintPreview), this, [this] { print(previewSheet); });
-    QAction* printing =
-        menu->addAction(say(sayPrint), Qt::CTRL | Qt::Key_P, this, [this] { print(askAndPrint); });
+    menu->addAction(uiText(sayPrintPreview), this, [this] { print(previewSheet); });
+    QAction* printing = menu->addAction(uiText(sayPrint), Qt::CTRL | Qt::Key_P, this,
+                                        [this] { print(askAndPrint); });
     frame.addAction(printing);  // for its keys
     setMenu(menu);
     neighbour.installEventFilter(this);
@@ -75,18 +75,18 @@ void BillWindowButton::exportAs(const ExportFormat& format) {
     const std::string path = askForExport(format, getPath(m_file), name);
     if (path.empty()) return;
     const bool hasPages = Vor_String(path).endsWith(".pdf");
-    tell(exportSheet(m_sheet, path, sheets::CsvTexts::guarded),
-         say(sayExported).arg(machinePath(path)));
-    if (hasPages) tell({}, printProblems(m_sheet));
+    showMessage(exportSheet(m_sheet, path, sheets::CsvTexts::guarded),
+                uiText(sayExported).arg(machinePath(path)));
+    if (hasPages) showMessage({}, printProblems(m_sheet));
 }
 
 void BillWindowButton::print(QString (*doing)(Vor_Spread& sheet, QWidget* parent)) {
-    if (isReady()) tell(doing(m_sheet, window()), printProblems(m_sheet));
+    if (isReady()) showMessage(doing(m_sheet, window()), printProblems(m_sheet));
 }
 
-void BillWindowButton::tell(const QString& failure, const QString& done) {
+void BillWindowButton::showMessage(const QString& failure, const QString& done) {
     if (!failure.isEmpty())
-        showWarning(fromQt(sayTitle(sayBill)), fromQt(failure));
+        showWarning(fromQt(uiTitle(sayBill)), fromQt(failure));
     else if (!done.isEmpty())
         acutPrint(fromQt(done) + "\n");
 }

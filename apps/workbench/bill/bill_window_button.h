@@ -24,7 +24,7 @@ class BillWindowButton : public QPushButton {
     void print(QString (*doing)(Vor_Spread& sheet, QWidget* parent));
     /// Enters what is being typed; false when its cell refuses it.
     bool isReady();
-    void tell(const QString& failure, const QString& done);
+    void showMessage(const QString& failure, const QString& done);
 
     Vor_Spread& m_sheet;
     Vor_String m_file;

@@ -10,7 +10,7 @@
 #include "core_api/texts/texts.h"
 #include "platform/host/host.h"
 #include "spread/control/stop_calculation.h"
-#include "workbench/window/say.h"
+#include "workbench/window/ui_text.h"
 
 namespace {
 
@@ -64,7 +64,7 @@ class CalculationWindow {
     // Nobody tells when a calculation is done: the window goes as soon as events are handled again,
     // or before with the window above it.
     void open() {
-        m_window = new QProgressDialog(say(sayCalculating), say(sayStop), 0, 0,
+        m_window = new QProgressDialog(uiText(sayCalculating), uiText(sayStop), 0, 0,
                                        QApplication::activeWindow());
         m_window->setWindowModality(Qt::ApplicationModal);
         m_window->setMinimumDuration(0);

@@ -6,7 +6,7 @@
 #include <QFontMetrics>
 #include <string_view>
 
-#include "spread/control/look.h"
+#include "spread/control/cell_format.h"
 
 struct CellFont {
     QFont font;

@@ -11,9 +11,9 @@
 #include "workbench/window/dialog_font.h"
 
 using control::CellAddress;
+using control::CellFormat;
 using control::CellKind;
 using control::Colour;
-using control::Look;
 using control::Reading;
 
 namespace {
@@ -48,8 +48,8 @@ int penWidth(int borderStyle) {
     return borderStyle == 7 ? 2 : borderStyle == 8 ? 3 : 1;
 }
 
-Qt::Alignment alignmentOf(const Look& look, control::ValueType type) {
-    switch (look.alignment) {
+Qt::Alignment alignmentOf(const CellFormat& format, control::ValueType type) {
+    switch (format.alignment) {
         case 1:
             return Qt::AlignLeft;
         case 2:
@@ -63,8 +63,8 @@ Qt::Alignment alignmentOf(const Look& look, control::ValueType type) {
     return type == control::ValueType::text ? Qt::AlignLeft : Qt::AlignHCenter;
 }
 
-bool hasBorder(const Look& look, control::BorderSide side) {
-    return (look.borderSides & side) != 0 && look.borderStyle != 0;
+bool hasBorder(const CellFormat& format, control::BorderSide side) {
+    return (format.borderSides & side) != 0 && format.borderStyle != 0;
 }
 
 QString textOf(const control::Grid& grid, CellAddress cell) {
@@ -95,7 +95,7 @@ struct CellPainter::Drawing {
     const QStyleOptionViewItem& option;
     const QRect& rect;
     CellAddress cell;
-    const Look& look;
+    const CellFormat& format;
     bool isSelected;
     bool isActive;
 
@@ -115,7 +115,7 @@ void CellPainter::paint(QPainter* painter, const QStyleOptionViewItem& option,
                     option,
                     option.rect,
                     cell,
-                    m_grid.look(cell.col, cell.row),
+                    m_grid.format(cell.col, cell.row),
                     cell != m_grid.active() && isSelected(m_grid, cell),
                     m_grid.active() == cell};
     painter->save();
@@ -137,8 +137,8 @@ bool isSelected(const control::Grid& grid, CellAddress cell) {
 void CellPainter::drawBackground(const Drawing& d) const {
     const control::SideTables& sides = m_grid.sides();
     QColor colour = d.palette().color(QPalette::Base);
-    if (d.look.locked) colour = toQt(sides.lockedColour, colour);
-    colour = toQt(d.look.background, colour);
+    if (d.format.locked) colour = toQt(sides.lockedColour, colour);
+    colour = toQt(d.format.background, colour);
     if (d.isSelected)
         colour = toQt(sides.selectionBackground, d.palette().color(QPalette::Highlight));
     d.painter.fillRect(d.rect, colour);
@@ -149,11 +149,11 @@ QColor CellPainter::textColour(const Drawing& d, CellAddress cell) const {
         return toQt(m_grid.sides().selectionText, d.palette().color(QPalette::HighlightedText));
     if (!d.isEnabled()) return d.palette().color(QPalette::Disabled, QPalette::Text);
     if (m_grid.sheet().value(cell.col, cell.row).isError()) return errorColour;
-    return toQt(m_grid.look(cell.col, cell.row).textColour, d.palette().color(QPalette::Text));
+    return toQt(m_grid.format(cell.col, cell.row).textColour, d.palette().color(QPalette::Text));
 }
 
 void CellPainter::drawContent(const Drawing& d) const {
-    switch (d.look.type.kind) {
+    switch (d.format.type.kind) {
         case CellKind::checkBox:
             return drawCheckBox(d);
         case CellKind::button:
@@ -176,21 +176,21 @@ void CellPainter::drawContent(const Drawing& d) const {
 // --- texts --------------------------------------------------------------------------------------
 
 bool CellPainter::isCutOff(CellAddress cell, int width) const {
-    const Look& look = m_grid.look(cell.col, cell.row);
+    const CellFormat& format = m_grid.format(cell.col, cell.row);
     if (!m_grid.sheet().cells().find(cell.col, cell.row)) return false;
     if (lastColumnForText(m_grid, cell) > cell.col) return false;
-    const QSize size = fontOf(look).metrics.size(Qt::TextExpandTabs, textOf(m_grid, cell));
+    const QSize size = fontOf(format).metrics.size(Qt::TextExpandTabs, textOf(m_grid, cell));
     return size.width() > width - 2 * margin;
 }
 
 void CellPainter::drawText(const Drawing& d, const QRect& room) const {
     QString text = textOf(m_grid, d.cell);
     if (text.isEmpty()) return;
-    const CellFont& font = fontOf(d.look);
+    const CellFont& font = fontOf(d.format);
     const control::ValueType type = m_grid.sheet().value(d.cell.col, d.cell.row).type();
     const QRect inner = room.adjusted(margin, 0, -margin, -1);
     const bool hasLines = text.contains('\n');
-    Qt::Alignment alignment = alignmentOf(d.look, type);
+    Qt::Alignment alignment = alignmentOf(d.format, type);
     if (!hasLines && font.metrics.horizontalAdvance(text) > inner.width()) {
         // A number that is cut would be another number.
         if (type == control::ValueType::number)
@@ -224,8 +224,8 @@ std::optional<CellPainter::Reach> CellPainter::reachInto(CellAddress cell) const
     Reach reach{*from, 0, 0};
     for (int col = from->col; col < cell.col; ++col)
         reach.before += zoomed(m_grid.colWidth(col), m_zoom);
-    const Look& look = m_grid.look(from->col, from->row);
-    reach.end = margin + fontOf(look).metrics.horizontalAdvance(textOf(m_grid, *from));
+    const CellFormat& format = m_grid.format(from->col, from->row);
+    reach.end = margin + fontOf(format).metrics.horizontalAdvance(textOf(m_grid, *from));
     return reach;
 }
 
@@ -241,7 +241,7 @@ void CellPainter::drawTextFromTheLeft(const Drawing& d) const {
     if (!reach || reach->end <= reach->before) return;
     const QRect place(d.rect.left() - reach->before + margin, d.rect.top(), reach->end,
                       d.rect.height() - 1);
-    d.painter.setFont(fontOf(m_grid.look(reach->from.col, reach->from.row)).font);
+    d.painter.setFont(fontOf(m_grid.format(reach->from.col, reach->from.row)).font);
     d.painter.setPen(textColour(d, d.isSelected ? d.cell : reach->from));
     d.painter.drawText(place, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextDontClip,
                        textOf(m_grid, reach->from));
@@ -253,14 +253,14 @@ void CellPainter::drawCheckBox(const Drawing& d) const {
     const std::string text = m_grid.text(d.cell.col, d.cell.row, Reading::value);
     const bool isChecked = text == "1";
     if (!isChecked && !text.empty() && text != "0") return drawText(d, d.rect);
-    const int picture = isChecked ? d.look.type.picture : d.look.type.otherPicture;
+    const int picture = isChecked ? d.format.type.picture : d.format.type.otherPicture;
     const bool isUsual = picture == 0 || picture == bitmapChecked || picture == bitmapUnchecked;
     if (!isUsual && m_pictures.drawNumber(d.painter, d.rect, picture)) return;
     QStyleOptionButton box;
     box.initFrom(d.option.widget);
     box.rect = checkBoxIn(d.rect);
     box.state = isChecked ? QStyle::State_On : QStyle::State_Off;
-    if (d.isEnabled() && !d.look.locked) box.state |= QStyle::State_Enabled;
+    if (d.isEnabled() && !d.format.locked) box.state |= QStyle::State_Enabled;
     d.style().drawPrimitive(QStyle::PE_IndicatorCheckBox, &box, &d.painter, d.option.widget);
 }
 
@@ -279,20 +279,20 @@ void CellPainter::drawButton(const Drawing& d) const {
     QStyleOptionButton button;
     button.initFrom(d.option.widget);
     button.rect = d.rect.adjusted(1, 1, -2, -2);
-    button.text = toQt(d.look.type.text);
-    button.fontMetrics = fontOf(d.look).metrics;
+    button.text = toQt(d.format.type.text);
+    button.fontMetrics = fontOf(d.format).metrics;
     button.state = m_pressed == d.cell ? QStyle::State_Sunken : QStyle::State_Raised;
-    if (d.isEnabled() && !d.look.locked) button.state |= QStyle::State_Enabled;
-    d.painter.setFont(fontOf(d.look).font);
+    if (d.isEnabled() && !d.format.locked) button.state |= QStyle::State_Enabled;
+    d.painter.setFont(fontOf(d.format).font);
     d.style().drawControl(QStyle::CE_PushButton, &button, &d.painter, d.option.widget);
 }
 
 void CellPainter::drawPicture(const Drawing& d) const {
     const QRect room = d.rect.adjusted(0, 0, -1, -1);
-    const std::string& name = d.look.type.text;
-    const std::string* kept = m_grid.keptPicture(name);
-    const bool isDrawn = d.look.type.kind != CellKind::picture
-                             ? m_pictures.drawNumber(d.painter, room, d.look.type.picture)
+    const std::string& name = d.format.type.text;
+    const std::string* kept = m_grid.embeddedImage(name);
+    const bool isDrawn = d.format.type.kind != CellKind::picture
+                             ? m_pictures.drawNumber(d.painter, room, d.format.type.picture)
                          : kept ? m_pictures.drawKept(d.painter, room, name, *kept)
                                 : m_pictures.drawFile(d.painter, room, name);
     if (isDrawn) return;
@@ -308,11 +308,11 @@ void CellPainter::drawPicture(const Drawing& d) const {
 
 // Solid lines are filled: strokes leave gaps where they meet on screens that are scaled by
 // fractions.
-void CellPainter::drawLine(const Drawing& d, const QRect& line, const Look& look) const {
-    const QColor colour = toQt(look.borderColour, d.palette().color(QPalette::Text));
-    const Qt::PenStyle style = penStyle(look.borderStyle);
+void CellPainter::drawLine(const Drawing& d, const QRect& line, const CellFormat& format) const {
+    const QColor colour = toQt(format.borderColour, d.palette().color(QPalette::Text));
+    const Qt::PenStyle style = penStyle(format.borderStyle);
     if (style == Qt::SolidLine) {
-        const int wider = penWidth(look.borderStyle) - 1;
+        const int wider = penWidth(format.borderStyle) - 1;
         d.painter.fillRect(line.adjusted(line.left() > d.rect.left() ? -wider : 0,
                                          line.top() > d.rect.top() ? -wider : 0,
                                          line.right() < d.rect.right() ? wider : 0,
@@ -339,22 +339,22 @@ void CellPainter::drawLines(const Drawing& d) const {
     if (hasRight && !goesOnToTheRight(d)) d.painter.fillRect(right, usual);
 
     const auto lookAt = [&](int col, int row) {
-        return m_grid.isInside(col, row) ? &m_grid.look(col, row) : nullptr;
+        return m_grid.isInside(col, row) ? &m_grid.format(col, row) : nullptr;
     };
-    const Look* beside = lookAt(nextCol, d.cell.row);
-    const Look* below = lookAt(d.cell.col, nextRow);
-    if (hasBorder(d.look, control::borderRight))
-        drawLine(d, right, d.look);
+    const CellFormat* beside = lookAt(nextCol, d.cell.row);
+    const CellFormat* below = lookAt(d.cell.col, nextRow);
+    if (hasBorder(d.format, control::borderRight))
+        drawLine(d, right, d.format);
     else if (beside && hasBorder(*beside, control::borderLeft))
         drawLine(d, right, *beside);
-    if (hasBorder(d.look, control::borderBottom))
-        drawLine(d, bottom, d.look);
+    if (hasBorder(d.format, control::borderBottom))
+        drawLine(d, bottom, d.format);
     else if (below && hasBorder(*below, control::borderTop))
         drawLine(d, bottom, *below);
-    if (d.cell.col == 1 && hasBorder(d.look, control::borderLeft))
-        drawLine(d, QRect(d.rect.topLeft(), d.rect.bottomLeft()), d.look);
-    if (d.cell.row == 1 && hasBorder(d.look, control::borderTop))
-        drawLine(d, QRect(d.rect.topLeft(), d.rect.topRight()), d.look);
+    if (d.cell.col == 1 && hasBorder(d.format, control::borderLeft))
+        drawLine(d, QRect(d.rect.topLeft(), d.rect.bottomLeft()), d.format);
+    if (d.cell.row == 1 && hasBorder(d.format, control::borderTop))
+        drawLine(d, QRect(d.rect.topLeft(), d.rect.topRight()), d.format);
 }
 
 void CellPainter::drawNoteMark(const Drawing& d) const {

@@ -43,10 +43,12 @@ class CellPainter : public QStyledItemDelegate {
     void drawButton(const Drawing& d) const;
     void drawPicture(const Drawing& d) const;
     void drawLines(const Drawing& d) const;
-    void drawLine(const Drawing& d, const QRect& line, const control::Look& look) const;
+    void drawLine(const Drawing& d, const QRect& line, const control::CellFormat& format) const;
     void drawNoteMark(const Drawing& d) const;
 
-    const CellFont& fontOf(const control::Look& look) const { return cellFont(look.font, m_zoom); }
+    const CellFont& fontOf(const control::CellFormat& format) const {
+        return cellFont(format.font, m_zoom);
+    }
     QColor textColour(const Drawing& d, control::CellAddress cell) const;
     struct Reach;
     std::optional<Reach> reachInto(control::CellAddress cell) const;

@@ -16,20 +16,21 @@ constexpr int margin = 3;
 }  // namespace
 
 void drawHeaderCell(QPainter& painter, const QRect& rect, const QString& text,
-                    const control::Look& look, const QPalette& palette, bool isChosen, int zoom) {
-    QColor background = toQt(look.background, palette.color(QPalette::Button));
+                    const control::CellFormat& format, const QPalette& palette, bool isChosen,
+                    int zoom) {
+    QColor background = toQt(format.background, palette.color(QPalette::Button));
     if (isChosen) background = background.darker(115);
     painter.fillRect(rect, background);
     const QColor lines = palette.color(QPalette::Mid);
     painter.fillRect(QRect(rect.topRight(), rect.bottomRight()), lines);
     painter.fillRect(QRect(rect.bottomLeft(), rect.bottomRight()), lines);
-    painter.setFont(cellFont(look.font, zoom).font);
-    painter.setPen(toQt(look.textColour, palette.color(QPalette::ButtonText)));
-    const Qt::Alignment alignment = look.alignment == 1   ? Qt::AlignLeft
-                                    : look.alignment == 2 ? Qt::AlignRight
-                                                          : Qt::AlignHCenter;
+    painter.setFont(cellFont(format.font, zoom).font);
+    painter.setPen(toQt(format.textColour, palette.color(QPalette::ButtonText)));
+    const Qt::Alignment alignment = format.alignment == 1   ? Qt::AlignLeft
+                                    : format.alignment == 2 ? Qt::AlignRight
+                                                            : Qt::AlignHCenter;
     const QRect inner = rect.adjusted(margin, 0, -margin, -1);
-    const QFontMetrics& metrics = cellFont(look.font, zoom).metrics;
+    const QFontMetrics& metrics = cellFont(format.font, zoom).metrics;
     const bool isLong = metrics.horizontalAdvance(text) > inner.width();
     // Two lines where there is room for them.
     if (isLong && inner.height() < 2 * metrics.lineSpacing())
@@ -95,7 +96,7 @@ void GridHeader::paintSection(QPainter* painter, const QRect& rect, int section)
     painter->setClipRect(rect);
     drawHeaderCell(*painter, whole,
                    isCol ? columnHeaderText(m_grid, anchor) : rowHeaderText(m_grid, anchor),
-                   isCol ? m_grid.look(anchor, headerIndex) : m_grid.look(headerIndex, anchor),
+                   isCol ? m_grid.format(anchor, headerIndex) : m_grid.format(headerIndex, anchor),
                    palette(), isChosen(index), m_zoom);
     painter->restore();
 }

@@ -1,4 +1,4 @@
-// The header row or column of a grid: its texts, looks, spans and sizes are the grid's.
+// The header row or column of a grid: its texts, formats, spans and sizes are the grid's.
 #pragma once
 
 #include <QHeaderView>
@@ -27,4 +27,5 @@ class GridHeader : public QHeaderView {
 
 /// Draws one header cell, the corner too.
 void drawHeaderCell(QPainter& painter, const QRect& rect, const QString& text,
-                    const control::Look& look, const QPalette& palette, bool isChosen, int zoom);
+                    const control::CellFormat& format, const QPalette& palette, bool isChosen,
+                    int zoom);

@@ -56,7 +56,7 @@ int GridModel::columnCount(const QModelIndex& parent) const {
 QVariant GridModel::data(const QModelIndex& index, int role) const {
     if (!index.isValid() || role != Qt::DisplayRole) return {};
     const int col = index.column() + 1, row = index.row() + 1;
-    const control::CellType& type = m_grid.look(col, row).type;
+    const control::CellType& type = m_grid.format(col, row).type;
     if (type.kind == control::CellKind::button) return toQt(type.text);
     std::string buffer;
     return toQt(m_grid.text(col, row, Reading::data, buffer));

@@ -85,14 +85,14 @@ CellAddress lastFilledCell(const Grid& grid) {
 }
 
 bool isOpen(const Grid& grid, CellAddress cell) {
-    const control::Look& look = grid.look(cell.col, cell.row);
-    switch (look.type.kind) {
+    const control::CellFormat& format = grid.format(cell.col, cell.row);
+    switch (format.type.kind) {
         case CellKind::staticText:
         case CellKind::picture:
         case CellKind::pictureHandle:
             return false;
         default:
-            return !look.locked;
+            return !format.locked;
     }
 }
 

@@ -190,7 +190,7 @@ void GridView::drawCorner(QWidget& corner) const {
     QPainter painter(&corner);
     std::string buffer;
     const auto text = grid().text(headerIndex, headerIndex, control::Reading::data, buffer);
-    drawHeaderCell(painter, corner.rect(), toQt(text), grid().look(headerIndex, headerIndex),
+    drawHeaderCell(painter, corner.rect(), toQt(text), grid().format(headerIndex, headerIndex),
                    palette(), false, m_zoom);
 }
 
@@ -210,7 +210,7 @@ QString GridView::refusal() const {
 
 void GridView::refuse(const QString& why) {
     const QRect cell = m_editor.isOpen() ? m_editor.field()->geometry() : rectOf(grid().active());
-    m_bubble->tell(why, cell.translated(viewport()->pos()));
+    m_bubble->showMessage(why, cell.translated(viewport()->pos()));
     emit refused(why);
 }
 

@@ -124,7 +124,7 @@ bool GridView::editorKey(QKeyEvent& key) {
 bool GridView::entersBesides(const QKeyEvent& key) {
     const CellAddress cell = grid().active();
     if (isAlt(key)) {
-        const bool isCombo = grid().look(cell.col, cell.row).type.kind == CellKind::comboBox;
+        const bool isCombo = grid().format(cell.col, cell.row).type.kind == CellKind::comboBox;
         if (isCombo && key.key() == Qt::Key_Down) {
             m_editor.cancel();
             openList(cell);
@@ -262,9 +262,9 @@ bool GridView::run(control::KeyAction action) {
 
 bool GridView::acts(const QKeyEvent& key) {
     const CellAddress cell = *activeCell();
-    const control::Look& look = grid().look(cell.col, cell.row);
-    const bool isPressed = look.type.kind == CellKind::button ||
-                           (look.type.kind == CellKind::checkBox && !isEnter(key));
+    const control::CellFormat& format = grid().format(cell.col, cell.row);
+    const bool isPressed = format.type.kind == CellKind::button ||
+                           (format.type.kind == CellKind::checkBox && !isEnter(key));
     if (isEnter(key)) {
         if (isPressed) return press(cell), true;
         const bool goesOnAnywhere = grid().view().editEnterAction == goesDown;
@@ -274,7 +274,7 @@ bool GridView::acts(const QKeyEvent& key) {
         return goOnByEnter(!isShift(key));
     }
     const bool opens = key.key() == Qt::Key_F4 || (key.key() == Qt::Key_Down && isAlt(key));
-    if (opens && look.type.kind == CellKind::comboBox) {
+    if (opens && format.type.kind == CellKind::comboBox) {
         isOpen(grid(), cell) ? openList(cell) : showWhyClosed(cell);
         return true;
     }
@@ -285,14 +285,14 @@ bool GridView::acts(const QKeyEvent& key) {
             press(cell);
             return true;
         case Qt::Key_F2:
-            if (look.type.kind == CellKind::checkBox || !m_editor.begin()) showWhyClosed(cell);
+            if (format.type.kind == CellKind::checkBox || !m_editor.begin()) showWhyClosed(cell);
             return true;
         case Qt::Key_Delete: {
             const QPointer<GridView> self(this);
             const bool isCleared = m_spread.userClears(chosen());
             if (!isAlive(self)) return true;
             sync();
-            if (!isCleared && !grid().selection() && look.locked) showWhyClosed(cell);
+            if (!isCleared && !grid().selection() && format.locked) showWhyClosed(cell);
             return true;
         }
         case Qt::Key_Backspace:
@@ -308,7 +308,7 @@ bool GridView::acts(const QKeyEvent& key) {
 bool GridView::types(const QKeyEvent& key) {
     if (!isTyped(key)) return false;
     const CellAddress cell = *activeCell();
-    const control::CellType& type = grid().look(cell.col, cell.row).type;
+    const control::CellType& type = grid().format(cell.col, cell.row).type;
     if (type.kind == CellKind::button || type.kind == CellKind::checkBox) return false;
     if (!isOpen(grid(), cell)) {
         showWhyClosed(cell);
@@ -332,7 +332,7 @@ void GridView::inputMethodEvent(QInputMethodEvent* event) {
 
 /// The next item that begins with the letter, from the present one on.
 bool GridView::picksByLetter(CellAddress cell, const QString& letter) {
-    const QStringList items = itemsOf(grid().look(cell.col, cell.row).type);
+    const QStringList items = itemsOf(grid().format(cell.col, cell.row).type);
     const auto now = items.indexOf(m_model.data(indexOf(cell), Qt::DisplayRole).toString());
     for (qsizetype i = 1; i <= items.size(); ++i) {
         const QString& item = items[(now + i + items.size()) % items.size()];
@@ -349,7 +349,7 @@ void GridView::openList(CellAddress cell) {
     const QRect place = rectOf(cell);
     const QRect onScreen(viewport()->mapToGlobal(place.topLeft()), place.size());
     const QPointer<GridView> self(this);
-    ItemList::open(this, onScreen, itemsOf(grid().look(cell.col, cell.row).type),
+    ItemList::open(this, onScreen, itemsOf(grid().format(cell.col, cell.row).type),
                    m_model.data(indexOf(cell), Qt::DisplayRole).toString(),
                    [self, cell](const QString& item) {
                        if (!isAlive(self)) return;

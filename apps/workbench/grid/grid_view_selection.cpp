@@ -92,14 +92,14 @@ void GridView::mousePressEvent(QMouseEvent* event) {
     go(*cell);
     if (!isAlive(self)) return;
     m_anchor = m_head = *cell;
-    const control::Look& look = grid().look(cell->col, cell->row);
-    if (look.type.kind == CellKind::button && !look.locked) {
+    const control::CellFormat& format = grid().format(cell->col, cell->row);
+    if (format.type.kind == CellKind::button && !format.locked) {
         m_painter.setPressed(*cell);
         viewport()->update();
     }
     const bool isOnArrow = comboArrowIn(rectOf(*cell)).contains(event->position().toPoint());
-    const bool opens = isOnArrow || (wasActive && !look.type.editable);
-    if (look.type.kind == CellKind::comboBox && opens && isOpen(grid(), *cell)) {
+    const bool opens = isOnArrow || (wasActive && !format.type.editable);
+    if (format.type.kind == CellKind::comboBox && opens && isOpen(grid(), *cell)) {
         m_isDragging = false;
         openList(*cell);
     }
@@ -117,7 +117,7 @@ void GridView::mouseMoveEvent(QMouseEvent* event) {
     const CellAddress cell =
         anchorOf(grid(), {col < 0 ? grid().cols() : col + 1, row < 0 ? grid().rows() : row + 1});
     if (cell == m_head || !grid().isInside(cell.col, cell.row)) return;
-    if (grid().look(m_pressed.col, m_pressed.row).type.kind == CellKind::button) return;
+    if (grid().format(m_pressed.col, m_pressed.row).type.kind == CellKind::button) return;
     if (!grid().selection()) m_extended = std::nullopt;
     extendTo(cell);
 }
@@ -129,7 +129,7 @@ void GridView::mouseReleaseEvent(QMouseEvent* event) {
     const QPoint point = event->position().toPoint();
     const std::optional<CellAddress> cell = cellAt(point);
     if (!wasDragging || event->button() != Qt::LeftButton || !cell || *cell != m_pressed) return;
-    const CellKind kind = grid().look(cell->col, cell->row).type.kind;
+    const CellKind kind = grid().format(cell->col, cell->row).type.kind;
     if (kind == CellKind::button) press(*cell);
     if (kind == CellKind::checkBox) toggleAt(*cell, point);
 }
@@ -148,7 +148,7 @@ void GridView::toggleAt(CellAddress cell, const QPoint& point) {
 void GridView::mouseDoubleClickEvent(QMouseEvent* event) {
     const std::optional<CellAddress> cell = cellAt(event->position().toPoint());
     if (event->button() != Qt::LeftButton || !cell) return;
-    const CellKind kind = grid().look(cell->col, cell->row).type.kind;
+    const CellKind kind = grid().format(cell->col, cell->row).type.kind;
     // Two quick clicks on a button or a check box are two clicks.
     if (kind == CellKind::button || kind == CellKind::checkBox) return mousePressEvent(event);
     if (!commitEdit()) return;

@@ -120,10 +120,10 @@ void InCellEditor::show(const QString& text, std::pair<int, int> selection) {
 
 void InCellEditor::open() {
     const control::Grid& grid = m_spread.grid();
-    const control::Look& look = grid.look(grid.active().col, grid.active().row);
+    const control::CellFormat& format = grid.format(grid.active().col, grid.active().row);
     m_field = new Field(m_view.viewport(), m_view.palette());
-    m_field->setFont(cellFont(look.font, m_zoom).font);
-    m_field->setReadOnly(look.type.kind == control::CellKind::comboBox && !look.type.editable);
+    m_field->setFont(cellFont(format.font, m_zoom).font);
+    m_field->setReadOnly(format.type.kind == control::CellKind::comboBox && !format.type.editable);
     m_field->installEventFilter(this);
     show(toQt(grid.editText()), grid.editSelection());
     connect(m_field, &QPlainTextEdit::textChanged, this, [this] { take(); });
@@ -155,7 +155,7 @@ void InCellEditor::close() {
 QString InCellEditor::whyNot(const QString& text) const {
     if (QString why = refusalOf(text); !why.isEmpty()) return why;
     const control::Grid& grid = m_spread.grid();
-    const control::CellType& type = grid.look(grid.active().col, grid.active().row).type;
+    const control::CellType& type = grid.format(grid.active().col, grid.active().row).type;
     const bool isFormula = text.startsWith('=') && grid.option(control::Option::userFormulas);
     const bool isLimited = type.kind == control::CellKind::edit && type.maxLength > 0;
     if (isLimited && !isFormula && text.size() > type.maxLength && text.size() > m_kept.size())

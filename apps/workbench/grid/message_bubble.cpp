@@ -23,7 +23,7 @@ MessageBubble::MessageBubble(QWidget* parent) : QLabel(parent) {
     hide();
 }
 
-void MessageBubble::tell(const QString& message, const QRect& cell) {
+void MessageBubble::showMessage(const QString& message, const QRect& cell) {
     setText(message);
     const int room = parentWidget()->width();
     const int line = fontMetrics().horizontalAdvance(message) + 2 * (padding + frameWidth()) + 2;

@@ -8,5 +8,5 @@ class MessageBubble : public QLabel {
   public:
     explicit MessageBubble(QWidget* parent);
     /// Below `cell`, or above where there is no room; in pixels of the parent.
-    void tell(const QString& message, const QRect& cell);
+    void showMessage(const QString& message, const QRect& cell);
 };

@@ -2,7 +2,7 @@
 
 #include "workbench/grid/grid_steps.h"
 #include "workbench/window/dialog_font.h"
-#include "workbench/window/say.h"
+#include "workbench/window/ui_text.h"
 
 using control::CellKind;
 using control::CellType;
@@ -23,17 +23,17 @@ enum Words {
 };
 
 QString rangeOf(const CellType& type) {
-    return say(isOutOfRange)
+    return uiText(isOutOfRange)
         .arg(QString::number(type.least, 'g', 15), QString::number(type.most, 'g', 15));
 }
 
 }  // namespace
 
 QString whyClosed(const control::Grid& grid, int col, int row) {
-    if (grid.look(col, row).locked) return say(isLocked);
-    const CellKind kind = grid.look(col, row).type.kind;
+    if (grid.format(col, row).locked) return uiText(isLocked);
+    const CellKind kind = grid.format(col, row).type.kind;
     const bool isTyped = isOpen(grid, {col, row}) && kind != CellKind::button;
-    return isTyped ? QString() : say(isNotTyped);
+    return isTyped ? QString() : uiText(isNotTyped);
 }
 
 QString whyRefused(const control::Grid& grid, int col, int row, std::string_view typed) {
@@ -41,28 +41,28 @@ QString whyRefused(const control::Grid& grid, int col, int row, std::string_view
     if (typed.size() > 1 && typed[0] == '=' && grid.option(control::Option::userFormulas)) {
         formula::ParseError error;
         if (!formula::parse(typed.substr(1), grid.sheet().parseSettings(col, row), error))
-            return say(isNoFormula).arg(toQt(error.message));
+            return uiText(isNoFormula).arg(toQt(error.message));
     }
-    const CellType& type = grid.look(col, row).type;
+    const CellType& type = grid.format(col, row).type;
     switch (type.kind) {
         case CellKind::edit:
             return whyTooLong(type.maxLength);
         case CellKind::comboBox:
-            return say(isNotListed).arg(toQt(typed));
+            return uiText(isNotListed).arg(toQt(typed));
         case CellKind::checkBox:
-            return say(isNoCheck);
+            return uiText(isNoCheck);
         default: {
             bool isNumber = false;
             toQt(typed).toDouble(&isNumber);
-            return isNumber ? rangeOf(type) : say(isNoNumber).arg(toQt(typed));
+            return isNumber ? rangeOf(type) : uiText(isNoNumber).arg(toQt(typed));
         }
     }
 }
 
 QString whyTooLong(int maxLength) {
-    return maxLength == 1 ? say(isTooLongForOne) : say(isTooLong).arg(maxLength);
+    return maxLength == 1 ? uiText(isTooLongForOne) : uiText(isTooLong).arg(maxLength);
 }
 
 QString whySomeRefused() {
-    return say(someRefused);
+    return uiText(someRefused);
 }

@@ -1,6 +1,6 @@
 #include "workbench/macro/kind_words.h"
 
-#include "workbench/window/say.h"
+#include "workbench/window/ui_text.h"
 
 namespace {
 
@@ -41,7 +41,8 @@ int textOf(TwMapType kind) {
 }  // namespace
 
 QString kindWord(TwMapType kind) {
-    if (isCutKind(kind)) return say(cutText).arg(say(firstOffsetText + cutOffsetTypeOf(kind)));
+    if (isCutKind(kind))
+        return uiText(cutText).arg(uiText(firstOffsetText + cutOffsetTypeOf(kind)));
     const int text = textOf(kind);
-    return text == 0 ? QString() : say(text);
+    return text == 0 ? QString() : uiText(text);
 }

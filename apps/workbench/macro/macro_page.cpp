@@ -14,7 +14,7 @@
 #include "workbench/macro/kind_words.h"
 #include "workbench/run/calculation_view.h"
 #include "workbench/window/dialog_font.h"
-#include "workbench/window/say.h"
+#include "workbench/window/ui_text.h"
 #include "workbench/words/workbench_words.h"
 
 namespace {
@@ -37,7 +37,7 @@ MacroPage::MacroPage(std::unique_ptr<runs::MacroRun> macro, QWidget* parent)
     m_message->hide();
     m_objects = new QTableWidget(0, objectColumns);
     m_objects->setObjectName("macroObjects");
-    m_objects->setHorizontalHeaderLabels({say(wordObject), say(wordKind), say(wordValue)});
+    m_objects->setHorizontalHeaderLabels({uiText(wordObject), uiText(wordKind), uiText(wordValue)});
     m_objects->verticalHeader()->hide();
     m_objects->verticalHeader()->setDefaultSectionSize(22);
     m_objects->setEditTriggers(QAbstractItemView::NoEditTriggers);
@@ -68,11 +68,11 @@ QWidget* MacroPage::makeHeading() {
     font.setBold(true);
     name->setFont(font);
     layout->addWidget(name, 1);
-    auto* attach = new QPushButton(say(wordMap));
+    auto* attach = new QPushButton(uiText(wordMap));
     attach->setObjectName("attachStandards");
     connect(attach, &QPushButton::clicked, this, [this] { attachStandards(); });
     layout->addWidget(attach);
-    m_save = new QPushButton(say(wordSaveMacro));
+    m_save = new QPushButton(uiText(wordSaveMacro));
     m_save->setEnabled(false);
     connect(m_save, &QPushButton::clicked, this, [this] { save(); });
     layout->addWidget(m_save);
@@ -95,12 +95,12 @@ QWidget* MacroPage::makeRunBar() {
             m_model.show(nullptr);
             show({}, false);
         });
-    auto* run = new QPushButton(say(wordRun));
+    auto* run = new QPushButton(uiText(wordRun));
     run->setObjectName("runOnMacro");
     connect(run, &QPushButton::clicked, this, [this] { this->run(); });
-    layout->addWidget(new QLabel(say(wordStandard)));
+    layout->addWidget(new QLabel(uiText(wordStandard)));
     layout->addWidget(m_standard);
-    layout->addWidget(new QLabel(say(wordMapsTo)));
+    layout->addWidget(new QLabel(uiText(wordMapsTo)));
     layout->addWidget(m_key, 1);
     layout->addWidget(run);
     return bar;
@@ -194,7 +194,7 @@ void MacroPage::showReport() {
             if (!line.empty()) lines += toQt(line);
     lines.removeDuplicates();
     const bool isWell = lines.isEmpty() && m_report.allWell();
-    show(isWell ? say(wordAllWell) : lines.join("\n"), !isWell);
+    show(isWell ? uiText(wordAllWell) : lines.join("\n"), !isWell);
 }
 
 void MacroPage::show(const QString& text, bool isFailure) {
@@ -223,7 +223,7 @@ bool MacroPage::mayWriteUnread() const {
     if (m_report.unreadInputs.empty()) return true;
     QStringList inputs;
     for (const std::string& input : m_report.unreadInputs) inputs += toQt(input);
-    const std::string asked = fromQt(say(wordWriteUnread).arg(inputs.join("\n")));
+    const std::string asked = fromQt(uiText(wordWriteUnread).arg(inputs.join("\n")));
     return showMessage({"Vormant", asked, MessageIcon::exclamation, MessageButtons::yesNo}) ==
            IDYES;
 }

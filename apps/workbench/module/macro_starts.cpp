@@ -47,7 +47,7 @@ Outcome destroyAllMacros(ModuleData& data) {
 namespace {
 
 /// What the dialog cannot know: how much a module may hold.
-void tellUnlessOk(ErrorStatus status, const Vor_String& module) {
+void showUnlessOk(ErrorStatus status, const Vor_String& module) {
     constexpr int keptText = 26932;
     if (status == Acad::eOk) return;
     Vor_String message = dialString(keptText);
@@ -69,7 +69,7 @@ void setConstraints(Vor_Module& module, const EditConstrData& confirmed) {
     Vor_Array<ConstraintVariable> variables;
     for (const EditConstraint& each : confirmed.constraints)
         variables.append(variableOf(each, module));
-    tellUnlessOk(module.setVariables(std::move(variables)), module.name());
+    showUnlessOk(module.setVariables(std::move(variables)), module.name());
 }
 
 /// The one that was edited last, else the first that has any, else the first; null without modules.
@@ -144,7 +144,7 @@ void setCuts(Vor_Macro& macro, const DlgMacroCutsData& edited) {
         for (const MacroCut& each : edited.cuts)
             if (each.moduleName.equal(name)) cuts.append(each.cut);
         if (Vor_Module* module = macro.findModuleWrite(name))
-            tellUnlessOk(module->setCuts(std::move(cuts)), name);
+            showUnlessOk(module->setCuts(std::move(cuts)), name);
     }
 }
 

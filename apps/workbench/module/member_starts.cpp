@@ -196,16 +196,16 @@ Outcome bracing(ModuleData& data) {
 
 // --- choices ------------------------------------------------------------------------------------
 
-Outcome lookUp(ModuleData& data) {
+Outcome formatUp(ModuleData& data) {
     if (!hasSections()) return Outcome::noSections;
-    auto& edited = data.objects.lookUp;
+    auto& edited = data.objects.formatUp;
     if (!edited) {
         edited.emplace();
         edited->prompt = dialString(sectionWord);
         edited->names = ModuleData::sections(data.member().sectionName.str().substr(0, 3));
         edited->chosen = 0;
     }
-    return changedIf(StartDlgLookUp(*edited));
+    return changedIf(StartDlgFormatUp(*edited));
 }
 
 Outcome selectImage(ModuleData& data) {

@@ -11,55 +11,55 @@ constexpr int milliseconds = 10;
 
 }  // namespace
 
-OpenMacros::OpenMacros(Taker taker) : m_taker(std::move(taker)) {
-    m_look.setInterval(milliseconds);
-    m_look.callOnTimeout([this] { look(); });
+OpenMacros::OpenMacros(OnClosed onClosed) : m_onClosed(std::move(onClosed)) {
+    m_format.setInterval(milliseconds);
+    m_format.callOnTimeout([this] { format(); });
 }
 
 bool OpenMacros::open(const Vor_String& path, const MacroData& data) {
-    look();
+    format();
     int slot = 0;
     MacroData given = data;
     if (!StartDlgMacroModeless(true, given, slot)) return false;
     m_open.push_back({slot, path, data, data});
-    m_look.start();
+    m_format.start();
     return true;
 }
 
-void OpenMacros::look() {
+void OpenMacros::format() {
     std::vector<Entry> gone;
     std::erase_if(m_open, [&](Entry& each) {
         if (GetDlgMacroData(each.slot, each.seen)) return false;
         if (!(each.seen == each.before)) gone.push_back(each);
         return true;
     });
-    if (m_open.empty()) m_look.stop();
-    for (const Entry& each : gone) m_taker(each.path, each.seen);
+    if (m_open.empty()) m_format.stop();
+    for (const Entry& each : gone) m_onClosed(each.path, each.seen);
 }
 
 bool OpenMacros::endLast() {
-    look();
+    format();
     const bool isEnded = !m_open.empty() && EndDlgMacroModeless(m_open.back().slot);
-    look();
+    format();
     return isEnded;
 }
 
 bool OpenMacros::endAll() {
     if (count() == 0) return false;
     DestroyAllMacroDlgs();
-    look();
+    format();
     return true;
 }
 
 bool OpenMacros::takeLast() {
-    look();
+    format();
     if (m_open.empty()) return false;
-    m_taker(m_open.back().path, m_open.back().seen);
+    m_onClosed(m_open.back().path, m_open.back().seen);
     m_open.back().before = m_open.back().seen;
     return true;
 }
 
 int OpenMacros::count() {
-    look();
+    format();
     return static_cast<int>(m_open.size());
 }

@@ -12,8 +12,8 @@
 class OpenMacros {
   public:
     /// Hears the data of a dialog in which something was changed.
-    using Taker = std::function<void(const Vor_String& path, const MacroData& data)>;
-    explicit OpenMacros(Taker taker);
+    using OnClosed = std::function<void(const Vor_String& path, const MacroData& data)>;
+    explicit OpenMacros(OnClosed onClosed);
 
     /// False when the dialog cannot be made. `path` is that of the macro's file.
     bool open(const Vor_String& path, const MacroData& data);
@@ -32,9 +32,9 @@ class OpenMacros {
         MacroData before;
         MacroData seen;
     };
-    void look();
+    void format();
 
-    Taker m_taker;
+    OnClosed m_onClosed;
     std::vector<Entry> m_open;
-    QTimer m_look;
+    QTimer m_format;
 };

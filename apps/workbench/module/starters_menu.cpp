@@ -7,7 +7,7 @@
 #include "platform/host/host.h"
 #include "workbench/module/starts.h"
 #include "workbench/window/dialog_font.h"
-#include "workbench/window/say.h"
+#include "workbench/window/ui_text.h"
 
 namespace {
 
@@ -54,7 +54,7 @@ constexpr Starter all[] = {
     {Group::standards, 24080, starts::attachStandards},
     {Group::standards, 24081, starts::runStandard},
     {Group::standards, 24082, starts::selfTest},
-    {Group::other, 24090, starts::lookUp},
+    {Group::other, 24090, starts::formatUp},
     {Group::other, 24091, starts::selectImage},
 };
 
@@ -66,16 +66,16 @@ std::span<const Starter> starters() {
 
 Outcome start(const Starter& starter, ModuleData& data) {
     const Outcome outcome = starter.start(data);
-    acutPrint(fromQt(sayTitle(starter.title)) + ": " +
+    acutPrint(fromQt(uiTitle(starter.title)) + ": " +
               dialString(firstOutcomeText + static_cast<int>(outcome)).str() + "\n");
     return outcome;
 }
 
 void addStarters(QMenu& menu, ModuleData& data) {
     for (const Group group : groups) {
-        QMenu* sub = menu.addMenu(say(firstGroupText + static_cast<int>(group)));
+        QMenu* sub = menu.addMenu(uiText(firstGroupText + static_cast<int>(group)));
         for (const Starter& each : all)
             if (each.group == group)
-                sub->addAction(say(each.title), sub, [&each, &data] { start(each, data); });
+                sub->addAction(uiText(each.title), sub, [&each, &data] { start(each, data); });
     }
 }

@@ -5,7 +5,7 @@
 
 #include "core_api/text/text_helpers.h"
 #include "workbench/window/dialog_font.h"
-#include "workbench/window/say.h"
+#include "workbench/window/ui_text.h"
 #include "workbench/words/workbench_words.h"
 
 using runs::Calculation;
@@ -42,7 +42,7 @@ void CalculationModel::show(const Calculation* calculation) {
     static const Calculation none;
     const Calculation& shown = calculation ? *calculation : none;
     if (!m_roots.empty() && takeOver(m_roots, shown)) {
-        tellChanged({});
+        notifyChanged({});
         return;
     }
     beginResetModel();
@@ -50,11 +50,11 @@ void CalculationModel::show(const Calculation* calculation) {
     endResetModel();
 }
 
-void CalculationModel::tellChanged(const QModelIndex& parent) {
+void CalculationModel::notifyChanged(const QModelIndex& parent) {
     const int rows = rowCount(parent);
     if (rows == 0) return;
     emit dataChanged(index(0, 0, parent), index(rows - 1, columns - 1, parent));
-    for (int row = 0; row < rows; ++row) tellChanged(index(row, 0, parent));
+    for (int row = 0; row < rows; ++row) notifyChanged(index(row, 0, parent));
 }
 
 const CalculationLine* CalculationModel::line(const QModelIndex& index) const {
@@ -90,7 +90,7 @@ QString textOf(const CalculationLine& line, int column) {
         case CalculationModel::numbersColumn:
             return toQt(line.numbers == line.symbols ? std::string() : line.numbers);
         case CalculationModel::resultColumn:
-            if (!line.ok) return say(wordFailed);
+            if (!line.ok) return uiText(wordFailed);
             return toQt(runs::shownValue(line.result, line.unit));
         default:
             return shownMessage(line.ok || line.message.empty() ? line.rule : line.message);
@@ -127,5 +127,5 @@ QVariant CalculationModel::data(const QModelIndex& index, int role) const {
 QVariant CalculationModel::headerData(int section, Qt::Orientation orientation, int role) const {
     if (orientation != Qt::Horizontal || role != Qt::DisplayRole) return {};
     constexpr int words[columns] = {wordCell, wordEquation, wordValue, wordWithNumbers, wordRule};
-    return section >= 0 && section < columns ? say(words[section]) : QString();
+    return section >= 0 && section < columns ? uiText(words[section]) : QString();
 }

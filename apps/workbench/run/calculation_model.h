@@ -37,7 +37,7 @@ class CalculationModel : public QAbstractItemModel {
     static Node* nodeOf(const QModelIndex& index) {
         return static_cast<Node*>(index.internalPointer());
     }
-    void tellChanged(const QModelIndex& parent);
+    void notifyChanged(const QModelIndex& parent);
 
     std::vector<std::unique_ptr<Node>> m_roots;
 };

@@ -20,9 +20,9 @@ std::vector<std::pair<std::string, std::string>> exampleValues(const Vor_String&
     if (!source) return {};
     cli::CsvReader reader(*source);
     std::vector<std::string_view> fields;
-    if (reader.next(fields) != cli::CsvReader::Got::record) return {};
+    if (reader.next(fields) != cli::CsvReader::ReadResult::record) return {};
     const std::vector<std::string> headings(fields.begin(), fields.end());
-    if (reader.next(fields) != cli::CsvReader::Got::record) return {};
+    if (reader.next(fields) != cli::CsvReader::ReadResult::record) return {};
     std::vector<std::pair<std::string, std::string>> values;
     for (size_t i = 0; i < headings.size() && i < fields.size(); ++i) {
         const auto name = encodings::fromUtf8(headings[i]);

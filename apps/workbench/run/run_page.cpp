@@ -17,8 +17,8 @@
 #include "workbench/run/section_names.h"
 #include "workbench/run/section_picker.h"
 #include "workbench/window/dialog_font.h"
-#include "workbench/window/say.h"
 #include "workbench/window/typed_text.h"
+#include "workbench/window/ui_text.h"
 #include "workbench/words/workbench_words.h"
 
 namespace {
@@ -81,7 +81,7 @@ void RunPage::follow() {
     Vor_String failure;
     auto session = RunSession::open(m_session->standard().path, failure);
     if (!session) {
-        m_notice = {say(wordStandardUnreadable).arg(toQt(failure))};
+        m_notice = {uiText(wordStandardUnreadable).arg(toQt(failure))};
         return;
     }
     std::map<QString, QString> typed;
@@ -115,8 +115,8 @@ void RunPage::follow() {
         noteText(input->name, *editor, text);
         if (name == focused) editor->setFocus();
     }
-    m_notice = {say(wordStandardReloaded)};
-    if (!gone.isEmpty()) m_notice += say(wordInputsGone).arg(gone.join(", "));
+    m_notice = {uiText(wordStandardReloaded)};
+    if (!gone.isEmpty()) m_notice += uiText(wordInputsGone).arg(gone.join(", "));
 }
 
 QWidget* RunPage::makeHeading() {
@@ -135,11 +135,11 @@ QWidget* RunPage::makeHeading() {
     for (size_t i = 0; i < std::min(title.size(), mostLines); ++i)
         texts->addWidget(quietLabel(title[i]));
     layout->addLayout(texts, 1);
-    auto* openSheet = new QPushButton(say(wordOpenSheet));
+    auto* openSheet = new QPushButton(uiText(wordOpenSheet));
     connect(openSheet, &QPushButton::clicked, this, [this] {
         if (m_sheetOpener) m_sheetOpener(m_session->standard().path);
     });
-    auto* report = new QPushButton(say(wordExportReport));
+    auto* report = new QPushButton(uiText(wordExportReport));
     report->setObjectName("exportReport");
     connect(report, &QPushButton::clicked, this, [this] { askForExport(); });
     layout->addWidget(openSheet, 0, Qt::AlignTop);
@@ -161,7 +161,7 @@ QWidget* RunPage::makeForm() {
         grid->addWidget(editor, row, 1);
         if (RunSession::namesSection(*input)) {
             auto* pick = new QPushButton("…");
-            pick->setToolTip(say(wordChooseSection));
+            pick->setToolTip(uiText(wordChooseSection));
             pick->setFixedWidth(28);
             const QString name = toQt(input->name);
             connect(pick, &QPushButton::clicked, this, [this, name] { pickSection(name); });
@@ -206,7 +206,8 @@ QWidget* RunPage::makeResults() {
     const auto outputs = m_session->outputs();
     m_results = new QTableWidget(static_cast<int>(outputs.size()), resultColumns);
     m_results->setObjectName("results");
-    m_results->setHorizontalHeaderLabels({say(wordResults), say(wordValue), say(wordMeaning)});
+    m_results->setHorizontalHeaderLabels(
+        {uiText(wordResults), uiText(wordValue), uiText(wordMeaning)});
     m_results->verticalHeader()->hide();
     m_results->setEditTriggers(QAbstractItemView::NoEditTriggers);
     m_results->setSelectionBehavior(QAbstractItemView::SelectRows);
@@ -328,7 +329,7 @@ void RunPage::pickSection(const QString& input) {
 
 void RunPage::askForExport() {
     const QString name = toQt(removeExtension(getFileName(m_session->standard().path)));
-    const QString path = QFileDialog::getSaveFileName(this, say(wordExportReport), name + ".pdf",
+    const QString path = QFileDialog::getSaveFileName(this, uiText(wordExportReport), name + ".pdf",
                                                       "PDF (*.pdf);;HTML (*.html)");
     if (!path.isEmpty()) exportReport(path, m_author);
 }

@@ -9,11 +9,11 @@
 #include "core_api/sections/section_tables.h"
 #include "workbench/window/dialog_buttons.h"
 #include "workbench/window/dialog_font.h"
-#include "workbench/window/say.h"
+#include "workbench/window/ui_text.h"
 #include "workbench/words/workbench_words.h"
 
 SectionPicker::SectionPicker(const QString& present, QWidget* parent) : QDialog(parent) {
-    setWindowTitle(say(wordChooseSection));
+    setWindowTitle(uiText(wordChooseSection));
     resize(640, 420);
     m_tables = new QListWidget;
     m_tables->setObjectName("sectionTables");
@@ -44,7 +44,7 @@ void SectionPicker::showTable(int index) {
     m_sizes->setRowCount(0);
     const SectionTable* table = gSectionTables.table(index);
     if (!table) return;
-    QStringList header{say(wordSize)};
+    QStringList header{uiText(wordSize)};
     for (const Vor_String& column : table->valueColumns()) header += toQt(column);
     m_sizes->setColumnCount(static_cast<int>(header.size()));
     m_sizes->setHorizontalHeaderLabels(header);

@@ -11,7 +11,7 @@
 #include "core_api/texts/texts.h"
 #include "platform/paths.h"
 #include "workbench/window/dialog_font.h"
-#include "workbench/window/say.h"
+#include "workbench/window/ui_text.h"
 #include "workbench/words/workbench_words.h"
 
 namespace {
@@ -91,7 +91,7 @@ QWidget* TablePage::makeHeading(const Vor_String& path) {
     file->setToolTip(shown(path));
     file->setTextInteractionFlags(Qt::TextSelectableByMouse);
     line->addWidget(file, 1);
-    m_notOfLibrary = new QLabel(say(wordOnlyToLookAt));
+    m_notOfLibrary = new QLabel(uiText(wordOnlyToLookAt));
     m_notOfLibrary->setStyleSheet("color: #606060");
     line->addWidget(m_notOfLibrary);
     const auto add = [&](int word, std::function<void()> Commands::*command) {

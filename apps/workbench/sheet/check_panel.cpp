@@ -8,7 +8,7 @@
 #include "standards/check/standards_check.h"
 #include "workbench/sheet/sheet_words.h"
 #include "workbench/window/dialog_font.h"
-#include "workbench/window/say.h"
+#include "workbench/window/ui_text.h"
 
 namespace {
 

@@ -6,7 +6,7 @@
 
 #include "core_api/texts/sheet_text_numbers.h"
 #include "workbench/sheet/cell_reference.h"
-#include "workbench/sheet/say.h"
+#include "workbench/sheet/ui_text.h"
 #include "workbench/window/typed_text.h"
 
 FindBar::FindBar(SheetSpread& spread, std::function<void()> changed, std::function<void()> closed,
@@ -21,7 +21,7 @@ FindBar::FindBar(SheetSpread& spread, std::function<void()> changed, std::functi
     auto* layout = new QGridLayout(this);
     layout->setContentsMargins(6, 4, 6, 4);
     const auto label = [&](int number, QLineEdit* field, int row) {
-        auto* made = new QLabel(say(number));
+        auto* made = new QLabel(uiText(number));
         made->setBuddy(field);
         layout->addWidget(made, row, 0);
         layout->addWidget(field, row, 1);
@@ -29,7 +29,7 @@ FindBar::FindBar(SheetSpread& spread, std::function<void()> changed, std::functi
     label(sayFindWhat, m_wanted, 0);
     label(sayReplaceWith, m_replacement, 1);
     const auto button = [&](int number, int row, int col, const std::function<void()>& action) {
-        auto* made = new QPushButton(say(number));
+        auto* made = new QPushButton(uiText(number));
         connect(made, &QPushButton::clicked, this, action);
         layout->addWidget(made, row, col);
         m_tabOrder += made;
@@ -73,8 +73,8 @@ bool FindBar::focusNextPrevChild(bool next) {
     return true;
 }
 
-void FindBar::tell(int number, const QString& about) {
-    m_message->setText(number == 0 ? QString() : say(number).arg(about));
+void FindBar::showMessage(int number, const QString& about) {
+    m_message->setText(number == 0 ? QString() : uiText(number).arg(about));
 }
 
 // Nothing, with the reason told, for what a sheet cannot hold.
@@ -93,10 +93,10 @@ bool FindBar::findNext() {
     int foundCol = 0, foundRow = 0;
     const bool isAhead = m_spread.findNext(*text, true, col + 1, row, foundCol, foundRow);
     if (!isAhead && !m_spread.findNext(*text, true, 1, 1, foundCol, foundRow)) {
-        tell(sayNotFound, m_wanted->text());
+        showMessage(sayNotFound, m_wanted->text());
         return false;
     }
-    isAhead ? tell(0) : m_message->setText(say(sayStartedAgain));
+    isAhead ? showMessage(0) : m_message->setText(uiText(sayStartedAgain));
     m_spread.setActiveCell(foundCol, foundRow);
     m_changed();
     return true;
@@ -109,7 +109,7 @@ bool FindBar::holds(control::CellAddress cell, const std::string& text) const {
 
 // A formula stays: its result is what was found, not its text.
 bool FindBar::replaceAt(control::CellAddress cell, const std::string& from, const std::string& to) {
-    if (m_spread.grid().look(cell.col, cell.row).locked) return false;
+    if (m_spread.grid().format(cell.col, cell.row).locked) return false;
     if (!m_spread.grid().text(cell.col, cell.row, control::Reading::formula).empty()) return false;
     return m_spread.replaceInCell(cell.col, cell.row, from, to);
 }
@@ -142,7 +142,7 @@ int FindBar::replaceAll() {
         }
     }
     constexpr int sayOneCellChanged = 26010;
-    m_message->setText(count == 1 ? say(sayOneCellChanged) : say(sayCellsChanged).arg(count));
+    m_message->setText(count == 1 ? uiText(sayOneCellChanged) : uiText(sayCellsChanged).arg(count));
     m_changed();
     return count;
 }

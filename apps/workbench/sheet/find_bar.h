@@ -37,7 +37,7 @@ class FindBar : public QWidget {
     std::optional<std::string> textOf(QLineEdit& field);
     bool holds(control::CellAddress cell, const std::string& text) const;
     bool replaceAt(control::CellAddress cell, const std::string& from, const std::string& to);
-    void tell(int word, const QString& about = {});
+    void showMessage(int word, const QString& about = {});
 
     SheetSpread& m_spread;
     std::function<void()> m_changed;

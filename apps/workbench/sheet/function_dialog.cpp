@@ -6,7 +6,7 @@
 #include <set>
 
 #include "spread/editor/formula_help.h"
-#include "workbench/sheet/say.h"
+#include "workbench/sheet/ui_text.h"
 #include "workbench/window/dialog_buttons.h"
 #include "workbench/words/workbench_words.h"
 
@@ -17,16 +17,16 @@ FunctionDialog::FunctionDialog(QWidget* parent)
       m_names(new QListWidget),
       m_syntax(new QLabel),
       m_summary(new QLabel) {
-    setWindowTitle(sayTitle(sayFunctions));
+    setWindowTitle(uiTitle(sayFunctions));
     resize(460, 460);
-    m_search->setPlaceholderText(say(wordSearch));
+    m_search->setPlaceholderText(uiText(wordSearch));
     m_search->setClearButtonEnabled(true);
     m_search->installEventFilter(this);
-    m_family->addItem(say(sayAllFamilies), 0);
+    m_family->addItem(uiText(sayAllFamilies), 0);
     std::set<int> families;
     for (const editor::FunctionHelp& function : editor::functionList())
         families.insert(function.family);
-    for (const int family : families) m_family->addItem(say(family), family);
+    for (const int family : families) m_family->addItem(uiText(family), family);
     QFont bold = font();
     bold.setBold(true);
     m_syntax->setFont(bold);
@@ -35,7 +35,7 @@ FunctionDialog::FunctionDialog(QWidget* parent)
     m_summary->setTextFormat(Qt::PlainText);
     m_summary->setWordWrap(true);
     m_summary->setMinimumHeight(2 * fontMetrics().lineSpacing());
-    auto* buttons = dialogButtons(*this, say(sayInsertIt));
+    auto* buttons = dialogButtons(*this, uiText(sayInsertIt));
     auto* layout = new QVBoxLayout(this);
     for (QWidget* widget :
          std::initializer_list<QWidget*>{m_search, m_family, m_names, m_syntax, m_summary, buttons})

@@ -33,12 +33,12 @@ class PagePainter {
             if (cell.picture.empty() && !cell.text.empty()) drawText(cell);
     }
     void drawBorders(const PrintedCell& cell) {
-        if (cell.look.borderStyle == 0) return;
+        if (cell.format.borderStyle == 0) return;
         const QRectF place = onPaper(cell.place);
         const auto has = [&](control::BorderSide side) {
-            return (cell.look.borderSides & side) != 0;
+            return (cell.format.borderSides & side) != 0;
         };
-        m_painter.setPen(QPen(toQt(cell.look.borderColour, Qt::black), frameLine * m_dots));
+        m_painter.setPen(QPen(toQt(cell.format.borderColour, Qt::black), frameLine * m_dots));
         if (has(control::borderLeft)) m_painter.drawLine(place.topLeft(), place.bottomLeft());
         if (has(control::borderRight)) m_painter.drawLine(place.topRight(), place.bottomRight());
         if (has(control::borderTop)) m_painter.drawLine(place.topLeft(), place.topRight());
@@ -55,7 +55,7 @@ class PagePainter {
 
   private:
     QFont fontOf(const PrintedCell& cell) const {
-        QFont font = cellFont(cell.look.font).font;
+        QFont font = cellFont(cell.format.font).font;
         font.setPixelSize(std::max(qRound(font.pixelSize() * cell.pixel * m_dots), 1));
         return font;
     }
@@ -85,12 +85,12 @@ class PagePainter {
     }
     void drawGround(const PrintedCell& cell, bool hasLines) {
         const QRectF place = onPaper(cell.place);
-        const QColor background =
-            toQt(cell.look.background, cell.isHeading ? QColor(235, 235, 235) : QColor(Qt::white));
+        const QColor background = toQt(cell.format.background,
+                                       cell.isHeading ? QColor(235, 235, 235) : QColor(Qt::white));
         if (background != Qt::white) m_painter.fillRect(place, background);
         // Below the lines, as its paper would hide the one to the row above.
         if (!cell.picture.empty()) drawPicture(cell, place);
-        if (cell.look.type.kind == control::CellKind::pictureHandle) drawBitmap(cell, place);
+        if (cell.format.type.kind == control::CellKind::pictureHandle) drawBitmap(cell, place);
         if (!hasLines && !cell.isHeading) return;
         const bool hasLeft = !hasTextAt(place.left(), place.top());
         const bool hasRight = !hasTextAt(place.right(), place.top());
@@ -123,12 +123,12 @@ class PagePainter {
         const QRectF inner = place.adjusted(beside, 0, -beside, 0);
         const QString text = shownText(cell, metrics, inner.width(), place.width());
         const bool isTall = text.contains('\n') && metrics.size(0, text).height() > inner.height();
-        const Qt::Alignment across = reachesOver(cell)          ? Qt::AlignLeft
-                                     : cell.look.alignment == 2 ? Qt::AlignRight
-                                     : cell.look.alignment == 3 ? Qt::AlignHCenter
-                                                                : Qt::AlignLeft;
+        const Qt::Alignment across = reachesOver(cell)            ? Qt::AlignLeft
+                                     : cell.format.alignment == 2 ? Qt::AlignRight
+                                     : cell.format.alignment == 3 ? Qt::AlignHCenter
+                                                                  : Qt::AlignLeft;
         m_painter.setFont(fontOf(cell));
-        m_painter.setPen(toQt(cell.look.textColour, Qt::black));
+        m_painter.setPen(toQt(cell.format.textColour, Qt::black));
         m_painter.save();
         m_painter.setClipRect(room);
         const Qt::Alignment alignment = across | (isTall ? Qt::AlignTop : Qt::AlignVCenter);
@@ -138,8 +138,8 @@ class PagePainter {
     }
     void drawPicture(const PrintedCell& cell, const QRectF& place) {
         std::string error;
-        const auto bytes = cell.keptPicture ? std::optional(*cell.keptPicture)
-                                            : files::readWhole(cell.picture, error);
+        const auto bytes = cell.embeddedImage ? std::optional(*cell.embeddedImage)
+                                              : files::readWhole(cell.picture, error);
         const QImage image = bytes ? imageOfFile(*bytes) : QImage();
         if (image.isNull()) return;
         // As large as on the screen, unless its cell has less room.
@@ -156,7 +156,7 @@ class PagePainter {
         m_painter.translate(place.topLeft());
         m_painter.scale(pixel, pixel);
         const QSize room = (place.size() / pixel).toSize();
-        m_pictures.drawNumber(m_painter, QRect(QPoint(), room), cell.look.type.picture);
+        m_pictures.drawNumber(m_painter, QRect(QPoint(), room), cell.format.type.picture);
         m_painter.restore();
     }
 

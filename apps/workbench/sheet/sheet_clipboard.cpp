@@ -35,7 +35,7 @@ bool SheetClipboard::paste(SheetSpread& to, editor::PasteWhat what, QString& why
     if (isCutHere && to.grid().copyText(m_clip->source()) == m_clip->text())
         return to.editor().pasteCut(*m_clip, target.col1, target.row1);
     if (isOwn) return to.editor().paste(*m_clip, target, what);
-    if (text.isEmpty() || what == editor::PasteWhat::looks) return true;
+    if (text.isEmpty() || what == editor::PasteWhat::formats) return true;
     why = refusalOf(text);
     return why.isEmpty() && to.editor().pasteText(fromQt(text), target);
 }

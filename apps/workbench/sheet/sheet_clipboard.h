@@ -1,4 +1,4 @@
-// What was copied or cut in a sheet, with formulas and looks, for as long as the desktop's
+// What was copied or cut in a sheet, with formulas and formats, for as long as the desktop's
 // clipboard holds its text: other programs take and leave texts there.
 #pragma once
 

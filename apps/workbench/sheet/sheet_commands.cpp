@@ -3,8 +3,8 @@
 #include <QCursor>
 
 #include "workbench/sheet/function_dialog.h"
-#include "workbench/sheet/say.h"
 #include "workbench/sheet/sheet_page.h"
+#include "workbench/sheet/ui_text.h"
 
 SheetCommands::SheetCommands(SheetPage& page)
     : QObject(&page), m_page(page), m_toolBar(new QToolBar(&page)) {
@@ -43,13 +43,13 @@ SheetCommands::SheetCommands(SheetPage& page)
 SheetCommands::~SheetCommands() = default;
 
 QMenu* SheetCommands::addMenu(int word) {
-    m_menus += new QMenu(say(word), &m_page);
+    m_menus += new QMenu(uiText(word), &m_page);
     return m_menus.back();
 }
 
 // Shortcuts belong to the page: several pages have the same.
 QAction* SheetCommands::add(QMenu& menu, int word, const QKeySequence& keys, Do action) {
-    auto* made = new QAction(say(word), this);
+    auto* made = new QAction(uiText(word), this);
     made->setShortcut(keys);
     made->setShortcutContext(Qt::WidgetWithChildrenShortcut);
     connect(made, &QAction::triggered, this, std::move(action));
@@ -68,16 +68,16 @@ QAction* SheetCommands::addStep(QMenu& menu, int word, const QKeySequence& keys,
 }
 
 QAction* SheetCommands::addSwitch(QMenu& menu, int word, const QKeySequence& keys,
-                                  std::function<bool(const control::Look&)> isOn,
+                                  std::function<bool(const control::CellFormat&)> isOn,
                                   std::function<bool(const control::Block&, bool)> set) {
     QAction* made = addStep(menu, word, keys,
                             [this, isOn, set = std::move(set)](auto&, const control::Block& block) {
                                 const control::Grid& grid = m_page.grid();
-                                return set(block, !isOn(grid.look(block.col1, block.row1)));
+                                return set(block, !isOn(grid.format(block.col1, block.row1)));
                             });
     made->setCheckable(true);
-    m_followers.push_back([made, isOn = std::move(isOn)](const control::Look& look) {
-        made->setChecked(isOn(look));
+    m_followers.push_back([made, isOn = std::move(isOn)](const control::CellFormat& format) {
+        made->setChecked(isOn(format));
     });
     return made;
 }
@@ -94,7 +94,7 @@ void SheetCommands::follow() {
     m_redo->setEnabled(editor.canRedo());
     const auto [col, row] = m_page.grid().active();
     if (!m_page.grid().isInside(col, row)) return;
-    for (const auto& follower : m_followers) follower(m_page.grid().look(col, row));
+    for (const auto& follower : m_followers) follower(m_page.grid().format(col, row));
 }
 
 void SheetCommands::insertFunction() {

@@ -41,7 +41,7 @@ class SheetCommands : public QObject {
     /// A step for the selected cells, after what is being typed was entered.
     QAction* addStep(QMenu& menu, int word, const QKeySequence& keys, Step step);
     QAction* addSwitch(QMenu& menu, int word, const QKeySequence& keys,
-                       std::function<bool(const control::Look&)> isOn,
+                       std::function<bool(const control::CellFormat&)> isOn,
                        std::function<bool(const control::Block&, bool)> set);
     void step(const Step& step);
 
@@ -82,5 +82,5 @@ class SheetCommands : public QObject {
     QAction* m_redo = nullptr;
     QComboBox* m_font = nullptr;
     QSpinBox* m_fontHeight = nullptr;
-    std::vector<std::function<void(const control::Look&)>> m_followers;
+    std::vector<std::function<void(const control::CellFormat&)>> m_followers;
 };

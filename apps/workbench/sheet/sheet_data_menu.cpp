@@ -2,11 +2,11 @@
 #include <QInputDialog>
 
 #include "workbench/sheet/cell_reference.h"
-#include "workbench/sheet/say.h"
 #include "workbench/sheet/sheet_commands.h"
 #include "workbench/sheet/sheet_page.h"
 #include "workbench/sheet/sheet_settings_dialog.h"
 #include "workbench/sheet/sort_dialog.h"
+#include "workbench/sheet/ui_text.h"
 #include "workbench/window/desktop_texts.h"
 #include "workbench/window/typed_text.h"
 
@@ -77,8 +77,9 @@ void SheetCommands::makeDataMenu() {
     add(menu, sayNote, Qt::SHIFT | Qt::Key_F2, [this] { askNote(); });
     menu.addSeparator();
     QAction* check = add(menu, sayCheck, {}, [this] { m_page.check(); });
-    m_followers.push_back(
-        [this, check](const control::Look&) { check->setEnabled(m_page.file().isStandard()); });
+    m_followers.push_back([this, check](const control::CellFormat&) {
+        check->setEnabled(m_page.file().isStandard());
+    });
     add(menu, saySheetSettings, {}, [this] { changeSettings(); });
     menu.addSeparator();
     makeFreeze(menu);
@@ -98,15 +99,15 @@ void SheetCommands::askNote() {
     if (!m_page.commitEdit()) return;
     const auto [col, row] = m_page.grid().active();
     QInputDialog dialog(&m_page);
-    dialog.setWindowTitle(sayTitle(sayNote));
-    dialog.setLabelText(say(sayNoteLabel).arg(blockName(m_page.grid(), {col, row, col, row})));
+    dialog.setWindowTitle(uiTitle(sayNote));
+    dialog.setLabelText(uiText(sayNoteLabel).arg(blockName(m_page.grid(), {col, row, col, row})));
     dialog.setOption(QInputDialog::UsePlainTextEditForTextInput);
     dialog.setOkButtonText(desktopText(DesktopText::ok));
     dialog.setCancelButtonText(desktopText(DesktopText::cancel));
     dialog.setTextValue(toQt(m_page.grid().note(col, row)));
     if (dialog.exec() != QDialog::Accepted) return;
     const QString why = refusalOf(dialog.textValue());
-    if (!why.isEmpty()) return m_page.tell(why, true);
+    if (!why.isEmpty()) return m_page.showMessage(why, true);
     m_page.finish(m_page.editor().setNote(col, row, fromQt(dialog.textValue())));
 }
 

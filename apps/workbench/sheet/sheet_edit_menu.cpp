@@ -1,8 +1,8 @@
 // Undoing, the clipboard, clearing and searching.
-#include "workbench/sheet/say.h"
 #include "workbench/sheet/sheet_clipboard.h"
 #include "workbench/sheet/sheet_commands.h"
 #include "workbench/sheet/sheet_page.h"
+#include "workbench/sheet/ui_text.h"
 
 void SheetCommands::makeEditMenu() {
     QMenu& menu = *addMenu(sayMenuEdit);
@@ -30,7 +30,7 @@ void SheetCommands::makeEditMenu() {
         {sayPaste, Qt::CTRL | Qt::Key_V, What::all},
         {sayPasteValues, Qt::CTRL | Qt::SHIFT | Qt::Key_V, What::values},
         {sayPasteContents, {}, What::contents},
-        {sayPasteLooks, {}, What::looks}};
+        {sayPasteFormats, {}, What::formats}};
     for (const auto& [word, keys, what] : pastes)
         add(menu, word, keys, [this, what = what] { paste(what); });
     menu.addSeparator();
@@ -54,7 +54,7 @@ void SheetCommands::paste(editor::PasteWhat what) {
     QString why;
     const bool isDone = SheetClipboard::shared().paste(m_page.spread(), what, why);
     if (!m_page.finish(isDone || !why.isEmpty())) return;
-    if (!why.isEmpty()) return m_page.tell(why, true);
+    if (!why.isEmpty()) return m_page.showMessage(why, true);
     m_page.finishAt(true);
 }
 

@@ -5,9 +5,9 @@
 #include "exchange/sheet_writing.h"
 #include "platform/files.h"
 #include "platform/window/file_question.h"
-#include "workbench/sheet/say.h"
 #include "workbench/sheet/sheet_file.h"
 #include "workbench/sheet/sheet_printing.h"
+#include "workbench/sheet/ui_text.h"
 #include "workbench/window/machine_path.h"
 
 namespace {
@@ -19,7 +19,7 @@ constexpr ExportFormat formats[] = {
 
 void addExports(QMenu& menu, const std::function<void(const ExportFormat&)>& chosen) {
     for (const ExportFormat& format : formats)
-        menu.addAction(say(format.name) + " (*." + format.extension + ")…",
+        menu.addAction(uiText(format.name) + " (*." + format.extension + ")…",
                        [chosen, &format] { chosen(format); });
 }
 
@@ -27,8 +27,8 @@ std::string askForExport(const ExportFormat& format, const Vor_String& folder,
                          const QString& name) {
     FileQuestion question;
     question.kind = FileQuestion::Kind::save;
-    question.title = fromQt(sayTitle(sayExportAs));
-    question.filterName = fromQt(say(format.name));
+    question.title = fromQt(uiTitle(sayExportAs));
+    question.filterName = fromQt(uiText(format.name));
     question.extension = format.extension;
     question.folder = folder.str();
     question.preset = fromQt(name + "." + format.extension);

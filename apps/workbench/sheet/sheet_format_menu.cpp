@@ -1,19 +1,19 @@
-// Looks and kinds of cells.
+// Formats and kinds of cells.
 #include <QActionGroup>
 #include <QColorDialog>
 #include <QInputDialog>
 
 #include "core_api/texts/sheet_text_numbers.h"
 #include "workbench/grid/cell_painter.h"
-#include "workbench/sheet/say.h"
 #include "workbench/sheet/sheet_commands.h"
 #include "workbench/sheet/sheet_page.h"
+#include "workbench/sheet/ui_text.h"
 #include "workbench/window/desktop_texts.h"
 #include "workbench/window/typed_text.h"
 
 using control::Block;
+using control::CellFormat;
 using control::CellKind;
-using control::Look;
 using editor::SheetEditor;
 
 namespace {
@@ -31,7 +31,9 @@ control::Colour fromQt(const QColor& colour) {
 
 void SheetCommands::makeFormatMenu() {
     QMenu& menu = *addMenu(sayMenuFormat);
-    const auto isBold = [](const Look& look) { return look.font.weight >= boldFrom; };
+    const auto isBold = [](const CellFormat& cellFormat) {
+        return cellFormat.font.weight >= boldFrom;
+    };
     const auto set = [this](bool (SheetEditor::*change)(const Block&, bool)) {
         return [this, change](const Block& block, bool on) {
             return (m_page.editor().*change)(block, on);
@@ -39,11 +41,13 @@ void SheetCommands::makeFormatMenu() {
     };
     addSwitch(menu, sayBold, Qt::CTRL | Qt::Key_B, isBold, set(&SheetEditor::setBold));
     addSwitch(
-        menu, sayItalic, Qt::CTRL | Qt::Key_I, [](const Look& look) { return look.font.italic; },
+        menu, sayItalic, Qt::CTRL | Qt::Key_I,
+        [](const CellFormat& cellFormat) { return cellFormat.font.italic; },
         set(&SheetEditor::setItalic));
     addSwitch(
         menu, sayUnderlined, Qt::CTRL | Qt::Key_U,
-        [](const Look& look) { return look.font.underlined; }, set(&SheetEditor::setUnderlined));
+        [](const CellFormat& cellFormat) { return cellFormat.font.underlined; },
+        set(&SheetEditor::setUnderlined));
     menu.addSeparator();
     makeAlignments(menu);
     menu.addSeparator();
@@ -63,12 +67,12 @@ void SheetCommands::makeFormatMenu() {
     addStep(menu, sayUnmergeCells, {},
             [](SheetEditor& editor, const Block& block) { return editor.unmergeCells(block); });
     addSwitch(
-        menu, sayLock, {}, [](const Look& look) { return look.locked; },
+        menu, sayLock, {}, [](const CellFormat& cellFormat) { return cellFormat.locked; },
         set(&SheetEditor::setLocked));
 }
 
 void SheetCommands::makeAlignments(QMenu& menu) {
-    // In the order of Look::alignment.
+    // In the order of CellFormat::alignment.
     constexpr int words[] = {sayAlignAuto, sayAlignLeft, sayAlignRight, sayAlignCentre};
     auto* group = new QActionGroup(this);
     for (int i = 0; i < 4; ++i) {
@@ -77,14 +81,14 @@ void SheetCommands::makeAlignments(QMenu& menu) {
         });
         made->setCheckable(true);
         group->addAction(made);
-        m_followers.push_back([made, i](const Look& look) {
-            if (look.alignment == i) made->setChecked(true);
+        m_followers.push_back([made, i](const CellFormat& cellFormat) {
+            if (cellFormat.alignment == i) made->setChecked(true);
         });
     }
 }
 
 void SheetCommands::makeBorderMenu(QMenu& format) {
-    QMenu& menu = *format.addMenu(say(sayBorderMenu));
+    QMenu& menu = *format.addMenu(uiText(sayBorderMenu));
     constexpr int all =
         control::borderLeft | control::borderRight | control::borderTop | control::borderBottom;
     constexpr std::tuple<int, int, int> borders[] = {
@@ -101,7 +105,7 @@ void SheetCommands::makeBorderMenu(QMenu& format) {
 }
 
 void SheetCommands::makeKindMenu(QMenu& format) {
-    QMenu& menu = *format.addMenu(say(sayKindMenu));
+    QMenu& menu = *format.addMenu(uiText(sayKindMenu));
     constexpr int usualDecimals = 2;
     const auto typeOf = [](CellKind kind) {
         control::CellType type;
@@ -120,8 +124,8 @@ void SheetCommands::makeKindMenu(QMenu& format) {
                 return editor.setKind(block, type);
             });
         made->setCheckable(true);
-        m_followers.push_back([made, kind = type.kind](const Look& look) {
-            made->setChecked(look.type.kind == kind);
+        m_followers.push_back([made, kind = type.kind](const CellFormat& cellFormat) {
+            made->setChecked(cellFormat.type.kind == kind);
         });
     }
     add(menu, sayKindCombo, {}, [this] { askComboItems(); });
@@ -129,10 +133,11 @@ void SheetCommands::makeKindMenu(QMenu& format) {
 
 void SheetCommands::askColour(bool isText) {
     const auto [col, row] = m_page.grid().active();
-    const Look& look = m_page.grid().look(col, row);
+    const CellFormat& cellFormat = m_page.grid().format(col, row);
     QColorDialog dialog(
-        isText ? toQt(look.textColour, Qt::black) : toQt(look.background, Qt::white), &m_page);
-    dialog.setWindowTitle(sayTitle(isText ? sayTextColour : sayBackground));
+        isText ? toQt(cellFormat.textColour, Qt::black) : toQt(cellFormat.background, Qt::white),
+        &m_page);
+    dialog.setWindowTitle(uiTitle(isText ? sayTextColour : sayBackground));
     dialog.setOption(QColorDialog::DontUseNativeDialog);
     if (dialog.exec() != QDialog::Accepted) return;
     const control::Colour colour = fromQt(dialog.selectedColor());
@@ -144,7 +149,7 @@ void SheetCommands::askColour(bool isText) {
 // A general cell becomes a number cell.
 void SheetCommands::changeDecimals(int by) {
     step([&](SheetEditor& editor, const Block& block) {
-        const control::CellType& type = m_page.grid().look(block.col1, block.row1).type;
+        const control::CellType& type = m_page.grid().format(block.col1, block.row1).type;
         const int decimals =
             std::clamp((type.isNumber() ? type.decimals : 0) + by, 0, mostDecimals);
         return editor.setDecimals(block, decimals);
@@ -153,10 +158,10 @@ void SheetCommands::changeDecimals(int by) {
 
 void SheetCommands::askComboItems() {
     const auto [col, row] = m_page.grid().active();
-    const control::CellType& now = m_page.grid().look(col, row).type;
+    const control::CellType& now = m_page.grid().format(col, row).type;
     QInputDialog dialog(&m_page);
-    dialog.setWindowTitle(sayTitle(sayKindCombo));
-    dialog.setLabelText(say(sayComboItems));
+    dialog.setWindowTitle(uiTitle(sayKindCombo));
+    dialog.setLabelText(uiText(sayComboItems));
     dialog.setOption(QInputDialog::UsePlainTextEditForTextInput);
     dialog.setOkButtonText(desktopText(DesktopText::ok));
     dialog.setCancelButtonText(desktopText(DesktopText::cancel));
@@ -164,7 +169,7 @@ void SheetCommands::askComboItems() {
     if (dialog.exec() != QDialog::Accepted) return;
     const QStringList items = dialog.textValue().split('\n', Qt::SkipEmptyParts);
     if (const QString why = refusalOf(items.join(' ')); !why.isEmpty())
-        return m_page.tell(why, true);
+        return m_page.showMessage(why, true);
     control::CellType type;
     type.kind = CellKind::comboBox;
     type.text = ::fromQt(items.join('\t'));

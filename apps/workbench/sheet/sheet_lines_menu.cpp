@@ -1,9 +1,9 @@
 // Rows and columns: inserting, deleting, moving, hiding and their sizes.
 #include <QInputDialog>
 
-#include "workbench/sheet/say.h"
 #include "workbench/sheet/sheet_commands.h"
 #include "workbench/sheet/sheet_page.h"
+#include "workbench/sheet/ui_text.h"
 #include "workbench/window/desktop_texts.h"
 
 using control::Block;
@@ -94,8 +94,8 @@ void SheetCommands::addRowsAtEnd() {
 void SheetCommands::askSize(bool isRow) {
     const Block block = m_page.spread().chosen();
     QInputDialog dialog(&m_page);
-    dialog.setWindowTitle(sayTitle(isRow ? sayRowHeight : sayColWidth));
-    dialog.setLabelText(say(sayPixels));
+    dialog.setWindowTitle(uiTitle(isRow ? sayRowHeight : sayColWidth));
+    dialog.setLabelText(uiText(sayPixels));
     dialog.setOkButtonText(desktopText(DesktopText::ok));
     dialog.setCancelButtonText(desktopText(DesktopText::cancel));
     // Before the mode: it would take the limits on their way for a bad number and disable OK.

@@ -9,10 +9,10 @@
 #include "platform/window/file_question.h"
 #include "platform/window/message_box.h"
 #include "spread/editor/block_statistics.h"
-#include "workbench/sheet/say.h"
 #include "workbench/sheet/sheet_commands.h"
 #include "workbench/sheet/sheet_export.h"
 #include "workbench/sheet/sheet_printing.h"
+#include "workbench/sheet/ui_text.h"
 #include "workbench/window/machine_path.h"
 #include "workbench/window/typed_text.h"
 
@@ -84,13 +84,13 @@ QWidget* SheetPage::makeStatus() {
 
 void SheetPage::connectParts() {
     spread().setListener([this](const GridNotice&) {
-        tell({});
+        showMessage({});
         follow();
     });
     spread().setMenuOpener([this] { m_commands->openContextMenu(); });
     connect(m_bar, &FormulaBar::wentTo, this, [this](const control::Block& block) { goTo(block); });
     connect(m_bar, &FormulaBar::noSuchPlace, this,
-            [this](const QString& name) { tell(say(sayNoSuchCell).arg(name), true); });
+            [this](const QString& name) { showMessage(uiText(sayNoSuchCell).arg(name), true); });
     connect(m_bar, &FormulaBar::entered, this, [this](const QString& text) { enterFromBar(text); });
     connect(&m_bar->functionButton(), &QToolButton::clicked, this,
             [this] { m_commands->insertFunction(); });
@@ -111,9 +111,9 @@ void SheetPage::follow() {
 
 bool SheetPage::finish(bool isDone) {
     if (isDone)
-        tell({});
+        showMessage({});
     else if (!editor().lastError().empty())
-        tell(toQt(editor().lastError()), true);
+        showMessage(toQt(editor().lastError()), true);
     follow();
     if (m_file->isStandard()) markStandard();
     return isDone;
@@ -135,7 +135,7 @@ void SheetPage::goTo(const control::Block& block) {
     m_view->setFocus();
 }
 
-void SheetPage::tell(const QString& message, bool isFailure) {
+void SheetPage::showMessage(const QString& message, bool isFailure) {
     const QString shown = shownMessage(message);
     m_message->setText(shown);
     m_message->setToolTip(shown);
@@ -148,7 +148,7 @@ void SheetPage::summarise() {
     m_summary->setText(
         found.numbers < 1 || found.filled < 2
             ? QString()
-            : say(saySummary).arg(number(found.sum), number(found.average())).arg(found.filled));
+            : uiText(saySummary).arg(number(found.sum), number(found.average())).arg(found.filled));
 }
 
 void SheetPage::markStandard() {
@@ -160,7 +160,7 @@ void SheetPage::markStandard() {
 void SheetPage::enterFromBar(const QString& text) {
     const auto [col, row] = grid().active();
     if (const QString why = refusalOf(text); !why.isEmpty()) {
-        tell(why, true);
+        showMessage(why, true);
         return;
     }
     finish(spread().userEnters(col, row, fromQt(text)));
@@ -184,8 +184,8 @@ bool SheetPage::saveAs() {
     const Vor_String path(m_file->path());
     FileQuestion question;
     question.kind = FileQuestion::Kind::save;
-    question.title = fromQt(sayTitle(saySaveAs));
-    question.filterName = fromQt(say(saySheetFilter));
+    question.title = fromQt(uiTitle(saySaveAs));
+    question.filterName = fromQt(uiText(saySheetFilter));
     question.extension = m_file->isStandard() ? "tws" : "sss";
     question.folder = getPath(path).str();
     question.preset = path.isEmpty() ? fromQt(m_name) : getFileName(path).str();
@@ -199,12 +199,12 @@ bool SheetPage::saveTo(const std::string& path) {
     if (saved == OpenFile::Saved::reload) return reload(), false;
     if (saved == OpenFile::Saved::no) {
         if (error.empty()) return false;  // the user cancelled
-        tell(toQt(error), true);
+        showMessage(toQt(error), true);
         showWarning("Vormant", error);
         return false;
     }
     finish(true);
-    tell(say(saySaved).arg(machinePath(path)));
+    showMessage(uiText(saySaved).arg(machinePath(path)));
     if (m_check->isVisible()) check();
     return true;
 }
@@ -214,7 +214,7 @@ void SheetPage::reload() {
     std::string error;
     const std::string path = m_file->path();
     if (!m_file->open(path, error)) {
-        tell(toQt(error), true);
+        showMessage(toQt(error), true);
         showWarning("Vormant", error);
         return;
     }
@@ -226,17 +226,17 @@ bool SheetPage::exportTo(const std::string& path) {
     const QString shown = machinePath(path);
     const bool isPdf = shown.endsWith(".pdf", Qt::CaseInsensitive);
     const QString failure = exportSheet(spread(), path, sheets::CsvTexts::exact);
-    if (failure.isEmpty()) tell(say(sayExported).arg(shown));
-    if (isPdf || !failure.isEmpty()) tellPrinted(failure);
+    if (failure.isEmpty()) showMessage(uiText(sayExported).arg(shown));
+    if (isPdf || !failure.isEmpty()) showPrintOutcome(failure);
     return failure.isEmpty();
 }
 
-void SheetPage::tellPrinted(const QString& failure) {
+void SheetPage::showPrintOutcome(const QString& failure) {
     if (!failure.isEmpty()) {
-        tell(failure, true);
+        showMessage(failure, true);
         showWarning("Vormant", fromQt(failure));
     } else if (const QString problems = printProblems(spread()); !problems.isEmpty()) {
-        tell(problems, true);
+        showMessage(problems, true);
     }
 }
 

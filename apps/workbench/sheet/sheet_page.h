@@ -46,7 +46,7 @@ class SheetPage : public QWidget {
     bool exportTo(const std::string& path);
     void reload();
     /// Why nothing was printed, if it was not; else what was left out.
-    void tellPrinted(const QString& failure);
+    void showPrintOutcome(const QString& failure);
     void check();
 
     /// After a step: shows the sheet, or why it was refused. Gives `isDone`.
@@ -54,7 +54,7 @@ class SheetPage : public QWidget {
     /// As finish, after undoing and redoing: the user sees where.
     void finishAt(bool isDone);
     void goTo(const control::Block& block);
-    void tell(const QString& message, bool isFailure = false);
+    void showMessage(const QString& message, bool isFailure = false);
     /// Ends typing by entering it. False when the cell refuses it.
     bool commitEdit() { return m_view->commitEdit(); }
 

@@ -10,7 +10,7 @@
 
 #include "spread/tw_sheet_settings.h"
 #include "workbench/sheet/page_painter.h"
-#include "workbench/sheet/say.h"
+#include "workbench/sheet/ui_text.h"
 #include "workbench/window/dialog_font.h"
 #include "workbench/window/written_file.h"
 
@@ -41,7 +41,7 @@ void setUp(QPagedPaintDevice& device, bool isLandscape) {
 
 QString notPrinted(const QPrinter& printer) {
     const QString file = printer.outputFileName();
-    return say(sayNotPrinted).arg(file.isEmpty() ? printer.printerName() : file);
+    return uiText(sayNotPrinted).arg(file.isEmpty() ? printer.printerName() : file);
 }
 
 // The sheet itself decides how its paper lies.
@@ -84,7 +84,7 @@ bool writeSheetPdf(Vor_Spread& spread, const QString& path, QString& error) {
         isDone = isDone && printSheet(spread, writer);
     }
     if (isDone) return writeFile(path, withoutMoment(buffer.data()), error);
-    error = say(sayNotPrinted).arg(path);
+    error = uiText(sayNotPrinted).arg(path);
     return false;
 }
 

@@ -13,7 +13,7 @@
 #include "core_api/text/text_helpers.h"
 #include "platform/window/file_question.h"
 #include "platform/window/message_box.h"
-#include "workbench/sheet/say.h"
+#include "workbench/sheet/ui_text.h"
 #include "workbench/window/dialog_buttons.h"
 #include "workbench/window/typed_text.h"
 #include "workbench/words/workbench_words.h"
@@ -34,7 +34,7 @@ QSpinBox* makeNumber(int value, int least, int most) {
 
 SheetSettingsDialog::SheetSettingsDialog(const TwSheetSettings& settings, QWidget* parent)
     : QDialog(parent), m_settings(settings) {
-    setWindowTitle(sayTitle(saySheetSettings));
+    setWindowTitle(uiTitle(saySheetSettings));
     resize(560, 560);
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(makeFiles());
@@ -45,11 +45,11 @@ SheetSettingsDialog::SheetSettingsDialog(const TwSheetSettings& settings, QWidge
 
 QLineEdit* SheetSettingsDialog::addFile(QFormLayout& form, int title, const Vor_String& path) {
     auto* field = new QLineEdit(toQt(path));
-    auto* browse = new QPushButton(say(sayBrowse));
+    auto* browse = new QPushButton(uiText(sayBrowse));
     browse->setAutoDefault(false);
     connect(browse, &QPushButton::clicked, this, [field, title] {
         FileQuestion question;
-        question.title = fromQt(say(title));
+        question.title = fromQt(uiText(title));
         question.filterName = dialString(saySheetFilter).str();
         question.extension = "sss";
         question.folder = getPath(Vor_String(fromQt(field->text()))).str();
@@ -59,7 +59,7 @@ QLineEdit* SheetSettingsDialog::addFile(QFormLayout& form, int title, const Vor_
     auto* row = new QHBoxLayout;
     row->addWidget(field);
     row->addWidget(browse);
-    form.addRow(say(title), row);
+    form.addRow(uiText(title), row);
     return field;
 }
 
@@ -74,22 +74,22 @@ QWidget* SheetSettingsDialog::makeFiles() {
     m_font->addItems(QFontDatabase::families());
     m_font->setCurrentText(toQt(m_settings.defaultFont));
     m_height = makeNumber(m_settings.defaultTextHeight, 1, largestFont);
-    form->addRow(say(sayDefaultFont), m_font);
-    form->addRow(say(sayFontHeight), m_height);
+    form->addRow(uiText(sayDefaultFont), m_font);
+    form->addRow(uiText(sayFontHeight), m_height);
     return box;
 }
 
 QWidget* SheetSettingsDialog::makePrinting() {
-    auto* box = new QGroupBox(say(sayPrinting));
+    auto* box = new QGroupBox(uiText(sayPrinting));
     auto* grid = new QGridLayout(box);
-    grid->addWidget(new QLabel(say(sayMargins)), 0, 0);
+    grid->addWidget(new QLabel(uiText(sayMargins)), 0, 0);
     const int margins[] = {m_settings.marginLeft, m_settings.marginRight, m_settings.marginTop,
                            m_settings.marginBottom};
     constexpr int sides[] = {sayLeft, sayRight, sayTop, sayBottom};
     for (int i = 0; i < 4; ++i) {
         auto* side = new QHBoxLayout;
         m_margins[i] = makeNumber(margins[i], 0, largestMargin);
-        side->addWidget(new QLabel(say(sides[i])));
+        side->addWidget(new QLabel(uiText(sides[i])));
         side->addWidget(m_margins[i], 1);
         grid->addLayout(side, 1, i);
     }
@@ -98,7 +98,7 @@ QWidget* SheetSettingsDialog::makePrinting() {
     constexpr int names[] = {saySmartPrint, sayColours,    sayColHeader,
                              sayRowHeader,  saySeparators, sayFrame};
     for (int i = 0; i < 6; ++i) {
-        m_switches[i] = new QCheckBox(say(names[i]));
+        m_switches[i] = new QCheckBox(uiText(names[i]));
         m_switches[i]->setChecked(switches[i]);
         grid->addWidget(m_switches[i], 2 + i / 2, i % 2 * 2, 1, 2);
     }
@@ -106,18 +106,18 @@ QWidget* SheetSettingsDialog::makePrinting() {
 }
 
 QWidget* SheetSettingsDialog::makeVariables() {
-    auto* box = new QGroupBox(say(sayVariables));
+    auto* box = new QGroupBox(uiText(sayVariables));
     auto* layout = new QGridLayout(box);
     m_variables = new QTableWidget(0, 2);
-    m_variables->setHorizontalHeaderLabels({say(wordName), say(wordValue)});
+    m_variables->setHorizontalHeaderLabels({uiText(wordName), uiText(wordValue)});
     m_variables->horizontalHeader()->setStretchLastSection(true);
     m_variables->verticalHeader()->hide();
     const auto& names = m_settings.varNames;
     const auto& values = m_settings.varValues;
     for (int i = 0; i < names.length(); ++i)
         addVariable(names[i], i < values.length() ? values[i] : Vor_String());
-    auto* add = new QPushButton(say(sayAddLine));
-    auto* remove = new QPushButton(say(sayRemoveLine));
+    auto* add = new QPushButton(uiText(sayAddLine));
+    auto* remove = new QPushButton(uiText(sayRemoveLine));
     for (QPushButton* button : {add, remove}) button->setAutoDefault(false);
     connect(add, &QPushButton::clicked, this, [this] {
         addVariable({}, {});
@@ -170,7 +170,7 @@ void SheetSettingsDialog::accept() {
         for (int col = 0; col < 2; ++col) texts += m_variables->item(row, col)->text();
     for (const QString& text : texts) {
         const bool hasSeparator = text.contains(QChar(0xA4));
-        const QString why = hasSeparator ? say(sayBadVariable) : refusalOf(text);
+        const QString why = hasSeparator ? uiText(sayBadVariable) : refusalOf(text);
         if (why.isEmpty()) continue;
         showWarning(fromQt(windowTitle()), fromQt(why));
         return;

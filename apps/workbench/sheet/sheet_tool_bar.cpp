@@ -1,9 +1,9 @@
 // The tool bar, what stays in view, and how large the cells are shown.
 #include <QFontDatabase>
 
-#include "workbench/sheet/say.h"
 #include "workbench/sheet/sheet_commands.h"
 #include "workbench/sheet/sheet_page.h"
+#include "workbench/sheet/ui_text.h"
 
 using control::Block;
 using editor::SheetEditor;
@@ -58,11 +58,11 @@ void SheetCommands::makeFontFields() {
     m_font->setEditable(true);
     m_font->setFixedWidth(fontWidth);
     m_font->addItems(QFontDatabase::families());
-    m_font->setToolTip(say(sayFontName));
+    m_font->setToolTip(uiText(sayFontName));
     m_fontHeight = new QSpinBox;
     m_fontHeight->setRange(1, largestFont);
     m_fontHeight->setKeyboardTracking(false);
-    m_fontHeight->setToolTip(say(saySize));
+    m_fontHeight->setToolTip(uiText(saySize));
     connect(m_font, &QComboBox::textActivated, this, [this](const QString& name) {
         step([&](SheetEditor& editor, const Block& block) {
             return editor.setFontName(block, fromQt(name));
@@ -74,10 +74,10 @@ void SheetCommands::makeFontFields() {
             return editor.setFontHeight(block, height);
         });
     });
-    m_followers.push_back([this](const control::Look& look) {
+    m_followers.push_back([this](const control::CellFormat& format) {
         const QSignalBlocker quiet(m_fontHeight);
-        if (!m_font->hasFocus()) m_font->setCurrentText(toQt(look.font.name));
-        m_fontHeight->setValue(look.font.height);
+        if (!m_font->hasFocus()) m_font->setCurrentText(toQt(format.font.name));
+        m_fontHeight->setValue(format.font.height);
     });
     m_toolBar->addWidget(m_font);
     m_toolBar->addWidget(m_fontHeight);
@@ -92,7 +92,7 @@ void SheetCommands::makeFreeze(QMenu& menu) {
         m_page.finish(true);
     });
     made->setCheckable(true);
-    m_followers.push_back([this, made](const control::Look&) {
+    m_followers.push_back([this, made](const control::CellFormat&) {
         made->setChecked(m_page.view().frozen().isFrozen());
     });
 }

@@ -19,7 +19,7 @@ enum SheetWord {
     sayPaste,
     sayPasteValues,
     sayPasteContents,
-    sayPasteLooks,
+    sayPasteFormats,
     sayClearContents,
     sayClearFormats,
     saySelectAll,

@@ -1,6 +1,6 @@
 #include "workbench/shell/command_pane.h"
 
-#include "workbench/window/say.h"
+#include "workbench/window/ui_text.h"
 
 namespace {
 

@@ -4,13 +4,13 @@
 #include <QPointer>
 #include <QUrl>
 
-#include "workbench/window/say.h"
+#include "workbench/window/ui_text.h"
 #include "workbench/words/workbench_words.h"
 
 HelpWindow::HelpWindow(QWidget* parent) : QTextBrowser(parent) {
     setWindowFlag(Qt::Window);
     setAttribute(Qt::WA_DeleteOnClose);
-    setWindowTitle(sayTitle(wordManual));
+    setWindowTitle(uiTitle(wordManual));
     resize(760, 640);
     setOpenExternalLinks(true);
 }

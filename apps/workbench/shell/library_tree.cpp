@@ -6,7 +6,7 @@
 #include "core_api/settings.h"
 #include "cutstock/cutting_stock_library.h"
 #include "workbench/window/dialog_font.h"
-#include "workbench/window/say.h"
+#include "workbench/window/ui_text.h"
 
 namespace {
 
@@ -77,7 +77,7 @@ void LibraryTree::refresh() {
 void LibraryTree::add(const LibraryFolder& folder) {
     const Vor_String whole = folder.path();
     const bool showsExtensions = !folder.extensions[1].empty();
-    auto* root = new QTreeWidgetItem(this, {say(folder.title)});
+    auto* root = new QTreeWidgetItem(this, {uiText(folder.title)});
     root->setData(0, kindRole, static_cast<int>(folder.kind));
     for (const Vor_String& path : ObjectExportFindFilesRecursive(whole, "*")) {
         if (!folder.hasExtension(path)) continue;

@@ -28,7 +28,7 @@
 #include "workbench/shell/settings_dialog.h"
 #include "workbench/shell/start_page.h"
 #include "workbench/window/dialog_font.h"
-#include "workbench/window/say.h"
+#include "workbench/window/ui_text.h"
 #include "workbench/words/workbench_words.h"
 
 namespace {
@@ -92,14 +92,14 @@ void MainWindow::makeDocks() {
     auto* layout = new QVBoxLayout(library);
     layout->setContentsMargins(0, 0, 0, 0);
     m_search = new QLineEdit;
-    m_search->setPlaceholderText(say(wordSearch));
+    m_search->setPlaceholderText(uiText(wordSearch));
     m_search->setClearButtonEnabled(true);
     connect(m_search, &QLineEdit::textChanged, this,
             [this](const QString& text) { m_tree->filter(text); });
     layout->addWidget(m_search);
     layout->addWidget(m_tree);
     const auto dock = [this](int title, QWidget* widget, Qt::DockWidgetArea area) {
-        auto* made = new QDockWidget(say(title), this);
+        auto* made = new QDockWidget(uiText(title), this);
         made->setObjectName(QString::number(title));
         made->setWidget(widget);
         addDockWidget(area, made);
@@ -113,42 +113,44 @@ void MainWindow::makeDocks() {
 
 void MainWindow::makeMenus() {
     makeFileMenu();
-    addStarters(*menuBar()->addMenu(say(wordModule)), m_moduleData);
-    QMenu* view = m_viewMenu = menuBar()->addMenu(say(wordView));
+    addStarters(*menuBar()->addMenu(uiText(wordModule)), m_moduleData);
+    QMenu* view = m_viewMenu = menuBar()->addMenu(uiText(wordView));
     for (QDockWidget* dock : findChildren<QDockWidget*>())
         view->addAction(dock->toggleViewAction());
     view->addSeparator();
-    view->addAction(say(wordReload), QKeySequence(Qt::Key_F5), this, [this] { libraryChanged(); });
-    view->addAction(say(wordStart), this, [this] { showStartPage(); });
+    view->addAction(uiText(wordReload), QKeySequence(Qt::Key_F5), this,
+                    [this] { libraryChanged(); });
+    view->addAction(uiText(wordStart), this, [this] { showStartPage(); });
     makeHelpMenu();
     followPage();
 }
 
 void MainWindow::makeFileMenu() {
-    QMenu* file = menuBar()->addMenu(say(wordFile));
+    QMenu* file = menuBar()->addMenu(uiText(wordFile));
     addSheetFileActions(*file);
     file->addSeparator();
-    file->addAction(say(sayBill), this, [this] { makeBill(); });
+    file->addAction(uiText(sayBill), this, [this] { makeBill(); });
     file->addSeparator();
-    file->addAction(say(wordOpenLibrary), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_O), this,
+    file->addAction(uiText(wordOpenLibrary), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_O), this,
                     [this] { askForLibrary(); });
-    m_recentMenu = file->addMenu(say(wordRecentLibraries));
+    m_recentMenu = file->addMenu(uiText(wordRecentLibraries));
     connect(m_recentMenu, &QMenu::aboutToShow, this, [this] { fillRecentMenu(); });
     file->addSeparator();
-    file->addAction(say(wordClosePage), QKeySequence::Close, this,
+    file->addAction(uiText(wordClosePage), QKeySequence::Close, this,
                     [this] { closePage(m_pages->currentIndex()); });
-    file->addAction(say(wordSettings), this, [this] { changeSettings(); });
+    file->addAction(uiText(wordSettings), this, [this] { changeSettings(); });
     file->addSeparator();
-    file->addAction(say(wordQuit), QKeySequence::Quit, this, [this] { close(); });
+    file->addAction(uiText(wordQuit), QKeySequence::Quit, this, [this] { close(); });
 }
 
 void MainWindow::makeHelpMenu() {
-    QMenu* help = menuBar()->addMenu(say(wordHelp));
-    help->addAction(say(wordManual), QKeySequence(Qt::Key_F1), this,
+    QMenu* help = menuBar()->addMenu(uiText(wordHelp));
+    help->addAction(uiText(wordManual), QKeySequence(Qt::Key_F1), this,
                     [this] { HelpWindow::open(this); });
-    help->addAction(say(wordAbout), this, [this] {
-        QMessageBox::about(this, say(wordAbout),
-                           say(wordAbout) + " " + VORMANT_VERSION + "\n\n" + say(wordAboutText));
+    help->addAction(uiText(wordAbout), this, [this] {
+        QMessageBox::about(
+            this, uiText(wordAbout),
+            uiText(wordAbout) + " " + VORMANT_VERSION + "\n\n" + uiText(wordAboutText));
     });
 }
 
@@ -165,13 +167,13 @@ bool MainWindow::openLibrary(const std::string& folder) {
     const QString shown = QString::fromStdString(folder);
     const auto inside = paths::toInside(folder);
     if (!QFileInfo(shown).isDir() || !inside) {
-        complain(shown + ": " + say(wordLibraryGone));
+        complain(shown + ": " + uiText(wordLibraryGone));
         return false;
     }
     gSettings.setLibDir(*inside);
     m_moduleData.clear();
     m_settings.noteLibrary(folder);
-    if (auto* page = dynamic_cast<StartPage*>(pageOf(say(wordStart))))
+    if (auto* page = dynamic_cast<StartPage*>(pageOf(uiText(wordStart))))
         page->showRecent(m_settings.recent);
     m_isGone = false;
     save();
@@ -201,7 +203,7 @@ void MainWindow::libraryChanged() {
     if (m_settings.library.empty()) return;
     const QString shown = QString::fromStdString(m_settings.library);
     if (!QFileInfo(shown).isDir()) {
-        if (!m_isGone) complain(shown + ": " + say(wordLibraryGone));
+        if (!m_isGone) complain(shown + ": " + uiText(wordLibraryGone));
         m_isGone = true;
     } else {
         m_isGone = false;
@@ -213,7 +215,7 @@ void MainWindow::libraryChanged() {
 
 void MainWindow::askForLibrary() {
     const QString folder = QFileDialog::getExistingDirectory(
-        this, say(wordChooseLibrary), QString::fromStdString(m_settings.library));
+        this, uiText(wordChooseLibrary), QString::fromStdString(m_settings.library));
     if (!folder.isEmpty()) openLibrary(folder.toStdString());
 }
 
@@ -243,8 +245,8 @@ void MainWindow::retranslate() {
     qDeleteAll(menuBar()->findChildren<QMenu*>(QString(), Qt::FindDirectChildrenOnly));
     makeMenus();
     for (QDockWidget* dock : findChildren<QDockWidget*>())
-        dock->setWindowTitle(say(dock->objectName().toInt()));
-    m_search->setPlaceholderText(say(wordSearch));
+        dock->setWindowTitle(uiText(dock->objectName().toInt()));
+    m_search->setPlaceholderText(uiText(wordSearch));
     for (int i = m_pages->count(); i-- > 0;)
         if (dynamic_cast<StartPage*>(m_pages->widget(i))) closePage(i);
     showStartPage();
@@ -278,7 +280,7 @@ void MainWindow::showPage(QWidget* page, const QString& title, const QString& ti
 }
 
 void MainWindow::showStartPage() {
-    const QString key = say(wordStart);
+    const QString key = uiText(wordStart);
     if (bringForward(key)) return;
     auto* page = new StartPage(m_settings.recent, [this](const std::string& folder) {
         if (folder.empty())
@@ -339,7 +341,7 @@ QWidget* MainWindow::open(LibraryKind kind, const Vor_String& path) {
 QWidget* MainWindow::openFile(const QString& path) {
     const auto inside = paths::toInside(path.toStdString());
     if (!inside || !QFileInfo::exists(path)) {
-        complain(path + ": " + say(wordNoSuchFile));
+        complain(path + ": " + uiText(wordNoSuchFile));
         return nullptr;
     }
     if (QFileInfo(path).isDir()) {
@@ -348,7 +350,7 @@ QWidget* MainWindow::openFile(const QString& path) {
     }
     if (const auto kind = libraryKindOf(*inside)) return open(*kind, *inside);
     if (isSheetPath(*inside)) return openSheet(*inside);
-    complain(path + ": " + say(wordNotOpened));
+    complain(path + ": " + uiText(wordNotOpened));
     return nullptr;
 }
 

@@ -9,18 +9,18 @@
 #include "core_api/text/text_helpers.h"
 #include "platform/paths.h"
 #include "workbench/macro/macro_page.h"
-#include "workbench/sheet/say.h"
 #include "workbench/sheet/sheet_commands.h"
 #include "workbench/sheet/sheet_export.h"
 #include "workbench/sheet/sheet_page.h"
 #include "workbench/sheet/sheet_printing.h"
+#include "workbench/sheet/ui_text.h"
 #include "workbench/shell/main_window.h"
 #include "workbench/window/machine_path.h"
 
 void MainWindow::addSheetFileActions(QMenu& file) {
     m_sheetActions.clear();  // those of another language
     const auto add = [&](QMenu& menu, int word, const QKeySequence& keys, auto action) {
-        return menu.addAction(say(word), keys, this, action);
+        return menu.addAction(uiText(word), keys, this, action);
     };
     const auto addForSheet = [&](QMenu& menu, int word, const QKeySequence& keys, auto action) {
         m_sheetActions += add(menu, word, keys, [this, action] {
@@ -36,15 +36,15 @@ void MainWindow::addSheetFileActions(QMenu& file) {
     });
     addForSheet(file, saySaveAs, Qt::CTRL | Qt::SHIFT | Qt::Key_S,
                 [](SheetPage& page) { page.saveAs(); });
-    QMenu& exports = *file.addMenu(say(sayExportAs));
+    QMenu& exports = *file.addMenu(uiText(sayExportAs));
     addExports(exports, [this](const ExportFormat& format) { exportSheet(format); });
     m_sheetActions += exports.actions();
     m_sheetActions += exports.menuAction();
     file.addSeparator();
     addForSheet(file, sayPrintPreview, {},
-                [](SheetPage& page) { page.tellPrinted(previewSheet(page.spread(), &page)); });
+                [](SheetPage& page) { page.showPrintOutcome(previewSheet(page.spread(), &page)); });
     addForSheet(file, sayPrint, Qt::CTRL | Qt::Key_P,
-                [](SheetPage& page) { page.tellPrinted(askAndPrint(page.spread(), &page)); });
+                [](SheetPage& page) { page.showPrintOutcome(askAndPrint(page.spread(), &page)); });
 }
 
 SheetPage* MainWindow::currentSheet() const {
@@ -54,7 +54,7 @@ SheetPage* MainWindow::currentSheet() const {
 SheetPage* MainWindow::newSheet() {
     auto file = std::make_unique<SheetFile>();
     file->startNew();
-    return showSheet(new SheetPage(std::move(file), say(sayUntitled).arg(++m_newSheets)));
+    return showSheet(new SheetPage(std::move(file), uiText(sayUntitled).arg(++m_newSheets)));
 }
 
 SheetPage* MainWindow::openSheet(const Vor_String& path) {
@@ -109,8 +109,8 @@ void MainWindow::followPage() {
 
 void MainWindow::askForFile() {
     const QString chosen = QFileDialog::getOpenFileName(
-        this, sayTitle(sayOpenFile), QString::fromStdString(m_settings.library),
-        say(sayAllFilter) + " (*.sss *.tws *.csv *.txt *.macro *.pr)");
+        this, uiTitle(sayOpenFile), QString::fromStdString(m_settings.library),
+        uiText(sayAllFilter) + " (*.sss *.tws *.csv *.txt *.macro *.pr)");
     if (chosen.isEmpty()) return;
     const auto inside = paths::toInside(chosen.toStdString());
     // A standard is opened to be edited here; the library's tree opens it to be run.

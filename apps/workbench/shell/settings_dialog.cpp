@@ -12,7 +12,7 @@
 #include "core_api/texts/texts.h"
 #include "workbench/window/dialog_buttons.h"
 #include "workbench/window/dialog_font.h"
-#include "workbench/window/say.h"
+#include "workbench/window/ui_text.h"
 #include "workbench/words/workbench_words.h"
 
 namespace {
@@ -23,7 +23,7 @@ constexpr int scales[] = {100, 125, 150, 175, 200};
 
 SettingsDialog::SettingsDialog(const WorkbenchSettings& settings, QWidget* parent)
     : QDialog(parent), m_settings(settings) {
-    setWindowTitle(sayTitle(wordSettings));
+    setWindowTitle(uiTitle(wordSettings));
     auto* form = new QFormLayout(this);
 
     m_library = new QLineEdit(QString::fromStdString(settings.library));
@@ -34,30 +34,30 @@ SettingsDialog::SettingsDialog(const WorkbenchSettings& settings, QWidget* paren
     auto* folder = new QHBoxLayout;
     folder->addWidget(m_library);
     folder->addWidget(choose);
-    form->addRow(say(wordLibrary), folder);
+    form->addRow(uiText(wordLibrary), folder);
 
     m_language = new QComboBox;
     for (int i = 0; i < languageCount; ++i)
         m_language->addItem(toQt(dialString(wordOwnLanguage, static_cast<Language>(i))));
     m_language->setCurrentIndex(static_cast<int>(settings.language));
-    form->addRow(say(wordLanguage), m_language);
+    form->addRow(uiText(wordLanguage), m_language);
 
     m_author = new QLineEdit(QString::fromStdString(settings.author));
-    form->addRow(say(wordAuthor), m_author);
+    form->addRow(uiText(wordAuthor), m_author);
 
     m_scale = new QComboBox;
     for (const int scale : scales) {
         m_scale->addItem(QString::number(scale) + " %", scale);
         if (scale == settings.scalePercent) m_scale->setCurrentIndex(m_scale->count() - 1);
     }
-    m_scale->setToolTip(say(wordScaleFromNextStart));
-    form->addRow(say(wordScale), m_scale);
+    m_scale->setToolTip(uiText(wordScaleFromNextStart));
+    form->addRow(uiText(wordScale), m_scale);
 
-    m_diagnostics = new QCheckBox(say(wordDiagnostics));
+    m_diagnostics = new QCheckBox(uiText(wordDiagnostics));
     m_diagnostics->setChecked(settings.diagnostics);
     form->addRow(QString(), m_diagnostics);
 
-    m_outside = new QCheckBox(say(wordOutside));
+    m_outside = new QCheckBox(uiText(wordOutside));
     m_outside->setChecked(settings.outside);
     form->addRow(QString(), m_outside);
 
@@ -66,7 +66,7 @@ SettingsDialog::SettingsDialog(const WorkbenchSettings& settings, QWidget* paren
 
 void SettingsDialog::chooseFolder() {
     const QString chosen =
-        QFileDialog::getExistingDirectory(this, say(wordOpenLibrary), m_library->text());
+        QFileDialog::getExistingDirectory(this, uiText(wordOpenLibrary), m_library->text());
     if (!chosen.isEmpty()) m_library->setText(chosen);
 }
 

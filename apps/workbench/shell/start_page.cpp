@@ -5,13 +5,13 @@
 #include <QVBoxLayout>
 
 #include "workbench/window/dialog_font.h"
-#include "workbench/window/say.h"
+#include "workbench/window/ui_text.h"
 #include "workbench/words/workbench_words.h"
 
 namespace {
 
 QLabel* heading(int word, int pixels) {
-    auto* label = new QLabel(sayTitle(word));
+    auto* label = new QLabel(uiTitle(word));
     QFont font = dialogFont();
     font.setPixelSize(pixels);
     font.setBold(true);
@@ -26,14 +26,14 @@ StartPage::StartPage(const std::vector<std::string>& recent, Opener open, QWidge
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(40, 30, 40, 30);
     layout->addWidget(heading(wordAbout, 22));
-    auto* welcome = new QLabel(say(wordWelcome));
+    auto* welcome = new QLabel(uiText(wordWelcome));
     welcome->setWordWrap(true);
     layout->addWidget(welcome);
     layout->addSpacing(20);
     layout->addWidget(heading(wordRecentLibraries, 14));
     layout->addLayout(m_recent);
     layout->addSpacing(10);
-    auto* other = new QPushButton(say(wordOpenLibrary));
+    auto* other = new QPushButton(uiText(wordOpenLibrary));
     other->setObjectName("openLibrary");
     connect(other, &QPushButton::clicked, this, [this] { m_open({}); });
     layout->addWidget(other, 0, Qt::AlignLeft);
@@ -48,7 +48,7 @@ void StartPage::showRecent(const std::vector<std::string>& recent) {
         item->widget()->deleteLater();
         delete item;
     }
-    if (recent.empty()) m_recent->addWidget(new QLabel(say(wordNoLibrary)));
+    if (recent.empty()) m_recent->addWidget(new QLabel(uiText(wordNoLibrary)));
     for (const std::string& folder : recent) m_recent->addWidget(linkTo(folder));
 }
 

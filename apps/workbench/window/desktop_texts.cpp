@@ -1,7 +1,7 @@
 #include "workbench/window/desktop_texts.h"
 
-#include "workbench/window/say.h"
+#include "workbench/window/ui_text.h"
 
 QString desktopText(DesktopText text) {
-    return say(static_cast<int>(text));
+    return uiText(static_cast<int>(text));
 }

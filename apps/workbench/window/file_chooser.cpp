@@ -11,7 +11,7 @@
 #include "platform/window/wnd.h"
 #include "workbench/window/desktop_texts.h"
 #include "workbench/window/dialog_font.h"
-#include "workbench/window/folder_taker.h"
+#include "workbench/window/folder_dialog.h"
 #include "workbench/window/qt_window_system.h"
 #include "workbench/window/typed_text.h"
 
@@ -38,10 +38,10 @@ QString withExtension(const QString& path, const FileQuestion& question) {
 }
 
 /// Looks for what was typed with the extension, too: Qt adds it only to names without any dot.
-class Chooser : public FolderTaker {
+class Chooser : public FolderDialog {
   public:
     Chooser(QWidget* parent, const FileQuestion& question)
-        : FolderTaker(parent), m_question(question) {}
+        : FolderDialog(parent), m_question(question) {}
 
   protected:
     void accept() override {
@@ -51,14 +51,14 @@ class Chooser : public FolderTaker {
             const QString ending = withExtension(path, m_question).mid(path.size());
             if (!QFileInfo(path).isDir()) field->setText(field->text() + ending);
         }
-        FolderTaker::accept();
+        FolderDialog::accept();
     }
 
   private:
     const FileQuestion& m_question;
 };
 
-void setUp(FolderTaker& chooser, const FileQuestion& question) {
+void setUp(FolderDialog& chooser, const FileQuestion& question) {
     chooser.setWindowTitle(toQt(question.title));
     // Asked after the extension was added, in the words of the module.
     chooser.setOption(QFileDialog::DontConfirmOverwrite);

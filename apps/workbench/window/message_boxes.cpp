@@ -6,7 +6,7 @@
 #include "workbench/window/desktop_texts.h"
 #include "workbench/window/dialog_font.h"
 #include "workbench/window/qt_window_system.h"
-#include "workbench/window/say.h"
+#include "workbench/window/ui_text.h"
 
 namespace {
 

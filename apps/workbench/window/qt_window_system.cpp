@@ -13,7 +13,7 @@
 #include "workbench/window/control_views.h"
 #include "workbench/window/dialog_font.h"
 #include "workbench/window/dialog_style.h"
-#include "workbench/window/key_route.h"
+#include "workbench/window/key_event_filter.h"
 
 namespace {
 
@@ -39,7 +39,7 @@ static void loadIcons() {
     Q_INIT_RESOURCE(bitmaps);
 }
 
-QtWindowSystem::QtWindowSystem() : m_keyRoute(std::make_unique<KeyRoute>(*this)) {
+QtWindowSystem::QtWindowSystem() : m_keyEventFilter(std::make_unique<KeyEventFilter>(*this)) {
     loadIcons();
     QApplication::setStyle(new DialogStyle);
     // The icons are drawn for a light ground.
@@ -207,7 +207,7 @@ void QtWindowSystem::syncGrids() {
 // What changes now may be followed by more, and whoever changes it need not be done yet.
 void QtWindowSystem::syncGridsSoon() {
     if (std::exchange(m_isSyncDue, true)) return;
-    QTimer::singleShot(0, m_keyRoute.get(), [this] {
+    QTimer::singleShot(0, m_keyEventFilter.get(), [this] {
         if (m_isSyncDue) syncGrids();
     });
 }

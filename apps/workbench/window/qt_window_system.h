@@ -18,7 +18,7 @@
 #include "workbench/window/qt_words.h"
 #include "workbench/window/timers.h"
 
-class KeyRoute;
+class KeyEventFilter;
 class QEventLoop;
 class TSpread;
 class WindowView;
@@ -93,7 +93,7 @@ class QtWindowSystem : public WindowSystem {
     std::unordered_map<const CWnd*, WindowView*> m_views;
     std::unordered_map<const QWidget*, CWnd*> m_windows;
     std::vector<ModalRun> m_modalRuns;
-    std::unique_ptr<KeyRoute> m_keyRoute;
+    std::unique_ptr<KeyEventFilter> m_keyEventFilter;
     Timers m_timers;
     QtWords m_words;
     CSize m_character;  // the average letter, and a line with a pixel above it

@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <string_view>
 
-#include "workbench/window/say.h"
+#include "workbench/window/ui_text.h"
 
 namespace {
 
@@ -77,7 +77,7 @@ QString QtWords::translate(const char* context, const char* source, const char* 
                            int count) const {
     const auto* found = std::find_if(std::begin(words), std::end(words),
                                      [&](const Word& word) { return word.source == source; });
-    if (found != std::end(words)) return say(found->number);
+    if (found != std::end(words)) return uiText(found->number);
     return catalogue().translate(context, source, disambiguation, count);
 }
 

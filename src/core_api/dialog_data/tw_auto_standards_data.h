@@ -1,5 +1,5 @@
 // General variables: named values, each with a filter that says which macro drawings it is for
-// (paths below the library's "Macros\" folder, parted by ";"). Lists are parallel by index.
+// (paths below the library's "Macros\" folder, separated by ";"). Lists are parallel by index.
 #pragma once
 
 #include "core_api/text/vor_string_array.h"

@@ -1,4 +1,4 @@
-// Rows of fields parted by one character, as spreadsheets exchange them (comma-separated values,
+// Rows of fields separated by one character, as spreadsheets exchange them (comma-separated values,
 // the clipboard): a field may stand in double quotes, a quote inside is doubled, a quoted field may
 // run over several lines.
 //

@@ -1,4 +1,4 @@
-// Paths as texts. Inside, folders are parted by backslashes; a slash is understood too, since a
+// Paths as texts. Inside, folders are separated by backslashes; a slash is understood too, since a
 // path typed on a command line may hold one.
 #include "core_api/text/text_helpers.h"
 

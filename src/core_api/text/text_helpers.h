@@ -57,8 +57,8 @@ VORMANT_API Vor_StringArray getDuplicates(const Vor_StringArray& texts);
 VORMANT_API Vor_String getAlfabet(int column);
 
 /// True, with the first such name in `found`, when `text` contains one of `names`.
-VORMANT_API bool hasASubstr(std::string_view text, const Vor_StringArray& names,
-                            Vor_String& found, bool caseMatters = false);
+VORMANT_API bool hasASubstr(std::string_view text, const Vor_StringArray& names, Vor_String& found,
+                            bool caseMatters = false);
 
 /// `candidate` if it is not among `taken`, else candidate + "_" + the smallest free number from 1.
 VORMANT_API Vor_String findNonExistingString(const Vor_StringArray& taken,
@@ -80,7 +80,7 @@ VORMANT_API bool generateRandomString(int length, Vor_String& text, bool avoidSa
 /// Natural order: digit runs compare as numbers, the rest ignoring case. The index taken.
 VORMANT_API int ObjectExportAddToSorted(Vor_StringArray& sorted, const Vor_String& text);
 
-/// Paths as the host writes them, parted by backslashes (slashes are understood too).
+/// Paths as the host writes them, separated by backslashes (slashes are understood too).
 /// The folder with its closing backslash; empty for a bare name.
 VORMANT_API Vor_String getPath(std::string_view path);
 /// The name with its extension.

@@ -58,7 +58,7 @@ enum SheetText {
     familyStatistics,
     familyMatrices,
     familyLogic,
-    familyLookUp,
+    familyFormatUp,
     familyTexts,
     familyInformation,
     familyDates,

@@ -8,7 +8,7 @@ namespace {
 constexpr int nameText = 87, valueText = 86, cannotBeUsedText = 21001, needsNumberText = 21002,
               refusedText = 21003;
 constexpr int namePercent = 50;
-constexpr int tableLook = 1;  // one that is typed into
+constexpr int tableFormat = 1;  // one that is typed into
 constexpr int plainWeight = 400, boldWeight = 700;
 
 control::Block cell(int row) {
@@ -24,7 +24,7 @@ void NamedValuesDialog::onInit() {
     if (!m_title.isEmpty()) setText(m_title);
     m_isChanged = false;
     m_grid.attach(this, namedValuesGrid, true);
-    m_grid.setStandardLook(tableLook);
+    m_grid.setStandardFormat(tableFormat);
     m_grid.setBool(static_cast<int>(control::Option::rowHeaders), false);
     m_grid.setNrCols(2, false);
     m_grid.setData(namedValuesNameColumn, Vor_Spread::headerIndex, dialString(nameText));

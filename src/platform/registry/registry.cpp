@@ -66,7 +66,7 @@ bool parse(std::string_view text, const std::string& path, Values& values, std::
         auto name = unescaped(takePart(line, '\t'));
         auto value = unescaped(line);
         if (!hasParts || !key || !name || !value || key->empty())
-            return fail("this is no key, name and value parted by tabs; remove the line");
+            return fail("this is no key, name and value separated by tabs; remove the line");
         values[{std::move(*key), std::move(*name)}] = std::move(*value);
     }
     return true;

@@ -2,7 +2,7 @@
 // a root in the user's configuration folder ($XDG_CONFIG_HOME/vormant/, else ~/.config/vormant/).
 // A file is read when first asked for and again when another program changed it. Letter case in
 // keys and names does not matter. File form: a first line "registry 1", then key, name and value
-// a line, parted by tabs, with \t \n \r \\ escapes; sorted, so that it can be compared.
+// a line, separated by tabs, with \t \n \r \\ escapes; sorted, so that it can be compared.
 #pragma once
 
 #include <optional>

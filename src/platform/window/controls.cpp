@@ -9,7 +9,7 @@
 
 void CStatic::setBitmap(CBitmap bitmap) {
     m_bitmap = std::move(bitmap);
-    tell(WindowChange::content);
+    notify(WindowChange::content);
 }
 
 bool CButton::isCheckable() const {
@@ -19,18 +19,18 @@ bool CButton::isCheckable() const {
 void CButton::setCheck(int state) {
     if (state < 0 || state > 2) return;
     m_check = state;
-    tell(WindowChange::check);
+    notify(WindowChange::check);
 }
 
 void CButton::setImage(int number) {
     m_image = number;
-    tell(WindowChange::content);
+    notify(WindowChange::content);
 }
 
 void CButton::setPicture(CBitmap picture, CBitmap::Pixel without) {
     m_picture = std::move(picture);
     m_pictureWithout = without;
-    tell(WindowChange::content);
+    notify(WindowChange::content);
 }
 
 bool CButton::userPresses() {
@@ -76,7 +76,7 @@ void CEdit::setSelection(int start, int end) {
     const int length = static_cast<int>(text().size());
     m_start = std::clamp(start, 0, length);
     m_end = end < 0 ? length : std::clamp(end, m_start, length);
-    tell(WindowChange::selection);
+    notify(WindowChange::selection);
 }
 
 void CEdit::replaceSelection(std::string_view replacement) {
@@ -130,7 +130,7 @@ bool ItemControl::insert(int index, std::string_view text, int data) {
     item.data = data;
     m_items.insert(m_items.begin() + index, std::move(item));
     if (m_selected >= index) ++m_selected;
-    tell(WindowChange::items);
+    notify(WindowChange::items);
     return true;
 }
 
@@ -141,20 +141,20 @@ bool ItemControl::remove(int index) {
         m_selected = -1;
     else if (m_selected > index)
         --m_selected;
-    tell(WindowChange::items);
+    notify(WindowChange::items);
     return true;
 }
 
 void ItemControl::clear() {
     m_items.clear();
     m_selected = -1;
-    tell(WindowChange::items);
+    notify(WindowChange::items);
 }
 
 bool ItemControl::setItemText(int index, std::string_view text) {
     if (!has(index)) return false;
     m_items[static_cast<size_t>(index)].text = text;
-    tell(WindowChange::items);
+    notify(WindowChange::items);
     return true;
 }
 
@@ -167,7 +167,7 @@ bool ItemControl::setData(int index, int data) {
 bool ItemControl::setPicture(int index, CBitmap picture) {
     if (!has(index)) return false;
     m_items[static_cast<size_t>(index)].picture = std::move(picture);
-    tell(WindowChange::items);
+    notify(WindowChange::items);
     return true;
 }
 
@@ -175,7 +175,7 @@ bool ItemControl::select(int index) {
     if (index != -1 && !has(index)) return false;
     m_selected = index;
     onSelected();
-    tell(WindowChange::selection);
+    notify(WindowChange::selection);
     return true;
 }
 
@@ -199,7 +199,7 @@ bool ItemControl::userSelects(int index) {
 bool CListBox::setChecked(int index, bool checked) {
     if (!has(index)) return false;
     changeItems()[static_cast<size_t>(index)].isChecked = checked;
-    tell(WindowChange::items);
+    notify(WindowChange::items);
     return true;
 }
 
@@ -220,7 +220,7 @@ bool CListBox::setSelection(const std::vector<int>& indexes) {
 
 void CListBox::setPictureSize(CSize size) {
     m_pictureSize = size;
-    tell(WindowChange::items);
+    notify(WindowChange::items);
 }
 
 bool CListBox::userSelects(int index) {

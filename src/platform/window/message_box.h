@@ -1,4 +1,4 @@
-// Message boxes: what a dialog tells or asks in between. Texts are Windows-1252, lines parted by
+// Message boxes: what a dialog tells or asks in between. Texts are Windows-1252, lines separated by
 // "\n". Where nobody can answer, the text goes to the host's command line and the safe answer
 // (cancel, else no, else OK) is given.
 #pragma once

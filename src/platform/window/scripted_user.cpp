@@ -99,11 +99,11 @@ Answer& ScriptedUser::whenOpens(int dialog) {
     return add(Answer::Question::dialog, dialog, {});
 }
 
-Answer& ScriptedUser::whenToldWithCaption(std::string_view caption) {
+Answer& ScriptedUser::whenMessageWithCaption(std::string_view caption) {
     return add(Answer::Question::caption, 0, caption);
 }
 
-Answer& ScriptedUser::whenTold(std::string_view part) {
+Answer& ScriptedUser::whenMessage(std::string_view part) {
     return add(Answer::Question::text, 0, part);
 }
 
@@ -115,9 +115,9 @@ Answer& ScriptedUser::whenAskedForFile(std::string_view title) {
     return add(Answer::Question::file, 0, title);
 }
 
-std::vector<std::vector<std::string>> ScriptedUser::toldLines() const {
+std::vector<std::vector<std::string>> ScriptedUser::messageLines() const {
     std::vector<std::vector<std::string>> lines;
-    for (const MessageBox& box : m_told) lines.push_back(box.lines());
+    for (const MessageBox& box : m_messages) lines.push_back(box.lines());
     return lines;
 }
 
@@ -139,7 +139,7 @@ Answer* ScriptedUser::take(const std::function<bool(const Answer&)>& fits) {
 }
 
 int ScriptedUser::messageBox(const MessageBox& box) {
-    m_told.push_back(box);
+    m_messages.push_back(box);
     const Answer* answer = take([&](const Answer& each) {
         return (each.question == Answer::Question::caption && each.words == box.caption) ||
                (each.question == Answer::Question::text &&

@@ -2,7 +2,7 @@
 //
 //     ScriptedUser user;
 //     user.whenOpens(218).types(1207, "M16").presses(1205).presses(IDCANCEL);
-//     user.whenToldWithCaption("Replace all").presses(IDOK);
+//     user.whenMessageWithCaption("Replace all").presses(IDOK);
 //     user.whenAskedForFile("Open").chooses("c:\\lib\\a.txt");
 //     ...
 //     user.told()[0].lines()
@@ -68,16 +68,16 @@ class VORMANT_API ScriptedUser : public WindowSystem {
     ~ScriptedUser() override;
 
     Answer& whenOpens(int dialog);
-    Answer& whenToldWithCaption(std::string_view caption);
+    Answer& whenMessageWithCaption(std::string_view caption);
     /// A message box whose text contains `part`.
-    Answer& whenTold(std::string_view part);
+    Answer& whenMessage(std::string_view part);
     Answer& whenMenuOpens();
     /// A file chooser with this title.
     Answer& whenAskedForFile(std::string_view title);
 
     /// The message boxes so far, and their texts as lines.
-    const std::vector<MessageBox>& told() const { return m_told; }
-    std::vector<std::vector<std::string>> toldLines() const;
+    const std::vector<MessageBox>& messages() const { return m_messages; }
+    std::vector<std::vector<std::string>> messageLines() const;
 
     /// Questions without an answer, steps that could not be taken.
     const std::vector<std::string>& problems() const { return m_problems; }
@@ -96,7 +96,7 @@ class VORMANT_API ScriptedUser : public WindowSystem {
     Answer* take(const std::function<bool(const Answer&)>& fits);
 
     std::deque<Answer> m_answers;  // a deque: callers hold on to references
-    std::vector<MessageBox> m_told;
+    std::vector<MessageBox> m_messages;
     std::vector<std::string> m_problems;
     WindowSystem* m_before;
     bool m_isShiftHeld = false;

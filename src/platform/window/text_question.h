@@ -15,7 +15,7 @@ inline constexpr int textQuestionPrompt = 103;
 struct TextQuestion {
     std::string title;
     std::string label;   ///< beside the field; may be empty
-    std::string prompt;  ///< above the field, lines parted by "\n"
+    std::string prompt;  ///< above the field, lines separated by "\n"
     std::string preset;
     std::string ok = "Ok";
     std::string cancel;  ///< empty: no Cancel button; the dialog can still be closed

@@ -177,7 +177,7 @@ CRect CWnd::windowRect() const {
     return m_made.rect.movedBy(origin.x, origin.y);
 }
 
-void CWnd::tell(WindowChange change) {
+void CWnd::notify(WindowChange change) {
     if (m_isCreated) WindowSystem::current().changed(*this, change);
 }
 
@@ -188,19 +188,19 @@ void CWnd::notify(int code) {
 
 void CWnd::setStyle(unsigned style) {
     m_made.style = style;
-    tell(WindowChange::style);
+    notify(WindowChange::style);
 }
 
 void CWnd::move(const CRect& rect) {
     const CSize before = m_made.rect.size();
     m_made.rect = rect;
-    tell(WindowChange::rect);
+    notify(WindowChange::rect);
     if (rect.size() != before) onSize(before);
 }
 
 void CWnd::setText(std::string_view text) {
     m_made.text = text;
-    tell(WindowChange::text);
+    notify(WindowChange::text);
 }
 
 bool CWnd::isVisible() const {
@@ -209,24 +209,24 @@ bool CWnd::isVisible() const {
 
 void CWnd::show(bool visible) {
     m_made.isVisible = visible;
-    tell(WindowChange::visible);
+    notify(WindowChange::visible);
 }
 
 void CWnd::enable(bool enabled) {
     m_isEnabled = enabled;
-    tell(WindowChange::enabled);
+    notify(WindowChange::enabled);
 }
 
 void CWnd::setTip(std::string_view tip) {
     m_tip = tip;
-    tell(WindowChange::tip);
+    notify(WindowChange::tip);
 }
 
 bool CWnd::focus() {
     if (!isVisible() || !m_isEnabled) return false;
     if (focusedWindow == this) return true;
     CWnd* const before = std::exchange(focusedWindow, this);
-    tell(WindowChange::focus);
+    notify(WindowChange::focus);
     if (before) before->notify(focusLost);
     return true;
 }
@@ -248,7 +248,7 @@ CWnd* CWnd::captured() {
 }
 
 void CWnd::invalidate() {
-    tell(WindowChange::content);
+    notify(WindowChange::content);
 }
 
 bool dispatchKey(CWnd& focused, const KeyMessage& key) {

@@ -132,7 +132,7 @@ class VORMANT_API CWnd {
     /// It has another size than `before`.
     virtual void onSize(CSize /*before*/) {}
     /// Tells the screen, when it is created.
-    void tell(WindowChange change);
+    void notify(WindowChange change);
     /// Tells the parent.
     void notify(int code);
 

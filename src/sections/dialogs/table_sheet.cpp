@@ -69,7 +69,7 @@ void TableSheet::followHistory() {
 
 void TableSheet::end() {
     editor().end();
-    tellListener(GridNotice::What::changed, currentCol(), currentRow());
+    notifyListener(GridNotice::What::changed, currentCol(), currentRow());
 }
 
 bool TableSheet::undo() {

@@ -63,9 +63,9 @@ TablesPage::~TablesPage() {
 }
 
 void TablesPage::onInit() {
-    constexpr int typedLook = 1;
+    constexpr int typedFormat = 1;
     m_sheet.attach(this, sheetItem, true);
-    m_sheet.setStandardLook(typedLook);
+    m_sheet.setStandardFormat(typedFormat);
     m_sheet.setListener([this](const GridNotice&) { showWhatCanBeDone(); });
     m_sheet.setMenuOpener([this] { showMenu(); });
     fillTemplates();

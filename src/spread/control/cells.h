@@ -40,7 +40,7 @@ struct CellAddress {
 };
 
 /// What one cell holds: a plain value (its own or its formula's result), the number of its formula
-/// and of its look. Text is owned; copy and destroy through CellStore.
+/// and of its format. Text is owned; copy and destroy through CellStore.
 struct Cell {
     union {
         double number = 0;
@@ -49,7 +49,7 @@ struct Cell {
         bool truth;
     };
     uint32_t formula = 0;  ///< index into the sheet's formulas; 0 is none
-    uint16_t look = 0;     ///< index into the sheet's looks; 0 is the default
+    uint16_t format = 0;   ///< index into the sheet's formats; 0 is the default
     ValueType type = ValueType::empty;
     bool dirty = false;  ///< the formula's result is older than what it reads
 
@@ -67,7 +67,7 @@ struct Cell {
                 return Value();
         }
     }
-    bool isBlank() const { return type == ValueType::empty && formula == 0 && look == 0; }
+    bool isBlank() const { return type == ValueType::empty && formula == 0 && format == 0; }
 };
 static_assert(sizeof(Cell) == 16);
 
@@ -110,7 +110,7 @@ class CellStore {
         return cell ? cell->value() : Value();
     }
 
-    /// Replaces the cell's value; formula, look and dirty state stay.
+    /// Replaces the cell's value; formula, format and dirty state stay.
     void setValue(Cell& cell, const Value& value) {
         if (value.isNumber()) [[likely]] {
             dropText(cell);
@@ -185,7 +185,7 @@ class CellStore {
     int lastRow() const;
 
     /// Rows or columns inserted blank or taken out; what lay behind moves. Formula numbers and
-    /// looks move with their cells. Cells pushed over the edge are destroyed.
+    /// formats move with their cells. Cells pushed over the edge are destroyed.
     void insertRows(int at, int count);
     void deleteRows(int at, int count);
     void insertCols(int at, int count);

@@ -32,7 +32,7 @@
 #include <string>
 #include <string_view>
 
-#include "spread/control/look.h"
+#include "spread/control/cell_format.h"
 #include "spread/control/sheet.h"
 #include "spread/control/side_tables.h"
 
@@ -46,7 +46,7 @@ class Document {
     int cols() const { return m_cols; }
     int rows() const { return m_rows; }
     const Sheet& sheet() const { return *m_sheet; }
-    const LookTable& looks() const { return m_looks; }
+    const FormatTable& formats() const { return m_formats; }
     const SharedSides& sides() const { return m_sides; }
 
     /// A place where an engine keeps what it prepared for this very document; empty at first,
@@ -60,7 +60,7 @@ class Document {
     int m_cols = 0;
     int m_rows = 0;
     std::unique_ptr<Sheet> m_sheet = std::make_unique<Sheet>();
-    LookTable m_looks;
+    FormatTable m_formats;
     SharedSides m_sides;
     mutable std::shared_ptr<void> m_attachment;
 };

@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "platform/base64.h"
-#include "spread/control/document_looks.h"
+#include "spread/control/document_formats.h"
 #include "spread/control/document_text.h"
 
 namespace control {
@@ -40,14 +40,14 @@ std::optional<int> takeWhole(std::string_view& text, int least, int most) {
 const DocumentReader::LineKind DocumentReader::lineKinds[] = {
     {"size", &DocumentReader::readSize},
     {"option", &DocumentReader::readOption},
-    {"look", &DocumentReader::readLookLine},
+    {"look", &DocumentReader::readFormatLine},
     {"colwidth", &DocumentReader::readColWidth},
     {"rowheight", &DocumentReader::readRowHeight},
     {"hidecol", &DocumentReader::readHiddenCol},
     {"hiderow", &DocumentReader::readHiddenRow},
-    {"collook", &DocumentReader::readColLook},
-    {"headerlook", &DocumentReader::readHeaderLook},
-    {"rowheaderlook", &DocumentReader::readRowHeaderLook},
+    {"collook", &DocumentReader::readColFormat},
+    {"headerlook", &DocumentReader::readHeaderFormat},
+    {"rowheaderlook", &DocumentReader::readRowHeaderFormat},
     {"header", &DocumentReader::readHeader},
     {"rowheader", &DocumentReader::readRowHeader},
     {"corner", &DocumentReader::readCorner},
@@ -175,16 +175,16 @@ bool DocumentReader::readOption(std::string_view rest) {
     return true;
 }
 
-bool DocumentReader::readLookLine(std::string_view rest) {
+bool DocumentReader::readFormatLine(std::string_view rest) {
     const std::optional<int> number = takeWhole(rest, 1, 65535);
     if (!number) return false;
     std::string why;
-    const std::optional<Look> look = readLook(rest, why);
-    if (!look) return failHere(why);
+    const std::optional<CellFormat> format = readFormat(rest, why);
+    if (!format) return failHere(why);
     const auto index = static_cast<size_t>(*number);
-    if (index >= m_looks.size()) m_looks.resize(index + 1, inheritedLook);
-    if (m_looks[index] != inheritedLook) return failHere("this look is given twice");
-    m_looks[index] = m_document->m_looks.intern(*look);
+    if (index >= m_formats.size()) m_formats.resize(index + 1, inheritedFormat);
+    if (m_formats[index] != inheritedFormat) return failHere("this look is given twice");
+    m_formats[index] = m_document->m_formats.intern(*format);
     return true;
 }
 
@@ -193,7 +193,7 @@ bool DocumentReader::readPicture(std::string_view rest) {
     if (!isPictureName(name)) return false;
     std::optional<std::string> bytes = fromBase64(rest);
     if (!bytes) return failHere("the bytes of the picture are no base64");
-    KeptPicture picture{std::make_shared<const std::string>(std::move(*bytes))};
+    EmbeddedImage picture{std::make_shared<const std::string>(std::move(*bytes))};
     const bool isNew = m_sides->pictures.emplace(name, std::move(picture)).second;
     return isNew || failHere("this picture is given twice");
 }
@@ -210,13 +210,13 @@ std::optional<int> DocumentReader::takeRow(std::string_view& rest) {
     return takeWhole(rest, 1, m_document->rows());
 }
 
-bool DocumentReader::takeLook(std::string_view& rest, LookIndex& look) {
+bool DocumentReader::takeFormat(std::string_view& rest, FormatIndex& format) {
     if (!rest.starts_with('@')) return false;
     const std::optional<int> number = readWhole(takeWord(rest).substr(1));
     const auto index = static_cast<size_t>(number.value_or(0));
-    if (!number || *number < 1 || index >= m_looks.size() || m_looks[index] == inheritedLook)
+    if (!number || *number < 1 || index >= m_formats.size() || m_formats[index] == inheritedFormat)
         return failHere("a look that no line before gave");
-    look = m_looks[index];
+    format = m_formats[index];
     return true;
 }
 
@@ -274,36 +274,37 @@ bool DocumentReader::readHiddenRow(std::string_view rest) {
     return row && rest.empty() && m_sides->rows.hidden.insert(*row).second;
 }
 
-bool DocumentReader::readColLook(std::string_view rest) {
+bool DocumentReader::readColFormat(std::string_view rest) {
     const std::optional<int> col = takeCol(rest);
-    LookIndex look = inheritedLook;
-    if (!col || !takeLook(rest, look) || !rest.empty()) return false;
+    FormatIndex format = inheritedFormat;
+    if (!col || !takeFormat(rest, format) || !rest.empty()) return false;
     const auto index = static_cast<size_t>(*col);
-    if (index >= m_sides->columnLooks.size()) m_sides->columnLooks.resize(index + 1, inheritedLook);
-    m_sides->columnLooks[index] = look;
+    if (index >= m_sides->columnFormats.size())
+        m_sides->columnFormats.resize(index + 1, inheritedFormat);
+    m_sides->columnFormats[index] = format;
     return true;
 }
 
-bool DocumentReader::readBandLook(std::string_view rest, Band& band, bool isCol) {
-    LookIndex look = inheritedLook;
-    LookIndex* place = &band.look;
+bool DocumentReader::readBandFormat(std::string_view rest, Band& band, bool isCol) {
+    FormatIndex format = inheritedFormat;
+    FormatIndex* place = &band.format;
     if (rest.starts_with("all "))
         takeWord(rest);
     else if (const auto index = isCol ? takeCol(rest) : takeRow(rest))
-        place = &band.looks[*index];
+        place = &band.formats[*index];
     else
         return false;
-    if (!takeLook(rest, look) || !rest.empty()) return false;
-    *place = look;
+    if (!takeFormat(rest, format) || !rest.empty()) return false;
+    *place = format;
     return true;
 }
 
-bool DocumentReader::readHeaderLook(std::string_view rest) {
-    return readBandLook(rest, m_sides->cols, true);
+bool DocumentReader::readHeaderFormat(std::string_view rest) {
+    return readBandFormat(rest, m_sides->cols, true);
 }
 
-bool DocumentReader::readRowHeaderLook(std::string_view rest) {
-    return readBandLook(rest, m_sides->rows, false);
+bool DocumentReader::readRowHeaderFormat(std::string_view rest) {
+    return readBandFormat(rest, m_sides->rows, false);
 }
 
 bool DocumentReader::readHeader(std::string_view rest) {
@@ -373,11 +374,11 @@ bool DocumentReader::readCell(std::string_view line) {
     line.remove_prefix(1);
     if (!claimCell(at->col, at->row)) return false;
     ++m_cellCount;
-    LookIndex look = inheritedLook;
-    if (line.starts_with('@') && !takeLook(line, look)) return false;
-    if (look == inheritedLook && line.empty()) return false;
+    FormatIndex format = inheritedFormat;
+    if (line.starts_with('@') && !takeFormat(line, format)) return false;
+    if (format == inheritedFormat && line.empty()) return false;
     if (!line.empty() && !readContent(line, at->col, at->row)) return false;
-    if (look != inheritedLook) m_document->m_sheet->setLook(at->col, at->row, look);
+    if (format != inheritedFormat) m_document->m_sheet->setFormat(at->col, at->row, format);
     return true;
 }
 

@@ -37,14 +37,14 @@ class DocumentReader {
     bool readProperty(std::string_view line);
     bool readSize(std::string_view rest);
     bool readOption(std::string_view rest);
-    bool readLookLine(std::string_view rest);
+    bool readFormatLine(std::string_view rest);
     bool readColWidth(std::string_view rest);
     bool readRowHeight(std::string_view rest);
     bool readHiddenCol(std::string_view rest);
     bool readHiddenRow(std::string_view rest);
-    bool readColLook(std::string_view rest);
-    bool readHeaderLook(std::string_view rest);
-    bool readRowHeaderLook(std::string_view rest);
+    bool readColFormat(std::string_view rest);
+    bool readHeaderFormat(std::string_view rest);
+    bool readRowHeaderFormat(std::string_view rest);
     bool readHeader(std::string_view rest);
     bool readRowHeader(std::string_view rest);
     bool readCorner(std::string_view rest);
@@ -64,11 +64,11 @@ class DocumentReader {
     // Parts of lines. Each takes its piece from the start of `rest`.
     std::optional<int> takeCol(std::string_view& rest);
     std::optional<int> takeRow(std::string_view& rest);
-    bool takeLook(std::string_view& rest, LookIndex& look);
+    bool takeFormat(std::string_view& rest, FormatIndex& format);
     bool takeText(std::string_view rest, std::string& text);
     bool takeCell(std::string_view& rest, CellAddress& cell);
     bool readSizeOf(std::string_view rest, bool isCol);
-    bool readBandLook(std::string_view rest, Band& band, bool isCol);
+    bool readBandFormat(std::string_view rest, Band& band, bool isCol);
     std::optional<formula::Value> readValue(std::string_view text);
 
     std::string_view m_text;
@@ -79,7 +79,7 @@ class DocumentReader {
     std::shared_ptr<Document> m_document;
     SideTables* m_sides = nullptr;
     bool m_hasSize = false;
-    std::vector<LookIndex> m_looks;  // by number in the document; 0 where there is none
+    std::vector<FormatIndex> m_formats;  // by number in the document; 0 where there is none
 
     struct Formula {
         int col, row, line;

@@ -191,7 +191,7 @@ struct Bytes {
 Bytes bytesOf(std::string_view text) {
     constexpr uint64_t ones = 0x0101010101010101U, highBits = ones * 0x80;
     uint64_t notAscii = 0, backslashes = 0;
-    const auto look = [&](uint64_t bytes) {
+    const auto format = [&](uint64_t bytes) {
         const uint64_t difference = bytes ^ ones * '\\';  // a byte of it is 0
         notAscii |= bytes;
         backslashes |= (difference - ones) & ~difference;
@@ -200,9 +200,9 @@ Bytes bytesOf(std::string_view text) {
     for (; at + sizeof(uint64_t) <= text.size(); at += sizeof(uint64_t)) {
         uint64_t bytes = 0;
         std::memcpy(&bytes, text.data() + at, sizeof bytes);
-        look(bytes);
+        format(bytes);
     }
-    for (; at < text.size(); ++at) look(static_cast<unsigned char>(text[at]));
+    for (; at < text.size(); ++at) format(static_cast<unsigned char>(text[at]));
     return {(notAscii & highBits) == 0, (backslashes & highBits) != 0};
 }
 

@@ -6,7 +6,7 @@
 #include "platform/base64.h"
 #include "platform/files.h"
 #include "spread/control/document.h"
-#include "spread/control/document_looks.h"
+#include "spread/control/document_formats.h"
 #include "spread/control/document_text.h"
 #include "spread/control/grid.h"
 
@@ -16,12 +16,12 @@ namespace {
 class DocumentWriter {
   public:
     explicit DocumentWriter(const Grid& grid)
-        : m_grid(grid), m_sides(grid.sides()), m_numbers(grid.looks().size(), 0) {}
+        : m_grid(grid), m_sides(grid.sides()), m_numbers(grid.formats().size(), 0) {}
 
     std::string write() {
         m_out << "vormant-sheet 1\nsize " << m_grid.cols() << ' ' << m_grid.rows() << '\n';
         writeOptions();
-        writeLooks();
+        writeFormats();
         writePictures();
         writeBand(m_sides.cols, "col", "header");
         writeBand(m_sides.rows, "row", "rowheader");
@@ -75,26 +75,26 @@ class DocumentWriter {
     }
 
     // Also notes which columns hold anything.
-    void writeLooks() {
-        const auto use = [this](LookIndex look) { m_numbers[look] = 1; };
-        use(m_sides.cols.look);
-        use(m_sides.rows.look);
-        for (const auto& [index, look] : m_sides.cols.looks) use(look);
-        for (const auto& [index, look] : m_sides.rows.looks) use(look);
-        for (const LookIndex look : m_sides.columnLooks) use(look);
+    void writeFormats() {
+        const auto use = [this](FormatIndex format) { m_numbers[format] = 1; };
+        use(m_sides.cols.format);
+        use(m_sides.rows.format);
+        for (const auto& [index, format] : m_sides.cols.formats) use(format);
+        for (const auto& [index, format] : m_sides.rows.formats) use(format);
+        for (const FormatIndex format : m_sides.columnFormats) use(format);
         m_grid.sheet().cells().each(Area{1, formula::maxRows, 1, formula::maxCols},
                                     [&](int, int col, const Cell& cell) {
-                                        use(cell.look);
+                                        use(cell.format);
                                         if (m_usedCols.empty() || m_usedCols.back() != col)
                                             m_usedCols.push_back(static_cast<uint16_t>(col));
                                     });
-        m_numbers[inheritedLook] = 0;
+        m_numbers[inheritedFormat] = 0;
         int number = 0;
-        for (size_t look = 0; look < m_numbers.size(); ++look) {
-            if (m_numbers[look] == 0) continue;
-            m_numbers[look] = ++number;
+        for (size_t format = 0; format < m_numbers.size(); ++format) {
+            if (m_numbers[format] == 0) continue;
+            m_numbers[format] = ++number;
             m_out << "look " << number << ' ';
-            writeLook(m_out, m_grid.looks()[static_cast<LookIndex>(look)]);
+            writeFormat(m_out, m_grid.formats()[static_cast<FormatIndex>(format)]);
             m_out << '\n';
         }
     }
@@ -103,9 +103,9 @@ class DocumentWriter {
     void writePictures() {
         if (m_sides.pictures.empty()) return;
         std::set<std::string_view> used;
-        for (size_t look = 0; look < m_numbers.size(); ++look) {
-            const CellType& type = m_grid.looks()[static_cast<LookIndex>(look)].type;
-            if (m_numbers[look] != 0 && type.kind == CellKind::picture) used.insert(type.text);
+        for (size_t format = 0; format < m_numbers.size(); ++format) {
+            const CellType& type = m_grid.formats()[static_cast<FormatIndex>(format)].type;
+            if (m_numbers[format] != 0 && type.kind == CellKind::picture) used.insert(type.text);
         }
         for (const auto& [name, picture] : m_sides.pictures)
             if (used.contains(name))
@@ -139,12 +139,12 @@ class DocumentWriter {
             writeName(isCol, index);
             m_out << '\n';
         }
-        if (band.look != inheritedLook)
-            m_out << header << "look all @" << m_numbers[band.look] << '\n';
-        for (const auto& [index, look] : band.looks) {
+        if (band.format != inheritedFormat)
+            m_out << header << "look all @" << m_numbers[band.format] << '\n';
+        for (const auto& [index, format] : band.formats) {
             m_out << header << "look ";
             writeName(isCol, index);
-            m_out << " @" << m_numbers[look] << '\n';
+            m_out << " @" << m_numbers[format] << '\n';
         }
         for (const auto& [index, text] : band.texts) {
             m_out << header << ' ';
@@ -166,11 +166,11 @@ class DocumentWriter {
     }
 
     void writeSpansAndTexts() {
-        for (size_t col = 1; col < m_sides.columnLooks.size(); ++col) {
-            if (m_sides.columnLooks[col] == inheritedLook) continue;
+        for (size_t col = 1; col < m_sides.columnFormats.size(); ++col) {
+            if (m_sides.columnFormats[col] == inheritedFormat) continue;
             m_out << "collook ";
             m_out.column(static_cast<int>(col));
-            m_out << " @" << m_numbers[m_sides.columnLooks[col]] << '\n';
+            m_out << " @" << m_numbers[m_sides.columnFormats[col]] << '\n';
         }
         if (!m_sides.cornerText.empty()) {
             m_out << "corner \"";
@@ -209,7 +209,7 @@ class DocumentWriter {
     void writeCell(int col, int row, const Cell& cell) {
         ++m_cellCount;
         m_out.address(col, row);
-        if (cell.look != inheritedLook) m_out << " @" << m_numbers[cell.look];
+        if (cell.format != inheritedFormat) m_out << " @" << m_numbers[cell.format];
         if (cell.formula != 0) {
             const bool isArray = m_grid.sheet().isArrayFormula(col, row);
             m_out << (isArray ? " ={=" : " =");
@@ -230,7 +230,7 @@ class DocumentWriter {
     const Grid& m_grid;
     const SideTables& m_sides;
     DocumentOutput m_out;
-    std::vector<int> m_numbers;  // by look: its number in the document
+    std::vector<int> m_numbers;  // by format: its number in the document
     std::vector<uint16_t> m_usedCols;
     int m_cellCount = 0;
 };

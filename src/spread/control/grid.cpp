@@ -42,7 +42,7 @@ SideTables& Grid::changeSides() {
     return m_sides.change();
 }
 
-void Grid::noteTouched(int col, int row) {
+void Grid::markTouched(int col, int row) {
     m_changed = true;
     m_isAsLoaded = false;
     if (!m_canUndo) return;
@@ -198,10 +198,11 @@ bool Grid::copyBlock(const Block& given, int toCol, int toRow) {
             const int r = backwards ? rows - i : i, c = backwards ? cols - j : j;
             const CellAddress source{from->col1 + c, from->row1 + r};
             const CellAddress target{toCol + c, toRow + r};
-            noteTouched(target.col, target.row);
-            const LookIndex look = lookIndex(source.col, source.row);
+            markTouched(target.col, target.row);
+            const FormatIndex format = formatIndex(source.col, source.row);
             m_sheet->copyCell(source, target);
-            m_sheet->setLook(target.col, target.row, look == inheritedLook ? plainLook : look);
+            m_sheet->setFormat(target.col, target.row,
+                               format == inheritedFormat ? plainFormat : format);
             tag = text(source.col, source.row, Reading::tag);
             if (tag != text(target.col, target.row, Reading::tag))
                 setTag(target.col, target.row, tag);
@@ -210,40 +211,40 @@ bool Grid::copyBlock(const Block& given, int toCol, int toRow) {
     return true;
 }
 
-bool Grid::copyRowLooks(int from, int to) {
+bool Grid::copyRowFormats(int from, int to) {
     const auto isRow = [&](int row) { return row >= 1 && row <= m_rows; };
     if (!isRow(from) || !isRow(to)) return false;
     for (int col = 1; col <= m_cols; ++col) {
-        const LookIndex look = lookIndex(col, from);
-        if (look == lookIndex(col, to)) continue;
-        noteTouched(col, to);
-        m_sheet->setLook(col, to, look == inheritedLook ? plainLook : look);
+        const FormatIndex format = formatIndex(col, from);
+        if (format == formatIndex(col, to)) continue;
+        markTouched(col, to);
+        m_sheet->setFormat(col, to, format == inheritedFormat ? plainFormat : format);
     }
     return true;
 }
 
-bool Grid::copyColLooks(int from, int to) {
+bool Grid::copyColFormats(int from, int to) {
     const auto isCol = [&](int col) { return col >= 1 && col <= m_cols; };
     if (!isCol(from) || !isCol(to)) return false;
-    std::vector<LookIndex>& looks = changeSides().columnLooks;
-    const LookIndex look = m_sides->columnLook(from);
+    std::vector<FormatIndex>& formats = changeSides().columnFormats;
+    const FormatIndex format = m_sides->columnFormat(from);
     const auto last = static_cast<size_t>(std::max(from, to));
-    if (looks.size() <= last) looks.resize(last + 1, inheritedLook);
-    looks[static_cast<size_t>(to)] = look;
+    if (formats.size() <= last) formats.resize(last + 1, inheritedFormat);
+    formats[static_cast<size_t>(to)] = format;
     const auto area = [](int col) {
         const auto c = static_cast<uint16_t>(col);
         return Area{1, formula::maxRows, c, c};
     };
-    std::vector<std::pair<int, LookIndex>> own;
+    std::vector<std::pair<int, FormatIndex>> own;
     m_sheet->cells().each(area(to), [&](int row, int, const Cell& cell) {
-        if (cell.look != inheritedLook) own.emplace_back(row, inheritedLook);
+        if (cell.format != inheritedFormat) own.emplace_back(row, inheritedFormat);
     });
     m_sheet->cells().each(area(from), [&](int row, int, const Cell& cell) {
-        if (cell.look != inheritedLook) own.emplace_back(row, cell.look);
+        if (cell.format != inheritedFormat) own.emplace_back(row, cell.format);
     });
-    for (const auto& [row, ownLook] : own) {
-        noteTouched(to, row);
-        m_sheet->setLook(to, row, ownLook);
+    for (const auto& [row, ownFormat] : own) {
+        markTouched(to, row);
+        m_sheet->setFormat(to, row, ownFormat);
     }
     return true;
 }
@@ -315,10 +316,10 @@ void Grid::addCustomFunction(const formula::CustomFunction* function) {
 
 void Grid::restore(std::shared_ptr<const Document> document) {
     if (m_canUndo && m_document == document) {
-        putBackTouched();
+        restoreTouched();
     } else {
         *m_sheet = document->sheet();
-        m_looks = document->looks();
+        m_formats = document->formats();
         m_document = std::move(document);
         addKnownFunctions();
     }
@@ -330,7 +331,7 @@ void Grid::restore(std::shared_ptr<const Document> document) {
 
 void Grid::adopt(std::shared_ptr<Document> document) {
     m_sheet.swap(document->m_sheet);
-    m_looks = std::move(document->m_looks);
+    m_formats = std::move(document->m_formats);
     m_document = nullptr;
     addKnownFunctions();
     startFrom(*document);
@@ -353,7 +354,7 @@ bool Grid::saveTexts(std::string_view path) {
     return files::writeWhole(path, copyText({1, 1, -1, -1}) + "\n", m_lastError);
 }
 
-void Grid::putBackTouched() {
+void Grid::restoreTouched() {
     // The document has none (see restore).
     if (m_sheet->formulaCount() > 0) m_sheet->removeFormulas();
     const Sheet& original = m_document->sheet();

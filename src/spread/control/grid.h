@@ -1,6 +1,6 @@
-// The grid: a sheet that calculates, with looks, headers, sizes, spans, tags, options, a selection
-// and an edit mode. Columns and rows count from 1; the header row and header column are addressed
-// with -32767 (or 0). Nothing here draws: views read it.
+// The grid: a sheet that calculates, with formats, headers, sizes, spans, tags, options, a
+// selection and an edit mode. Columns and rows count from 1; the header row and header column are
+// addressed with -32767 (or 0). Nothing here draws: views read it.
 //
 // Cells are read in four ways. *Value* of a number cell is its number rounded to the cell's
 // decimals, without trailing zeros; *data* the text a user sees, with fixed decimals; formula
@@ -19,8 +19,8 @@
 #include <utility>
 #include <vector>
 
+#include "spread/control/cell_format.h"
 #include "spread/control/document.h"
-#include "spread/control/look.h"
 #include "spread/control/sheet.h"
 #include "spread/control/side_tables.h"
 
@@ -146,11 +146,12 @@ class Grid {
     bool setTag(int col, int row, std::string_view text);
     bool setNote(int col, int row, std::string_view text);
     std::string_view note(int col, int row) const;
-    /// Empties value, formula, tag and note; the look stays.
+    /// Empties value, formula, tag and note; the format stays.
     void clearCells(const Block& block);
 
-    /// Makes a cell what it was, past what its type takes: value and look of `content` and, unless
-    /// null, a formula in A1 notation whose result the value is; without a value it is calculated.
+    /// Makes a cell what it was, past what its type takes: value and format of `content` and,
+    /// unless null, a formula in A1 notation whose result the value is; without a value it is
+    /// calculated.
     void putCell(int col, int row, const Cell& content, const TextBlock* formula, bool isArray);
 
     // --- formulas ---------------------------------------------------------------------------
@@ -173,21 +174,21 @@ class Grid {
     void addCustomFunction(const formula::CustomFunction* function);
     const Sheet& sheet() const { return *m_sheet; }
 
-    // --- looks ------------------------------------------------------------------------------
-    const LookTable& looks() const { return m_looks; }
-    /// The look that a cell or header cell shows.
-    const Look& look(int col, int row) const { return m_looks[lookIndex(col, row)]; }
-    LookIndex lookIndex(int col, int row) const;
+    // --- formats ------------------------------------------------------------------------------
+    const FormatTable& formats() const { return m_formats; }
+    /// The format that a cell or header cell shows.
+    const CellFormat& format(int col, int row) const { return m_formats[formatIndex(col, row)]; }
+    FormatIndex formatIndex(int col, int row) const;
     /// Gives a block a type and leaves font, colours, border and lock. A block that covers all
-    /// rows becomes the look of its columns, for rows that come later too.
+    /// rows becomes the format of its columns, for rows that come later too.
     bool setType(const Block& block, const CellType& type);
     /// One cell: allocates nothing when the type was used before.
     bool setType(int col, int row, const CellType& type);
-    /// Changes any part of the looks of a block.
+    /// Changes any part of the formats of a block.
     template <class Change>
-    bool changeLooks(const Block& block, Change&& change) {
-        return eachLook(block, [&](const Look& look) {
-            Look changed = look;
+    bool changeFormats(const Block& block, Change&& change) {
+        return eachFormat(block, [&](const CellFormat& format) {
+            CellFormat changed = format;
             change(changed);
             return changed;
         });
@@ -202,7 +203,7 @@ class Grid {
         return control::keepPicture(changeSides().pictures, std::move(bytes));
     }
     /// The bytes; null for what is not kept here, a file's path say.
-    const std::string* keptPicture(std::string_view name) const {
+    const std::string* embeddedImage(std::string_view name) const {
         const auto found = m_sides->pictures.find(name);
         return found == m_sides->pictures.end() ? nullptr : found->second.bytes.get();
     }
@@ -247,10 +248,10 @@ class Grid {
     /// move up or down; references follow. False when either place lies outside.
     bool moveRows(int from, int count, int to);
     bool moveCols(int from, int count, int to);
-    /// Contents, looks and tags of a block to the place whose top left is (col, row).
+    /// Contents, formats and tags of a block to the place whose top left is (col, row).
     bool copyBlock(const Block& from, int col, int row);
-    bool copyRowLooks(int from, int to);
-    bool copyColLooks(int from, int to);
+    bool copyRowFormats(int from, int to);
+    bool copyColFormats(int from, int to);
 
     // --- selection, editing, clipboard ------------------------------------------------------
     /// (0, 0) when no cell is active.
@@ -316,28 +317,28 @@ class Grid {
         int start = 0;
         int length = 0;
     };
-    using ChangeLook = std::function<Look(const Look&)>;
-    bool eachLook(const Block& block, const ChangeLook& change);
-    void changeHeaderLooks(Band& band, int from, int to, int count, const ChangeLook& change);
-    void changeColumnLooks(int col, const ChangeLook& change);
-    void changeCellLooks(const Block& block, const ChangeLook& change);
+    using ChangeFormat = std::function<CellFormat(const CellFormat&)>;
+    bool eachFormat(const Block& block, const ChangeFormat& change);
+    void changeHeaderFormats(Band& band, int from, int to, int count, const ChangeFormat& change);
+    void changeColumnFormats(int col, const ChangeFormat& change);
+    void changeCellFormats(const Block& block, const ChangeFormat& change);
     // Of a cell in column `col`; null is one that is not stored.
-    LookIndex shownLook(const Cell* cell, int col) const {
-        return cell && cell->look != inheritedLook ? cell->look : m_sides->columnLook(col);
+    FormatIndex shownFormat(const Cell* cell, int col) const {
+        return cell && cell->format != inheritedFormat ? cell->format : m_sides->columnFormat(col);
     }
-    LookIndex ownLook(const Cell* cell, int col, const CellType& type);
-    void noteTouched(int col, int row);
+    FormatIndex ownFormat(const Cell* cell, int col, const CellType& type);
+    void markTouched(int col, int row);
     void noteStructure();
     void dropBeyond(int lastCol, int lastRow);
     void dropCells(int lastCol, int lastRow);
-    void putBackTouched();
+    void restoreTouched();
     void addKnownFunctions();
     void startFrom(const Document& document);
 
     int m_cols = 0;
     int m_rows = 0;
     std::unique_ptr<Sheet> m_sheet;
-    LookTable m_looks;
+    FormatTable m_formats;
     SharedSides m_sides;
     uint64_t m_sidesRevision = 0;
     std::vector<const formula::CustomFunction*> m_custom;

@@ -160,10 +160,10 @@ void setHeaderText(SideTables& sides, int col, int row, std::string_view text) {
 
 bool Grid::writeValue(int col, int row, const Value& value) {
     if (!isInside(col, row)) return false;
-    Acceptance acceptance(look(col, row).type);
+    Acceptance acceptance(format(col, row).type);
     const std::optional<Value> accepted = acceptance.of(value);
     if (!accepted) return false;
-    noteTouched(col, row);
+    markTouched(col, row);
     m_sheet->setValue(col, row, *accepted);
     return true;
 }
@@ -174,8 +174,8 @@ bool Grid::writeNumber(int col, int row, const CellType& type, double number) {
         (void)setType(col, row, type);
         return false;
     }
-    noteTouched(col, row);
-    m_sheet->put(col, row, Value(number), ownLook(m_sheet->find(col, row), col, type));
+    markTouched(col, row);
+    m_sheet->put(col, row, Value(number), ownFormat(m_sheet->find(col, row), col, type));
     return true;
 }
 
@@ -183,18 +183,18 @@ bool Grid::writeEmpty(int col, int row, const CellType& type) {
     if (!isInside(col, row)) return false;
     const Cell* cell = m_sheet->find(col, row);
     if (!cell || (cell->type == ValueType::empty && !cell->formula)) return setType(col, row, type);
-    noteTouched(col, row);
-    m_sheet->put(col, row, Value(), ownLook(cell, col, type));
+    markTouched(col, row);
+    m_sheet->put(col, row, Value(), ownFormat(cell, col, type));
     return true;
 }
 
 Cell* Grid::plainCell(int col, int row, const CellType& type) {
     Cell* cell = isInside(col, row) ? m_sheet->plainCell(col, row) : nullptr;
-    if (!cell || !(m_looks[shownLook(cell, col)].type == type)) return nullptr;
+    if (!cell || !(m_formats[shownFormat(cell, col)].type == type)) return nullptr;
     m_changed = true;
-    // One that has another look than in the document was noted when it got that.
+    // One that has another format than in the document was noted when it got that.
     const Cell* original = m_document ? m_document->sheet().find(col, row) : nullptr;
-    if (!original || original->look == cell->look) noteTouched(col, row);
+    if (!original || original->format == cell->format) markTouched(col, row);
     return cell;
 }
 
@@ -212,7 +212,7 @@ std::string_view Grid::shownText(const CellType& type, const Value& value, std::
 
 Value Grid::shownValue(int col, int row) const {
     if (!isInside(col, row)) return Value();
-    return shown(look(col, row).type, m_sheet->value(col, row));
+    return shown(format(col, row).type, m_sheet->value(col, row));
 }
 
 bool Grid::setData(int col, int row, std::string_view text) {
@@ -228,7 +228,7 @@ std::string_view Grid::text(int col, int row, Reading reading, std::string& buff
     if (!isInside(col, row))
         return reading == Reading::formula ? std::string_view() : headerText(*m_sides, col, row);
     if (reading == Reading::formula) return m_sheet->formula(col, row).value_or("");
-    const CellType& type = look(col, row).type;
+    const CellType& type = format(col, row).type;
     return textOf(shown(type, m_sheet->value(col, row)), type, reading == Reading::data, buffer);
 }
 
@@ -264,7 +264,7 @@ void Grid::clearCells(const Block& block) {
         if (cell.type != ValueType::empty || cell.formula != 0) filled.push_back({col, row});
     });
     for (const CellAddress& cell : filled) {
-        noteTouched(cell.col, cell.row);
+        markTouched(cell.col, cell.row);
         m_sheet->setValue(cell.col, cell.row, Value());
     }
     const auto isIn = [&](const auto& entry) {
@@ -280,11 +280,11 @@ void Grid::clearCells(const Block& block) {
 
 void Grid::putCell(int col, int row, const Cell& content, const TextBlock* formula, bool isArray) {
     if (!isInside(col, row)) return;
-    noteTouched(col, row);
+    markTouched(col, row);
     if (formula) {
         m_sheet->putFormula(col, row, formula->view(), content.value(), isArray);
-        m_sheet->setLook(col, row, content.look);
-    } else if (content.type == ValueType::empty && content.look == inheritedLook) {
+        m_sheet->setFormat(col, row, content.format);
+    } else if (content.type == ValueType::empty && content.format == inheritedFormat) {
         m_sheet->clearCell(col, row);
     } else {
         m_sheet->putBack(col, row, content);
@@ -300,11 +300,11 @@ bool Grid::setFormula(int col, int row, std::string_view text, formula::ParseErr
     }
     if (!text.empty()) {
         if (!m_sheet->setFormula(col, row, text, why)) return false;
-        noteTouched(col, row);
+        markTouched(col, row);
         return true;
     }
     if (!m_sheet->formula(col, row)) return true;
-    noteTouched(col, row);
+    markTouched(col, row);
     const std::string kept(m_sheet->value(col, row).isText() ? m_sheet->value(col, row).text()
                                                              : std::string_view());
     const Value value = m_sheet->value(col, row);
@@ -313,7 +313,7 @@ bool Grid::setFormula(int col, int row, std::string_view text, formula::ParseErr
 }
 
 void Grid::setFormula(int col, int row, const formula::ProgramRef& program, TextBlock* text) {
-    noteTouched(col, row);
+    markTouched(col, row);
     m_sheet->setFormula(col, row, program, text);
 }
 

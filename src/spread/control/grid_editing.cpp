@@ -58,7 +58,7 @@ bool Grid::select(const Block& block) {
 
 bool Grid::beginEdit() {
     if (!isInside(m_active.col, m_active.row)) return false;
-    const Look& shown = look(m_active.col, m_active.row);
+    const CellFormat& shown = format(m_active.col, m_active.row);
     if (shown.locked || !isTypable(shown.type)) return false;
     if (m_edit) return true;
     m_edit.emplace(Edit{});
@@ -100,7 +100,7 @@ bool Grid::endEdit(bool keep) {
 
 bool Grid::enter(int col, int row, std::string_view typed) {
     if (!isInside(col, row)) return false;
-    const Look& shown = look(col, row);
+    const CellFormat& shown = format(col, row);
     if (shown.locked) return false;
     const bool isFormula = typed.size() > 1 && typed[0] == '=' && option(Option::userFormulas);
     if (!mayBeTyped(shown.type, isFormula ? "" : typed)) return false;

@@ -22,7 +22,7 @@ void Sheet::follow() {
         recalculateDirty();
     } else if (m_changed.size() > 4096) {
         // Notes are only worth taking while they are fewer than what they save.
-        settle();
+        propagate();
     }
 }
 
@@ -59,9 +59,9 @@ void Sheet::touchVolatile() {
 }
 
 // Makes everything dirty that reads a changed cell, directly or through other formulas.
-void Sheet::settle() {
+void Sheet::propagate() {
     if (!m_changed.empty()) touchVolatile();
-    m_calculation.m_unsettled = false;
+    m_calculation.m_hasPendingChanges = false;
     if (m_changed.empty()) return;
     linkNew();
     m_dependents.beginWalk();
@@ -97,7 +97,7 @@ bool Sheet::recalculateCell(int col, int row) {
 
 void Sheet::recalculateDirty() {
     touchVolatile();
-    settle();
+    propagate();
     m_isStopped = false;
     // Calculating cannot dirty anything, so the list may be taken away.
     std::vector<uint32_t> dirtied;
@@ -117,7 +117,7 @@ void Sheet::recalculateDirty() {
 void Sheet::recalculate() {
     m_changed.clear();
     m_dirtied.clear();
-    m_calculation.m_unsettled = false;
+    m_calculation.m_hasPendingChanges = false;
     for (const uint32_t id : m_order) {
         const FormulaSlot& slot = m_slots[id];
         if (slot.live)
@@ -206,7 +206,7 @@ void Sheet::calculate(uint32_t first) {
 void Sheet::calculateChanged(uint32_t id) {
     const FormulaSlot& slot = m_slots[id];
     touchedQuietly(slot.col, slot.row);
-    if (m_automatic) settle();
+    if (m_automatic) propagate();
     calculate(id);
     follow();
 }
@@ -263,8 +263,8 @@ uint32_t Sheet::beginWaiting(uint32_t id, uint32_t parent) {
 // followed, nobody knew whether it was dirty: a run that did not read what is up to date says
 // nothing about circles.
 void Sheet::meetDirty(Waiting& waiting) {
-    if (m_calculation.m_unsettled) waiting.hasProgress = true;
-    settle();
+    if (m_calculation.m_hasPendingChanges) waiting.hasProgress = true;
+    propagate();
     for (const Area& area : m_calculation.m_dirtyAreas)
         m_cells.each(area, [&](int, int, const Cell& cell) {
             if (cell.dirty) m_met.push_back(cell.formula);

@@ -40,7 +40,7 @@ Sheet& Sheet::operator=(const Sheet& other) {
     m_freeSlots = other.m_freeSlots;
     m_deadSlots = other.m_deadSlots;
     m_dirtied = other.m_dirtied;
-    m_calculation.m_unsettled = other.m_calculation.m_unsettled;
+    m_calculation.m_hasPendingChanges = other.m_calculation.m_hasPendingChanges;
     m_order = other.m_order;
     m_volatile = other.m_volatile;
     m_unknown = other.m_unknown;
@@ -81,7 +81,7 @@ void Sheet::forgetFormulas() {
     m_freeSlots.clear();
     m_deadSlots.clear();
     m_dirtied.clear();
-    m_calculation.m_unsettled = false;
+    m_calculation.m_hasPendingChanges = false;
     m_order.clear();
     m_unlinked.clear();
     m_volatile.clear();
@@ -92,9 +92,9 @@ void Sheet::forgetFormulas() {
     m_resultText = 0;
 }
 
-uint16_t Sheet::look(int col, int row) const {
+uint16_t Sheet::format(int col, int row) const {
     const Cell* cell = m_cells.find(col, row);
-    return cell ? cell->look : 0;
+    return cell ? cell->format : 0;
 }
 
 // --- plain values
@@ -107,11 +107,11 @@ void Sheet::setValue(int col, int row, const Value& value) {
     touched(col, row);
 }
 
-void Sheet::put(int col, int row, const Value& value, uint16_t look) {
+void Sheet::put(int col, int row, const Value& value, uint16_t format) {
     Cell& cell = m_cells.obtain(col, row);
     if (cell.formula) removeFormula(col, row, cell);
     m_cells.setValue(cell, value);
-    cell.look = look;
+    cell.format = format;
     touched(col, row);
 }
 
@@ -127,7 +127,7 @@ void Sheet::putBack(int col, int row, const Cell& from) {
     Cell& cell = m_cells.obtain(col, row);
     if (cell.formula) removeFormula(col, row, cell);
     CellStore::shareValue(cell, from);
-    cell.look = from.look;
+    cell.format = from.format;
     touched(col, row);
 }
 

@@ -1,5 +1,5 @@
 // A sheet of cells that calculates: values, formulas, and who depends on whom. It knows nothing of
-// looks, files or windows; grid.h adds those.
+// formats, files or windows; grid.h adds those.
 //
 // Changes are noted, not followed, until somebody needs to know (settle): with automatic
 // recalculation off, a thousand written cells cost a thousand notes. A formula that meets a dirty
@@ -37,7 +37,7 @@ class Sheet {
     const CellStore& cells() const { return m_cells; }
     Value value(int col, int row) const { return m_cells.value(col, row); }
     const Cell* find(int col, int row) const { return m_cells.find(col, row); }
-    uint16_t look(int col, int row) const;
+    uint16_t format(int col, int row) const;
 
     /// Writes a plain value; a formula in the cell is removed. Texts are copied.
     void setValue(int col, int row, const Value& value);
@@ -46,13 +46,13 @@ class Sheet {
     Cell* plainCell(int col, int row) {
         return m_liveFormulas == 0 ? m_cells.find(col, row) : nullptr;
     }
-    /// setValue and setLook in one.
-    void put(int col, int row, const Value& value, uint16_t look);
-    void setLook(int col, int row, uint16_t look) { m_cells.obtain(col, row).look = look; }
+    /// setValue and setFormat in one.
+    void put(int col, int row, const Value& value, uint16_t format);
+    void setFormat(int col, int row, uint16_t format) { m_cells.obtain(col, row).format = format; }
     /// Makes the cell what `from` is, a cell of any sheet that has no formula: value (its text is
-    /// shared, not copied) and look. A formula in the cell is removed.
+    /// shared, not copied) and format. A formula in the cell is removed.
     void putBack(int col, int row, const Cell& from);
-    /// Empties the cell: value, formula and look.
+    /// Empties the cell: value, formula and format.
     void clearCell(int col, int row);
     void clear();
 
@@ -131,7 +131,7 @@ class Sheet {
     /// Rows from..from+count-1 go where the first of them gets the number `to`; references follow.
     void moveRows(int from, int count, int to);
     void moveCols(int from, int count, int to);
-    /// Copies value, formula (relative references shifted) and look.
+    /// Copies value, formula (relative references shifted) and format.
     void copyCell(CellAddress from, CellAddress to);
 
     /// Memory held by links and formulas, for measurements, in bytes.
@@ -178,9 +178,9 @@ class Sheet {
     void touchedQuietly(int col, int row) {
         if (m_liveFormulas == 0) return;
         m_changed.push_back({col, row});
-        m_calculation.m_unsettled = true;
+        m_calculation.m_hasPendingChanges = true;
     }
-    void settle();
+    void propagate();
     void touchVolatile();
     void linkNew();
     void relinkAll();
@@ -218,7 +218,7 @@ class Sheet {
     std::vector<uint32_t> m_volatile;
     std::vector<uint32_t> m_unknown;  // formulas that did not compile when they were loaded
     std::vector<CellAddress> m_changed;
-    std::vector<uint32_t> m_dirtied;  // formulas that settle() made dirty
+    std::vector<uint32_t> m_dirtied;  // formulas that propagate() made dirty
     std::vector<Waiting> m_waiting;   // those on the way to the running formula, and circles so far
     std::vector<uint32_t> m_met;      // formulas that they wait for and that are still to be tried
     std::vector<uint32_t> m_places;   // by formula: where it stands in m_waiting

@@ -68,7 +68,7 @@ void moveKeys(std::set<int>& set, Move move) {
 template <class Move>
 void moveBand(Band& band, Move move) {
     moveKeys(band.texts, move);
-    moveKeys(band.looks, move);
+    moveKeys(band.formats, move);
     moveKeys(band.sizes, move);
     moveKeys(band.hidden, move);
 }
@@ -88,15 +88,15 @@ void moveCells(CellTexts& texts, bool rows, Move move) {
 }
 
 template <class Move>
-void moveColumnLooks(std::vector<LookIndex>& looks, Move move) {
-    std::vector<LookIndex> moved;
-    for (size_t col = 1; col < looks.size(); ++col) {
+void moveColumnFormats(std::vector<FormatIndex>& formats, Move move) {
+    std::vector<FormatIndex> moved;
+    for (size_t col = 1; col < formats.size(); ++col) {
         const auto to = static_cast<size_t>(move(static_cast<int>(col)));
-        if (looks[col] == inheritedLook || to == gone) continue;
-        if (to >= moved.size()) moved.resize(to + 1, inheritedLook);
-        moved[to] = looks[col];
+        if (formats[col] == inheritedFormat || to == gone) continue;
+        if (to >= moved.size()) moved.resize(to + 1, inheritedFormat);
+        moved[to] = formats[col];
     }
-    looks = std::move(moved);
+    formats = std::move(moved);
 }
 
 // One direction of a span: its first index and its extent, from 1. Header spans (0) stay.
@@ -150,7 +150,7 @@ void moveColsOf(SideTables& tables, Move move) {
     moveBand(tables.cols, move);
     moveCells(tables.tags, false, move);
     moveCells(tables.notes, false, move);
-    moveColumnLooks(tables.columnLooks, move);
+    moveColumnFormats(tables.columnFormats, move);
 }
 
 }  // namespace

@@ -9,9 +9,9 @@
 #include <string>
 #include <vector>
 
+#include "spread/control/cell_format.h"
 #include "spread/control/cells.h"
-#include "spread/control/kept_pictures.h"
-#include "spread/control/look.h"
+#include "spread/control/embedded_images.h"
 #include "spread/control/span_table.h"
 
 namespace control {
@@ -31,9 +31,9 @@ using CellTexts = std::map<int64_t, std::string>;
 
 /// One header band: the row of column headers, or the column of row headers.
 struct Band {
-    std::map<int, std::string> texts;  ///< by column or row; others show their letters or number
-    std::map<int, LookIndex> looks;    ///< those that differ from `look`
-    LookIndex look = inheritedLook;
+    std::map<int, std::string> texts;    ///< by column or row; others show their letters or number
+    std::map<int, FormatIndex> formats;  ///< those that differ from `format`
+    FormatIndex format = inheritedFormat;
     std::map<int, int> sizes;  ///< pixels: column widths or row heights that differ
     std::set<int> hidden;
     int defaultSize = 0;
@@ -44,16 +44,16 @@ struct Band {
 struct SideTables {
     Band cols;
     Band rows;
-    std::vector<LookIndex> columnLooks;  ///< by column, from 1; short when the rest inherits
+    std::vector<FormatIndex> columnFormats;  ///< by column, from 1; short when the rest inherits
     SpanTable spans;
     CellTexts tags;
     CellTexts notes;
     std::string cornerText;
-    KeptPictures pictures;
+    EmbeddedImages pictures;
     bool columnHeaders = true;  ///< shown
     bool rowHeaders = true;
     int referenceStyle = 0;  ///< 0 and 1: A1; 2: R1C1
-    int gridType = 0;  ///< lines: 0 both ways, 1 none, 2 between rows, 3 between columns
+    int gridType = 0;        ///< lines: 0 both ways, 1 none, 2 between rows, 3 between columns
     Colour gridColour = automatic;
     Colour greyArea = automatic;
     Colour lockedColour = automatic;
@@ -63,9 +63,9 @@ struct SideTables {
     SideTables();
     bool operator==(const SideTables&) const = default;
 
-    LookIndex columnLook(int col) const {
+    FormatIndex columnFormat(int col) const {
         const auto c = static_cast<size_t>(col);
-        return c < columnLooks.size() ? columnLooks[c] : inheritedLook;
+        return c < columnFormats.size() ? columnFormats[c] : inheritedFormat;
     }
 
     /// What belongs to rows or columns moves with them; what belonged to deleted ones goes.

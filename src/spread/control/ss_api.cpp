@@ -133,7 +133,7 @@ bool SSGetFloat(SSHandle grid, int col, int row, double& number) {
 
 int SSGetCellType(SSHandle grid, int col, int row) {
     if (!grid || !grid->isAddress(col, row)) return 0;
-    const control::CellType& type = grid->look(col, row).type;
+    const control::CellType& type = grid->format(col, row).type;
     const bool isWhole = type.isNumber() && type.decimals == 0;
     return static_cast<int>(isWhole ? CellKind::wholeNumber : type.kind);
 }
@@ -249,14 +249,16 @@ bool SSSetLock(SSHandle grid, int col, int row, bool locked) {
     return SSSetLockRange(grid, col, row, col, row, locked);
 }
 bool SSSetLockRange(SSHandle grid, int col, int row, int col2, int row2, bool locked) {
-    return grid && grid->changeLooks({col, row, col2, row2},
-                                     [&](control::Look& look) { look.locked = locked; });
+    return grid && grid->changeFormats({col, row, col2, row2}, [&](control::CellFormat& format) {
+        format.locked = locked;
+    });
 }
 bool SSGetLock(SSHandle grid, int col, int row) {
-    return grid && grid->isAddress(col, row) && grid->look(col, row).locked;
+    return grid && grid->isAddress(col, row) && grid->format(col, row).locked;
 }
 
-// --- look ---------------------------------------------------------------------------------------
+// --- format
+// ---------------------------------------------------------------------------------------
 
 bool SSSetColWidth(SSHandle grid, int col, double units) {
     return SSSetColWidthInPixels(grid, col, static_cast<int>(std::lround(units * pixelsPerUnit)));
@@ -307,18 +309,18 @@ bool SSGetMaxTextRowHeight(SSHandle grid, int row, int& pixels) {
 bool SSSetFont(SSHandle grid, int col, int row, int col2, int row2, const char* name, int height,
                int weight) {
     if (!grid || height < 1) return false;
-    return grid->changeLooks({col, row, col2, row2}, [&](control::Look& look) {
-        look.font.name = viewOf(name);
-        look.font.height = height;
-        look.font.weight = weight;
+    return grid->changeFormats({col, row, col2, row2}, [&](control::CellFormat& format) {
+        format.font.name = viewOf(name);
+        format.font.height = height;
+        format.font.weight = weight;
     });
 }
 
 bool SSSetColor(SSHandle grid, int col, int row, int col2, int row2, uint32_t background,
                 uint32_t text) {
-    return grid && grid->changeLooks({col, row, col2, row2}, [&](control::Look& look) {
-        look.background = background;
-        look.textColour = text;
+    return grid && grid->changeFormats({col, row, col2, row2}, [&](control::CellFormat& format) {
+        format.background = background;
+        format.textColour = text;
     });
 }
 

@@ -132,7 +132,7 @@ bool SSSetLock(SSHandle grid, int col, int row, bool locked);
 bool SSSetLockRange(SSHandle grid, int col, int row, int col2, int row2, bool locked);
 bool SSGetLock(SSHandle grid, int col, int row);
 
-// --- look -------------------------------------------------------------------------------------
+// --- format -------------------------------------------------------------------------------------
 /// Widths in units of an average character (8 pixels), heights in points (3/4 pixel).
 bool SSSetColWidth(SSHandle grid, int col, double units);
 bool SSGetColWidth(SSHandle grid, int col, double& units);

@@ -26,7 +26,7 @@ bool readsWholeLines(const formula::Program& program) {
 // holds distances, may well stay the same while a cell between them is gone.
 template <class Move>
 void Sheet::restructure(Move&& moveCells, const formula::MoveReference& moveReference) {
-    settle();  // what is noted are places
+    propagate();  // what is noted are places
     const formula::ReferenceStyle style = m_style;
     writeFormulasIn(formula::ReferenceStyle::a1);
     moveCells();
@@ -164,7 +164,7 @@ void Sheet::carryFormula(int col, int row, int cols, int rows) {
 
 void Sheet::swapRows(int first, int other, int count) {
     if (first == other) return;
-    settle();
+    propagate();
     const formula::ReferenceStyle style = m_style;
     writeFormulasIn(formula::ReferenceStyle::a1);
     const int lastCol = m_cells.lastCol();
@@ -183,7 +183,7 @@ void Sheet::swapRows(int first, int other, int count) {
 
 void Sheet::swapCols(int first, int other, int count) {
     if (first == other) return;
-    settle();
+    propagate();
     const formula::ReferenceStyle style = m_style;
     writeFormulasIn(formula::ReferenceStyle::a1);
     const int lastRow = m_cells.lastRow();
@@ -216,7 +216,7 @@ void Sheet::copyCell(CellAddress from, CellAddress to) {
         clearCell(to.col, to.row);
         return;
     }
-    const uint16_t look = source->look;
+    const uint16_t format = source->format;
     if (source->formula) {
         // Nothing else changes its notation meanwhile: the copy is calculated at once, and
         // FORMULATEXT reads it.
@@ -230,7 +230,7 @@ void Sheet::copyCell(CellAddress from, CellAddress to) {
     } else {
         setValue(to.col, to.row, source->value());
     }
-    setLook(to.col, to.row, look);
+    setFormat(to.col, to.row, format);
 }
 
 }  // namespace control

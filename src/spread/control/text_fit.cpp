@@ -32,16 +32,16 @@ void setMeasureLine(MeasureLine measure) {
     measureLine = measure ? measure : estimate;
 }
 
-TextSize fittedSize(std::string_view text, const Look& look) {
-    const CellKind kind = look.type.kind;
-    const int lineHeight = look.font.height + 3;
+TextSize fittedSize(std::string_view text, const CellFormat& format) {
+    const CellKind kind = format.type.kind;
+    const int lineHeight = format.font.height + 3;
     if (kind == CellKind::picture || kind == CellKind::pictureHandle) return {0, lineHeight};
     if (kind == CellKind::checkBox) return {buttonRoom, lineHeight};
-    if (kind == CellKind::button) text = look.type.text;
+    if (kind == CellKind::button) text = format.type.text;
     TextSize size{0, 0};
     for (size_t at = 0; at <= text.size();) {
         const size_t end = std::min(text.find('\n', at), text.size());
-        size.width = std::max(size.width, measureLine(text.substr(at, end - at), look.font));
+        size.width = std::max(size.width, measureLine(text.substr(at, end - at), format.font));
         size.height += lineHeight;
         at = end + 1;
     }

@@ -5,7 +5,7 @@
 #include <string_view>
 
 #include "platform/export.h"
-#include "spread/control/look.h"
+#include "spread/control/cell_format.h"
 
 namespace control {
 
@@ -19,7 +19,7 @@ using MeasureLine = int (*)(std::string_view line, const Font& font);
 /// Replaces the measuring; null for the estimate.
 VORMANT_API void setMeasureLine(MeasureLine measure);
 
-/// Room for `text` in a cell of this look, with the cell's margins; pictures need none.
-TextSize fittedSize(std::string_view text, const Look& look);
+/// Room for `text` in a cell of this format, with the cell's margins; pictures need none.
+TextSize fittedSize(std::string_view text, const CellFormat& format);
 
 }  // namespace control

@@ -13,16 +13,16 @@ bool isPlain(CellKind kind) {
 }  // namespace
 
 bool mayOverflow(const Grid& grid, CellAddress cell) {
-    const Look& look = grid.look(cell.col, cell.row);
+    const CellFormat& format = grid.format(cell.col, cell.row);
     const Value value = grid.sheet().value(cell.col, cell.row);
-    return isPlain(look.type.kind) && value.isText() && look.alignment <= 1 &&
+    return isPlain(format.type.kind) && value.isText() && format.alignment <= 1 &&
            value.text().find('\n') == std::string_view::npos && grid.colWidth(cell.col) > 0 &&
            !grid.spanAt(cell.col, cell.row);
 }
 
 bool isRoomForText(const Grid& grid, int col, int row) {
     if (col > grid.cols() || !grid.sheet().value(col, row).isEmpty()) return false;
-    const CellKind kind = grid.look(col, row).type.kind;
+    const CellKind kind = grid.format(col, row).type.kind;
     return (isPlain(kind) || kind == CellKind::number) && !grid.spanAt(col, row);
 }
 

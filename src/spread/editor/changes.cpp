@@ -8,15 +8,15 @@
 namespace editor {
 
 using control::Band;
+using control::FormatIndex;
 using control::Grid;
-using control::LookIndex;
 using control::Reading;
 using control::Span;
 
 void CellsChange::exchange(Grid& grid, Direction direction) {
     // A cell may have been kept twice; the way back passes its states in the other order.
     const auto exchangeOne = [&](PlacedCell& placed) {
-        KeptCell now = KeptCell::of(grid.sheet(), placed.col, placed.row);
+        CellSnapshot now = CellSnapshot::of(grid.sheet(), placed.col, placed.row);
         placed.cell.put(grid, placed.col, placed.row);
         placed.cell = std::move(now);
     };
@@ -28,7 +28,7 @@ void CellsChange::exchange(Grid& grid, Direction direction) {
 
 bool CellsChange::isNothing(const Grid& grid) const {
     return std::all_of(m_cells.begin(), m_cells.end(), [&](const PlacedCell& placed) {
-        return placed.cell == KeptCell::of(grid.sheet(), placed.col, placed.row);
+        return placed.cell == CellSnapshot::of(grid.sheet(), placed.col, placed.row);
     });
 }
 
@@ -49,18 +49,18 @@ bool TextsChange::isNothing(const Grid& grid) const {
     return grid.text(m_col, m_row, Reading::tag) == m_tag && grid.note(m_col, m_row) == m_note;
 }
 
-ColumnLookChange::ColumnLookChange(const Grid& grid, int col)
-    : m_col(col), m_look(grid.sides().columnLook(col)) {}
+ColumnFormatChange::ColumnFormatChange(const Grid& grid, int col)
+    : m_col(col), m_format(grid.sides().columnFormat(col)) {}
 
-void ColumnLookChange::exchange(Grid& grid, Direction) {
+void ColumnFormatChange::exchange(Grid& grid, Direction) {
     const auto col = static_cast<size_t>(m_col);
-    std::vector<LookIndex>& looks = grid.changeSides().columnLooks;
-    if (looks.size() <= col) looks.resize(col + 1, control::inheritedLook);
-    std::swap(looks[col], m_look);
+    std::vector<FormatIndex>& formats = grid.changeSides().columnFormats;
+    if (formats.size() <= col) formats.resize(col + 1, control::inheritedFormat);
+    std::swap(formats[col], m_format);
 }
 
-bool ColumnLookChange::isNothing(const Grid& grid) const {
-    return grid.sides().columnLook(m_col) == m_look;
+bool ColumnFormatChange::isNothing(const Grid& grid) const {
+    return grid.sides().columnFormat(m_col) == m_format;
 }
 
 LineChange::LineChange(const Grid& grid, bool isRow, int index)

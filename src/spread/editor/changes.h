@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "spread/control/grid.h"
-#include "spread/editor/kept_cell.h"
+#include "spread/editor/cell_snapshot.h"
 
 namespace editor {
 
@@ -26,13 +26,13 @@ class Change {
 
 struct PlacedCell {
     int col, row;
-    KeptCell cell;
+    CellSnapshot cell;
 };
 
 class CellsChange : public Change {
   public:
     void keep(const control::Grid& grid, int col, int row) {
-        m_cells.push_back({col, row, KeptCell::of(grid.sheet(), col, row)});
+        m_cells.push_back({col, row, CellSnapshot::of(grid.sheet(), col, row)});
     }
     void exchange(control::Grid& grid, Direction direction) override;
     bool isNothing(const control::Grid& grid) const override;
@@ -53,16 +53,16 @@ class TextsChange : public Change {
     std::string m_tag, m_note;
 };
 
-/// The look that a column's cells have when they have none of their own.
-class ColumnLookChange : public Change {
+/// The format that a column's cells have when they have none of their own.
+class ColumnFormatChange : public Change {
   public:
-    ColumnLookChange(const control::Grid& grid, int col);
+    ColumnFormatChange(const control::Grid& grid, int col);
     void exchange(control::Grid& grid, Direction direction) override;
     bool isNothing(const control::Grid& grid) const override;
 
   private:
     int m_col;
-    control::LookIndex m_look;
+    control::FormatIndex m_format;
 };
 
 /// Size, hiding and header text of a column or row.

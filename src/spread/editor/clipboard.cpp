@@ -10,7 +10,7 @@
 namespace editor {
 
 using control::Block;
-using control::LookIndex;
+using control::FormatIndex;
 using control::Span;
 
 namespace {
@@ -53,19 +53,19 @@ bool SheetEditor::pasteAs(int title, const Clip& clip, const Block& given, Paste
 
 void SheetEditor::putClip(const Clip& clip, int atCol, int atRow, PasteWhat what) {
     const int cols = atCol - clip.source().col1, rows = atRow - clip.source().row1;
-    const bool withLooks = what == PasteWhat::all || what == PasteWhat::looks;
+    const bool withFormats = what == PasteWhat::all || what == PasteWhat::formats;
     for (const Clip::Item& item : clip.items()) {
         const int col = atCol + item.col, row = atRow + item.row;
         keepCell(col, row);
-        LookIndex look = control::inheritedLook;
-        if (withLooks) {
-            m_grid.changeLooks({col, row, col, row},
-                               [&](control::Look& now) { now = clip.look(item); });
+        FormatIndex format = control::inheritedFormat;
+        if (withFormats) {
+            m_grid.changeFormats({col, row, col, row},
+                                 [&](control::CellFormat& now) { now = clip.format(item); });
         }
-        if (const control::Cell* cell = m_grid.sheet().find(col, row)) look = cell->look;
-        if (what == PasteWhat::looks) continue;
-        KeptCell pasted = item.cell;
-        pasted.setLook(look);
+        if (const control::Cell* cell = m_grid.sheet().find(col, row)) format = cell->format;
+        if (what == PasteWhat::formats) continue;
+        CellSnapshot pasted = item.cell;
+        pasted.setFormat(format);
         if (pasted.hasFormula() && what == PasteWhat::values) {
             const control::Value value = item.cell.value();
             const std::string text(value.isText() ? value.text() : "");
@@ -146,7 +146,7 @@ bool SheetEditor::moveBlock(const Block& given, int col, int row) {
     // The formulas that travelled still read what they read before.
     for (const Clip::Item& item : clip.items()) {
         if (!item.cell.hasFormula()) continue;
-        KeptCell placed = KeptCell::of(m_grid.sheet(), col + item.col, row + item.row);
+        CellSnapshot placed = CellSnapshot::of(m_grid.sheet(), col + item.col, row + item.row);
         placed.setFormula(item.cell.formula());
         placed.put(m_grid, col + item.col, row + item.row);
     }
@@ -174,7 +174,7 @@ void SheetEditor::followMove(const Block& from, int cols, int rows) {
         const std::string_view text = *m_grid.sheet().formula(col, row);
         const auto moved = formula::rewriteReferences(text, follow);
         if (!moved || *moved == text) return;
-        followers.push_back({col, row, KeptCell::of(m_grid.sheet(), col, row)});
+        followers.push_back({col, row, CellSnapshot::of(m_grid.sheet(), col, row)});
         followers.back().cell.setFormula(*moved);
     });
     for (const PlacedCell& follower : followers) {

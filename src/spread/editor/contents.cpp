@@ -18,7 +18,7 @@ bool isTypedFormula(const control::Grid& grid, std::string_view text) {
 
 bool SheetEditor::enter(int col, int row, std::string_view text) {
     if (!m_grid.isInside(col, row)) return refuseCell(texts::outsideSheet, col, row);
-    if (m_grid.look(col, row).locked) return refuseCell(texts::cellLocked, col, row);
+    if (m_grid.format(col, row).locked) return refuseCell(texts::cellLocked, col, row);
     keepCell(col, row);
     const bool isFormula = isTypedFormula(m_grid, text);
     std::string converted;

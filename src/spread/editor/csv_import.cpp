@@ -7,7 +7,7 @@
 #include "core_api/texts/sheet_text_numbers.h"
 #include "core_api/texts/texts.h"
 #include "platform/encodings.h"
-#include "spread/editor/kept_cell.h"
+#include "spread/editor/cell_snapshot.h"
 
 namespace editor {
 
@@ -165,7 +165,7 @@ void putField(control::Grid& grid, int col, int row, std::string_view field, boo
         grid.setFormula(col, row, field.substr(1)))
         return;
     // Put as it is: writing the text would make numbers of what reads like one elsewhere.
-    KeptCell cell;
+    CellSnapshot cell;
     if (const auto number = numberOf(field, decimalComma))
         cell.setNumber(*number);
     else

@@ -21,7 +21,7 @@ struct CsvSettings {
 
 /// Makes `grid` the table of the file, in general cells. Numbers become numbers when nothing of
 /// their text is lost: "007" stays a text, "1.50" too; with a decimal comma (guessed in files
-/// parted by semicolons that have such numbers) "1.234,5" is 1234.5. False with why, where and
+/// separated by semicolons that have such numbers) "1.234,5" is 1234.5. False with why, where and
 /// what to do in `error`, and the grid as it was.
 VORMANT_API bool importCsv(control::Grid& grid, std::string_view bytes, const CsvSettings& settings,
                            std::string& error);

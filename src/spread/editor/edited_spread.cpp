@@ -20,26 +20,26 @@ Block EditedSpread::chosen() const {
 }
 
 bool EditedSpread::userEnters(int col, int row, std::string_view text) {
-    return m_editor.type(col, row, text) && tellListener(GridNotice::What::changed, col, row);
+    return m_editor.type(col, row, text) && notifyListener(GridNotice::What::changed, col, row);
 }
 
 bool EditedSpread::userClears(const Block& block) {
     return m_editor.clearContents(block) &&
-           tellListener(GridNotice::What::changed, block.col1, block.row1);
+           notifyListener(GridNotice::What::changed, block.col1, block.row1);
 }
 
 bool EditedSpread::userPastes(int col, int row, std::string_view text) {
     return m_editor.pasteText(text, {col, row, col, row}) &&
-           tellListener(GridNotice::What::changed, col, row);
+           notifyListener(GridNotice::What::changed, col, row);
 }
 
 bool EditedSpread::userClicks(int col, int row) {
     if (!grid().isInside(col, row)) return false;
-    if (grid().look(col, row).type.kind != control::CellKind::checkBox)
+    if (grid().format(col, row).type.kind != control::CellKind::checkBox)
         return Vor_Spread::userClicks(col, row);
     const bool isChecked = grid().text(col, row, control::Reading::value) == "1";
     return m_editor.type(col, row, isChecked ? "0" : "1") &&
-           tellListener(GridNotice::What::checked, col, row);
+           notifyListener(GridNotice::What::checked, col, row);
 }
 
 // Every line that is selected gets the size of the one that is pulled.
@@ -49,7 +49,7 @@ bool EditedSpread::userSizesCol(int col, int pixels) {
     const bool isChosen = isWhole && col >= block.col1 && col <= block.col2;
     return m_editor.setColWidths(isChosen ? block.col1 : col, isChosen ? block.col2 : col,
                                  pixels) &&
-           tellListener(GridNotice::What::changed, col, 1);
+           notifyListener(GridNotice::What::changed, col, 1);
 }
 
 bool EditedSpread::userSizesRow(int row, int pixels) {
@@ -58,7 +58,7 @@ bool EditedSpread::userSizesRow(int row, int pixels) {
     const bool isChosen = isWhole && row >= block.row1 && row <= block.row2;
     return m_editor.setRowHeights(isChosen ? block.row1 : row, isChosen ? block.row2 : row,
                                   pixels) &&
-           tellListener(GridNotice::What::changed, 1, row);
+           notifyListener(GridNotice::What::changed, 1, row);
 }
 
 bool EditedSpread::showContextMenu() {

@@ -8,14 +8,14 @@
 namespace editor {
 
 using control::Block;
-using control::LookIndex;
+using control::FormatIndex;
 
 namespace {
 
-/// The look that a cell of column `col` has to be given to show `look`.
-LookIndex ownLook(const control::Grid& grid, LookIndex look, int col) {
-    if (look == grid.sides().columnLook(col)) return control::inheritedLook;
-    return look == control::inheritedLook ? control::plainLook : look;
+/// The format that a cell of column `col` has to be given to show `format`.
+FormatIndex ownFormat(const control::Grid& grid, FormatIndex format, int col) {
+    if (format == grid.sides().columnFormat(col)) return control::inheritedFormat;
+    return format == control::inheritedFormat ? control::plainFormat : format;
 }
 
 }  // namespace
@@ -69,10 +69,10 @@ void SheetEditor::fillLine(const Block& source, const Block& target, int line, b
     const int count = to - from + 1;
     const auto colAt = [&](int place) { return isVertical ? line : place; };
     const auto rowAt = [&](int place) { return isVertical ? place : line; };
-    std::vector<KeptCell> cells;
+    std::vector<CellSnapshot> cells;
     std::vector<SeriesValue> values;
     for (int place = from; place <= to; ++place) {
-        cells.push_back(KeptCell::of(m_grid.sheet(), colAt(place), rowAt(place)));
+        cells.push_back(CellSnapshot::of(m_grid.sheet(), colAt(place), rowAt(place)));
         const control::Value value = cells.back().value();
         if (!cells.back().hasFormula() && value.isNumber())
             values.emplace_back(value.number());
@@ -86,11 +86,11 @@ void SheetEditor::fillLine(const Block& source, const Block& target, int line, b
         if (place >= from && place <= to) continue;
         const int index = place - from;
         const int turned = ((index % count) + count) % count;
-        const KeptCell& model = cells[static_cast<size_t>(turned)];
+        const CellSnapshot& model = cells[static_cast<size_t>(turned)];
         keepCell(colAt(place), rowAt(place));
-        KeptCell filled = model;
-        filled.setLook(ownLook(m_grid, m_grid.lookIndex(colAt(from + turned), rowAt(from + turned)),
-                               colAt(place)));
+        CellSnapshot filled = model;
+        filled.setFormat(ownFormat(
+            m_grid, m_grid.formatIndex(colAt(from + turned), rowAt(from + turned)), colAt(place)));
         const SeriesValue value = series.at(index);
         const int distance = place - (from + turned);
         if (model.hasFormula())

@@ -62,12 +62,12 @@ void SheetEditor::rollBack() {
 bool SheetEditor::step(std::vector<Step>& from, std::vector<Step>& to, Direction direction) {
     if (from.empty() || m_step) return false;
     m_error.clear();
-    Calm calm(m_grid);
+    BatchGuard batch(m_grid);
     Step step = std::move(from.back());
     from.pop_back();
     exchange(step, direction);
     for (const auto& change : step.changes)
-        if (change->isStructural()) calm.noteStructural();
+        if (change->isStructural()) batch.noteStructural();
     m_place = step.place;
     to.push_back(std::move(step));
     return true;
@@ -103,7 +103,7 @@ std::string SheetEditor::redoTitle() const {
 // -------------------------------------------------------------------------
 
 void SheetEditor::begin(int titleText) {
-    m_calm = std::make_unique<Calm>(m_grid);
+    m_batch = std::make_unique<BatchGuard>(m_grid);
     m_step.emplace(Step{titleText, Block{0, 0, 0, 0}, {}});
 }
 
@@ -118,7 +118,7 @@ void SheetEditor::beforeChange(int col, int row) {
 
 void SheetEditor::end() {
     if (m_step) pushStep();
-    m_calm.reset();
+    m_batch.reset();
 }
 
 // --- refusing -----------------------------------------------------------------------------------
@@ -144,7 +144,7 @@ std::optional<Block> SheetEditor::inside(const Block& block) {
 bool SheetEditor::isChangeable(const Block& block) {
     for (int row = block.row1; row <= block.row2; ++row)
         for (int col = block.col1; col <= block.col2; ++col)
-            if (m_grid.look(col, row).locked) return refuseCell(texts::cellLocked, col, row);
+            if (m_grid.format(col, row).locked) return refuseCell(texts::cellLocked, col, row);
     return true;
 }
 

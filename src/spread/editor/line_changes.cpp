@@ -80,15 +80,16 @@ control::CellTexts textsIn(const control::CellTexts& texts, const Lines& lines) 
 
 }  // namespace
 
-void LossOfMove::lookBefore(const Grid& grid) {
+void LossOfMove::recordBefore(const Grid& grid) {
     m_formulas.clear();
     grid.sheet().cells().each(everything, [&](int row, int col, const control::Cell& cell) {
-        if (cell.formula) m_formulas.push_back({col, row, KeptCell::of(grid.sheet(), col, row)});
+        if (cell.formula)
+            m_formulas.push_back({col, row, CellSnapshot::of(grid.sheet(), col, row)});
     });
     m_spans = grid.sides().spans.all();
 }
 
-void LossOfMove::lookAfter(const Grid& grid, const Move& move) {
+void LossOfMove::recordAfter(const Grid& grid, const Move& move) {
     std::erase_if(m_formulas, [&](const PlacedCell& before) {
         const int index = move.newIndex(move.lines.isRows ? before.row : before.col, move);
         if (index == 0) return true;  // it is kept with the deleted cells
@@ -120,10 +121,10 @@ void InsertedLines::exchange(Grid& grid, Direction direction) {
         m_loss.restore(grid);
         return;
     }
-    m_loss.lookBefore(grid);
+    m_loss.recordBefore(grid);
     grow(grid, m_lines);
     const auto& [isRows, at, count] = m_lines;
-    m_loss.lookAfter(
+    m_loss.recordAfter(
         grid,
         {afterInsertion, m_lines, 0,
          isRows ? control::rowsDeleted(at, count) : control::colsDeleted(at, count), takeOut});
@@ -137,10 +138,10 @@ void DeletedLines::exchange(Grid& grid, Direction direction) {
         return;
     }
     keep(grid);
-    m_loss.lookBefore(grid);
+    m_loss.recordBefore(grid);
     shrink(grid, m_lines);
     const auto& [isRows, at, count] = m_lines;
-    m_loss.lookAfter(
+    m_loss.recordAfter(
         grid,
         {afterDeletion, m_lines, 0,
          isRows ? control::rowsInserted(at, count) : control::colsInserted(at, count), putIn});
@@ -154,19 +155,19 @@ void DeletedLines::keep(const Grid& grid) {
                : Area{1, formula::maxRows, static_cast<uint16_t>(at), static_cast<uint16_t>(end)};
     m_cells.clear();
     grid.sheet().cells().each(area, [&](int row, int col, const control::Cell&) {
-        m_cells.push_back({col, row, KeptCell::of(grid.sheet(), col, row)});
+        m_cells.push_back({col, row, CellSnapshot::of(grid.sheet(), col, row)});
     });
     const SideTables& sides = grid.sides();
     const Band& band = isRows ? sides.rows : sides.cols;
     m_band = {};
     m_band.texts = partOf(band.texts, m_lines);
-    m_band.looks = partOf(band.looks, m_lines);
+    m_band.formats = partOf(band.formats, m_lines);
     m_band.sizes = partOf(band.sizes, m_lines);
     m_band.hidden = partOf(band.hidden, m_lines);
     m_texts = {textsIn(sides.tags, m_lines), textsIn(sides.notes, m_lines)};
-    m_columnLooks.clear();
+    m_columnFormats.clear();
     if (!isRows)
-        for (int col = at; col <= end; ++col) m_columnLooks.push_back(sides.columnLook(col));
+        for (int col = at; col <= end; ++col) m_columnFormats.push_back(sides.columnFormat(col));
 }
 
 void DeletedLines::putBack(Grid& grid) {
@@ -175,16 +176,17 @@ void DeletedLines::putBack(Grid& grid) {
     SideTables& sides = grid.changeSides();
     Band& band = m_lines.isRows ? sides.rows : sides.cols;
     band.texts.merge(m_band.texts);
-    band.looks.merge(m_band.looks);
+    band.formats.merge(m_band.formats);
     band.sizes.merge(m_band.sizes);
     band.hidden.merge(m_band.hidden);
     sides.tags.merge(m_texts.tags);
     sides.notes.merge(m_texts.notes);
     if (m_lines.isRows) return;
     const auto first = static_cast<size_t>(m_lines.at);
-    if (sides.columnLooks.size() < first + m_columnLooks.size())
-        sides.columnLooks.resize(first + m_columnLooks.size(), control::inheritedLook);
-    std::copy(m_columnLooks.begin(), m_columnLooks.end(), sides.columnLooks.begin() + m_lines.at);
+    if (sides.columnFormats.size() < first + m_columnFormats.size())
+        sides.columnFormats.resize(first + m_columnFormats.size(), control::inheritedFormat);
+    std::copy(m_columnFormats.begin(), m_columnFormats.end(),
+              sides.columnFormats.begin() + m_lines.at);
 }
 
 void MovedLines::exchange(Grid& grid, Direction direction) {
@@ -194,9 +196,9 @@ void MovedLines::exchange(Grid& grid, Direction direction) {
         m_loss.restore(grid);
         return;
     }
-    m_loss.lookBefore(grid);
+    m_loss.recordBefore(grid);
     isRows ? grid.moveRows(at, count, m_to) : grid.moveCols(at, count, m_to);
-    m_loss.lookAfter(
+    m_loss.recordAfter(
         grid, {afterMove, m_lines, m_to,
                isRows ? control::rowsMoved(m_to, count, at) : control::colsMoved(m_to, count, at),
                moveBack});

@@ -27,9 +27,9 @@ class LossOfMove {
         /// Moves the spans of a table the way back.
         void (*spansBack)(control::SideTables& sides, const Move& move);
     };
-    void lookBefore(const control::Grid& grid);
+    void recordBefore(const control::Grid& grid);
     /// Keeps what the way back would not give again.
-    void lookAfter(const control::Grid& grid, const Move& move);
+    void recordAfter(const control::Grid& grid, const Move& move);
     /// After the way back.
     void restore(control::Grid& grid);
 
@@ -67,7 +67,7 @@ class DeletedLines : public Change {
     LossOfMove m_loss;
     std::vector<PlacedCell> m_cells;
     control::Band m_band;  // of the deleted lines alone
-    std::vector<control::LookIndex> m_columnLooks;
+    std::vector<control::FormatIndex> m_columnFormats;
     DeletedTexts m_texts;
 };
 

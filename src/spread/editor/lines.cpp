@@ -30,22 +30,23 @@ bool SheetEditor::insertLines(bool isRows, int at, int count) {
     return step.commit();
 }
 
-// The looks of the line before are those of the table that goes on.
+// The formats of the line before are those of the table that goes on.
 void SheetEditor::lookLikeBefore(bool isRows, int at, int count) {
     for (int line = at; line < at + count; ++line) {
         if (!isRows) {
-            add<ColumnLookChange>(m_grid, line);
+            add<ColumnFormatChange>(m_grid, line);
             const formula::Area area{1, formula::maxRows, static_cast<uint16_t>(at - 1),
                                      static_cast<uint16_t>(at - 1)};
             m_grid.sheet().cells().each(area, [&](int row, int, const control::Cell& cell) {
-                if (cell.look != control::inheritedLook) keepCell(line, row);
+                if (cell.format != control::inheritedFormat) keepCell(line, row);
             });
-            m_grid.copyColLooks(at - 1, line);
+            m_grid.copyColFormats(at - 1, line);
             continue;
         }
         for (int col = 1; col <= m_grid.cols(); ++col)
-            if (m_grid.lookIndex(col, at - 1) != m_grid.lookIndex(col, line)) keepCell(col, line);
-        m_grid.copyRowLooks(at - 1, line);
+            if (m_grid.formatIndex(col, at - 1) != m_grid.formatIndex(col, line))
+                keepCell(col, line);
+        m_grid.copyRowFormats(at - 1, line);
     }
 }
 

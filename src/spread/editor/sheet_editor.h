@@ -80,7 +80,7 @@ class VORMANT_API SheetEditor : public CellChangeObserver {
     /// Puts a clip where `target` begins, again and again when it holds the clip several times. The
     /// sheet grows as needed.
     bool paste(const Clip& clip, const control::Block& target, PasteWhat what = PasteWhat::all);
-    /// Lines of fields parted by tabs, as typed.
+    /// Lines of fields separated by tabs, as typed.
     bool pasteText(std::string_view text, const control::Block& target);
     /// Moves a block; formulas that read it follow.
     bool moveBlock(const control::Block& from, int col, int row);
@@ -116,10 +116,10 @@ class VORMANT_API SheetEditor : public CellChangeObserver {
     /// in order. `hasTitles`: the first row stays.
     bool sort(const control::Block& block, const std::vector<SortKey>& keys, bool hasTitles);
 
-    // --- looks ------------------------------------------------------------------------------
-    using ChangeLook = std::function<void(control::Look&)>;
-    /// Any part of the looks; `title` is the number of the step's name.
-    bool changeLooks(const control::Block& block, int title, const ChangeLook& change);
+    // --- formats ------------------------------------------------------------------------------
+    using ChangeFormat = std::function<void(control::CellFormat&)>;
+    /// Any part of the formats; `title` is the number of the step's name.
+    bool changeFormats(const control::Block& block, int title, const ChangeFormat& change);
     /// What stands in the cells is taken over as if it were typed into the new kind.
     bool setKind(const control::Block& block, const control::CellType& type);
     bool setDecimals(const control::Block& block, int decimals);
@@ -128,7 +128,7 @@ class VORMANT_API SheetEditor : public CellChangeObserver {
     bool setBold(const control::Block& block, bool on);
     bool setItalic(const control::Block& block, bool on);
     bool setUnderlined(const control::Block& block, bool on);
-    /// As Look::alignment.
+    /// As CellFormat::alignment.
     bool setAlignment(const control::Block& block, int alignment);
     bool setTextColour(const control::Block& block, control::Colour colour);
     bool setBackground(const control::Block& block, control::Colour colour);
@@ -152,7 +152,7 @@ class VORMANT_API SheetEditor : public CellChangeObserver {
     };
     class StepScope;
     class InA1;
-    class Calm;
+    class BatchGuard;
 
     bool refuse(std::string message);
     bool refuseCell(int text, int col, int row, std::string_view what = {});
@@ -164,7 +164,7 @@ class VORMANT_API SheetEditor : public CellChangeObserver {
     void keepBlock(const control::Block& block);
     void keepTexts(int col, int row);
     void keepTextsIn(const control::Block& block);
-    void keepLooks(const control::Block& block);
+    void keepFormats(const control::Block& block);
     void growTo(int col, int row);
     bool enter(int col, int row, std::string_view text);
     void pushStep();
@@ -189,8 +189,8 @@ class VORMANT_API SheetEditor : public CellChangeObserver {
     control::Grid& m_grid;
     std::vector<Step> m_undo;
     std::vector<Step> m_redo;
-    std::optional<Step> m_step;    // being recorded
-    std::unique_ptr<Calm> m_calm;  // during a step made elsewhere
+    std::optional<Step> m_step;           // being recorded
+    std::unique_ptr<BatchGuard> m_batch;  // during a step made elsewhere
     control::Block m_place;
     size_t m_savedDepth = 0;
     int m_userStyle = 0;  // Grid::referenceStyle() outside of steps

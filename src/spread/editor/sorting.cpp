@@ -50,7 +50,7 @@ bool goesBefore(const Value& a, const Value& b, bool ascending, bool& areEqual) 
 }
 
 struct MovingRow {
-    std::vector<KeptCell> cells;
+    std::vector<CellSnapshot> cells;
     std::vector<Value> keys;  // what the cells show, be it up to date or not
     std::vector<std::string> tags, notes;
     int row = 0;
@@ -83,7 +83,7 @@ bool SheetEditor::sort(const Block& given, const std::vector<SortKey>& keys, boo
         moving.row = row;
         for (const SortKey& key : keys) moving.keys.push_back(m_grid.sheet().value(key.col, row));
         for (int col = block->col1; col <= block->col2; ++col) {
-            moving.cells.push_back(KeptCell::of(m_grid.sheet(), col, row));
+            moving.cells.push_back(CellSnapshot::of(m_grid.sheet(), col, row));
             moving.tags.push_back(m_grid.text(col, row, control::Reading::tag));
             moving.notes.emplace_back(m_grid.note(col, row));
         }
@@ -101,7 +101,7 @@ bool SheetEditor::sort(const Block& given, const std::vector<SortKey>& keys, boo
         if (moving.row == row) continue;
         for (int col = block->col1; col <= block->col2; ++col) {
             const auto at = static_cast<size_t>(col - block->col1);
-            KeptCell& cell = moving.cells[at];
+            CellSnapshot& cell = moving.cells[at];
             keepCell(col, row);
             if (cell.hasFormula())
                 cell.setFormula(control::carriedFormula(cell.formula(), 0, row - moving.row));

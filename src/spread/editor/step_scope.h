@@ -30,20 +30,20 @@ class SheetEditor::InA1 {
 
 /// While many cells change: no recalculation in between, and formulas in A1 notation. Afterwards
 /// everything is brought up to date, after structural changes all of it.
-class SheetEditor::Calm {
+class SheetEditor::BatchGuard {
   public:
-    explicit Calm(control::Grid& grid)
+    explicit BatchGuard(control::Grid& grid)
         : m_grid(grid), m_isAutomatic(grid.option(control::Option::automaticRecalculation)) {
         grid.setOption(control::Option::automaticRecalculation, false);
         m_inA1.emplace(grid);
     }
-    ~Calm() {
+    ~BatchGuard() {
         m_inA1.reset();
         if (m_isAutomatic && m_isStructural) m_grid.recalculate();
         m_grid.setOption(control::Option::automaticRecalculation, m_isAutomatic);
     }
-    Calm(const Calm&) = delete;
-    Calm& operator=(const Calm&) = delete;
+    BatchGuard(const BatchGuard&) = delete;
+    BatchGuard& operator=(const BatchGuard&) = delete;
 
     void noteStructural() { m_isStructural = true; }
     int style() const { return m_inA1->style(); }
@@ -61,15 +61,15 @@ class SheetEditor::StepScope {
     StepScope(SheetEditor& editor, int title, const control::Block& place)
         : m_editor(editor),
           m_wasChanged(editor.m_grid.option(control::Option::changed)),
-          m_calm(editor.m_grid) {
+          m_batch(editor.m_grid) {
         editor.m_error.clear();
-        editor.m_userStyle = m_calm.style();
+        editor.m_userStyle = m_batch.style();
         editor.m_step.emplace(Step{title, place, {}});
     }
     ~StepScope() {
         if (!m_editor.m_step) return;
         for (const auto& change : m_editor.m_step->changes)
-            if (change->isStructural()) m_calm.noteStructural();
+            if (change->isStructural()) m_batch.noteStructural();
         m_editor.rollBack();
         m_editor.m_grid.setOption(control::Option::changed, m_wasChanged);
     }
@@ -78,7 +78,7 @@ class SheetEditor::StepScope {
 
     bool commit() {
         for (const auto& change : m_editor.m_step->changes)
-            if (change->isStructural()) m_calm.noteStructural();
+            if (change->isStructural()) m_batch.noteStructural();
         m_editor.pushStep();
         return true;
     }
@@ -86,7 +86,7 @@ class SheetEditor::StepScope {
   private:
     SheetEditor& m_editor;
     bool m_wasChanged;
-    Calm m_calm;
+    BatchGuard m_batch;
 };
 
 template <class Kind, class... Arguments>

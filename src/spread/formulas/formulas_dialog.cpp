@@ -54,7 +54,7 @@ void TwFormulasDlg::onInit() {
     if (!fileName.isEmpty()) {
         m_isLoaded = load(fileName);
         acutPrintf("Loading spreadsheet:%s\n", fileName.c_str());
-        if (!m_isLoaded) tellWhyNotLoaded();
+        if (!m_isLoaded) showWhyNotLoaded();
     }
     switch (mode) {
         case Mode::readFile:
@@ -63,8 +63,8 @@ void TwFormulasDlg::onInit() {
         case Mode::evaluateCell:
             evaluate();
             break;
-        case Mode::lookUp:
-            lookUp();
+        case Mode::formatUp:
+            formatUp();
             break;
         case Mode::none:
             break;
@@ -73,7 +73,7 @@ void TwFormulasDlg::onInit() {
 }
 
 // Where a program reads a file nobody is asked to press a button.
-void TwFormulasDlg::tellWhyNotLoaded() {
+void TwFormulasDlg::showWhyNotLoaded() {
     if (mode == Mode::readFile)
         acutPrint(text() + "\n" + m_grid.lastError() + "\n");
     else
@@ -140,9 +140,9 @@ void TwFormulasDlg::evaluate() {
     m_grid.getCellText(cellColumn, cellRow, cellText, Reading::data);
 }
 
-void TwFormulasDlg::lookUp() {
+void TwFormulasDlg::formatUp() {
     const CalculatingSheet scope(m_grid);
-    lookUpInTable(m_grid, call);
+    formatUpInTable(m_grid, call);
 }
 
 void TwFormulasDlg::showFormulasAsText(int referenceStyle) {

@@ -60,7 +60,7 @@ std::vector<std::vector<int>> groups(
 bool hasPicture(const Grid& grid, int row) {
     const int cols = grid.sheet().cells().lastCol();
     for (int col = 1; col <= cols; ++col)
-        if (grid.look(col, row).type.kind == control::CellKind::picture) return true;
+        if (grid.format(col, row).type.kind == control::CellKind::picture) return true;
     return false;
 }
 
@@ -94,7 +94,7 @@ int lastTextCol(const Grid& grid, UsedArea used) {
         const int limit = control::lastColumnForText(grid, {col, row});
         if (limit <= used.col) continue;
         const std::string text = grid.text(col, row, control::Reading::data);
-        int rest = control::fittedSize(text, grid.look(col, row)).width - grid.colWidth(col);
+        int rest = control::fittedSize(text, grid.format(col, row)).width - grid.colWidth(col);
         for (int reached = col; rest > 0 && reached < limit; rest -= grid.colWidth(reached))
             last = std::max(last, ++reached);
     }

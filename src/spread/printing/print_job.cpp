@@ -11,10 +11,10 @@
 
 namespace printing {
 
+using control::CellFormat;
 using control::CellKind;
 using control::Grid;
 using control::headerIndex;
-using control::Look;
 using control::Reading;
 using control::Span;
 using control::ValueType;
@@ -68,18 +68,18 @@ class CellPlacer {
                 (bottom - top) * m_pixel};
     }
 
-    PrintedCell printed(const Rect& place, control::CellAddress cell, Look look) const {
+    PrintedCell printed(const Rect& place, control::CellAddress cell, CellFormat format) const {
         PrintedCell made;
         made.place = made.room = place;
         made.text = m_grid.text(cell.col, cell.row, Reading::data);
-        made.look = std::move(look);
+        made.format = std::move(format);
         made.pixel = m_pixel;
         return made;
     }
 
     PrintedCell heading(int col, int row, int left, int top, int right, int bottom) const {
         PrintedCell cell =
-            printed(rect(left, top, right, bottom), {col, row}, m_grid.look(col, row));
+            printed(rect(left, top, right, bottom), {col, row}, m_grid.format(col, row));
         cell.isHeading = true;
         if (!cell.text.empty()) return cell;
         if (row != headerIndex)
@@ -90,21 +90,21 @@ class CellPlacer {
     }
 
     // What its value decides on a screen is decided here, as only texts are printed.
-    Look alignedLook(int col, int row) const {
-        Look look = m_grid.look(col, row);
-        if (look.alignment != 0) return look;
+    CellFormat alignedFormat(int col, int row) const {
+        CellFormat format = m_grid.format(col, row);
+        if (format.alignment != 0) return format;
         switch (m_grid.sheet().value(col, row).type()) {
             case ValueType::number:
-                look.alignment = 2;
+                format.alignment = 2;
                 break;
             case ValueType::boolean:
             case ValueType::error:
-                look.alignment = 3;
+                format.alignment = 3;
                 break;
             default:
                 break;
         }
-        return look;
+        return format;
     }
 
     // A merged cell is placed once, at the first of its cells that the page shows.
@@ -125,7 +125,7 @@ class CellPlacer {
             row = span->row;
         }
         PrintedCell cell = printed(rect(m_x[c], m_y[r], m_x[lastCol + 1], m_y[lastRow + 1]),
-                                   {col, row}, alignedLook(col, row));
+                                   {col, row}, alignedFormat(col, row));
         cell.isNumber = m_grid.sheet().value(col, row).type() == ValueType::number;
         const int last = lastColumnForText(m_grid, {col, row});
         if (last > col) cell.room = roomUpTo(last, c, r);
@@ -150,7 +150,7 @@ class CellPlacer {
         const int left = m_x[0] - before;
         PrintedCell rest =
             printed(rect(left, m_y[r], left + m_grid.colWidth(from->col), m_y[r + 1]), *from,
-                    alignedLook(from->col, from->row));
+                    alignedFormat(from->col, from->row));
         rest.room = roomUpTo(lastColumnForText(m_grid, *from), 0, r);
         rest.isRest = true;
         cells.push_back(std::move(rest));
@@ -238,7 +238,7 @@ std::vector<PrintedCell> PrintJob::bandCells(const Band& band, double top, int p
     for (PrintedCell& cell : cells) {
         cell.text = withVariables(cell.text, page);
         finish(cell, band.grid);
-        if (cell.keptPicture) continue;
+        if (cell.embeddedImage) continue;
         // The picture may have been copied along with the file that shows it.
         const std::string beside = (band.folder + getFileName(cell.picture)).str();
         if (!cell.picture.empty() && !files::exists(cell.picture)) cell.picture = beside;
@@ -247,13 +247,13 @@ std::vector<PrintedCell> PrintJob::bandCells(const Band& band, double top, int p
 }
 
 void PrintJob::finish(PrintedCell& cell, const Grid& grid) const {
-    if (cell.look.type.kind == CellKind::picture) {
-        cell.picture = cell.look.type.text;
-        cell.keptPicture = grid.keptPicture(cell.picture);
+    if (cell.format.type.kind == CellKind::picture) {
+        cell.picture = cell.format.type.text;
+        cell.embeddedImage = grid.embeddedImage(cell.picture);
         cell.text.clear();
     }
     if (m_settings.colors) return;
-    cell.look.textColour = cell.look.background = cell.look.borderColour = control::automatic;
+    cell.format.textColour = cell.format.background = cell.format.borderColour = control::automatic;
 }
 
 PrintedPage PrintJob::page(int index) const {

@@ -19,8 +19,8 @@ struct PrintedCell {
     Rect place;  ///< millimetres from the paper's top left
     Rect room;   ///< what its text may take: the place, and the empty cells that it reaches over
     std::string text;
-    control::Look look;                  ///< without colours when the settings print none
-    double pixel = millimetresPerPixel;  ///< millimetres that a pixel of the look's font takes
+    control::CellFormat format;          ///< without colours when the settings print none
+    double pixel = millimetresPerPixel;  ///< millimetres that a pixel of the format's font takes
     bool isHeading = false;              ///< of a row or column of the sheet
     bool isNumber = false;
     /// Only the rest of the text, of a cell on the page before this one; perhaps it ends there.
@@ -28,7 +28,7 @@ struct PrintedCell {
     std::string picture;  ///< what a picture cell shows: a file's path or a name
     /// The bytes of the picture, borrowed from its sheet; null when it has to be read from its
     /// file.
-    const std::string* keptPicture = nullptr;
+    const std::string* embeddedImage = nullptr;
 };
 
 struct PrintedPage {

@@ -164,7 +164,7 @@ class Calculation {
 
     /// Whether the cell's formula, if it has one, may have to be calculated first.
     bool mayBeOld(const control::Cell& cell) const {
-        return cell.formula && (cell.dirty || m_unsettled);
+        return cell.formula && (cell.dirty || m_hasPendingChanges);
     }
     bool isPlainNumber(const control::Cell& cell) const {
         return cell.type == ValueType::number && !mayBeOld(cell);
@@ -182,14 +182,14 @@ class Calculation {
     // not depend on what was calculated before.
     void noteDirty(int col, int row) const;
     bool checkDirty(const control::CellStore::Run& run) const {
-        if (m_unsettled || run.block->dirtyCount != 0) [[unlikely]]
+        if (m_hasPendingChanges || run.block->dirtyCount != 0) [[unlikely]]
             return noteDirtyIn(run);
         return false;
     }
     bool noteDirtyIn(const control::CellStore::Run& run) const;
     mutable std::vector<Area> m_dirtyAreas;
     /// Cells have changed and nobody has followed yet whom that concerns: any formula may be old.
-    bool m_unsettled = false;
+    bool m_hasPendingChanges = false;
 
     template <class Visit>
     void visitRest(const Array& a, Visit& visit) const {

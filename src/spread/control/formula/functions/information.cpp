@@ -38,7 +38,7 @@ bool isReference(const Value& value) {
 }
 
 template <bool (*test)(const Value&)>
-Value tells(Calculation&, Arguments args) {
+Value isOf(Calculation&, Arguments args) {
     return Value::boolean(test(args[0]));
 }
 
@@ -99,21 +99,21 @@ constexpr std::array<FunctionSpec, 16> rows{{
     {"ERROR.TYPE", 1, 1, "v", errorNumber, plain, "error",
      "The number of an error: 1 #NULL!, 2 #DIV/0!, 3 #VALUE!, 4 #REF!, 5 #NAME?, 6 #NUM!, 7 #N/A, "
      "8 #CIRC!; #N/A for anything else."},
-    {"ISBLANK", 1, 1, "v", tells<isEmpty>, plain, "value", "TRUE for an empty cell."},
-    {"ISERR", 1, 1, "v", tells<isOtherError>, plain, "value", "TRUE for every error but #N/A."},
-    {"ISERROR", 1, 1, "v", tells<isError>, plain, "value", "TRUE for every error."},
+    {"ISBLANK", 1, 1, "v", isOf<isEmpty>, plain, "value", "TRUE for an empty cell."},
+    {"ISERR", 1, 1, "v", isOf<isOtherError>, plain, "value", "TRUE for every error but #N/A."},
+    {"ISERROR", 1, 1, "v", isOf<isError>, plain, "value", "TRUE for every error."},
     {"ISEVEN", 1, 1, "v", parity<false>, plain, "number",
      "TRUE when the whole part of the number is even."},
     {"ISFORMULA", 1, 1, "p", isFormula, isVolatile, "cell", "TRUE when the cell holds a formula."},
-    {"ISLOGICAL", 1, 1, "v", tells<isLogical>, plain, "value", "TRUE for TRUE and FALSE."},
-    {"ISNA", 1, 1, "v", tells<isNotAvailable>, plain, "value", "TRUE for the error #N/A."},
-    {"ISNONTEXT", 1, 1, "v", tells<isNoText>, plain, "value",
+    {"ISLOGICAL", 1, 1, "v", isOf<isLogical>, plain, "value", "TRUE for TRUE and FALSE."},
+    {"ISNA", 1, 1, "v", isOf<isNotAvailable>, plain, "value", "TRUE for the error #N/A."},
+    {"ISNONTEXT", 1, 1, "v", isOf<isNoText>, plain, "value",
      "TRUE for everything but a text; also for an empty cell."},
-    {"ISNUMBER", 1, 1, "v", tells<isNumber>, plain, "value", "TRUE for a number."},
+    {"ISNUMBER", 1, 1, "v", isOf<isNumber>, plain, "value", "TRUE for a number."},
     {"ISODD", 1, 1, "v", parity<true>, plain, "number",
      "TRUE when the whole part of the number is odd."},
-    {"ISREF", 1, 1, "p", tells<isReference>, plain, "value", "TRUE for a reference to cells."},
-    {"ISTEXT", 1, 1, "v", tells<isText>, plain, "value", "TRUE for a text."},
+    {"ISREF", 1, 1, "p", isOf<isReference>, plain, "value", "TRUE for a reference to cells."},
+    {"ISTEXT", 1, 1, "v", isOf<isText>, plain, "value", "TRUE for a text."},
     {"N", 1, 1, "r", asNumber, plain, "value",
      "A number as it is, 1 for TRUE, 0 for FALSE and texts; errors stay."},
     {"NA", 0, 0, "", notAvailable, plain, "", "The error #N/A."},

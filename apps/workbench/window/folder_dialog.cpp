@@ -1,4 +1,4 @@
-#include "workbench/window/folder_taker.h"
+#include "workbench/window/folder_dialog.h"
 
 #include <QDialogButtonBox>
 #include <QFileSystemModel>
@@ -16,7 +16,7 @@ QString pathOf(const QModelIndex& index) {
 
 }  // namespace
 
-void FolderTaker::takeFolders() {
+void FolderDialog::takeFolders() {
     setOption(DontUseNativeDialog);  // those of desktops give either files or folders
     setFileMode(ExistingFiles);
     auto* buttons = findChild<QDialogButtonBox*>("buttonBox");
@@ -30,7 +30,7 @@ void FolderTaker::takeFolders() {
     connect(this, &QFileDialog::directoryEntered, this, [this] { showWhatCanBeTaken(); });
 }
 
-QModelIndexList FolderTaker::selected() const {
+QModelIndexList FolderDialog::selected() const {
     const auto* list = findChild<QListView*>("listView");
     QModelIndexList all = list->selectionModel()->selectedRows();
     // A folder that was entered is selected still, where it lies.
@@ -38,24 +38,24 @@ QModelIndexList FolderTaker::selected() const {
     return all;
 }
 
-bool FolderTaker::hasSelectedFolder() const {
+bool FolderDialog::hasSelectedFolder() const {
     const QModelIndexList all = selected();
     return std::any_of(all.begin(), all.end(),
                        [](const QModelIndex& index) { return QFileInfo(pathOf(index)).isDir(); });
 }
 
-void FolderTaker::showWhatCanBeTaken() {
+void FolderDialog::showWhatCanBeTaken() {
     m_take->setEnabled(selected().isEmpty() || hasSelectedFolder());
 }
 
-void FolderTaker::take() {
+void FolderDialog::take() {
     m_taken.clear();
     for (const QModelIndex& index : selected()) m_taken += pathOf(index);
     if (m_taken.isEmpty()) m_taken += directory().absolutePath();
     QDialog::accept();
 }
 
-void FolderTaker::accept() {
+void FolderDialog::accept() {
     m_taken.clear();
     const bool isTyped = m_take && findChild<QLineEdit*>("fileNameEdit")->isModified();
     if (m_take && !isTyped && selected().size() > 1 && hasSelectedFolder()) return take();

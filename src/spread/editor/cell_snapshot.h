@@ -1,4 +1,4 @@
-// What one cell was: value, formula and look, 24 bytes, with its texts shared. Undo histories and
+// What one cell was: value, formula and format, 24 bytes, with its texts shared. Undo histories and
 // copies of blocks hold many of them.
 #pragma once
 
@@ -9,15 +9,15 @@
 
 namespace editor {
 
-class KeptCell {
+class CellSnapshot {
   public:
-    KeptCell() = default;
+    CellSnapshot() = default;
     /// The cell as it is now. A result that is out of date is left out.
-    static KeptCell of(const control::Sheet& sheet, int col, int row);
-    KeptCell(const KeptCell& other);
-    KeptCell(KeptCell&& other) noexcept;
-    KeptCell& operator=(KeptCell other) noexcept;
-    ~KeptCell();
+    static CellSnapshot of(const control::Sheet& sheet, int col, int row);
+    CellSnapshot(const CellSnapshot& other);
+    CellSnapshot(CellSnapshot&& other) noexcept;
+    CellSnapshot& operator=(CellSnapshot other) noexcept;
+    ~CellSnapshot();
 
     /// Makes the cell what was kept. The sheet is in A1 notation.
     void put(control::Grid& grid, int col, int row) const;
@@ -27,17 +27,17 @@ class KeptCell {
     bool hasFormula() const { return m_formula != nullptr; }
     /// Without "=", empty without a formula.
     std::string_view formula() const { return m_formula ? m_formula->view() : ""; }
-    control::LookIndex look() const { return m_cell.look; }
+    control::FormatIndex format() const { return m_cell.format; }
 
-    void setLook(control::LookIndex look) { m_cell.look = look; }
+    void setFormat(control::FormatIndex format) { m_cell.format = format; }
     /// Replaces the text of a formula; its result is forgotten.
     void setFormula(std::string_view text);
     void setNumber(double number);
     void setText(std::string_view text);
-    /// No value and no formula; the look stays.
+    /// No value and no formula; the format stays.
     void empty();
 
-    bool operator==(const KeptCell& other) const;
+    bool operator==(const CellSnapshot& other) const;
 
   private:
     void dropValue();

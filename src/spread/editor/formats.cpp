@@ -6,41 +6,42 @@
 namespace editor {
 
 using control::Block;
-using control::Look;
+using control::CellFormat;
 
-// Looks of a block that covers all rows are those of its columns (Grid::changeLooks).
-void SheetEditor::keepLooks(const Block& block) {
+// Formats of a block that covers all rows are those of its columns (Grid::changeFormats).
+void SheetEditor::keepFormats(const Block& block) {
     const bool coversRows = block.row1 == 1 && block.row2 == m_grid.rows() && m_grid.rows() > 1;
     if (!coversRows) {
         keepBlock(block);
         return;
     }
-    for (int col = block.col1; col <= block.col2; ++col) add<ColumnLookChange>(m_grid, col);
+    for (int col = block.col1; col <= block.col2; ++col) add<ColumnFormatChange>(m_grid, col);
     const formula::Area area{1, formula::maxRows, static_cast<uint16_t>(block.col1),
                              static_cast<uint16_t>(block.col2)};
     m_grid.sheet().cells().each(area, [&](int row, int col, const control::Cell& cell) {
-        if (cell.look != control::inheritedLook) keepCell(col, row);
+        if (cell.format != control::inheritedFormat) keepCell(col, row);
     });
 }
 
-bool SheetEditor::changeLooks(const Block& given, int title, const ChangeLook& change) {
+bool SheetEditor::changeFormats(const Block& given, int title, const ChangeFormat& change) {
     const std::optional<Block> block = inside(given);
     if (!block) return false;
     StepScope step(*this, title, *block);
-    keepLooks(*block);
-    m_grid.changeLooks(*block, change);
+    keepFormats(*block);
+    m_grid.changeFormats(*block, change);
     return step.commit();
 }
 
 bool SheetEditor::clearFormats(const Block& block) {
-    return changeLooks(block, texts::stepClearFormats, [](Look& look) { look = Look(); });
+    return changeFormats(block, texts::stepClearFormats,
+                         [](CellFormat& format) { format = CellFormat(); });
 }
 
 bool SheetEditor::setKind(const Block& given, const control::CellType& type) {
     const std::optional<Block> block = inside(given);
     if (!block || !isChangeable(*block)) return false;
     StepScope step(*this, texts::stepKind, *block);
-    keepLooks(*block);
+    keepFormats(*block);
     m_grid.setType(*block, type);
     std::vector<control::CellAddress> filled;
     const formula::Area area{block->row1, block->row2, static_cast<uint16_t>(block->col1),
@@ -63,47 +64,55 @@ bool SheetEditor::setDecimals(const Block& block, int decimals) {
         return refuse(dialString(texts::badDecimals).str());
     const std::optional<Block> where = inside(block);
     if (!where) return false;
-    const control::CellType& now = m_grid.look(where->col1, where->row1).type;
+    const control::CellType& now = m_grid.format(where->col1, where->row1).type;
     return setKind(block, control::numberType(decimals, now.style, now.least, now.most));
 }
 
 bool SheetEditor::setFontName(const Block& block, std::string_view name) {
-    return changeLooks(block, texts::stepFont, [&](Look& look) { look.font.name = name; });
+    return changeFormats(block, texts::stepFont,
+                         [&](CellFormat& format) { format.font.name = name; });
 }
 bool SheetEditor::setFontHeight(const Block& block, int pixels) {
     constexpr int tallest = 400;
     if (pixels < 1 || pixels > tallest) return refuse(dialString(texts::badSize).str());
-    return changeLooks(block, texts::stepFont, [&](Look& look) { look.font.height = pixels; });
+    return changeFormats(block, texts::stepFont,
+                         [&](CellFormat& format) { format.font.height = pixels; });
 }
 bool SheetEditor::setBold(const Block& block, bool on) {
-    return changeLooks(block, texts::stepFont,
-                       [&](Look& look) { look.font.weight = on ? 700 : 400; });
+    return changeFormats(block, texts::stepFont,
+                         [&](CellFormat& format) { format.font.weight = on ? 700 : 400; });
 }
 bool SheetEditor::setItalic(const Block& block, bool on) {
-    return changeLooks(block, texts::stepFont, [&](Look& look) { look.font.italic = on; });
+    return changeFormats(block, texts::stepFont,
+                         [&](CellFormat& format) { format.font.italic = on; });
 }
 bool SheetEditor::setUnderlined(const Block& block, bool on) {
-    return changeLooks(block, texts::stepFont, [&](Look& look) { look.font.underlined = on; });
+    return changeFormats(block, texts::stepFont,
+                         [&](CellFormat& format) { format.font.underlined = on; });
 }
 bool SheetEditor::setAlignment(const Block& block, int alignment) {
-    return changeLooks(block, texts::stepAlignment,
-                       [&](Look& look) { look.alignment = static_cast<uint8_t>(alignment); });
+    return changeFormats(block, texts::stepAlignment, [&](CellFormat& format) {
+        format.alignment = static_cast<uint8_t>(alignment);
+    });
 }
 bool SheetEditor::setTextColour(const Block& block, control::Colour colour) {
-    return changeLooks(block, texts::stepColour, [&](Look& look) { look.textColour = colour; });
+    return changeFormats(block, texts::stepColour,
+                         [&](CellFormat& format) { format.textColour = colour; });
 }
 bool SheetEditor::setBackground(const Block& block, control::Colour colour) {
-    return changeLooks(block, texts::stepColour, [&](Look& look) { look.background = colour; });
+    return changeFormats(block, texts::stepColour,
+                         [&](CellFormat& format) { format.background = colour; });
 }
 bool SheetEditor::setLocked(const Block& block, bool locked) {
-    return changeLooks(block, texts::stepLock, [&](Look& look) { look.locked = locked; });
+    return changeFormats(block, texts::stepLock,
+                         [&](CellFormat& format) { format.locked = locked; });
 }
 
 bool SheetEditor::setBorder(const Block& given, int sides, int style, control::Colour colour) {
     const std::optional<Block> block = inside(given);
     if (!block) return false;
     StepScope step(*this, texts::stepBorder, *block);
-    keepLooks(*block);
+    keepFormats(*block);
     // The outline of whole columns reaches into single cells.
     if (sides & control::borderOutline)
         for (const int row : {block->row1, block->row2})

@@ -4,4 +4,4 @@
 #include "core_api/texts/texts.h"
 #include "workbench/sheet/sheet_words.h"
 #include "workbench/window/dialog_font.h"
-#include "workbench/window/say.h"
+#include "workbench/window/ui_text.h"

@@ -4,9 +4,9 @@
 #include <QString>
 #include <string_view>
 
-QString say(int number);
+QString uiText(int number);
 /// Of a menu entry, as the title of what it opens.
-QString sayTitle(int number);
+QString uiTitle(int number);
 /// A message of the module, with its files named as on this machine.
 QString shownMessage(std::string_view message);
 QString shownMessage(const QString& message);

@@ -1,6 +1,6 @@
 // What a cell is (its type: text, number, check box …) and how it looks: font, colours, border and
-// lock. Looks are values; a grid interns them in a LookTable and a cell holds only the index, so
-// that a hundred thousand rows share a handful of looks.
+// lock. Formats are values; a grid interns them in a FormatTable and a cell holds only the index,
+// so that a hundred thousand rows share a handful of formats.
 #pragma once
 
 #include <array>
@@ -82,7 +82,7 @@ enum BorderSide : uint8_t {
     borderOutline = 16,  ///< the outer sides of a block of cells
 };
 
-struct Look {
+struct CellFormat {
     CellType type;
     Font font;
     Colour textColour = automatic;
@@ -93,39 +93,39 @@ struct Look {
     uint8_t alignment = 0;  ///< 0 by the value, 1 left, 2 right, 3 centred
     bool locked = false;    ///< a user cannot change the cell
 
-    bool operator==(const Look&) const = default;
+    bool operator==(const CellFormat&) const = default;
 };
 
-/// Index of a look in its table.
-using LookIndex = uint16_t;
-/// What a cell has that was never given a look: that of its column, else the default look.
-inline constexpr LookIndex inheritedLook = 0;
-/// The default look, given to a cell outright.
-inline constexpr LookIndex plainLook = 1;
+/// Index of a format in its table.
+using FormatIndex = uint16_t;
+/// What a cell has that was never given a format: that of its column, else the default format.
+inline constexpr FormatIndex inheritedFormat = 0;
+/// The default format, given to a cell outright.
+inline constexpr FormatIndex plainFormat = 1;
 
-class LookTable {
+class FormatTable {
   public:
-    LookTable();
+    FormatTable();
 
-    const Look& operator[](LookIndex index) const { return m_looks[index]; }
-    size_t size() const { return m_looks.size(); }
+    const CellFormat& operator[](FormatIndex index) const { return m_formats[index]; }
+    size_t size() const { return m_formats.size(); }
 
-    /// The index of `look`, which is added when it is new. A full table (65,536 looks) gives
-    /// plainLook: the cell keeps its value and loses its decoration.
-    LookIndex intern(const Look& look);
-    /// As interning the look `base` with another type, remembering the answer: a standards run
+    /// The index of `format`, which is added when it is new. A full table (65,536 formats) gives
+    /// plainFormat: the cell keeps its value and loses its decoration.
+    FormatIndex intern(const CellFormat& format);
+    /// As interning the format `base` with another type, remembering the answer: a standards run
     /// asks this for every equation.
-    LookIndex withType(LookIndex base, const CellType& type);
+    FormatIndex withType(FormatIndex base, const CellType& type);
 
   private:
     struct Remembered {
-        LookIndex base = inheritedLook;
-        LookIndex result = plainLook;
+        FormatIndex base = inheritedFormat;
+        FormatIndex result = plainFormat;
         CellType type;
     };
 
-    std::deque<Look> m_looks;  // looks stay where they are
-    std::unordered_multimap<size_t, LookIndex> m_index;
+    std::deque<CellFormat> m_formats;  // formats stay where they are
+    std::unordered_multimap<size_t, FormatIndex> m_index;
     std::array<Remembered, 8> m_remembered;
     size_t m_nextRemembered = 0;
 };

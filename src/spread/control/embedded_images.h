@@ -10,19 +10,19 @@
 namespace control {
 
 /// The bytes of a picture file, shared between copies of the sheet.
-struct KeptPicture {
+struct EmbeddedImage {
     std::shared_ptr<const std::string> bytes;
-    bool operator==(const KeptPicture& other) const { return *bytes == *other.bytes; }
+    bool operator==(const EmbeddedImage& other) const { return *bytes == *other.bytes; }
 };
 
 /// By their names, which no file has.
-using KeptPictures = std::map<std::string, KeptPicture, std::less<>>;
+using EmbeddedImages = std::map<std::string, EmbeddedImage, std::less<>>;
 
 /// "#" and a number made from the bytes, so that equal pictures have equal names in all sheets.
 std::string pictureName(std::string_view bytes);
 bool isPictureName(std::string_view text);
 
 /// The name under which the picture is in `pictures` afterwards.
-std::string keepPicture(KeptPictures& pictures, std::string bytes);
+std::string keepPicture(EmbeddedImages& pictures, std::string bytes);
 
 }  // namespace control

@@ -1,4 +1,4 @@
-#include "spread/control/kept_pictures.h"
+#include "spread/control/embedded_images.h"
 
 #include <algorithm>
 #include <array>
@@ -27,7 +27,7 @@ bool isPictureName(std::string_view text) {
            });
 }
 
-std::string keepPicture(KeptPictures& pictures, std::string bytes) {
+std::string keepPicture(EmbeddedImages& pictures, std::string bytes) {
     const std::string base = pictureName(bytes);
     std::string name = base;
     for (int number = 2;; ++number) {

@@ -6,7 +6,7 @@
 #include <QFileDialog>
 #include <QPushButton>
 
-class FolderTaker : public QFileDialog {
+class FolderDialog : public QFileDialog {
   public:
     using QFileDialog::QFileDialog;
 

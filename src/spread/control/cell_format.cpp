@@ -1,4 +1,4 @@
-#include "spread/control/look.h"
+#include "spread/control/cell_format.h"
 
 #include <algorithm>
 #include <functional>
@@ -6,7 +6,7 @@
 namespace control {
 namespace {
 
-constexpr size_t mostLooks = 65536;
+constexpr size_t mostFormats = 65536;
 
 class Hash {
   public:
@@ -22,16 +22,16 @@ class Hash {
     size_t m_hash = 0;
 };
 
-size_t hashOf(const Look& look) {
-    const CellType& type = look.type;
+size_t hashOf(const CellFormat& format) {
+    const CellType& type = format.type;
     Hash hash;
     hash << static_cast<int>(type.kind) << type.decimals << type.editable << type.isIcon
          << type.maxLength << type.style << type.picture << type.otherPicture << type.least
          << type.most << type.text;
-    hash << look.font.name << look.font.height << look.font.weight << look.font.italic
-         << look.font.underlined;
-    hash << look.textColour << look.background << look.borderColour << look.borderSides
-         << look.borderStyle << look.alignment << look.locked;
+    hash << format.font.name << format.font.height << format.font.weight << format.font.italic
+         << format.font.underlined;
+    hash << format.textColour << format.background << format.borderColour << format.borderSides
+         << format.borderStyle << format.alignment << format.locked;
     return hash.value();
 }
 
@@ -55,28 +55,28 @@ CellType editType(int maxLength, uint32_t style) {
     return type;
 }
 
-LookTable::LookTable() : m_looks(2) {
-    m_index.emplace(hashOf(m_looks[plainLook]), plainLook);
+FormatTable::FormatTable() : m_formats(2) {
+    m_index.emplace(hashOf(m_formats[plainFormat]), plainFormat);
 }
 
-LookIndex LookTable::intern(const Look& look) {
-    const size_t hash = hashOf(look);
+FormatIndex FormatTable::intern(const CellFormat& format) {
+    const size_t hash = hashOf(format);
     const auto [first, last] = m_index.equal_range(hash);
     for (auto found = first; found != last; ++found)
-        if (m_looks[found->second] == look) return found->second;
-    if (m_looks.size() == mostLooks) return plainLook;
-    const auto index = static_cast<LookIndex>(m_looks.size());
-    m_looks.push_back(look);
+        if (m_formats[found->second] == format) return found->second;
+    if (m_formats.size() == mostFormats) return plainFormat;
+    const auto index = static_cast<FormatIndex>(m_formats.size());
+    m_formats.push_back(format);
     m_index.emplace(hash, index);
     return index;
 }
 
-LookIndex LookTable::withType(LookIndex base, const CellType& type) {
+FormatIndex FormatTable::withType(FormatIndex base, const CellType& type) {
     for (const Remembered& known : m_remembered)
         if (known.base == base && known.type == type) return known.result;
-    Look look = m_looks[base];
-    look.type = type;
-    const LookIndex result = intern(look);
+    CellFormat format = m_formats[base];
+    format.type = type;
+    const FormatIndex result = intern(format);
     m_remembered[m_nextRemembered] = {base, result, type};
     m_nextRemembered = (m_nextRemembered + 1) % m_remembered.size();
     return result;

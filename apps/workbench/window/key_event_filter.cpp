@@ -1,4 +1,4 @@
-#include "workbench/window/key_route.h"
+#include "workbench/window/key_event_filter.h"
 
 #include <QApplication>
 #include <QKeyEvent>
@@ -8,11 +8,11 @@
 #include "workbench/window/input_translation.h"
 #include "workbench/window/qt_window_system.h"
 
-KeyRoute::KeyRoute(QtWindowSystem& system) : m_system(system) {
+KeyEventFilter::KeyEventFilter(QtWindowSystem& system) : m_system(system) {
     QCoreApplication::instance()->installEventFilter(this);
 }
 
-bool KeyRoute::eventFilter(QObject* watched, QEvent* event) {
+bool KeyEventFilter::eventFilter(QObject* watched, QEvent* event) {
     const QEvent::Type type = event->type();
     if (type != QEvent::KeyPress && type != QEvent::KeyRelease && type != QEvent::FocusIn)
         return false;
@@ -25,13 +25,13 @@ bool KeyRoute::eventFilter(QObject* watched, QEvent* event) {
 
 // A key that nobody wants climbs from widget to widget; the windows have heard of it at the first.
 // An open list or menu has its keys for itself.
-bool KeyRoute::isForWindows(QWidget& widget) const {
+bool KeyEventFilter::isForWindows(QWidget& widget) const {
     if (QApplication::activePopupWidget()) return false;
     const QWidget* focused = QApplication::focusWidget();
     return focused ? &widget == focused : widget.isWindow();
 }
 
-bool KeyRoute::hearKey(QWidget& widget, const QKeyEvent& event) {
+bool KeyEventFilter::hearKey(QWidget& widget, const QKeyEvent& event) {
     const bool isRepeatedRelease = event.type() == QEvent::KeyRelease && event.isAutoRepeat();
     if (isRepeatedRelease || !isForWindows(widget)) return false;
     CWnd* window = m_system.windowOf(&widget);
@@ -41,7 +41,7 @@ bool KeyRoute::hearKey(QWidget& widget, const QKeyEvent& event) {
 
 // A dialog that is shown is told of a keyboard that it does not have. The window tells the one that
 // had the keyboard before, whose dialog may do anything then.
-void KeyRoute::hearFocus(QWidget& widget) {
+void KeyEventFilter::hearFocus(QWidget& widget) {
     if (&widget != QApplication::focusWidget()) return;
     CWnd* window = m_system.windowOf(&widget);
     if (window && window != CWnd::focused()) m_system.userActs([&] { window->focus(); });

@@ -1,4 +1,4 @@
-// Looks, sizes and spans.
+// Formats, sizes and spans.
 #include <algorithm>
 
 #include "spread/control/grid.h"
@@ -20,63 +20,63 @@ int sizeOf(const Band& band, const Band& across, int index) {
     return found == band.sizes.end() ? band.defaultSize : found->second;
 }
 
-// Remembers what became of each look, so that a long column changes each of its few looks once.
-class ChangedLooks {
+// Remembers what became of each format, so that a long column changes each of its few formats once.
+class ChangedFormats {
   public:
-    ChangedLooks(LookTable& looks, const std::function<Look(const Look&)>& change)
-        : m_looks(looks), m_change(change) {}
-    LookIndex operator()(LookIndex look) {
+    ChangedFormats(FormatTable& formats, const std::function<CellFormat(const CellFormat&)>& change)
+        : m_formats(formats), m_change(change) {}
+    FormatIndex operator()(FormatIndex format) {
         for (const auto& [from, to] : m_known)
-            if (from == look) return to;
-        const Look changed = m_change(m_looks[look]);
-        const LookIndex to = changed == m_looks[look] ? look : m_looks.intern(changed);
-        m_known.emplace_back(look, to);
+            if (from == format) return to;
+        const CellFormat changed = m_change(m_formats[format]);
+        const FormatIndex to = changed == m_formats[format] ? format : m_formats.intern(changed);
+        m_known.emplace_back(format, to);
         return to;
     }
 
   private:
-    LookTable& m_looks;
-    const std::function<Look(const Look&)>& m_change;
-    std::vector<std::pair<LookIndex, LookIndex>> m_known;
+    FormatTable& m_formats;
+    const std::function<CellFormat(const CellFormat&)>& m_change;
+    std::vector<std::pair<FormatIndex, FormatIndex>> m_known;
 };
 
-LookIndex bandLook(const Band& band, int index) {
-    const auto found = band.looks.find(index);
-    return found == band.looks.end() ? band.look : found->second;
+FormatIndex bandFormat(const Band& band, int index) {
+    const auto found = band.formats.find(index);
+    return found == band.formats.end() ? band.format : found->second;
 }
 
 }  // namespace
 
-LookIndex Grid::lookIndex(int col, int row) const {
-    if (isHeader(row)) return isHeader(col) ? m_sides->cols.look : bandLook(m_sides->cols, col);
-    if (isHeader(col)) return bandLook(m_sides->rows, row);
-    return shownLook(m_sheet->find(col, row), col);
+FormatIndex Grid::formatIndex(int col, int row) const {
+    if (isHeader(row)) return isHeader(col) ? m_sides->cols.format : bandFormat(m_sides->cols, col);
+    if (isHeader(col)) return bandFormat(m_sides->rows, row);
+    return shownFormat(m_sheet->find(col, row), col);
 }
 
 bool Grid::setType(int col, int row, const CellType& type) {
     if (!isInside(col, row)) return setType(Block{col, row, col, row}, type);
     const Cell* cell = m_sheet->find(col, row);
-    const LookIndex look = ownLook(cell, col, type);
-    if (look == (cell ? cell->look : inheritedLook)) return true;
-    noteTouched(col, row);
-    m_sheet->setLook(col, row, look);
+    const FormatIndex format = ownFormat(cell, col, type);
+    if (format == (cell ? cell->format : inheritedFormat)) return true;
+    markTouched(col, row);
+    m_sheet->setFormat(col, row, format);
     return true;
 }
 
-/// The look that the cell itself has to hold so that it is of `type`.
-LookIndex Grid::ownLook(const Cell* cell, int col, const CellType& type) {
-    const LookIndex shown = shownLook(cell, col);
-    if (!(m_looks[shown].type == type)) return m_looks.withType(shown, type);
-    return cell ? cell->look : inheritedLook;
+/// The format that the cell itself has to hold so that it is of `type`.
+FormatIndex Grid::ownFormat(const Cell* cell, int col, const CellType& type) {
+    const FormatIndex shown = shownFormat(cell, col);
+    if (!(m_formats[shown].type == type)) return m_formats.withType(shown, type);
+    return cell ? cell->format : inheritedFormat;
 }
 
 bool Grid::setType(const Block& block, const CellType& type) {
     if (block.col1 == block.col2 && block.row1 == block.row2 && isInside(block.col1, block.row1))
         return setType(block.col1, block.row1, type);
-    return changeLooks(block, [&](Look& look) { look.type = type; });
+    return changeFormats(block, [&](CellFormat& format) { format.type = type; });
 }
 
-bool Grid::eachLook(const Block& given, const ChangeLook& change) {
+bool Grid::eachFormat(const Block& given, const ChangeFormat& change) {
     Block block = given;
     const bool allRows = (block.row2 == -1 && block.row1 <= 1) ||
                          (block.row1 <= 1 && block.row2 >= m_rows && m_rows > 1);
@@ -84,74 +84,75 @@ bool Grid::eachLook(const Block& given, const ChangeLook& change) {
     if (block.row2 == -1) block.row2 = m_rows;
     const bool wholeHeader = isHeader(given.row2) || isHeader(given.col2);
     if (isHeader(block.row1))
-        changeHeaderLooks(changeSides().cols, block.col1, block.col2, m_cols, change);
+        changeHeaderFormats(changeSides().cols, block.col1, block.col2, m_cols, change);
     if (isHeader(block.col1))
-        changeHeaderLooks(changeSides().rows, block.row1, block.row2, m_rows, change);
+        changeHeaderFormats(changeSides().rows, block.row1, block.row2, m_rows, change);
     if (wholeHeader) return true;
     const auto startOf = [](int first) { return first == -1 || isHeader(first) ? 1 : first; };
     const int firstCol = startOf(block.col1), lastCol = std::min(block.col2, m_cols);
     const int firstRow = startOf(block.row1), lastRow = std::min(block.row2, m_rows);
     if (firstCol < 1 || firstCol > lastCol) return false;
     if (allRows) {
-        for (int col = firstCol; col <= lastCol; ++col) changeColumnLooks(col, change);
+        for (int col = firstCol; col <= lastCol; ++col) changeColumnFormats(col, change);
         return true;
     }
     if (firstRow < 1 || firstRow > lastRow) return false;
-    changeCellLooks({firstCol, firstRow, lastCol, lastRow}, change);
+    changeCellFormats({firstCol, firstRow, lastCol, lastRow}, change);
     return true;
 }
 
-void Grid::changeCellLooks(const Block& block, const ChangeLook& change) {
-    ChangedLooks changed(m_looks, change);
+void Grid::changeCellFormats(const Block& block, const ChangeFormat& change) {
+    ChangedFormats changed(m_formats, change);
     for (int col = block.col1; col <= block.col2; ++col) {
         for (int row = block.row1; row <= block.row2; ++row) {
-            const LookIndex now = lookIndex(col, row);
-            const LookIndex next = changed(now);
+            const FormatIndex now = formatIndex(col, row);
+            const FormatIndex next = changed(now);
             if (next == now) continue;
-            noteTouched(col, row);
-            m_sheet->setLook(col, row, next);
+            markTouched(col, row);
+            m_sheet->setFormat(col, row, next);
         }
     }
 }
 
-void Grid::changeHeaderLooks(Band& band, int from, int to, int count, const ChangeLook& change) {
-    ChangedLooks changed(m_looks, change);
+void Grid::changeHeaderFormats(Band& band, int from, int to, int count,
+                               const ChangeFormat& change) {
+    ChangedFormats changed(m_formats, change);
     if (from <= 1 && (to >= count || isHeader(to))) {
-        band.look = changed(band.look);
-        for (auto& [index, look] : band.looks) look = changed(look);
+        band.format = changed(band.format);
+        for (auto& [index, format] : band.formats) format = changed(format);
         return;
     }
     for (int index = std::max(from, 1); index <= std::min(to, count); ++index)
-        band.looks[index] = changed(bandLook(band, index));
+        band.formats[index] = changed(bandFormat(band, index));
 }
 
-void Grid::changeColumnLooks(int col, const ChangeLook& change) {
-    ChangedLooks changed(m_looks, change);
-    std::vector<LookIndex>& looks = changeSides().columnLooks;
-    if (static_cast<size_t>(col) >= looks.size())
-        looks.resize(static_cast<size_t>(col) + 1, inheritedLook);
-    looks[static_cast<size_t>(col)] = changed(looks[static_cast<size_t>(col)]);
-    std::vector<std::pair<int, LookIndex>> own;
+void Grid::changeColumnFormats(int col, const ChangeFormat& change) {
+    ChangedFormats changed(m_formats, change);
+    std::vector<FormatIndex>& formats = changeSides().columnFormats;
+    if (static_cast<size_t>(col) >= formats.size())
+        formats.resize(static_cast<size_t>(col) + 1, inheritedFormat);
+    formats[static_cast<size_t>(col)] = changed(formats[static_cast<size_t>(col)]);
+    std::vector<std::pair<int, FormatIndex>> own;
     const auto c = static_cast<uint16_t>(col);
     m_sheet->cells().each(Area{1, formula::maxRows, c, c}, [&](int row, int, const Cell& cell) {
-        if (cell.look != inheritedLook) own.emplace_back(row, cell.look);
+        if (cell.format != inheritedFormat) own.emplace_back(row, cell.format);
     });
-    for (const auto& [row, look] : own) {
-        const LookIndex next = changed(look);
-        if (next == look) continue;
-        noteTouched(col, row);
-        m_sheet->setLook(col, row, next);
+    for (const auto& [row, format] : own) {
+        const FormatIndex next = changed(format);
+        if (next == format) continue;
+        markTouched(col, row);
+        m_sheet->setFormat(col, row, next);
     }
 }
 
 bool Grid::setBorder(const Block& block, int sides, int style, Colour colour) {
     const auto draw = [&](const Block& cells, int which) {
-        return changeLooks(cells, [&](Look& look) {
+        return changeFormats(cells, [&](CellFormat& format) {
             const auto bits = static_cast<uint8_t>(which & 15);
-            look.borderSides = static_cast<uint8_t>(style == 0 ? look.borderSides & ~bits
-                                                               : look.borderSides | bits);
-            look.borderStyle = static_cast<uint8_t>(style);
-            look.borderColour = colour;
+            format.borderSides = static_cast<uint8_t>(style == 0 ? format.borderSides & ~bits
+                                                                 : format.borderSides | bits);
+            format.borderStyle = static_cast<uint8_t>(style);
+            format.borderColour = colour;
         });
     };
     bool done = (sides & 15) == 0 || draw(block, sides);
@@ -204,11 +205,11 @@ bool Grid::setRowHidden(int row, bool hidden) {
 int Grid::fitWidth(int col) const {
     std::string buffer;
     TextSize most =
-        fittedSize(text(col, headerIndex, Reading::data, buffer), look(col, headerIndex));
+        fittedSize(text(col, headerIndex, Reading::data, buffer), format(col, headerIndex));
     for (int row = 1; row <= m_rows; ++row) {
         const Span* span = spanAt(col, row);
         if (span && span->cols > 1) continue;
-        const TextSize size = fittedSize(text(col, row, Reading::data, buffer), look(col, row));
+        const TextSize size = fittedSize(text(col, row, Reading::data, buffer), format(col, row));
         most.width = std::max(most.width, size.width);
     }
     return most.width;
@@ -217,11 +218,11 @@ int Grid::fitWidth(int col) const {
 int Grid::fitHeight(int row) const {
     std::string buffer;
     TextSize most =
-        fittedSize(text(headerIndex, row, Reading::data, buffer), look(headerIndex, row));
+        fittedSize(text(headerIndex, row, Reading::data, buffer), format(headerIndex, row));
     for (int col = 1; col <= m_cols; ++col) {
         const Span* span = spanAt(col, row);
         if (span && span->rows > 1) continue;
-        const TextSize size = fittedSize(text(col, row, Reading::data, buffer), look(col, row));
+        const TextSize size = fittedSize(text(col, row, Reading::data, buffer), format(col, row));
         most.height = std::max(most.height, size.height);
     }
     return most.height;

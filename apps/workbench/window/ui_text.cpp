@@ -1,15 +1,15 @@
-#include "workbench/window/say.h"
+#include "workbench/window/ui_text.h"
 
 #include "core_api/texts/texts.h"
 #include "platform/readable_paths.h"
 #include "workbench/window/dialog_font.h"
 
-QString say(int number) {
+QString uiText(int number) {
     return toQt(dialString(number));
 }
 
-QString sayTitle(int number) {
-    return say(number).remove('&').remove(QChar(0x2026));
+QString uiTitle(int number) {
+    return uiText(number).remove('&').remove(QChar(0x2026));
 }
 
 QString shownMessage(std::string_view message) {

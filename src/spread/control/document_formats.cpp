@@ -1,4 +1,4 @@
-#include "spread/control/document_looks.h"
+#include "spread/control/document_formats.h"
 
 #include <array>
 #include <limits>
@@ -103,18 +103,18 @@ bool readField(const Entry& entry, Whole& field, std::string&) {
     return static_cast<double>(field) == *number;
 }
 
-bool isSane(const Look& look) {
-    return look.type.decimals <= 15 && look.type.maxLength >= 0 && look.font.height > 0 &&
-           look.font.height <= 1000 && look.borderSides < 16 && look.alignment <= 3;
+bool isSane(const CellFormat& format) {
+    return format.type.decimals <= 15 && format.type.maxLength >= 0 && format.font.height > 0 &&
+           format.font.height <= 1000 && format.borderSides < 16 && format.alignment <= 3;
 }
 
 }  // namespace
 
-void writeLook(DocumentOutput& out, const Look& look) {
+void writeFormat(DocumentOutput& out, const CellFormat& format) {
     for (const KindName& known : kindNames)
-        if (known.kind == look.type.kind) out << known.name;
-    const Look standard;
-    eachField(look, standard, [&](std::string_view name, const auto& field, const auto& usual) {
+        if (known.kind == format.type.kind) out << known.name;
+    const CellFormat standard;
+    eachField(format, standard, [&](std::string_view name, const auto& field, const auto& usual) {
         if (field == usual) return;
         out << ' ' << name << '=';
         if constexpr (std::is_same_v<std::decay_t<decltype(field)>, std::string>) {
@@ -127,13 +127,13 @@ void writeLook(DocumentOutput& out, const Look& look) {
     });
 }
 
-std::optional<Look> readLook(std::string_view text, std::string& error) {
+std::optional<CellFormat> readFormat(std::string_view text, std::string& error) {
     const size_t end = std::min(text.find(' '), text.size());
-    Look look;
+    CellFormat format;
     bool isKnown = false;
     for (const KindName& known : kindNames) {
         if (known.name != text.substr(0, end)) continue;
-        look.type.kind = known.kind;
+        format.type.kind = known.kind;
         isKnown = true;
     }
     if (!isKnown) {
@@ -147,7 +147,7 @@ std::optional<Look> readLook(std::string_view text, std::string& error) {
         bool isRead = false;
         std::string why;
         if (entry)
-            eachField(look, look, [&](std::string_view name, auto& field, auto&) {
+            eachField(format, format, [&](std::string_view name, auto& field, auto&) {
                 if (name == entry->key) isRead = readField(*entry, field, why);
             });
         if (isRead) continue;
@@ -156,7 +156,7 @@ std::optional<Look> readLook(std::string_view text, std::string& error) {
         if (!why.empty()) error += " (" + why + ')';
         return std::nullopt;
     }
-    if (isSane(look)) return look;
+    if (isSane(format)) return format;
     error = "a look has values out of range";
     return std::nullopt;
 }

@@ -9,9 +9,9 @@ class QKeyEvent;
 class QtWindowSystem;
 class QWidget;
 
-class KeyRoute : public QObject {
+class KeyEventFilter : public QObject {
   public:
-    explicit KeyRoute(QtWindowSystem& system);
+    explicit KeyEventFilter(QtWindowSystem& system);
     bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
