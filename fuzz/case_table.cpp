@@ -10,18 +10,18 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     if (size == 0) return 0;
     const Feeding feeding(data[0]);
     auto source = feedLines({reinterpret_cast<const char*>(data) + 1, size - 1}, feeding.pieceSize);
-    cli::CsvReader reader(source);
+    exchange::CsvReader reader(source);
     TwVarCells cells = variablesOf(TwCellType::input);
     cells.append(TwVarCell("Plate", TwCellType::output, TwValueType::Double));
     cells.append(TwVarCell("Fits", TwCellType::output, TwValueType::Int));
     const auto table = cli::CaseTable::open(reader, "cases.csv", cells);
     if (!table) return 0;
     std::vector<std::string_view> fields;
-    for (auto got = reader.next(fields); got != cli::CsvReader::ReadResult::end;
+    for (auto got = reader.next(fields); got != exchange::CsvReader::ReadResult::end;
          got = reader.next(fields)) {
-        require(got == cli::CsvReader::ReadResult::record || !reader.error().empty());
-        if (got == cli::CsvReader::ReadResult::failed) return 0;
-        if (got != cli::CsvReader::ReadResult::record) continue;
+        require(got == exchange::CsvReader::ReadResult::record || !reader.error().empty());
+        if (got == exchange::CsvReader::ReadResult::failed) return 0;
+        if (got != exchange::CsvReader::ReadResult::record) continue;
         cli::CaseTable::Case row;
         std::string error;
         if (!table->take(fields, cells, row, error)) {

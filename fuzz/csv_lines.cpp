@@ -15,19 +15,19 @@ using ReadResult = cli::BatchInput::ReadResult;
 
 Records recordsOf(std::string_view text, size_t pieceSize) {
     auto source = feedLines(text, pieceSize);
-    cli::CsvReader reader(source, cli::CsvReader::EmptyLines::kept);
+    exchange::CsvReader reader(source, exchange::CsvReader::EmptyLines::kept);
     Records records;
     std::vector<std::string_view> fields;
     long long line = 0;
     while (true) {
         const auto got = reader.next(fields);
-        require(got != cli::CsvReader::ReadResult::failed);
-        if (got == cli::CsvReader::ReadResult::end) return records;
+        require(got != exchange::CsvReader::ReadResult::failed);
+        if (got == exchange::CsvReader::ReadResult::end) return records;
         require(reader.lineNumber() > line);
         line = reader.lineNumber();
-        if (got == cli::CsvReader::ReadResult::record)
+        if (got == exchange::CsvReader::ReadResult::record)
             records.emplace_back(fields.begin(), fields.end());
-        require(got == cli::CsvReader::ReadResult::record || !reader.error().empty());
+        require(got == exchange::CsvReader::ReadResult::record || !reader.error().empty());
     }
 }
 

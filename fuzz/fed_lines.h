@@ -32,7 +32,7 @@ struct Feeding {
 };
 
 /// `text` on the standard input. Pieces are larger where a socket would not hold them all.
-inline cli::LineSource feedLines(std::string_view text, size_t pieceSize) {
+inline exchange::LineSource feedLines(std::string_view text, size_t pieceSize) {
     constexpr size_t mostPieces = 60;
     constexpr int bytesHeld = 1 << 18;
     const size_t piece = std::max(pieceSize, text.size() / mostPieces);
@@ -48,7 +48,7 @@ inline cli::LineSource feedLines(std::string_view text, size_t pieceSize) {
     require(::dup2(ends[1], STDIN_FILENO) == STDIN_FILENO);
     ::close(ends[1]);
     std::string error;
-    auto source = cli::LineSource::open("-", error);
+    auto source = exchange::LineSource::open("-", error);
     require(source.has_value());
     return std::move(*source);
 }

@@ -165,8 +165,8 @@ bool BillSheet::exportIt(std::string& error) {
     if (m_format == BillFormat::document || m_format == BillFormat::pdf) return true;
     const control::Grid& grid = m_output.sheet()->grid();
     const auto content = m_format == BillFormat::csv
-                             ? sheets::sheetAsCsv(grid, sheets::CsvTexts::guarded, error)
-                             : sheets::sheetAsXlsx(grid, error);
+                             ? exchange::sheetAsCsv(grid, exchange::CsvTexts::guarded, error)
+                             : exchange::sheetAsXlsx(grid, error);
     if (!content) {
         error = m_target.file.str() + ": " + error;
         return false;

@@ -11,7 +11,7 @@ namespace {
 
 class TableReader {
   public:
-    TableReader(const Vor_String& path, cli::LineSource& source, std::string& error)
+    TableReader(const Vor_String& path, exchange::LineSource& source, std::string& error)
         : m_path(path), m_reader(source), m_error(error) {}
 
     std::optional<BillTable> read() {
@@ -19,7 +19,7 @@ class TableReader {
         std::vector<std::string_view> fields;
         for (bool isFirst = true;; isFirst = false) {
             switch (m_reader.next(fields)) {
-                case cli::CsvReader::ReadResult::record: {
+                case exchange::CsvReader::ReadResult::record: {
                     Vor_StringArray record;
                     if (!take(fields, record)) return std::nullopt;
                     if (isFirst && hasOtherSeparators(record))
@@ -32,7 +32,7 @@ class TableReader {
                         table.rows.append(std::move(record));
                     break;
                 }
-                case cli::CsvReader::ReadResult::end:
+                case exchange::CsvReader::ReadResult::end:
                     if (table.header.isEmpty()) return fail("the file is empty");
                     return table;
                 default:
@@ -52,7 +52,7 @@ class TableReader {
         record.reserve(static_cast<int>(fields.size()));
         for (const std::string_view field : fields) {
             std::string text, why;
-            if (!cli::fromUtf8(field, text, why)) return fail(why), false;
+            if (!exchange::fromUtf8(field, text, why)) return fail(why), false;
             record.append(std::move(text));
         }
         return true;
@@ -63,7 +63,7 @@ class TableReader {
     }
 
     const Vor_String& m_path;
-    cli::CsvReader m_reader;
+    exchange::CsvReader m_reader;
     std::string& m_error;
 };
 
@@ -71,7 +71,7 @@ class TableReader {
 
 std::optional<BillTable> readBillTable(const Vor_String& path, std::string& error) {
     std::string why;
-    auto source = cli::LineSource::openFile(paths::toMachine(path), why);
+    auto source = exchange::LineSource::openFile(paths::toMachine(path), why);
     if (!source) {
         error = path.str() + ": " + encodings::fromUtf8(why).value_or("it cannot be read");
         return std::nullopt;

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-namespace cli {
+namespace exchange {
 
 namespace {
 
@@ -125,4 +125,4 @@ CsvReader::ReadResult CsvReader::bad(std::string_view message) {
     return ReadResult::bad;
 }
 
-}  // namespace cli
+}  // namespace exchange

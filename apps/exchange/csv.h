@@ -13,7 +13,7 @@
 
 #include "exchange/line_source.h"
 
-namespace cli {
+namespace exchange {
 
 class CsvReader {
   public:
@@ -49,4 +49,4 @@ class CsvReader {
     std::string m_unquoted;
 };
 
-}  // namespace cli
+}  // namespace exchange

@@ -4,12 +4,10 @@
 #include "exchange/sheet_writing.h"
 #include "exchange/texts.h"
 
-namespace sheets {
+namespace exchange {
 
 namespace {
 
-using cli::appendNumber;
-using cli::appendUtf8;
 using formula::Value;
 
 void appendCell(std::string& line, const control::Grid& grid, int col, int row, CsvTexts texts) {
@@ -62,4 +60,4 @@ std::optional<std::string> sheetAsCsv(const control::Grid& sheet, CsvTexts texts
     return text;
 }
 
-}  // namespace sheets
+}  // namespace exchange

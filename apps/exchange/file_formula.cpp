@@ -5,7 +5,7 @@
 
 #include "platform/encodings.h"
 
-namespace sheets {
+namespace exchange {
 
 namespace {
 
@@ -60,4 +60,4 @@ std::string fileFormula(std::string_view text) {
     return result;
 }
 
-}  // namespace sheets
+}  // namespace exchange

@@ -4,9 +4,9 @@
 #include <string>
 #include <string_view>
 
-namespace sheets {
+namespace exchange {
 
 /// Without "=" in front; functions that are younger than the file format get its prefix.
 std::string fileFormula(std::string_view text);
 
-}  // namespace sheets
+}  // namespace exchange

@@ -2,7 +2,7 @@
 #include "exchange/sheet_writing.h"
 #include "spread/control/document.h"
 
-namespace sheets {
+namespace exchange {
 
 std::unique_ptr<control::Grid> withHeaderRow(const control::Grid& grid) {
     const auto& words = grid.sides().cols.texts;
@@ -26,4 +26,4 @@ std::unique_ptr<control::Grid> withHeaderRow(const control::Grid& grid) {
     return copy;
 }
 
-}  // namespace sheets
+}  // namespace exchange

@@ -6,7 +6,7 @@
 
 #include "exchange/texts.h"
 
-namespace cli {
+namespace exchange {
 
 class JsonWriter {
   public:
@@ -68,4 +68,4 @@ class JsonWriter {
     bool m_isNewLine = false;
 };
 
-}  // namespace cli
+}  // namespace exchange

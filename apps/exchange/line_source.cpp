@@ -9,7 +9,7 @@
 #include <cerrno>
 #include <cstring>
 
-namespace cli {
+namespace exchange {
 
 namespace {
 
@@ -154,4 +154,4 @@ void LineSource::makeRoom() {
     if (m_filled > m_buffer.size() / 2) m_buffer.resize(m_buffer.size() * 2);
 }
 
-}  // namespace cli
+}  // namespace exchange

@@ -12,7 +12,7 @@
 #include <utility>
 #include <vector>
 
-namespace cli {
+namespace exchange {
 
 /// An open file, closed at the end unless it is one of the three standard ones.
 class Descriptor {
@@ -89,4 +89,4 @@ class LineSource {
     long long m_recordLines = 0;
 };
 
-}  // namespace cli
+}  // namespace exchange

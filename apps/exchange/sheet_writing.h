@@ -7,7 +7,7 @@
 
 #include "spread/control/grid.h"
 
-namespace sheets {
+namespace exchange {
 
 /// The cells from A1 to the last column and row that hold anything.
 struct UsedArea {
@@ -37,4 +37,4 @@ std::optional<std::string> sheetAsXlsx(const control::Grid& grid, std::string& e
 /// "B7".
 std::string cellName(control::CellAddress address);
 
-}  // namespace sheets
+}  // namespace exchange

@@ -7,7 +7,7 @@
 #include "core_api/text/number_text.h"
 #include "platform/encodings.h"
 
-namespace cli {
+namespace exchange {
 
 namespace {
 
@@ -133,4 +133,4 @@ std::optional<Assignment> splitAssignment(std::string_view text) {
     return Assignment{std::string(name), std::string(text.substr(sign + 1))};
 }
 
-}  // namespace cli
+}  // namespace exchange

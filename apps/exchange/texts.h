@@ -6,7 +6,7 @@
 #include <string>
 #include <string_view>
 
-namespace cli {
+namespace exchange {
 
 /// Appends `text` (Windows-1252) as UTF-8.
 void appendUtf8(std::string& line, std::string_view text);
@@ -38,4 +38,4 @@ struct Assignment {
 };
 std::optional<Assignment> splitAssignment(std::string_view text);
 
-}  // namespace cli
+}  // namespace exchange

@@ -6,7 +6,7 @@
 #include "exchange/xml_text.h"
 #include "spread/picture_size.h"
 
-namespace sheets {
+namespace exchange {
 
 namespace {
 
@@ -114,4 +114,4 @@ void WorkbookNotes::addTo(ZipArchive& archive) const {
                     m_shapes + "</xml>");
 }
 
-}  // namespace sheets
+}  // namespace exchange

@@ -10,7 +10,7 @@
 #include "exchange/zip_archive.h"
 #include "spread/control/cells.h"
 
-namespace sheets {
+namespace exchange {
 
 /// Pictures, each with its top left corner in that of a cell. Equal ones are stored once.
 class WorkbookPictures {
@@ -46,4 +46,4 @@ class WorkbookNotes {
     int m_count = 0;
 };
 
-}  // namespace sheets
+}  // namespace exchange

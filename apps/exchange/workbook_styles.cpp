@@ -4,7 +4,7 @@
 
 #include "exchange/xml_text.h"
 
-namespace sheets {
+namespace exchange {
 
 namespace {
 
@@ -129,4 +129,4 @@ std::string WorkbookStyles::xml() const {
     return xmlPart(xml);
 }
 
-}  // namespace sheets
+}  // namespace exchange

@@ -8,7 +8,7 @@
 
 #include "spread/control/cell_format.h"
 
-namespace sheets {
+namespace exchange {
 
 /// Pieces of XML by number, from 0.
 class NumberedPieces {
@@ -43,4 +43,4 @@ class WorkbookStyles {
     NumberedPieces m_formats;
 };
 
-}  // namespace sheets
+}  // namespace exchange

@@ -16,7 +16,7 @@
 #include "platform/files.h"
 #include "platform/window/bitmap.h"
 
-namespace sheets {
+namespace exchange {
 
 namespace {
 
@@ -418,4 +418,4 @@ std::optional<std::string> sheetAsXlsx(const control::Grid& sheet, std::string& 
     return Workbook(withHeader ? *withHeader : sheet, withHeader != nullptr).bytes(error);
 }
 
-}  // namespace sheets
+}  // namespace exchange

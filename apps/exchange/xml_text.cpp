@@ -7,7 +7,7 @@
 
 #include "platform/encodings.h"
 
-namespace sheets {
+namespace exchange {
 
 namespace {
 
@@ -97,4 +97,4 @@ std::string xmlNumber(double number) {
     return xml;
 }
 
-}  // namespace sheets
+}  // namespace exchange

@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-namespace sheets {
+namespace exchange {
 
 /// A part of a package: the line that says it is XML, and its root.
 std::string xmlPart(std::string_view root);
@@ -21,4 +21,4 @@ std::string xmlAttribute(std::string_view text);
 void appendXmlNumber(std::string& xml, double number);
 std::string xmlNumber(double number);
 
-}  // namespace sheets
+}  // namespace exchange

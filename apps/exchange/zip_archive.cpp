@@ -6,7 +6,7 @@
 #include <new>
 #include <stdexcept>
 
-namespace sheets {
+namespace exchange {
 
 namespace {
 
@@ -105,4 +105,4 @@ std::string ZipArchive::finish() && {
     return std::move(m_bytes);
 }
 
-}  // namespace sheets
+}  // namespace exchange

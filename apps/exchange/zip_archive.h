@@ -7,7 +7,7 @@
 #include <string_view>
 #include <vector>
 
-namespace sheets {
+namespace exchange {
 
 class ZipArchive {
   public:
@@ -34,4 +34,4 @@ class ZipArchive {
     bool m_fits = true;
 };
 
-}  // namespace sheets
+}  // namespace exchange

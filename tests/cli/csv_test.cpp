@@ -9,24 +9,24 @@
 
 namespace {
 
-using cli::CsvReader;
-using cli::LineSource;
+using exchange::CsvReader;
+using exchange::LineSource;
 using Records = std::vector<std::string>;
 
 /// Every record as "line field|field", bad ones as "line !message".
 Records recordsOf(const std::string& text) {
     const program::Folder folder;
     std::string error;
-    auto source = LineSource::open(folder.write("data.csv", text), error);
+    auto source = exchange::LineSource::open(folder.write("data.csv", text), error);
     if (!source) return {error};
-    CsvReader reader(*source);
+    exchange::CsvReader reader(*source);
     Records records;
     std::vector<std::string_view> fields;
-    CsvReader::ReadResult got;
-    while ((got = reader.next(fields)) == CsvReader::ReadResult::record ||
-           got == CsvReader::ReadResult::bad) {
+    exchange::CsvReader::ReadResult got;
+    while ((got = reader.next(fields)) == exchange::CsvReader::ReadResult::record ||
+           got == exchange::CsvReader::ReadResult::bad) {
         std::string record = std::to_string(reader.lineNumber()) + " ";
-        if (got == CsvReader::ReadResult::bad) {
+        if (got == exchange::CsvReader::ReadResult::bad) {
             record += "!" + reader.error();
         } else {
             for (const auto field : fields) record += std::string(field) + "|";
@@ -101,11 +101,11 @@ TEST(Csv, LongRecordsAreReadAndEndlessOnesSkipped) {
         }
     }
 
-    const std::string endless(LineSource::maxRecord + (1 << 20), 'y');
+    const std::string endless(exchange::LineSource::maxRecord + (1 << 20), 'y');
     EXPECT_EQ(recordsOf("a\n" + endless + "\nb\n"),
               (Records{"1 a", "2 !the line is longer than 16 MiB", "3 b"}));
     // An open quote in front of millions of lines must not be searched again for each of them.
-    const std::string lines(LineSource::maxRecord + (1 << 20), '\n');
+    const std::string lines(exchange::LineSource::maxRecord + (1 << 20), '\n');
     EXPECT_EQ(recordsOf("\"" + lines + "b\n").size(), 2u);
     EXPECT_EQ(recordsOf(std::string(20000, ',') + "\nb"),
               (Records{"1 !more than 16384 fields", "2 b"}));
@@ -124,12 +124,12 @@ TEST(Csv, WhatIsWrittenReadsBack) {
     EXPECT_EQ(recordsOf(line + "\n"), Records{expected});
 }
 
-TEST(LineSource, SaysWhyItCannotOpen) {
+TEST(exchange::LineSource, SaysWhyItCannotOpen) {
     const program::Folder folder;
     std::string error;
-    EXPECT_FALSE(LineSource::open(folder / "absent", error));
+    EXPECT_FALSE(exchange::LineSource::open(folder / "absent", error));
     EXPECT_THAT(error, testing::HasSubstr("No such file"));
-    EXPECT_FALSE(LineSource::open(folder.path().string(), error));
+    EXPECT_FALSE(exchange::LineSource::open(folder.path().string(), error));
     EXPECT_EQ(error, "is a folder");
 }
 

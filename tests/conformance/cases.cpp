@@ -30,7 +30,7 @@ Expected readExpected(const Json& json, std::string& problem) {
         expected.truth = value;
     } else {
         expected.type = type == "text" ? formula::ValueType::text : formula::ValueType::error;
-        cli::fromUtf8(value.get<std::string>(), expected.text, problem);
+        exchange::fromUtf8(value.get<std::string>(), expected.text, problem);
     }
     return expected;
 }

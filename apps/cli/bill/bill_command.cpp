@@ -77,7 +77,7 @@ class BillCall {
 
     bool takeText(const std::string& option, const std::string& typed, Vor_String& text) {
         std::string taken, error;
-        if (!fromUtf8(typed, taken, error)) {
+        if (!exchange::fromUtf8(typed, taken, error)) {
             complain(option + " " + typed + ": " + error);
             return false;
         }
@@ -146,7 +146,7 @@ class BillCall {
         for (const std::string& path :
              files::find(gSettings.libDir() + "Macros\\", "*.macro", false)) {
             names.emplace_back();
-            appendUtf8(names.back(), removeExtension(getFileName(path)));
+            exchange::appendUtf8(names.back(), removeExtension(getFileName(path)));
         }
         return names;
     }
@@ -160,7 +160,7 @@ class BillCall {
             std::string text;
             for (int i = 0; i < cells.length(); ++i) {
                 std::string field;
-                appendUtf8(field, cells[i]);
+                exchange::appendUtf8(field, cells[i]);
                 if (i > 0) text += ',';
                 appendGuardedField(text, field, ',');
             }
@@ -198,19 +198,20 @@ class BillCall {
         const Vor_StringArray doubtful = bills::doubtfulMasses(bill);
         if (doubtful.isEmpty()) return;
         std::string list;
-        appendUtf8(list, arrToStr(doubtful, ", "));
-        complain(
-            shortened("the masses of sections do not fit their dimensions (in the table / by "
-                      "the dimensions): " +
-                      list + "; the bill has those of the table, see 'sections check'"));
+        exchange::appendUtf8(list, arrToStr(doubtful, ", "));
+        complain(exchange::shortened(
+            "the masses of sections do not fit their dimensions (in the table / by "
+            "the dimensions): " +
+            list + "; the bill has those of the table, see 'sections check'"));
     }
 
     static void reportRowsWithoutMass(const Vor_Bill& bill) {
         const Vor_StringArray names = bills::rowsWithoutMass(bill);
         if (names.isEmpty()) return;
         std::string list;
-        appendUtf8(list, arrToStr(names, ", "));
-        complain(shortened("no mass is known of " + list + "; the totals are without them"));
+        exchange::appendUtf8(list, arrToStr(names, ", "));
+        complain(
+            exchange::shortened("no mass is known of " + list + "; the totals are without them"));
     }
 
     const BillRequest& m_request;

@@ -9,7 +9,7 @@ namespace cli {
 
 namespace {
 
-void writeTexts(JsonWriter& json, std::string_view key, const Vor_StringArray& texts) {
+void writeTexts(exchange::JsonWriter& json, std::string_view key, const Vor_StringArray& texts) {
     json.key(key);
     json.beginArray();
     for (const Vor_String& text : texts) json.text(text);
@@ -17,7 +17,7 @@ void writeTexts(JsonWriter& json, std::string_view key, const Vor_StringArray& t
 }
 
 /// The sums by the names of their columns.
-void writeSums(JsonWriter& json, std::string_view key, const Vor_Bill& bill,
+void writeSums(exchange::JsonWriter& json, std::string_view key, const Vor_Bill& bill,
                const Vor_StringArray& cells) {
     json.key(key);
     json.beginObject();
@@ -34,7 +34,7 @@ void writeSums(JsonWriter& json, std::string_view key, const Vor_Bill& bill,
 
 std::string billSummary(const Vor_Bill& bill, const Vor_String& file) {
     std::string text;
-    JsonWriter json(text);
+    exchange::JsonWriter json(text);
     json.beginObject();
     json.key("file");
     json.utf8(shownPath(file));

@@ -15,7 +15,7 @@ std::string asCsv(const cutstock::Rows& rows) {
 
 std::string asJson(const Vor_String& item, const StockTable& table) {
     std::string text;
-    JsonWriter json(text);
+    exchange::JsonWriter json(text);
     json.beginObject();
     json.key("item");
     json.text(item);

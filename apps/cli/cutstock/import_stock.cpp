@@ -21,7 +21,7 @@ constexpr char cellSeparator = '\xBF';
 /// False, with the reason in `error`, for what a cell of a file cannot hold.
 bool takeCell(std::string_view field, Vor_StringArray& row, std::string& error) {
     std::string cell;
-    if (!fromUtf8(field, cell, error)) return false;
+    if (!exchange::fromUtf8(field, cell, error)) return false;
     if (cell.find(cellSeparator) != std::string::npos)
         error = "the character \xC2\xBF parts the cells in the file; write another one";
     else if (cell.find_first_of("\r\n") != std::string::npos)
@@ -33,18 +33,18 @@ bool takeCell(std::string_view field, Vor_StringArray& row, std::string& error) 
 
 /// The rows of a CSV file without a header; nothing after telling why.
 std::optional<cutstock::Rows> readCsv(const std::string& path) {
-    const std::string name = LineSource::shownName(path);
+    const std::string name = exchange::LineSource::shownName(path);
     std::string error;
-    auto source = LineSource::open(path, error);
+    auto source = exchange::LineSource::open(path, error);
     if (!source) {
         complainAt(name, 0, error);
         return std::nullopt;
     }
-    CsvReader reader(*source, CsvReader::EmptyLines::kept);
+    exchange::CsvReader reader(*source, exchange::CsvReader::EmptyLines::kept);
     std::vector<std::string_view> fields;
     cutstock::Rows rows;
-    CsvReader::ReadResult got;
-    while ((got = reader.next(fields)) == CsvReader::ReadResult::record) {
+    exchange::CsvReader::ReadResult got;
+    while ((got = reader.next(fields)) == exchange::CsvReader::ReadResult::record) {
         Vor_StringArray row;
         for (const std::string_view field : fields) {
             if (takeCell(field, row, error)) continue;
@@ -53,7 +53,7 @@ std::optional<cutstock::Rows> readCsv(const std::string& path) {
         }
         rows.append(std::move(row));
     }
-    if (got == CsvReader::ReadResult::end) return rows;
+    if (got == exchange::CsvReader::ReadResult::end) return rows;
     complainAt(name, reader.lineNumber(), reader.error());
     return std::nullopt;
 }
@@ -69,7 +69,7 @@ std::optional<ItemMeant> itemMeant(const ImportStockRequest& request) {
     if (!items) return std::nullopt;
     std::string name, error;
     if (request.newItem) {
-        if (!fromUtf8(request.item, name, error)) {
+        if (!exchange::fromUtf8(request.item, name, error)) {
             complain(request.item + ": " + error);
             return std::nullopt;
         }

@@ -60,7 +60,7 @@ std::string asText(const std::vector<ListedItem>& items) {
 
 std::string asJson(const std::vector<ListedItem>& items) {
     std::string text;
-    JsonWriter json(text);
+    exchange::JsonWriter json(text);
     json.beginArray();
     for (const ListedItem& item : items) {
         json.beginObject();

@@ -26,7 +26,7 @@ std::optional<DlgCSP2Data> itemsOf(const ReportStockRequest& request) {
     return data;
 }
 
-void writeLines(JsonWriter& json, std::string_view key, const Vor_StringArray& lines) {
+void writeLines(exchange::JsonWriter& json, std::string_view key, const Vor_StringArray& lines) {
     json.key(key);
     json.beginArray();
     for (const Vor_String& line : lines) json.text(line);
@@ -35,7 +35,7 @@ void writeLines(JsonWriter& json, std::string_view key, const Vor_StringArray& l
 
 std::string asJson(const cutstock::LoadedAll& loaded) {
     std::string text;
-    JsonWriter json(text);
+    exchange::JsonWriter json(text);
     json.beginObject();
     json.key("title");
     json.text(loaded.report.title);
@@ -50,7 +50,7 @@ std::string asJson(const cutstock::LoadedAll& loaded) {
 std::string asText(const cutstock::LoadedAll& loaded) {
     std::string text;
     for (const Vor_String& line : loaded.report.lines) {
-        appendUtf8(text, line);
+        exchange::appendUtf8(text, line);
         text += '\n';
     }
     return text;

@@ -88,7 +88,7 @@ std::string asText(const ShownItem& item, const DlgCSP2Data& library) {
 
 std::string asJson(const ShownItem& item) {
     std::string text;
-    JsonWriter json(text);
+    exchange::JsonWriter json(text);
     json.beginObject();
     json.key("item");
     json.text(item.name);

@@ -151,14 +151,14 @@ std::optional<StockTable> readStockTable(const StockFile& file) {
     return std::nullopt;
 }
 
-void writeFileHead(JsonWriter& json, const StockFile& file) {
+void writeFileHead(exchange::JsonWriter& json, const StockFile& file) {
     json.key("file");
     json.text(getFileName(file.path));
     json.key("changed");
     json.utf8(isoTime(file.time));
 }
 
-void writeRows(JsonWriter& json, const cutstock::Rows& rows) {
+void writeRows(exchange::JsonWriter& json, const cutstock::Rows& rows) {
     json.key("rows");
     json.beginArray();
     for (const Vor_StringArray& row : rows) {
@@ -169,7 +169,7 @@ void writeRows(JsonWriter& json, const cutstock::Rows& rows) {
     json.endArray();
 }
 
-void writeTable(JsonWriter& json, const StockTable& table) {
+void writeTable(exchange::JsonWriter& json, const StockTable& table) {
     writeFileHead(json, table.file);
     writeRows(json, table.rows);
 }

@@ -48,9 +48,9 @@ std::optional<cutstock::StockFile> neededFile(const Vor_String& item, const std:
 std::optional<StockTable> readStockTable(const cutstock::StockFile& file);
 
 /// Writes the rows as the member "rows" of the object that is begun.
-void writeRows(JsonWriter& json, const cutstock::Rows& rows);
+void writeRows(exchange::JsonWriter& json, const cutstock::Rows& rows);
 /// The members "file", "changed" and, with a table, "rows" of the object that is begun.
-void writeFileHead(JsonWriter& json, const cutstock::StockFile& file);
-void writeTable(JsonWriter& json, const StockTable& table);
+void writeFileHead(exchange::JsonWriter& json, const cutstock::StockFile& file);
+void writeTable(exchange::JsonWriter& json, const StockTable& table);
 
 }  // namespace cli

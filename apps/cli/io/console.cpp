@@ -12,7 +12,7 @@ namespace cli {
 namespace {
 
 void writeError(const std::string& line) {
-    const std::string text = terminalText(shortened(line));
+    const std::string text = terminalText(exchange::shortened(line));
     std::fwrite(text.data(), 1, text.size(), stderr);
 }
 

@@ -19,7 +19,7 @@ void appendFinding(std::string& text, const std::string& file, const Finding& fi
         message.erase(0, end + 1);
     }
     const bool isError = finding.severity == Finding::Severity::error;
-    text += shortened(place + (isError ? " error: " : " warning: ") + message + '\n');
+    text += exchange::shortened(place + (isError ? " error: " : " warning: ") + message + '\n');
 }
 
 }  // namespace cli

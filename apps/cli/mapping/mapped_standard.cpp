@@ -48,13 +48,14 @@ void appendMapping(std::string& text, const Vor_String& key, const SheetChoices&
     size_t width = 0;
     for (const VariableChoice& variable : choices.variables())
         width = std::max(width, variable.name.view().size());
-    appendUtf8(text, key);
+    exchange::appendUtf8(text, key);
     text += '\n';
     for (const VariableChoice& variable : choices.variables()) {
         text += variable.isInput ? "  in   " : "  out  ";
-        appendUtf8(text, variable.name);
+        exchange::appendUtf8(text, variable.name);
         text.append(width - variable.name.view().size() + 2, ' ');
-        appendUtf8(text, variable.object ? objectLabel(*variable.object) : Vor_String("-"));
+        exchange::appendUtf8(text,
+                             variable.object ? objectLabel(*variable.object) : Vor_String("-"));
         if (variable.isMissing) text += " (missing)";
         text += '\n';
     }

@@ -25,7 +25,7 @@ constexpr const char* groupPrefix = "Module.";
 /// The key in Windows-1252; nothing, after telling why, when a mapping file cannot hold it.
 std::optional<Vor_String> takeKey(const std::string& typed) {
     std::string key, error;
-    if (!fromUtf8(typed, key, error)) {
+    if (!exchange::fromUtf8(typed, key, error)) {
         complain("--key " + typed + ": " + error);
         return std::nullopt;
     }
@@ -40,7 +40,7 @@ std::optional<Vor_String> takeKey(const std::string& typed) {
 
 std::vector<std::string> utf8Of(const Vor_StringArray& texts) {
     std::vector<std::string> words;
-    for (const Vor_String& text : texts) appendUtf8(words.emplace_back(), text);
+    for (const Vor_String& text : texts) exchange::appendUtf8(words.emplace_back(), text);
     return words;
 }
 
@@ -53,10 +53,11 @@ class Assigning {
 
     /// Takes "Variable=Object" over. Why not, or nothing.
     std::string take(const std::string& typed) {
-        const auto parts = splitAssignment(typed);
+        const auto parts = exchange::splitAssignment(typed);
         std::string name, label, error;
         if (!parts) return "write it as Variable=Object";
-        if (!fromUtf8(parts->name, name, error) || !fromUtf8(parts->value, label, error))
+        if (!exchange::fromUtf8(parts->name, name, error) ||
+            !exchange::fromUtf8(parts->value, label, error))
             return error;
         const VariableChoice* variable = m_choices.find(name);
         if (!variable) return noSuchVariable(parts->name);
@@ -91,7 +92,7 @@ class Assigning {
         for (const VariableChoice& variable : m_choices.variables()) names.append(variable.name);
         const std::string hint = didYouMean(nearest(typed, utf8Of(names)));
         std::string all;
-        appendUtf8(all, arrToStr(names, ", "));
+        exchange::appendUtf8(all, arrToStr(names, ", "));
         return "the standard has no such input or output" +
                (hint.empty() ? "; it has " + all : hint);
     }

@@ -24,7 +24,7 @@ std::string asText(const std::vector<ShownMapping>& mappings) {
     return text;
 }
 
-void writeVariable(JsonWriter& json, const VariableChoice& variable) {
+void writeVariable(exchange::JsonWriter& json, const VariableChoice& variable) {
     json.beginObject();
     json.key("name");
     json.text(variable.name);
@@ -45,7 +45,7 @@ void writeVariable(JsonWriter& json, const VariableChoice& variable) {
 
 std::string asJson(const std::vector<ShownMapping>& mappings) {
     std::string text;
-    JsonWriter json(text);
+    exchange::JsonWriter json(text);
     json.beginArray();
     for (const ShownMapping& mapping : mappings) {
         json.beginObject();
@@ -75,7 +75,7 @@ std::optional<ShownMapping> readLine(const Vor_String& line, const TwVarCells& d
 
 ExitCode showMapping(const ShowMappingRequest& request) {
     std::string key, error;
-    if (!fromUtf8(request.key, key, error)) {
+    if (!exchange::fromUtf8(request.key, key, error)) {
         complain("--key " + request.key + ": " + error);
         return ExitCode::wrongCall;
     }
@@ -120,10 +120,10 @@ ExitCode listObjects(const ObjectsRequest& request) {
             std::string& text = output.text();
             const std::string word = runs::typeName(*mapTypeValueType(objects[i].kind()));
             text += word + std::string(8 - word.size(), ' ');
-            appendUtf8(text, objects.labels()[i]);
+            exchange::appendUtf8(text, objects.labels()[i]);
             if (objects[i].kind() == TwMapType::memberSectionSize) {
                 text += "  ";
-                appendUtf8(text, objects[i].spreadsheetVariable());  // which size it is
+                exchange::appendUtf8(text, objects[i].spreadsheetVariable());  // which size it is
             }
             text += '\n';
             output.written();

@@ -14,7 +14,7 @@ bool isError(const Finding& finding) {
     return finding.severity == Finding::Severity::error;
 }
 
-void writeFinding(JsonWriter& json, const std::string& file, const Finding& finding) {
+void writeFinding(exchange::JsonWriter& json, const std::string& file, const Finding& finding) {
     json.beginObject();
     json.key("file");
     json.utf8(file);
@@ -43,7 +43,7 @@ ExitCode checkSections(const CheckSectionsRequest& request) {
     }
     if (files.empty()) return ExitCode::failed;
     Output output;
-    JsonWriter json(output.text());
+    exchange::JsonWriter json(output.text());
     if (request.json) json.beginArray();
     for (const TableFile& file : files) {
         for (const Finding& finding : checkSectionFile(file.path)) {

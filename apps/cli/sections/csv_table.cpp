@@ -10,7 +10,7 @@ bool takeFields(const std::vector<std::string_view>& fields, Vor_StringArray& re
                 std::string& error) {
     std::string text;
     for (const std::string_view field : fields) {
-        if (!fromUtf8(field, text, error)) return false;
+        if (!exchange::fromUtf8(field, text, error)) return false;
         record.append(text);
     }
     return true;
@@ -18,13 +18,13 @@ bool takeFields(const std::vector<std::string_view>& fields, Vor_StringArray& re
 
 }  // namespace
 
-std::optional<ImportedTable> tableFromCsv(LineSource& source, ImportProblem& problem) {
-    CsvReader reader(source);
+std::optional<ImportedTable> tableFromCsv(exchange::LineSource& source, ImportProblem& problem) {
+    exchange::CsvReader reader(source);
     std::vector<std::string_view> fields;
     ImportedTable read;
     read.lines.push_back(0);  // how it is drawn does not stand there
-    CsvReader::ReadResult got;
-    while ((got = reader.next(fields)) == CsvReader::ReadResult::record) {
+    exchange::CsvReader::ReadResult got;
+    while ((got = reader.next(fields)) == exchange::CsvReader::ReadResult::record) {
         problem.line = reader.lineNumber();
         Vor_StringArray record;
         if (!takeFields(fields, record, problem.message)) return std::nullopt;
@@ -34,7 +34,7 @@ std::optional<ImportedTable> tableFromCsv(LineSource& source, ImportProblem& pro
             read.table.rows.append(std::move(record));
         read.lines.push_back(static_cast<int>(reader.lineNumber()));
     }
-    if (got != CsvReader::ReadResult::end)
+    if (got != exchange::CsvReader::ReadResult::end)
         problem = {reader.lineNumber(), reader.error()};
     else if (read.lines.size() == 1)
         problem = {0, "there is no line of column names"};

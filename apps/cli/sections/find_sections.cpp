@@ -42,7 +42,8 @@ std::string dimensions(const FoundSection& found) {
 std::vector<std::string> lineOf(const FoundSection& found) {
     const Vor_StringArray& size = found.table.rows[0];
     std::string mass;
-    if (const auto kilograms = sectionMass(found.table, 0)) appendRounded(mass, *kilograms);
+    if (const auto kilograms = sectionMass(found.table, 0))
+        exchange::appendRounded(mass, *kilograms);
     const int name = Vor_ProfValuesTable::firstNameColumn;
     return {toUtf8(found.table.tableName + "-" + size[0]),
             size.isIndex(name) ? toUtf8(size[name]) : std::string(), mass, dimensions(found)};
@@ -50,7 +51,7 @@ std::vector<std::string> lineOf(const FoundSection& found) {
 
 std::string jsonOf(const FoundSection& found) {
     std::string text;
-    JsonWriter json(text);
+    exchange::JsonWriter json(text);
     json.beginObject();
     writeTableHead(json, found.table);
     writeSize(json, found.table, 0);
@@ -105,7 +106,7 @@ ExitCode findSections(const FindSectionsRequest& request) {
         }
         conditions.push_back(*condition);
     }
-    if (!fromUtf8(request.sortColumn, sortColumn, error)) {
+    if (!exchange::fromUtf8(request.sortColumn, sortColumn, error)) {
         complain("--sort " + request.sortColumn + ": " + error);
         return ExitCode::wrongCall;
     }

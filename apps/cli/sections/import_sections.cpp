@@ -23,9 +23,9 @@ bool isJson(const ImportSectionsRequest& request) {
 
 /// Nothing after telling why.
 std::optional<ImportedTable> readImported(const ImportSectionsRequest& request) {
-    const std::string name = LineSource::shownName(request.file);
+    const std::string name = exchange::LineSource::shownName(request.file);
     ImportProblem problem;
-    auto source = LineSource::open(request.file, problem.message);
+    auto source = exchange::LineSource::open(request.file, problem.message);
     std::optional<ImportedTable> read;
     if (source)
         read = isJson(request) ? tableFromJson(*source, problem) : tableFromCsv(*source, problem);
@@ -80,7 +80,7 @@ bool isSound(const ImportedTable& imported, const ImportSectionsRequest& request
     for (Finding& finding : checkSectionTable(imported.table, imported.lines)) {
         if (finding.severity == Finding::Severity::error) sound = false;
         if (isJson(request)) finding.column = 0;  // there are no fields
-        appendFinding(text, LineSource::shownName(request.file), finding);
+        appendFinding(text, exchange::LineSource::shownName(request.file), finding);
     }
     if (!text.empty()) text.pop_back();
     if (!text.empty()) complain(text);

@@ -22,7 +22,7 @@ struct ImportProblem {
 };
 
 /// Nothing, with the reason in `problem`, when the lines are no such table.
-std::optional<ImportedTable> tableFromCsv(LineSource& source, ImportProblem& problem);
-std::optional<ImportedTable> tableFromJson(LineSource& source, ImportProblem& problem);
+std::optional<ImportedTable> tableFromCsv(exchange::LineSource& source, ImportProblem& problem);
+std::optional<ImportedTable> tableFromJson(exchange::LineSource& source, ImportProblem& problem);
 
 }  // namespace cli

@@ -21,18 +21,19 @@ using Table = Vor_ProfValuesTable;
 /// a number is known to end at the end of its line, and is told of with that line.
 class Characters {
   public:
-    explicit Characters(LineSource& source) : m_source(source) {}
+    explicit Characters(exchange::LineSource& source) : m_source(source) {}
 
     bool isAtEnd() {
         if (m_at <= m_line.size() && m_isOpen) return false;
         if (m_isEnd) return true;
         m_at = 0;
-        const LineSource::ReadResult got = m_source.next(m_line);
-        m_isOpen = got == LineSource::ReadResult::line;
+        const exchange::LineSource::ReadResult got = m_source.next(m_line);
+        m_isOpen = got == exchange::LineSource::ReadResult::line;
         m_isEnd = !m_isOpen;
-        if (got != LineSource::ReadResult::end) m_number = m_source.lineNumber();
-        if (got == LineSource::ReadResult::tooLong) m_failure = "the line is longer than 16 MiB";
-        if (got == LineSource::ReadResult::failed) m_failure = m_source.error();
+        if (got != exchange::LineSource::ReadResult::end) m_number = m_source.lineNumber();
+        if (got == exchange::LineSource::ReadResult::tooLong)
+            m_failure = "the line is longer than 16 MiB";
+        if (got == exchange::LineSource::ReadResult::failed) m_failure = m_source.error();
         return m_isEnd;
     }
     char current() {
@@ -47,7 +48,7 @@ class Characters {
     const std::string& failure() const { return m_failure; }
 
   private:
-    LineSource& m_source;
+    exchange::LineSource& m_source;
     std::string_view m_line;
     long long m_number = 0;
     size_t m_at = 0;
@@ -182,7 +183,7 @@ class TableHandler : public Json::json_sax_t {
         if (written.find_first_of("eE") == written.npos)
             text = written;
         else
-            appendNumber(text, number);
+            exchange::appendNumber(text, number);
         return fits(Kind::number) && keep(std::move(text));
     }
     bool string(string_t& utf8) override {
@@ -222,7 +223,7 @@ class TableHandler : public Json::json_sax_t {
     }
     bool take(const std::string& utf8, std::string& text) {
         std::string error;
-        return fromUtf8(utf8, text, error) || refuse(std::move(error));
+        return exchange::fromUtf8(utf8, text, error) || refuse(std::move(error));
     }
     bool fits(Kind kind) {
         const Member* member = memberOf(place(), m_key);
@@ -382,7 +383,7 @@ class TableMaker {
 
 }  // namespace
 
-std::optional<ImportedTable> tableFromJson(LineSource& source, ImportProblem& problem) {
+std::optional<ImportedTable> tableFromJson(exchange::LineSource& source, ImportProblem& problem) {
     Characters characters(source);
     TableHandler handler(characters, problem);
     const bool isRead =

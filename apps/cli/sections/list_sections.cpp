@@ -31,7 +31,7 @@ std::string asText(const std::vector<Vor_ProfValuesTable>& tables) {
 
 std::string asJson(const std::vector<Vor_ProfValuesTable>& tables) {
     std::string text;
-    JsonWriter json(text);
+    exchange::JsonWriter json(text);
     json.beginArray();
     for (const auto& table : tables) {
         json.beginObject();

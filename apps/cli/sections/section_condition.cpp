@@ -16,7 +16,7 @@ const SectionCondition::Operator SectionCondition::operators[] = {
 std::optional<SectionCondition> SectionCondition::parse(const std::string& typed,
                                                         std::string& error) {
     std::string text;
-    if (!fromUtf8(typed, text, error)) return std::nullopt;
+    if (!exchange::fromUtf8(typed, text, error)) return std::nullopt;
     const size_t at = text.find_first_of("<>=!");
     SectionCondition condition;
     condition.m_column = encodings::lowered(trimmed(std::string_view(text).substr(0, at)));

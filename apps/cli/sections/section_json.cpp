@@ -8,7 +8,7 @@
 
 namespace cli {
 
-void writeTableHead(JsonWriter& json, const Vor_ProfValuesTable& table) {
+void writeTableHead(exchange::JsonWriter& json, const Vor_ProfValuesTable& table) {
     json.key("table");
     json.text(table.tableName);
     const int type = sectionTypeNumber(table.drawnAs);
@@ -24,7 +24,7 @@ void writeTableHead(JsonWriter& json, const Vor_ProfValuesTable& table) {
     json.endArray();
 }
 
-void writeSize(JsonWriter& json, const Vor_ProfValuesTable& table, int row) {
+void writeSize(exchange::JsonWriter& json, const Vor_ProfValuesTable& table, int row) {
     const Vor_StringArray& size = table.rows[row];
     const int columns = std::min(size.length(), table.columnNames.length());
     const int firstValue = std::min(table.firstValueColumn(), columns);
@@ -49,25 +49,25 @@ void writeSize(JsonWriter& json, const Vor_ProfValuesTable& table, int row) {
     json.endObject();
     if (const auto mass = sectionMass(table, row)) {
         json.key("mass");
-        json.number(asShown(*mass));
+        json.number(exchange::asShown(*mass));
     }
 }
 
-void writeCalculated(JsonWriter& json, const Vor_ProfValuesTable& table, int row) {
+void writeCalculated(exchange::JsonWriter& json, const Vor_ProfValuesTable& table, int row) {
     const auto figures = SectionFigures::of(table, row);
     json.key("calculated");
     json.beginObject();
     if (figures)
         for (const std::string_view column : figures->catalogueColumns()) {
             json.key(column);
-            json.number(asShown(*figures->valueOf(column)));
+            json.number(exchange::asShown(*figures->valueOf(column)));
         }
     json.endObject();
 }
 
 std::string tableAsJson(const Vor_ProfValuesTable& table) {
     std::string text;
-    JsonWriter json(text);
+    exchange::JsonWriter json(text);
     json.beginObject();
     writeTableHead(json, table);
     json.key("sizes");

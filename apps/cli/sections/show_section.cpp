@@ -24,7 +24,7 @@ using Table = Vor_ProfValuesTable;
 
 std::string numberText(double number) {
     std::string text;
-    appendRounded(text, number);
+    exchange::appendRounded(text, number);
     return text;
 }
 
@@ -90,7 +90,7 @@ std::string sizeAsText(const Table& table, int row) {
 
 std::string sizeAsJson(const Table& table, int row) {
     std::string text;
-    JsonWriter json(text);
+    exchange::JsonWriter json(text);
     json.beginObject();
     writeTableHead(json, table);
     writeSize(json, table, row);
@@ -128,7 +128,7 @@ void complainAboutSection(const std::string& typed, const Vor_String& name) {
 
 ExitCode showSection(const ShowSectionRequest& request) {
     std::string name, error;
-    if (!fromUtf8(request.name, name, error)) {
+    if (!exchange::fromUtf8(request.name, name, error)) {
         complain("\"" + request.name + "\": " + error);
         return ExitCode::wrongCall;
     }

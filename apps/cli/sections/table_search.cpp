@@ -27,7 +27,7 @@ std::optional<double> numberIn(std::string_view text) {
 
 /// Calculated figures are compared as they are shown.
 std::optional<double> shown(std::optional<double> calculated) {
-    return calculated ? std::optional(asShown(*calculated)) : std::nullopt;
+    return calculated ? std::optional(exchange::asShown(*calculated)) : std::nullopt;
 }
 
 /// The two records before the sizes. False when they are not there.

@@ -15,12 +15,12 @@ using formula::Value;
 /// Writes one field into the cell (col, row), which the grid has.
 bool placeField(control::Grid& grid, int col, int row, std::string_view field, std::string& error) {
     std::string text;
-    if (!fromUtf8(field, text, error)) return false;
+    if (!exchange::fromUtf8(field, text, error)) return false;
     if (text.starts_with('=')) {
         formula::ParseError problem;
         if (grid.setFormula(col, row, std::string_view(text).substr(1), &problem)) return true;
         error = "the formula " + std::string(field) + " is refused: ";
-        appendUtf8(error, problem.message);
+        exchange::appendUtf8(error, problem.message);
         return false;
     }
     if (isNumber(text)) return grid.writeValue(col, row, textToDouble(text));
@@ -47,21 +47,21 @@ bool placeRecord(control::Grid& grid, int row, const std::vector<std::string_vie
 
 bool sheetFromCsv(const std::string& path, control::Grid& grid) {
     std::string error;
-    auto source = LineSource::openFile(path, error);
+    auto source = exchange::LineSource::openFile(path, error);
     if (!source) {
         complainAt(path, 0, error);
         return false;
     }
-    CsvReader reader(*source, CsvReader::EmptyLines::kept);
+    exchange::CsvReader reader(*source, exchange::CsvReader::EmptyLines::kept);
     std::vector<std::string_view> fields;
-    CsvReader::ReadResult got;
+    exchange::CsvReader::ReadResult got;
     int row = 0;
-    while ((got = reader.next(fields)) == CsvReader::ReadResult::record) {
+    while ((got = reader.next(fields)) == exchange::CsvReader::ReadResult::record) {
         if (placeRecord(grid, ++row, fields, error)) continue;
         complainAt(path, reader.lineNumber(), error);
         return false;
     }
-    if (got != CsvReader::ReadResult::end) {
+    if (got != exchange::CsvReader::ReadResult::end) {
         complainAt(path, reader.lineNumber(), reader.error());
         return false;
     }

@@ -12,10 +12,10 @@ namespace {
 
 bool recordFromCall(const EvalRequest& request, EvalRecord& record, std::string& error) {
     std::string text;
-    if (!fromUtf8(request.formula, text, error)) return false;
+    if (!exchange::fromUtf8(request.formula, text, error)) return false;
     record.formula = text.starts_with('=') ? text.substr(1) : text;
     for (const std::string& option : request.cells) {
-        const auto assignment = splitAssignment(option);
+        const auto assignment = exchange::splitAssignment(option);
         const auto address = assignment ? cellAddress(assignment->name) : std::nullopt;
         if (!address) {
             error = "--cell " + option + ": write it as ADDRESS=VALUE, for example A1=10";
@@ -28,7 +28,7 @@ bool recordFromCall(const EvalRequest& request, EvalRecord& record, std::string&
             error = "--cell " + option + ": this cell is given twice";
             return false;
         }
-        if (!fromUtf8(assignment->value, text, error)) return false;
+        if (!exchange::fromUtf8(assignment->value, text, error)) return false;
         record.cells.push_back({*address, contentFromText(text)});
     }
     return true;
@@ -37,11 +37,11 @@ bool recordFromCall(const EvalRequest& request, EvalRecord& record, std::string&
 std::string plainText(const formula::Value& value) {
     std::string text;
     if (value.isNumber())
-        appendNumber(text, value.number());
+        exchange::appendNumber(text, value.number());
     else if (value.isBoolean())
         text = value.truth() ? "TRUE" : "FALSE";
     else if (value.isText())
-        appendUtf8(text, value.text());
+        exchange::appendUtf8(text, value.text());
     else if (value.isError())
         text = formula::errorText(value.error());
     return text;
@@ -65,16 +65,17 @@ ExitCode evalOne(const EvalRequest& request) {
     return output.close() ? ExitCode::done : ExitCode::failed;
 }
 
-void appendError(std::string& line, const std::string& id, const LineSource& source,
+void appendError(std::string& line, const std::string& id, const exchange::LineSource& source,
                  std::string_view message) {
     line += "{\"id\":" + id + ",\"error\":";
-    appendJsonUtf8(line, shortened("line " + std::to_string(source.lineNumber()) + ": " +
-                                   std::string(message)));
+    exchange::appendJsonUtf8(
+        line, exchange::shortened("line " + std::to_string(source.lineNumber()) + ": " +
+                                  std::string(message)));
     line += "}\n";
 }
 
 // Evaluates one line; false when an error record was written instead of a result.
-bool evalLine(std::string_view json, const LineSource& source, control::Sheet& sheet,
+bool evalLine(std::string_view json, const exchange::LineSource& source, control::Sheet& sheet,
               std::string& output) {
     EvalRecord record;
     std::string error;
@@ -92,9 +93,9 @@ bool evalLine(std::string_view json, const LineSource& source, control::Sheet& s
 
 ExitCode evalLines(const EvalRequest& request) {
     std::string error;
-    auto source = LineSource::open(request.input, error);
+    auto source = exchange::LineSource::open(request.input, error);
     if (!source) {
-        complainAt(LineSource::shownName(request.input), 0, error);
+        complainAt(exchange::LineSource::shownName(request.input), 0, error);
         return ExitCode::failed;
     }
     Output output;
@@ -102,14 +103,15 @@ ExitCode evalLines(const EvalRequest& request) {
     control::Sheet sheet;
     long long lines = 0, failed = 0;
     std::string_view line;
-    LineSource::ReadResult got;
-    while ((got = source->next(line)) == LineSource::ReadResult::line ||
-           got == LineSource::ReadResult::tooLong) {
+    exchange::LineSource::ReadResult got;
+    while ((got = source->next(line)) == exchange::LineSource::ReadResult::line ||
+           got == exchange::LineSource::ReadResult::tooLong) {
         if (!output.isOpen()) break;
-        if (got == LineSource::ReadResult::line && line.find_first_not_of(" \t") == line.npos)
+        if (got == exchange::LineSource::ReadResult::line &&
+            line.find_first_not_of(" \t") == line.npos)
             continue;
         ++lines;
-        if (got == LineSource::ReadResult::tooLong) {
+        if (got == exchange::LineSource::ReadResult::tooLong) {
             appendError(output.text(), "null", *source, "longer than 16 MiB");
             ++failed;
         } else if (!evalLine(line, *source, sheet, output.text())) {
@@ -118,11 +120,12 @@ ExitCode evalLines(const EvalRequest& request) {
         output.written();
     }
     const bool written = output.close();
-    if (got == LineSource::ReadResult::failed)
+    if (got == exchange::LineSource::ReadResult::failed)
         complainAt(source->name(), source->lineNumber(), source->error());
     complainAboutLines(failed, lines);
-    return written && got == LineSource::ReadResult::end && failed == 0 ? ExitCode::done
-                                                                        : ExitCode::failed;
+    return written && got == exchange::LineSource::ReadResult::end && failed == 0
+               ? ExitCode::done
+               : ExitCode::failed;
 }
 
 }  // namespace

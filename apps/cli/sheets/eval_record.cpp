@@ -13,7 +13,7 @@ namespace {
 using Json = nlohmann::json;
 
 bool textFrom(const Json& json, std::string& text, std::string& error) {
-    return fromUtf8(json.get_ref<const std::string&>(), text, error);
+    return exchange::fromUtf8(json.get_ref<const std::string&>(), text, error);
 }
 
 bool contentFromObject(const Json& json, CellContent& content, std::string& error) {
@@ -125,7 +125,7 @@ void place(control::Sheet& sheet, const EvalRecord::Cell& cell) {
 
 std::string refusal(const std::string& where, const formula::ParseError& problem) {
     std::string message = where + " is refused: ";
-    appendUtf8(message, problem.message);
+    exchange::appendUtf8(message, problem.message);
     return message + " (character " + std::to_string(problem.position + 1) + ")";
 }
 
@@ -189,18 +189,18 @@ void appendValueJson(std::string& line, const formula::Value& value) {
     switch (value.type()) {
         case formula::ValueType::number:
             line += "\"number\",\"value\":";
-            appendNumber(line, value.number());
+            exchange::appendNumber(line, value.number());
             break;
         case formula::ValueType::boolean:
             line += value.truth() ? "\"bool\",\"value\":true" : "\"bool\",\"value\":false";
             break;
         case formula::ValueType::text:
             line += "\"text\",\"value\":";
-            appendJsonText(line, value.text());
+            exchange::appendJsonText(line, value.text());
             break;
         case formula::ValueType::error:
             line += "\"error\",\"value\":";
-            appendJsonText(line, formula::errorText(value.error()));
+            exchange::appendJsonText(line, formula::errorText(value.error()));
             break;
         default:
             line += "\"empty\",\"value\":null";

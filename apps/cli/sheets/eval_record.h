@@ -45,7 +45,7 @@ CellContent contentFromText(std::string_view text);
 
 /// "B7" or "$B$7"; nothing when it is no address of one cell.
 std::optional<control::CellAddress> cellAddress(std::string_view text);
-using sheets::cellName;
+using exchange::cellName;
 
 /// False, with the reason in `error`, when the line is no such record; `record.id` is filled in as
 /// far as it could be read.

@@ -45,8 +45,8 @@ bool saveSheet(const control::Grid& grid, const std::string& path, SheetFormat f
         return false;
     }
     const auto content = format == SheetFormat::csv
-                             ? sheets::sheetAsCsv(grid, sheets::CsvTexts::exact, error)
-                             : sheets::sheetAsXlsx(grid, error);
+                             ? exchange::sheetAsCsv(grid, exchange::CsvTexts::exact, error)
+                             : exchange::sheetAsXlsx(grid, error);
     if (!content) {
         complainAt(path, 0, error);
         return false;

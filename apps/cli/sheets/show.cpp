@@ -74,11 +74,11 @@ void appendShown(std::string& line, const ShownCell& cell, size_t width) {
     const size_t length = cell.text.size();
     if (cell.isNumber && length < width) pad(line, width - length);
     if (length > width && !cell.isLast) {
-        appendUtf8(line, std::string_view(cell.text).substr(0, width - 1));
+        exchange::appendUtf8(line, std::string_view(cell.text).substr(0, width - 1));
         line += "~";
         return;
     }
-    appendUtf8(line, cell.text);
+    exchange::appendUtf8(line, cell.text);
     if (!cell.isNumber && length < width && !cell.isLast) pad(line, width - length);
 }
 

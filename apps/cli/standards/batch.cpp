@@ -19,7 +19,7 @@ struct Count {
 };
 
 // Every line gets its record, in order. False when reading or writing came to an early end.
-bool runLines(ValueRun& run, LineSource& source, BatchInput& input, BatchOutput& writer,
+bool runLines(ValueRun& run, exchange::LineSource& source, BatchInput& input, BatchOutput& writer,
               Output& output, Count& count) {
     Progress progress(source);
     std::string error;
@@ -34,8 +34,9 @@ bool runLines(ValueRun& run, LineSource& source, BatchInput& input, BatchOutput&
             writer.writeOutputs(run.cells());
         } else {
             ++count.failed;
-            writer.writeError(run.cells(), shortened("line " + std::to_string(source.lineNumber()) +
-                                                     ": " + error));
+            writer.writeError(
+                run.cells(),
+                exchange::shortened("line " + std::to_string(source.lineNumber()) + ": " + error));
         }
         output.written();
         progress.step();
@@ -53,9 +54,9 @@ ExitCode batchStandard(const BatchRequest& request) {
     if (!setGenValues(run->data(), request.genValues)) return ExitCode::wrongCall;
 
     std::string error;
-    auto source = LineSource::open(request.input, error);
+    auto source = exchange::LineSource::open(request.input, error);
     if (!source) {
-        complainAt(LineSource::shownName(request.input), 0, error);
+        complainAt(exchange::LineSource::shownName(request.input), 0, error);
         return ExitCode::failed;
     }
     Output output;

@@ -9,26 +9,26 @@ namespace {
 
 class CsvInput : public BatchInput {
   public:
-    explicit CsvInput(LineSource& source) : m_reader(source) {}
+    explicit CsvInput(exchange::LineSource& source) : m_reader(source) {}
 
     bool begin(const TwVarCells& cells, std::string& error) override {
         const auto got = m_reader.next(m_fields);
-        error = got == CsvReader::ReadResult::end
+        error = got == exchange::CsvReader::ReadResult::end
                     ? "there is no header; it names " + describe(cells, TwCellType::input)
                     : m_reader.error();
-        return got == CsvReader::ReadResult::record && takeHeader(cells, error);
+        return got == exchange::CsvReader::ReadResult::record && takeHeader(cells, error);
     }
 
     ReadResult next(TwVarCells& cells, std::string& error) override {
         switch (m_reader.next(m_fields)) {
-            case CsvReader::ReadResult::record:
+            case exchange::CsvReader::ReadResult::record:
                 return takeValues(cells, error) ? ReadResult::values : ReadResult::bad;
-            case CsvReader::ReadResult::end:
+            case exchange::CsvReader::ReadResult::end:
                 return ReadResult::end;
-            case CsvReader::ReadResult::bad:
+            case exchange::CsvReader::ReadResult::bad:
                 error = m_reader.error();
                 return ReadResult::bad;
-            case CsvReader::ReadResult::failed:
+            case exchange::CsvReader::ReadResult::failed:
                 break;
         }
         error = m_reader.error();
@@ -41,7 +41,7 @@ class CsvInput : public BatchInput {
         for (const auto field : m_fields) {
             int index = 0;
             std::string name;
-            if (!fromUtf8(field, name, error)) return false;
+            if (!exchange::fromUtf8(field, name, error)) return false;
             const bool known =
                 cells.findVarCell(name, index) == Acad::eOk && cells[index].isInput();
             if (!known || given[static_cast<size_t>(index)]) {
@@ -56,7 +56,7 @@ class CsvInput : public BatchInput {
         for (int i = 0; i < cells.length(); ++i) {
             if (!cells[i].isInput() || given[static_cast<size_t>(i)]) continue;
             error = "there is no column for the input ";
-            appendUtf8(error, cells[i].name());
+            exchange::appendUtf8(error, cells[i].name());
             return false;
         }
         return true;
@@ -70,13 +70,13 @@ class CsvInput : public BatchInput {
         }
         for (size_t i = 0; i < m_fields.size(); ++i) {
             TwVarCell& cell = cells[m_columns[i]];
-            if (!fromUtf8(m_fields[i], m_text, error)) return false;
+            if (!exchange::fromUtf8(m_fields[i], m_text, error)) return false;
             cell.typedValue().setText(m_text);
         }
         return true;
     }
 
-    CsvReader m_reader;
+    exchange::CsvReader m_reader;
     std::vector<std::string_view> m_fields;
     std::vector<int> m_columns;  // the input of each column
     std::string m_text;
@@ -84,7 +84,7 @@ class CsvInput : public BatchInput {
 
 }  // namespace
 
-std::unique_ptr<BatchInput> makeCsvInput(LineSource& source) {
+std::unique_ptr<BatchInput> makeCsvInput(exchange::LineSource& source) {
     return std::make_unique<CsvInput>(source);
 }
 

@@ -28,7 +28,7 @@ class BatchInput {
     virtual ReadResult next(TwVarCells& cells, std::string& error) = 0;
 };
 
-std::unique_ptr<BatchInput> makeCsvInput(LineSource& source);
-std::unique_ptr<BatchInput> makeJsonInput(LineSource& source);
+std::unique_ptr<BatchInput> makeCsvInput(exchange::LineSource& source);
+std::unique_ptr<BatchInput> makeJsonInput(exchange::LineSource& source);
 
 }  // namespace cli

@@ -30,7 +30,9 @@ class ValueHandler : public Json::json_sax_t {
     bool number_integer(number_integer_t number) override { return take(std::to_string(number)); }
     bool number_unsigned(number_unsigned_t number) override { return take(std::to_string(number)); }
     bool number_float(number_float_t, const string_t& written) override { return take(written); }
-    bool string(string_t& text) override { return fromUtf8(text, m_text, m_error) && take(m_text); }
+    bool string(string_t& text) override {
+        return exchange::fromUtf8(text, m_text, m_error) && take(m_text);
+    }
     bool binary(binary_t&) override { return refuse("is no JSON"); }
     bool start_object(std::size_t) override {
         if (m_isOpen) return refuse("a value must be a number or a text");
@@ -39,7 +41,7 @@ class ValueHandler : public Json::json_sax_t {
     }
     bool key(string_t& name) override {
         m_index = -1;
-        if (!fromUtf8(name, m_text, m_error)) return false;
+        if (!exchange::fromUtf8(name, m_text, m_error)) return false;
         if (m_cells->findVarCell(m_text, m_index) != Acad::eOk || !(*m_cells)[m_index].isInput())
             return refuse("\"" + name + "\" is no input of the standard");
         if (m_given[static_cast<size_t>(m_index)])
@@ -76,7 +78,7 @@ class ValueHandler : public Json::json_sax_t {
 
 class JsonInput : public BatchInput {
   public:
-    explicit JsonInput(LineSource& source) : m_source(source) {}
+    explicit JsonInput(exchange::LineSource& source) : m_source(source) {}
 
     bool begin(const TwVarCells&, std::string&) override { return true; }
 
@@ -84,14 +86,14 @@ class JsonInput : public BatchInput {
         std::string_view line;
         do {
             switch (m_source.next(line)) {
-                case LineSource::ReadResult::line:
+                case exchange::LineSource::ReadResult::line:
                     break;
-                case LineSource::ReadResult::end:
+                case exchange::LineSource::ReadResult::end:
                     return ReadResult::end;
-                case LineSource::ReadResult::tooLong:
+                case exchange::LineSource::ReadResult::tooLong:
                     error = "longer than 16 MiB";
                     return ReadResult::bad;
-                case LineSource::ReadResult::failed:
+                case exchange::LineSource::ReadResult::failed:
                     error = m_source.error();
                     return ReadResult::failed;
             }
@@ -109,20 +111,20 @@ class JsonInput : public BatchInput {
         for (int i = 0; i < cells.length(); ++i) {
             if (!cells[i].isInput() || m_handler.isGiven(i)) continue;
             error = "the input ";
-            appendUtf8(error, cells[i].name());
+            exchange::appendUtf8(error, cells[i].name());
             error += " is missing";
             return false;
         }
         return true;
     }
 
-    LineSource& m_source;
+    exchange::LineSource& m_source;
     ValueHandler m_handler;
 };
 
 }  // namespace
 
-std::unique_ptr<BatchInput> makeJsonInput(LineSource& source) {
+std::unique_ptr<BatchInput> makeJsonInput(exchange::LineSource& source) {
     return std::make_unique<JsonInput>(source);
 }
 

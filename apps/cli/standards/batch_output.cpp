@@ -41,7 +41,7 @@ void BatchOutput::writeOutputs(const TwVarCells& cells) {
         }
         if (!isFirst) m_text += ',';
         isFirst = false;
-        appendJsonText(m_text, cell.name());
+        exchange::appendJsonText(m_text, cell.name());
         m_text += ':';
         appendJsonValue(cell);
     }
@@ -51,7 +51,7 @@ void BatchOutput::writeOutputs(const TwVarCells& cells) {
 void BatchOutput::writeError(const TwVarCells& cells, std::string_view message) {
     if (m_jsonLines) {
         m_text += "{\"error\":";
-        appendJsonUtf8(m_text, message);
+        exchange::appendJsonUtf8(m_text, message);
         m_text += "}\n";
         return;
     }
@@ -63,18 +63,18 @@ void BatchOutput::writeError(const TwVarCells& cells, std::string_view message) 
 
 void BatchOutput::appendCsvValue(const TwVarCell& cell) {
     if (const auto number = numberOf(cell))
-        appendNumber(m_text, *number);
+        exchange::appendNumber(m_text, *number);
     else
         appendField(m_text, encodings::toUtf8(cell.value()), ',');
 }
 
 void BatchOutput::appendJsonValue(const TwVarCell& cell) {
     if (const auto number = numberOf(cell))
-        appendNumber(m_text, *number);
+        exchange::appendNumber(m_text, *number);
     else if (isNumeric(cell.valueType()))
         m_text += "null";
     else
-        appendJsonText(m_text, cell.value());
+        exchange::appendJsonText(m_text, cell.value());
 }
 
 }  // namespace cli

@@ -11,18 +11,20 @@
 
 namespace cli {
 
-std::optional<CaseTable> CaseTable::open(CsvReader& reader, const std::string& file,
+std::optional<CaseTable> CaseTable::open(exchange::CsvReader& reader, const std::string& file,
                                          const TwVarCells& cells) {
     std::vector<std::string_view> headings;
     CaseTable table;
     std::string error = "there is no header";
     const auto got = reader.next(headings);
-    bool fits = got == CsvReader::ReadResult::record;
-    if (got == CsvReader::ReadResult::bad || got == CsvReader::ReadResult::failed)
+    bool fits = got == exchange::CsvReader::ReadResult::record;
+    if (got == exchange::CsvReader::ReadResult::bad ||
+        got == exchange::CsvReader::ReadResult::failed)
         error = reader.error();
     for (size_t i = 0; fits && i < headings.size(); ++i) {
         std::string heading;
-        fits = fromUtf8(headings[i], heading, error) && table.addColumn(heading, cells, error);
+        fits = exchange::fromUtf8(headings[i], heading, error) &&
+               table.addColumn(heading, cells, error);
     }
     if (fits && table.isComplete(cells, error)) return table;
     complainAt(file, reader.lineNumber(), error);
@@ -42,7 +44,7 @@ bool CaseTable::addColumn(const std::string& heading, const TwVarCells& cells, s
         column.kind == Column::Kind::tolerance ||
         (isDeclared && cells[column.cell].isOutput() == (column.kind == Column::Kind::expected));
     std::string shown;
-    appendUtf8(shown, heading);
+    exchange::appendUtf8(shown, heading);
     if (!fits) {
         error = "column \"" + shown +
                 "\" is neither an input nor an output with a \"?\"; inputs: " +
@@ -62,7 +64,7 @@ bool CaseTable::isComplete(const TwVarCells& cells, std::string& error) const {
     for (int i = 0; i < cells.length(); ++i) {
         if (!cells[i].isInput() || has(Column::Kind::input, i)) continue;
         error = "there is no column for the input ";
-        appendUtf8(error, cells[i].name());
+        exchange::appendUtf8(error, cells[i].name());
         return false;
     }
     const bool checks = std::any_of(m_columns.begin(), m_columns.end(), [](const Column& column) {
@@ -88,7 +90,7 @@ bool CaseTable::take(const std::vector<std::string_view>& fields, TwVarCells& ce
     row = Case();
     for (size_t i = 0; i < fields.size(); ++i) {
         std::string text;
-        if (!fromUtf8(fields[i], text, error)) return false;
+        if (!exchange::fromUtf8(fields[i], text, error)) return false;
         const Column& column = m_columns[i];
         if (column.kind == Column::Kind::input) {
             error = encodings::toUtf8(runs::refusal(cells[column.cell], text));

@@ -17,7 +17,7 @@ class CaseTable {
     static constexpr double usualTolerance = 1e-6;
 
     /// Reads the header. Nothing, with "file:line: why" told, when it does not fit `cells`.
-    static std::optional<CaseTable> open(CsvReader& reader, const std::string& file,
+    static std::optional<CaseTable> open(exchange::CsvReader& reader, const std::string& file,
                                          const TwVarCells& cells);
 
     struct Expected {

@@ -18,7 +18,7 @@ namespace {
 
 std::string shownName(const Vor_String& nameInside) {
     std::string name;
-    appendUtf8(name, nameInside);
+    exchange::appendUtf8(name, nameInside);
     std::replace(name.begin(), name.end(), '\\', '/');
     return name;
 }

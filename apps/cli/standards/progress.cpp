@@ -7,7 +7,7 @@
 namespace cli {
 
 // Results that scroll over the same screen are progress enough.
-Progress::Progress(const LineSource& source)
+Progress::Progress(const exchange::LineSource& source)
     : m_source(source), m_isShown(isatty(STDERR_FILENO) && !isatty(STDOUT_FILENO)) {}
 
 Progress::~Progress() {

@@ -9,7 +9,7 @@ namespace cli {
 
 class Progress {
   public:
-    explicit Progress(const LineSource& source);
+    explicit Progress(const exchange::LineSource& source);
     ~Progress();
     Progress(const Progress&) = delete;
     Progress& operator=(const Progress&) = delete;
@@ -23,7 +23,7 @@ class Progress {
     using Clock = std::chrono::steady_clock;
     void showIfDue();
 
-    const LineSource& m_source;
+    const exchange::LineSource& m_source;
     bool m_isShown;
     bool m_hasText = false;
     long long m_lines = 0;

@@ -33,7 +33,7 @@ ExitCode runOnMacro(const RunRequest& request, const StandardName& standard,
     std::string key, error;
     TwDlgStandardsData data;
     if (!path || !setGenValues(data, request.genValues)) return ExitCode::wrongCall;
-    if (!fromUtf8(request.mappingKey, key, error)) {
+    if (!exchange::fromUtf8(request.mappingKey, key, error)) {
         complain("--key " + request.mappingKey + ": " + error);
         return ExitCode::wrongCall;
     }

@@ -8,7 +8,7 @@ namespace cli {
 
 namespace {
 
-void writeVariables(JsonWriter& json, std::string_view key,
+void writeVariables(exchange::JsonWriter& json, std::string_view key,
                     const std::vector<runs::RunReport::Variable>& variables) {
     json.key(key);
     json.beginObject();
@@ -19,9 +19,9 @@ void writeVariables(JsonWriter& json, std::string_view key,
     json.endObject();
 }
 
-void writeReport(JsonWriter& json, const runs::RunReport& report);
+void writeReport(exchange::JsonWriter& json, const runs::RunReport& report);
 
-void writeEquation(JsonWriter& json, const runs::ReportedEquation& equation) {
+void writeEquation(exchange::JsonWriter& json, const runs::ReportedEquation& equation) {
     json.beginObject();
     json.key("row");
     json.number(equation.row);
@@ -45,7 +45,7 @@ void writeEquation(JsonWriter& json, const runs::ReportedEquation& equation) {
     json.endObject();
 }
 
-void writeReport(JsonWriter& json, const runs::RunReport& report) {
+void writeReport(exchange::JsonWriter& json, const runs::RunReport& report) {
     json.beginObject();
     json.key("standard");
     json.utf8(shownPath(report.path));
@@ -84,7 +84,7 @@ void writeReport(JsonWriter& json, const runs::RunReport& report) {
 
 std::string reportAsJson(const runs::RunReport& report) {
     std::string text;
-    JsonWriter json(text);
+    exchange::JsonWriter json(text);
     writeReport(json, report);
     return text;
 }

@@ -13,7 +13,7 @@ namespace {
 using Variables = std::vector<runs::RunReport::Variable>;
 
 void appendPadded(std::string& text, std::string_view windows1252, size_t width) {
-    appendUtf8(text, windows1252);
+    exchange::appendUtf8(text, windows1252);
     // A Windows-1252 byte is one character on the screen.
     if (windows1252.size() < width) text.append(width - windows1252.size(), ' ');
 }
@@ -28,7 +28,7 @@ void appendVariables(std::string& text, const std::string& indent, const char* h
         text += indent + "  ";
         appendPadded(text, variable.name, width);
         text += "  ";
-        appendUtf8(text, variable.value);
+        exchange::appendUtf8(text, variable.value);
         text += '\n';
     }
 }
@@ -41,7 +41,7 @@ void appendEquation(std::string& text, const runs::ReportedEquation& equation,
     text += indent + "  ";
     appendPadded(text, cell, 5);
     text += ' ';
-    appendUtf8(text, equation.text);
+    exchange::appendUtf8(text, equation.text);
     text += '\n' + indent + "        ";
     if (!equation.ok) {
         text += "failed";
@@ -50,9 +50,9 @@ void appendEquation(std::string& text, const runs::ReportedEquation& equation,
         text += "calls " + shownPath(equation.child->path);
     } else {
         text += '=';
-        appendUtf8(text, equation.formula);
+        exchange::appendUtf8(text, equation.formula);
         text += "  ->  ";
-        appendUtf8(text, equation.value);
+        exchange::appendUtf8(text, equation.value);
     }
     text += '\n';
     if (equation.child) appendReport(text, *equation.child, indent + "          ", true);
@@ -73,7 +73,7 @@ void complainAboutEquations(const runs::RunReport& report) {
         if (equation.child) complainAboutEquations(*equation.child);
         if (equation.ok) continue;
         std::string message;
-        appendUtf8(message, equation.text);
+        exchange::appendUtf8(message, equation.text);
         message += ": ";
         message += equation.message.empty() ? "failed" : shownMessage(equation.message);
         complainAt(shownPath(report.path), equation.row, message);

@@ -31,16 +31,16 @@ std::string difference(const TwVarCell& output, const std::string& expected, dou
         return "";
     }
     std::string text;
-    appendUtf8(text, output.name());
+    exchange::appendUtf8(text, output.name());
     text += " is ";
-    appendUtf8(text, got.empty() ? "empty" : got);
+    exchange::appendUtf8(text, got.empty() ? "empty" : got);
     text += ", expected ";
-    appendUtf8(text, expected.empty() ? "nothing" : expected);
+    exchange::appendUtf8(text, expected.empty() ? "nothing" : expected);
     if (off == 0) return text;
     text += ", off by ";
-    appendRounded(text, off);
+    exchange::appendRounded(text, off);
     text += " (tolerance ";
-    appendNumber(text, tolerance);
+    exchange::appendNumber(text, tolerance);
     return text + ")";
 }
 
@@ -56,23 +56,23 @@ std::vector<std::string> differences(const TwVarCells& cells, const CaseTable::C
 
 bool testCases(ValueRun& run, const std::string& file, Count& count) {
     std::string error;
-    auto source = LineSource::openFile(file, error);
+    auto source = exchange::LineSource::openFile(file, error);
     if (!source) {
         complainAt(file, 0, error);
         return false;
     }
-    CsvReader reader(*source);
+    exchange::CsvReader reader(*source);
     const auto table = CaseTable::open(reader, file, run.cells());
     if (!table) return false;
 
     std::vector<std::string_view> fields;
     CaseTable::Case row;
-    CsvReader::ReadResult got;
-    while ((got = reader.next(fields)) == CsvReader::ReadResult::record ||
-           got == CsvReader::ReadResult::bad) {
+    exchange::CsvReader::ReadResult got;
+    while ((got = reader.next(fields)) == exchange::CsvReader::ReadResult::record ||
+           got == exchange::CsvReader::ReadResult::bad) {
         ++count.cases;
         std::vector<std::string> wrong;
-        if (got == CsvReader::ReadResult::bad)
+        if (got == exchange::CsvReader::ReadResult::bad)
             wrong.push_back(reader.error());
         else if (!table->take(fields, run.cells(), row, error) || !run.run(error))
             wrong.push_back(error);
@@ -83,9 +83,10 @@ bool testCases(ValueRun& run, const std::string& file, Count& count) {
             complainAt(file, reader.lineNumber(),
                        "case " + std::to_string(count.cases) + ": " + text);
     }
-    if (got == CsvReader::ReadResult::failed) complainAt(file, reader.lineNumber(), reader.error());
+    if (got == exchange::CsvReader::ReadResult::failed)
+        complainAt(file, reader.lineNumber(), reader.error());
     if (count.cases == 0) complainAt(file, reader.lineNumber(), "there are no cases");
-    return got == CsvReader::ReadResult::end && count.cases > 0 && count.failed == 0;
+    return got == exchange::CsvReader::ReadResult::end && count.cases > 0 && count.failed == 0;
 }
 
 Vor_String casesPath(const StandardName& standard) {

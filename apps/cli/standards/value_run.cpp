@@ -14,7 +14,7 @@ void FailureWatch::equationDone(const EquationReport& equation) {
     if (equation.ok || !m_failure.empty()) return;
     if (!m_children.empty()) m_failure = shownPath(m_children.back()) + ": ";
     m_failure += "row " + std::to_string(equation.row) + ": ";
-    appendUtf8(m_failure, equation.text);
+    exchange::appendUtf8(m_failure, equation.text);
     m_failure += ": ";
     m_failure += equation.message.empty() ? "failed" : shownMessage(equation.message);
 }
@@ -60,9 +60,9 @@ bool ValueRun::run(std::string& error) {
     for (const auto& cell : cells()) {
         if (!cell.isOutput() || cell.typedValue().number() || !runs::isErrorText(cell.value()))
             continue;
-        appendUtf8(error, cell.name());
+        exchange::appendUtf8(error, cell.name());
         error += " is ";
-        appendUtf8(error, cell.value());
+        exchange::appendUtf8(error, cell.value());
         if (!m_watch.missing().empty()) error += ": " + m_watch.missing();
         return false;
     }

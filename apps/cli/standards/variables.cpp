@@ -11,18 +11,20 @@ namespace cli {
 namespace {
 
 /// Both parts in Windows-1252; nothing after telling what is wrong.
-std::optional<Assignment> readAssignment(const std::string& option, const std::string& text) {
-    auto assignment = splitAssignment(text);
+std::optional<exchange::Assignment> readAssignment(const std::string& option,
+                                                   const std::string& text) {
+    auto assignment = exchange::splitAssignment(text);
     std::string error = "write it as Name=Value";
-    if (!assignment || !fromUtf8(std::string(assignment->name), assignment->name, error) ||
-        !fromUtf8(std::string(assignment->value), assignment->value, error)) {
+    if (!assignment ||
+        !exchange::fromUtf8(std::string(assignment->name), assignment->name, error) ||
+        !exchange::fromUtf8(std::string(assignment->value), assignment->value, error)) {
         complain(option + " " + text + ": " + error);
         return std::nullopt;
     }
     return assignment;
 }
 
-bool setInput(TwVarCells& cells, std::vector<bool>& given, const Assignment& assignment,
+bool setInput(TwVarCells& cells, std::vector<bool>& given, const exchange::Assignment& assignment,
               const std::string& typed) {
     int index = 0;
     if (cells.findVarCell(assignment.name, index) != Acad::eOk || !cells[index].isInput()) {
@@ -49,7 +51,7 @@ std::string describe(const TwVarCells& variables, TwCellType kind) {
     for (const auto& variable : variables) {
         if (variable.cellType() != kind) continue;
         if (!text.empty()) text += ", ";
-        appendUtf8(text, variable.name());
+        exchange::appendUtf8(text, variable.name());
         text += std::string(" (") + runs::typeName(variable.valueType()) + ")";
     }
     return text.empty() ? "nothing" : text;
@@ -64,7 +66,7 @@ bool setInputs(TwVarCells& cells, const std::vector<std::string>& assignments) {
     for (int i = 0; i < cells.length(); ++i) {
         if (!cells[i].isInput() || given[static_cast<size_t>(i)]) continue;
         std::string name;
-        appendUtf8(name, cells[i].name());
+        exchange::appendUtf8(name, cells[i].name());
         complain("input " + name + " is not given; the standard takes " +
                  describe(cells, TwCellType::input));
         return false;

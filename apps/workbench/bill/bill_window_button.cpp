@@ -75,7 +75,7 @@ void BillWindowButton::exportAs(const ExportFormat& format) {
     const std::string path = askForExport(format, getPath(m_file), name);
     if (path.empty()) return;
     const bool hasPages = Vor_String(path).endsWith(".pdf");
-    showMessage(exportSheet(m_sheet, path, sheets::CsvTexts::guarded),
+    showMessage(exportSheet(m_sheet, path, exchange::CsvTexts::guarded),
                 uiText(sayExported).arg(machinePath(path)));
     if (hasPages) showMessage({}, printProblems(m_sheet));
 }

@@ -16,13 +16,13 @@ bool isInput(std::string_view heading) {
 std::vector<std::pair<std::string, std::string>> exampleValues(const Vor_String& standard) {
     const Vor_String table = changeExtension(standard, "cases.csv");
     std::string error;
-    auto source = cli::LineSource::openFile(paths::toMachine(table), error);
+    auto source = exchange::LineSource::openFile(paths::toMachine(table), error);
     if (!source) return {};
-    cli::CsvReader reader(*source);
+    exchange::CsvReader reader(*source);
     std::vector<std::string_view> fields;
-    if (reader.next(fields) != cli::CsvReader::ReadResult::record) return {};
+    if (reader.next(fields) != exchange::CsvReader::ReadResult::record) return {};
     const std::vector<std::string> headings(fields.begin(), fields.end());
-    if (reader.next(fields) != cli::CsvReader::ReadResult::record) return {};
+    if (reader.next(fields) != exchange::CsvReader::ReadResult::record) return {};
     std::vector<std::pair<std::string, std::string>> values;
     for (size_t i = 0; i < headings.size() && i < fields.size(); ++i) {
         const auto name = encodings::fromUtf8(headings[i]);

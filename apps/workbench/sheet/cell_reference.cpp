@@ -23,13 +23,13 @@ int columnOf(const QString& letters) {
 }  // namespace
 
 QString blockName(const control::Grid& grid, const Block& block) {
-    const QString first = toQt(sheets::cellName({block.col1, block.row1}));
+    const QString first = toQt(exchange::cellName({block.col1, block.row1}));
     if (block.col1 == block.col2 && block.row1 == block.row2) return first;
     if (block.row1 == 1 && block.row2 == grid.rows() && grid.rows() > 1)
         return toQt(getAlfabet(block.col1).str() + ":" + getAlfabet(block.col2).str());
     if (block.col1 == 1 && block.col2 == grid.cols() && grid.cols() > 1)
         return QString("%1:%2").arg(block.row1).arg(block.row2);
-    return first + ":" + toQt(sheets::cellName({block.col2, block.row2}));
+    return first + ":" + toQt(exchange::cellName({block.col2, block.row2}));
 }
 
 std::optional<Block> blockNamed(const control::Grid& grid, const QString& name) {

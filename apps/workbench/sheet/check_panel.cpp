@@ -18,7 +18,7 @@ enum Role { colRole = Qt::UserRole, rowRole };
 QString placeOf(const StandardsFinding& finding) {
     if (finding.row < 1) return {};
     if (finding.column < 1) return QString::number(finding.row) + ": ";
-    return toQt(sheets::cellName({finding.column, finding.row})) + ": ";
+    return toQt(exchange::cellName({finding.column, finding.row})) + ": ";
 }
 
 }  // namespace

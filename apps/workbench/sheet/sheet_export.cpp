@@ -35,7 +35,7 @@ std::string askForExport(const ExportFormat& format, const Vor_String& folder,
     return chooseFile(question, nullptr);
 }
 
-QString exportSheet(Vor_Spread& sheet, const std::string& path, sheets::CsvTexts texts) {
+QString exportSheet(Vor_Spread& sheet, const std::string& path, exchange::CsvTexts texts) {
     const QString shown = machinePath(path);
     if (shown.endsWith(".pdf", Qt::CaseInsensitive)) {
         QString failure;
@@ -43,8 +43,8 @@ QString exportSheet(Vor_Spread& sheet, const std::string& path, sheets::CsvTexts
         return failure;
     }
     std::string error;
-    const auto content = isCsvPath(path) ? sheets::sheetAsCsv(sheet.grid(), texts, error)
-                                         : sheets::sheetAsXlsx(sheet.grid(), error);
+    const auto content = isCsvPath(path) ? exchange::sheetAsCsv(sheet.grid(), texts, error)
+                                         : exchange::sheetAsXlsx(sheet.grid(), error);
     if (!content) return toQt(path + ": " + error);
     return files::writeWhole(path, *content, error) ? QString() : toQt(error);
 }

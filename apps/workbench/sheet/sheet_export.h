@@ -23,4 +23,4 @@ std::string askForExport(const ExportFormat& format, const Vor_String& folder, c
 
 /// Writes the sheet in the format of the extension. Gives why it was not written, and the old file
 /// is whole then; an empty text when it was.
-QString exportSheet(Vor_Spread& sheet, const std::string& path, sheets::CsvTexts texts);
+QString exportSheet(Vor_Spread& sheet, const std::string& path, exchange::CsvTexts texts);

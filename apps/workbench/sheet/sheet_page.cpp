@@ -225,7 +225,7 @@ bool SheetPage::exportTo(const std::string& path) {
     if (!commitEdit()) return false;
     const QString shown = machinePath(path);
     const bool isPdf = shown.endsWith(".pdf", Qt::CaseInsensitive);
-    const QString failure = exportSheet(spread(), path, sheets::CsvTexts::exact);
+    const QString failure = exportSheet(spread(), path, exchange::CsvTexts::exact);
     if (failure.isEmpty()) showMessage(uiText(sayExported).arg(shown));
     if (isPdf || !failure.isEmpty()) showPrintOutcome(failure);
     return failure.isEmpty();
