@@ -8,7 +8,7 @@
 #include <unordered_map>
 
 #include "exchange/zip_archive.h"
-#include "spread/control/cells.h"
+#include "spread/control/formula/cells.h"
 
 namespace exchange {
 

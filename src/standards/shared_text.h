@@ -4,7 +4,7 @@
 #include <string_view>
 #include <utility>
 
-#include "spread/control/cells.h"
+#include "spread/control/formula/cells.h"
 
 class SharedText {
   public:

@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "spread/control/formula/functions/calendar.h"
+#include "spread/control/formula/calendar.h"
 
 namespace {
 

@@ -3,7 +3,7 @@
 
 #include <string_view>
 
-#include "spread/control/cells.h"
+#include "spread/control/formula/cells.h"
 
 namespace control {
 

@@ -7,7 +7,7 @@
 #include <string_view>
 
 #include "platform/encodings.h"
-#include "spread/control/cells.h"
+#include "spread/control/formula/cells.h"
 
 namespace control {
 

@@ -20,7 +20,7 @@ const formula::CustomFunction* internCustomFunction(formula::CustomFunction func
 }
 
 Sheet::Sheet() : m_slots(1), m_calculation(m_cells), m_evaluator(m_calculation) {
-    m_calculation.m_sheet = this;
+    m_calculation.m_formulas = this;
 }
 
 Sheet::Sheet(const Sheet& other) : Sheet() {

@@ -13,9 +13,9 @@
 #include <vector>
 
 #include "core_api/text/text_index.h"
-#include "spread/control/cells.h"
 #include "spread/control/dependents.h"
 #include "spread/control/formula/calculation.h"
+#include "spread/control/formula/cells.h"
 #include "spread/control/formula/evaluator.h"
 #include "spread/control/formula/parser.h"
 #include "spread/control/formula/program.h"
@@ -27,7 +27,7 @@ namespace control {
 const formula::CustomFunction* internCustomFunction(formula::CustomFunction function,
                                                     const void* identity);
 
-class Sheet {
+class Sheet : public formula::FormulaTexts {
   public:
     Sheet();
     Sheet(const Sheet& other);
@@ -78,7 +78,7 @@ class Sheet {
         touched(col, row);
     }
     /// The text of the cell's formula without "=", or nothing. Lives until the cell changes.
-    std::optional<std::string_view> formula(int col, int row) const;
+    std::optional<std::string_view> formula(int col, int row) const override;
     bool isArrayFormula(int col, int row) const;
     bool setArrayFormula(int col, int row, std::string_view text, formula::ParseError& error);
     int formulaCount() const { return m_liveFormulas; }

@@ -10,8 +10,8 @@
 #include <vector>
 
 #include "spread/control/cell_format.h"
-#include "spread/control/cells.h"
 #include "spread/control/embedded_images.h"
+#include "spread/control/formula/cells.h"
 #include "spread/control/span_table.h"
 
 namespace control {

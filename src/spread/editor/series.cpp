@@ -6,7 +6,7 @@
 #include <cmath>
 
 #include "core_api/text/number_text.h"
-#include "spread/control/formula/functions/calendar.h"
+#include "spread/control/formula/calendar.h"
 
 namespace editor {
 

@@ -10,7 +10,6 @@
 #include "platform/clock.h"
 #include "spread/control/formula/coerce.h"
 #include "spread/control/formula/lexer.h"
-#include "spread/control/sheet.h"
 
 namespace formula {
 
@@ -136,7 +135,7 @@ bool Calculation::noteDirtyIn(const control::CellStore::Run& run) const {
 }
 
 std::optional<std::string_view> Calculation::formulaText(int col, int row) const {
-    return m_sheet ? m_sheet->formula(col, row) : std::nullopt;
+    return m_formulas ? m_formulas->formula(col, row) : std::nullopt;
 }
 
 std::optional<Area> Calculation::parseReference(std::string_view text, bool a1, int hostCol,

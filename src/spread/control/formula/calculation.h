@@ -10,7 +10,7 @@
 #include <type_traits>
 #include <vector>
 
-#include "spread/control/cells.h"
+#include "spread/control/formula/cells.h"
 #include "spread/control/formula/value.h"
 
 namespace control {
@@ -18,6 +18,16 @@ class Sheet;
 }
 
 namespace formula {
+
+/// What knows the text of a cell's formula: the sheet.
+class FormulaTexts {
+  public:
+    /// Nothing when the cell has no formula.
+    virtual std::optional<std::string_view> formula(int col, int row) const = 0;
+
+  protected:
+    ~FormulaTexts() = default;
+};
 
 class Calculation {
   public:
@@ -157,7 +167,7 @@ class Calculation {
     static inline int64_t mostWork = 1'000'000'000;
 
     const control::CellStore* m_cells;
-    const control::Sheet* m_sheet = nullptr;
+    const FormulaTexts* m_formulas = nullptr;
     mutable int64_t m_workLeft = mostWork;
     int m_hostCol = 1;
     int m_hostRow = 1;

@@ -5,7 +5,7 @@
 #include <bitset>
 #include <string_view>
 
-#include "spread/control/cells.h"
+#include "spread/control/formula/cells.h"
 #include "spread/control/formula/parser.h"
 
 namespace formula {

@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <optional>
 
-#include "spread/control/cells.h"
+#include "spread/control/formula/cells.h"
 #include "spread/control/formula/program.h"
 
 namespace formula {

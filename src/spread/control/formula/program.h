@@ -13,7 +13,7 @@
 #include <utility>
 #include <vector>
 
-#include "spread/control/cells.h"
+#include "spread/control/formula/cells.h"
 #include "spread/control/formula/function.h"
 
 namespace formula {

@@ -3,14 +3,14 @@
 //   text     = { blank | sign | currency | "%" | "(" } numeral { blank | currency | "%" | ")" }
 //   numeral  = digits [ "." digits ] [ "E" exponent ]  |  digits blank digits "/" digits
 //
-// or a date or time (functions/date_text.h). Every decoration may stand once; a bracket means
+// or a date or time (date_text.h). Every decoration may stand once; a bracket means
 // minus and excludes a sign. Digits may hold thousands commas.
 #include <charconv>
 #include <cmath>
 #include <cstring>
 
 #include "spread/control/formula/coerce.h"
-#include "spread/control/formula/functions/date_text.h"
+#include "spread/control/formula/date_text.h"
 
 namespace formula {
 namespace {

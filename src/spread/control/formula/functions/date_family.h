@@ -7,7 +7,7 @@
 #include <span>
 
 #include "spread/control/formula/calculation.h"
-#include "spread/control/formula/functions/calendar.h"
+#include "spread/control/formula/calendar.h"
 
 namespace formula {
 

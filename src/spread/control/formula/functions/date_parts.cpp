@@ -1,7 +1,7 @@
 
+#include "spread/control/formula/date_text.h"
 #include "spread/control/formula/functions/argument_reader.h"
 #include "spread/control/formula/functions/date_family.h"
-#include "spread/control/formula/functions/date_text.h"
 
 namespace formula {
 namespace {

@@ -4,7 +4,7 @@
 #include <cmath>
 #include <string_view>
 
-#include "spread/control/formula/functions/calendar.h"
+#include "spread/control/formula/calendar.h"
 #include "spread/control/formula/functions/format_section.h"
 
 namespace formula::number_format {

@@ -1,10 +1,10 @@
-#include "spread/control/formula/functions/date_text.h"
+#include "spread/control/formula/date_text.h"
 
 #include <array>
 #include <charconv>
 
 #include "platform/clock.h"
-#include "spread/control/formula/functions/calendar.h"
+#include "spread/control/formula/calendar.h"
 
 namespace formula {
 namespace {

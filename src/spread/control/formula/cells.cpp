@@ -1,4 +1,4 @@
-#include "spread/control/cells.h"
+#include "spread/control/formula/cells.h"
 
 #include <new>
 #include <utility>
