@@ -1,5 +1,5 @@
 // What the builders of outlines share: the values of a type with what each may be, and the pieces
-// of a result. Only for the files of this room that build outlines.
+// of a result. Only for the files of this folder that build outlines.
 #pragma once
 
 #include <initializer_list>
