@@ -136,7 +136,7 @@ ErrorStatus TwStandardsSS::evaluate(const PreparedStandard& prepared,
                                     const PreparedEquation& equation,
                                     const formula::Value* result) {
     using Kind = PreparedEquation::Kind;
-    Turn turn{prepared, equation, result, {}, false};
+    Turn turn{prepared, equation, result, {}};
     ErrorStatus status = Acad::eOk;
     switch (equation.kind) {
         case Kind::irregular:

@@ -137,6 +137,10 @@ TEST_F(MappingDialog, ShowsWhatIsAttachedAndWritesNothingWithoutAChange) {
         .does(showsObjects(plateAsStored))
         .does([](CDialog& dialog) {
             auto& grid = static_cast<Dlg&>(dialog).objectsGrid();
+            std::string titles;
+            for (int col = 1; col <= 3; ++col)
+                titles += textOf(grid, col, Vor_Spread::headerIndex) + "|";
+            EXPECT_EQ(titles, "Type|Std Name|Macro object|");
             EXPECT_FALSE(grid.userEnters(3, 1, "Plates.D1"));
             EXPECT_FALSE(grid.userEnters(2, 2, "Other"));
             EXPECT_FALSE(grid.userEnters(3, 2, "Plates.Nothing"));

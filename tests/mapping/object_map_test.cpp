@@ -189,6 +189,9 @@ TEST_F(MappedMacro, WritingReachesEveryModuleOfTheGroupAndComesBack) {
         EXPECT_TRUE(write(map, "7")) << mapTypeName(map.kind());
         EXPECT_EQ(read(map), "7") << mapTypeName(map.kind());
     }
+    const TwObjectMap radius("Plates", TwMapType::cutRadius, "Cope");
+    EXPECT_TRUE(write(radius, "7.12345674"));
+    EXPECT_EQ(read(radius), "7.1234567");  // seven decimals
     const TwObjectMap start("Bolts", patternReverseStart1, "Grid");
     for (const char* flag : {"0", "1"}) {
         EXPECT_TRUE(write(start, flag));

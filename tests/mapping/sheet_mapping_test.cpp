@@ -6,6 +6,7 @@
 #include "macros/sample_macro.h"
 #include "mapping/mapping_file.h"
 #include "mapping/tw_dlg_standards_data.h"
+#include "mapping/tw_var_cells.h"
 #include "support/temporary_folder.h"
 
 namespace {
@@ -182,6 +183,24 @@ TEST(SheetMapping, ListsEverythingInAMacroThatCanBeMapped) {
     Vor_DbMacro empty;
     EXPECT_EQ(all.initAllVarsFromMacro(&empty, nullptr), Acad::eInvalidInput);
     EXPECT_EQ(all.initAllVarsFromMacro(nullptr, nullptr), Acad::eInvalidInput);
+}
+
+TEST(VariableCells, TakeInputsFromTheGroupAndLeaveLocalsEmpty) {
+    Vor_DbMacro macro = sampleMacro();
+    MacroData dialogData = makeMacroData(macro);
+    TwDlgStandardsData data;
+    ASSERT_EQ(data.initialize(&macro, "Plate", "Module.Plates", &dialogData), Acad::eOk);
+    TwVarCells cells;
+    for (const auto& [name, type] :
+         {std::pair("D1", TwCellType::input), std::pair("D9", TwCellType::input),
+          std::pair("D9", TwCellType::output), std::pair("D2", TwCellType::local)})
+        cells.append(TwVarCell(name, type, TwValueType::Double, "5"));
+    Vor_StringArray unread;
+    ASSERT_EQ(cells.getFromMacro(data, &unread), Acad::eOk);
+    EXPECT_EQ(unread, Vor_StringArray{"D9"});
+    EXPECT_EQ(cells[0].value(), "120.5");
+    EXPECT_EQ(cells[1].value(), "5");
+    EXPECT_EQ(cells[3].value(), "") << "not the distance of the same name";
 }
 
 TEST(StandardsData, AModuleKeyNamesItsGroup) {

@@ -217,6 +217,7 @@ TEST_F(LibraryDialogTest, UndoesStepByStepUntilThereIsNothingToSave) {
              EXPECT_EQ(cell(page, 7, 1), "96");
              EXPECT_FALSE(page.sheet().isChanged());
              EXPECT_FALSE(page.press(Page::undoButton));
+             EXPECT_FALSE(page.sheet().undo());
              EXPECT_FALSE(page.press(Page::saveButton));
          }});
 }

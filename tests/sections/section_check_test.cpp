@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include "core_api/files.h"
+#include "sections/value_rules.h"
 #include "sections/vor_prof_values_table.h"
 #include "support/temporary_folder.h"
 #include "test_folders.h"
@@ -37,6 +38,8 @@ TEST(SectionCheck, FindsWhatCannotBe) {
         {std::string("8\n") + header + "Width\n1\t1\ta\t\t\t\t10\n", "2:0 error: there are 7"},
         {std::string("9\n") + header + "Size\n1\t1\ta\t\t\t\t10\n",
          "2:7 warning: \"Size\" stands where the type has Diameter"},
+        {std::string("8\n") + header + "Width\tSize\n1\t1\ta\t\t\t\t10\t5\n",
+         "2:8 warning: \"Size\" stands where the type has Thickness"},
         {std::string("9\n") + header + "Diameter\n", "0:0 warning: the table has no sizes"},
         {std::string("9\n") + header + "Diameter\n1\t1\ta\t\t\t\t10\n1\t1\tb\t\t\t\t12\n",
          "4:1 error: \"1\" is the system name of line 3 already"},
@@ -98,6 +101,67 @@ TEST(SectionCheck, FindsWhatCannotBe) {
         else
             EXPECT_EQ(text, "") << c.file;
     }
+}
+
+/// Each rule at its border, on each side of what it compares with.
+TEST(SectionCheck, ValuesJustInsideARuleHoldAndJustOutsideBreakIt) {
+    const struct {
+        std::vector<int> types;
+        std::vector<double> inside;
+        size_t changed;
+        double outside;
+        int broken;
+    } cases[] = {
+        {{1, 2, 3, 5, 6, 7, 17}, {80, 46, 45.9, 5, 0, 0, 0, 0}, 2, 46, 2},
+        {{1, 6, 7}, {80, 46, 4, 39.9, 0, 0, 0, 0}, 3, 40, 3},
+        {{2, 3, 5, 17}, {80, 46, 4, 79.9, 0, 0}, 3, 80, 3},
+        {{1, 6}, {80, 46, 4, 5, 21, 0, 0, 0}, 4, 21.1, 4},
+        {{1, 6}, {40, 46, 4, 10, 10, 0, 0, 0}, 4, 10.1, 4},
+        {{7}, {200, 46, 4, 5, 42, 0, 0, 0}, 4, 42.1, 4},
+        {{7}, {80, 46, 4, 5, 35, 0, 0, 0}, 4, 35.1, 4},
+        {{5, 17}, {80, 46, 4, 5, 21}, 4, 21.1, 4},
+        {{5, 17}, {20, 46, 4, 5, 15}, 4, 15.1, 4},
+        {{3}, {80, 46, 4, 5, 42, 0}, 4, 42.1, 4},
+        {{3}, {20, 46, 4, 5, 15, 0}, 4, 15.1, 4},
+        {{6, 7}, {80, 46, 4, 5, 0, 0, 99.9, 0}, 6, 100, 6},
+        {{6, 7}, {80, 46, 4, 5, 0, 0, 0, 42}, 7, 42.1, 7},
+        {{6, 7}, {80, 46, 4, 5, 0, 0, 50, 9.9}, 7, 10, 7},
+        {{10}, {100, 60, 29.9, 0}, 2, 30, 2},
+        {{10}, {60, 100, 29.9, 0}, 2, 30, 2},
+        {{10}, {100, 60, 5, 30}, 3, 30.1, 3},
+        {{10}, {60, 100, 5, 30}, 3, 30.1, 3},
+        {{11}, {20, 9.9}, 1, 10, 1},
+        {{4}, {20, 30, 40, 9.9}, 3, 10, 3},
+        {{4}, {100, 30, 40, 29.9}, 3, 30, 3},
+        {{4}, {100, 40, 30, 29.9}, 3, 30, 3},
+        {{12}, {100, 50, 49.9, 2}, 2, 50, 2},
+        {{12}, {100, 40, 0, 19.9}, 3, 20, 3},
+        {{12}, {40, 100, 0, 19.9}, 3, 20, 3},
+        {{13}, {20, 0, 30, 40, 0, 9.9}, 5, 10, 5},
+        {{13}, {100, 0, 30, 40, 0, 29.9}, 5, 30, 5},
+        {{13}, {100, 0, 40, 30, 0, 29.9}, 5, 30, 5},
+        {{14}, {20, 19.9, 90}, 1, 20, 1},
+        {{14}, {20, 2, 180}, 2, 180.1, 2},
+        {{14}, {20, 2, 0.1}, 2, 0, 2},
+        {{15, 16, 18, 19, 20, 23, 24}, {100, 40, 39.9}, 2, 40, 2},
+        {{15, 16, 18, 19, 20, 23, 24}, {40, 100, 39.9}, 2, 40, 2},
+        {{21}, {100, 40, 0, 19.9, 0, 90}, 3, 20, 3},
+        {{21}, {40, 100, 0, 19.9, 0, 90}, 3, 20, 3},
+        {{21}, {100, 40, 0, 2, 0, 179.9}, 5, 180, 5},
+        {{21}, {100, 40, 0, 2, 0, 0.1}, 5, 0, 5},
+        {{22}, {100, 49.9, 200, 2}, 1, 50, 1},
+        {{22}, {100, 0, 40, 19.9}, 3, 20, 3},
+        {{22}, {40, 0, 100, 19.9}, 3, 20, 3},
+    };
+    for (const auto& c : cases)
+        for (const int type : c.types) {
+            const std::string shown = testing::PrintToString(std::pair(type, c.inside));
+            std::vector<double> values = c.inside;
+            EXPECT_FALSE(brokenRule(type, values)) << shown;
+            values[c.changed] = c.outside;
+            const BrokenRule* broken = brokenRule(type, values);
+            EXPECT_EQ(broken ? broken->value : -1, c.broken) << shown;
+        }
 }
 
 TEST(SectionCheck, TellsOfNamesAndFilesThatCannotBeUsed) {

@@ -170,8 +170,9 @@ TEST(SectionFigures, OfSimpleShapesByHand) {
             << c.column << " of type " << c.type;
     }
     const auto flat = SectionFigures::of(8, std::vector<double>{60, 20});
-    for (const char* column : {"I cm4", "Iy", "Iy kg", "Iy cm3", "Area", "Area cm", "It cm4",
-                               "ez mm", "Wel,u cm3", "Inner radius", "Width", "", " cm", "iyy cm"})
+    for (const char* column :
+         {"I cm4", "Iy", "Iy kg", "Iy cm3", "Area", "Area cm", "It cm4", "ez mm", "Wel,u cm3",
+          "Wel,v cm3", "Wpl,u cm3", "Wpl,v cm3", "Inner radius", "Width", "", " cm", "iyy cm"})
         EXPECT_FALSE(flat->valueOf(column)) << column;
     EXPECT_FALSE(SectionFigures::of(8, std::vector<double>{60}));
     EXPECT_FALSE(SectionFigures::of("Box.dwg", {}));

@@ -55,6 +55,8 @@ TEST(Check, MarkersAndDeclarations) {
             {documentOf({{"Label"}}),
              {"0:0 error: no cell reads \"Input\"", "0:0 error: no cell reads \"Output\"",
               "0:0 error: no cell reads \"Calc\""}},
+            {documentOf({{"Input"}}),
+             {"0:0 error: no cell reads \"Output\"", "0:0 error: no cell reads \"Calc\""}},
             {documentOf(
                  {{"Input"}, {"Output"}, {"Int A"}, {"Calc"}, {"A=1"}, {"Local"}, {"Int L"}}),
              {"6:1 error: there is no \"=\"", "7:1 error: the declaration of \"L\" lies below",
@@ -83,11 +85,12 @@ TEST(Check, EquationsAndTheUseOfVariables) {
     expectFindings(library,
                    {
                        {standardOf({"Double A"}, {"Double B"}, {},
-                                   {"label", "C=A", "B=A+", "B=Foo(A)", "B=X"}),
+                                   {"label", "C=A", "B=A+", "B=Foo(A)", "B=X", "B=gen_"}),
                         {"7:1 error: there is no \"=\"", "8:1 error: no variable \"C\" is declared",
                          "9:1 error: the equation would be refused: ",
                          "10:1 error: the equation would be refused: ",
-                         "11:1 error: the equation would be refused: "}},
+                         "11:1 error: the equation would be refused: ",
+                         "12:1 error: the equation would be refused: "}},
                        {standardOf({"Double A", "Double Unused"}, {"Double B", "Double Never"},
                                    {"Double L", "Double M", "Double N", "Double O"},
                                    {"B=A+L", "L=1", "M=2", "B=N"}),
@@ -145,6 +148,16 @@ TEST(Check, ChildCalls) {
             {calling("CallChild(Round.tws, A, B)"),
              {"7:1 error: the calls go in a circle: Sheet.tws > Round.tws > Back.tws > Sheet.tws"}},
         });
+    // As deep as runs go, and one deeper.
+    library.writeStandard("Deep33", standardOf({"Double X"}, {"Double Y"}, {}, {"Y=X"}));
+    for (int i = 32; i > 0; --i)
+        library.writeStandard(
+            "Deep" + std::to_string(i),
+            standardOf({"Double X"}, {"Double Y"}, {},
+                       {"CallChild(Deep" + std::to_string(i + 1) + ".tws, X, Y)"}));
+    expectFindings(library, {{calling("CallChild(Deep2.tws, A, B)"), {}},
+                             {calling("CallChild(Deep1.tws, A, B)"),
+                              {"7:1 error: standards call each other more than 32 deep"}}});
 }
 
 }  // namespace

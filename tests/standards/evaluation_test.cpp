@@ -274,6 +274,16 @@ TEST_F(Evaluation, DeclarationsAreReadFromTheSheetAsItIs) {
     }
 }
 
+TEST_F(Evaluation, AVariableReadsWhatItsCellShows) {
+    load(standardOf({"Double A"}, {}, {}, {}), {"2.5"});
+    Vor_String shown = "kept";
+    EXPECT_EQ(TwVarCell("A", TwCellType::input, TwValueType::Double).getCurrentValue(sheet, shown),
+              Acad::eInvalidInput);
+    EXPECT_EQ(shown, "kept");
+    EXPECT_EQ(sheet.varCells()[0].getCurrentValue(sheet, shown), Acad::eOk);
+    EXPECT_EQ(shown, "2.5");
+}
+
 TEST_F(Evaluation, MissingCalcFails) {
     load(documentOf({{"Input"}, {"Output"}, {"Double B"}, {"B=1"}}));
     EXPECT_EQ(sheet.calcCells(), Acad::eInvalidInput);
