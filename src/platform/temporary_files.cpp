@@ -1,5 +1,4 @@
 #include "platform/temporary_files.h"
-#include "platform/folder_listing.h"
 
 #include <fcntl.h>
 #include <signal.h>
@@ -12,6 +11,8 @@
 #include <cstdio>
 #include <optional>
 #include <string_view>
+
+#include "platform/folder_listing.h"
 
 namespace files {
 
