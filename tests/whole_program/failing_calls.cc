@@ -196,58 +196,38 @@ extern "C" ssize_t writev(int file, const struct iovec* parts, int count) {
     return file != STDERR_FILENO && fails(files, "writev", pathOf(file)) ? failed(ENOSPC)
                                                                          : call(file, parts, count);
 }
-extern "C" int fsync(int file) {
-    static const auto call = REAL(fsync);
-    return fails(files, "fsync", pathOf(file)) ? failed(EIO) : call(file);
-}
+
+/// A call that fails with -1 and an error. `path` is told to whoever reads which one it was.
+#define CALL(name, error, path, parameters, arguments)                     \
+    extern "C" int name parameters {                                       \
+        static const auto call = REAL(name);                               \
+        return fails(files, #name, path) ? failed(error) : call arguments; \
+    }
+
+CALL(fsync, EIO, pathOf(file), (int file), (file))
 extern "C" int close(int file) {
     static const auto call = REAL(close);
     if (!fails(files, "close", pathOf(file))) return call(file);
     call(file);  // it is gone either way
     return failed(EIO);
 }
-extern "C" int rename(const char* from, const char* to) {
-    static const auto call = REAL(rename);
-    return fails(files, "rename", from) ? failed(EIO) : call(from, to);
-}
-extern "C" int link(const char* from, const char* to) {
-    static const auto call = REAL(link);
-    return fails(files, "link", from) ? failed(EIO) : call(from, to);
-}
-extern "C" int unlink(const char* path) {
-    static const auto call = REAL(unlink);
-    return fails(files, "unlink", path) ? failed(EACCES) : call(path);
-}
-extern "C" int mkdir(const char* path, mode_t mode) {
-    static const auto call = REAL(mkdir);
-    return fails(files, "mkdir", path) ? failed(ENOSPC) : call(path, mode);
-}
+CALL(rename, EIO, from, (const char* from, const char* to), (from, to))
+CALL(link, EIO, from, (const char* from, const char* to), (from, to))
+CALL(unlink, EACCES, path, (const char* path), (path))
+CALL(mkdir, ENOSPC, path, (const char* path, mode_t mode), (path, mode))
+
 extern "C" char* mkdtemp(char* name) {
     static const auto call = REAL(mkdtemp);
     if (!fails(files, "mkdtemp", name)) return call(name);
     errno = ENOSPC;
     return nullptr;
 }
-extern "C" int fchmod(int file, mode_t mode) {
-    static const auto call = REAL(fchmod);
-    return fails(files, "fchmod", pathOf(file)) ? failed(EPERM) : call(file, mode);
-}
-extern "C" int stat(const char* path, struct stat* status) {
-    static const auto call = REAL(stat);
-    return fails(files, "stat", path) ? failed(EIO) : call(path, status);
-}
-extern "C" int lstat(const char* path, struct stat* status) {
-    static const auto call = REAL(lstat);
-    return fails(files, "lstat", path) ? failed(EIO) : call(path, status);
-}
-extern "C" int fstat(int file, struct stat* status) {
-    static const auto call = REAL(fstat);
-    return fails(files, "fstat", pathOf(file)) ? failed(EIO) : call(file, status);
-}
-extern "C" int access(const char* path, int mode) {
-    static const auto call = REAL(access);
-    return fails(files, "access", path) ? failed(EIO) : call(path, mode);
-}
+CALL(fchmod, EPERM, pathOf(file), (int file, mode_t mode), (file, mode))
+CALL(stat, EIO, path, (const char* path, struct stat* status), (path, status))
+CALL(lstat, EIO, path, (const char* path, struct stat* status), (path, status))
+CALL(fstat, EIO, pathOf(file), (int file, struct stat* status), (file, status))
+CALL(access, EIO, path, (const char* path, int mode), (path, mode))
+
 extern "C" char* realpath(const char* path, char* resolved) {
     static const auto call = REAL(realpath);
     if (!fails(files, "realpath", path)) return call(path, resolved);
