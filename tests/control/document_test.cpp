@@ -222,6 +222,18 @@ TEST(Document, CellsSpreadWidelyAreRefusedBeforeMemoryRunsOut) {
     EXPECT_THAT(error, HasSubstr("the cells need more memory than a sheet may take"));
 }
 
+TEST(Document, ResultsThatAreOutOfDateAreNotWritten) {
+    Grid grid;
+    grid.setCols(1);
+    grid.setRows(2);
+    ASSERT_TRUE(grid.setFormula(1, 2, "A1*2"));
+    grid.writeValue(1, 1, 5.0);
+    Grid copy;
+    copy.restore(parsed(writeDocument(grid)));
+    copy.setOption(control::Option::automaticRecalculation, true);
+    EXPECT_EQ(copy.text(1, 2, Reading::value), "10");
+}
+
 TEST(Document, AFormulaWhoseFunctionIsUnknownWaitsForIt) {
     const auto document =
         parsed("vormant-sheet 1\nsize 2 2\ncells\nA1 =TWICE(B1)\t8\nB1 4\nend 2\n");

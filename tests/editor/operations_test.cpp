@@ -248,6 +248,67 @@ TEST(Operations, RowsAreSortedByWhatTheyShow) {
     EXPECT_EQ(grid.text(1, 1, Reading::formula), "#REF!+1");
 }
 
+/// What column B shows, row by row.
+std::string results(const Grid& grid) {
+    std::string all;
+    for (int row = 1; row <= grid.rows(); ++row) all += grid.text(2, row, Reading::value) + ',';
+    return all;
+}
+
+TEST(Operations, NewFormulasAreCalculatedOnceWithoutAutomaticRecalculation) {
+    const Block first{2, 1, 2, 1}, both{2, 1, 2, 2}, rows{1, 1, 2, 2};
+    const Case cases[] = {
+        {"fill", "1|=A1*2/2|", [=](auto& e) { return e.fillDown(both); }, "2,4,"},
+        {"series", "1|=A1*2/2|", [=](auto& e) { return e.fillSeries(first, both); }, "2,4,"},
+        {"paste", "1|=A1*2/2|",
+         [=](auto& e) {
+             return e.paste(*e.copy(first), {2, 2, 2, 2});
+         },
+         "2,4,"},
+        {"sort", "7|=A1*2/2|=A2*2",
+         [=](auto& e) {
+             return e.sort(rows, {{1, true}}, false);
+         },
+         "4,14,"},
+        {"move", "7|=A1*2/|", [=](auto& e) { return e.moveBlock(first, 2, 2); }, ",14,"},
+        {"of what the whole paste left", "|/5|",
+         [](auto& e) {
+             return e.pasteText("3\t=A1+A2\n4", {1, 1, 1, 1});
+         },
+         "7,,"},
+        {"in the notation of the sheet", "|/|=$A$1+1",
+         [](auto& e) {
+             e.grid().setReferenceStyle(2);
+             return e.type(2, 1, "=FORMULATEXT(R2C2)");
+         },
+         "=R1C1+1,1,"},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.what);
+        Grid grid;
+        fill(grid, c.before);
+        grid.setOption(control::Option::automaticRecalculation, false);
+        SheetEditor editor(grid);
+        EXPECT_TRUE(c.run(editor));
+        EXPECT_EQ(results(grid), c.after);
+    }
+}
+
+TEST(Operations, WhatWasOutOfDateIsSoWhenItComesBack) {
+    Grid grid;
+    fill(grid, "1|=A1*2|=A1/||");
+    grid.setOption(control::Option::automaticRecalculation, false);
+    SheetEditor editor(grid);
+    grid.writeValue(1, 1, 5.0);
+    ASSERT_TRUE(editor.clearContents({2, 1, 2, 1}));
+    ASSERT_TRUE(editor.type(2, 2, "=C1"));  // by then the change has been followed
+    ASSERT_TRUE(editor.undo());
+    ASSERT_TRUE(editor.undo());
+    EXPECT_EQ(grid.text(2, 1, Reading::value), "2") << "its last result goes on to be shown";
+    grid.setOption(control::Option::automaticRecalculation, true);
+    EXPECT_EQ(grid.text(2, 1, Reading::value), "10");
+}
+
 std::string seriesText(std::vector<editor::SeriesValue> known, int from, int to) {
     const editor::Series series(std::move(known));
     std::string all;

@@ -9,6 +9,7 @@
 #include <functional>
 #include <map>
 #include <optional>
+#include <set>
 #include <string>
 #include <utility>
 #include <variant>
@@ -357,7 +358,7 @@ class Twins {
         } else {
             isDone = m_grid.setFormula(c, r, text);
         }
-        if (isDone && !m_asUser && !made.isArray) m_calculated = Place(c, r);
+        if (isDone && !made.isArray) m_calculated.insert({c, r});
         if (isDone) m_twin.set(c, r, std::move(made));
         return uiText("formula", {c, r}, isDone) + " =" + text;
     }
@@ -506,7 +507,7 @@ class Twins {
                 m_grid.recalculate();
                 return "recalculate";
             default:
-                m_calculated = Place(c, r);
+                m_calculated.insert({c, r});
                 m_grid.recalculateCell(c, r);
                 return uiText("recalculate", {c, r}, true);
         }
@@ -545,6 +546,7 @@ class Twins {
                 const bool isDone = m_editor.paste(*m_editor.copy(from), {c, r, c, r});
                 m_twin.cols = m_grid.cols(), m_twin.rows = m_grid.rows();
                 if (isDone) m_twin.put(Sheet(m_twin), from, c, r, true);
+                if (isDone) noteCalculated(from, c, r);
                 return uiText("copy", from, c, r, isDone);
             }
             case 16: {
@@ -560,6 +562,8 @@ class Twins {
                 for (int to = filled.row1 + 1; to <= filled.row2; ++to)
                     m_twin.put(old, {filled.col1, filled.row1, filled.col2, filled.row1},
                                filled.col1, to, true);
+                noteCalculated({filled.col1, filled.row1 + 1, filled.col2, filled.row2},
+                               filled.col1, filled.row1 + 1);
                 return uiText("fill", filled, 0, 0, true);
             }
             case 18:
@@ -585,12 +589,19 @@ class Twins {
         }
     }
 
+    /// What a user puts somewhere is calculated there once.
+    void noteCalculated(const Block& from, int c, int r) {
+        for (int row = 0; row <= from.row2 - from.row1; ++row)
+            for (int col = 0; col <= from.col2 - from.col1; ++col)
+                m_calculated.insert({c + col, r + row});
+    }
     void moveBlock(const Block& from, int c, int r) {
         m_twin.cols = m_grid.cols(), m_twin.rows = m_grid.rows();
         const Sheet old = m_twin;
         m_twin.put({}, from, from.col1, from.row1, false);
         m_twin.put(old, from, c, r, false);
         if (c == from.col1 && r == from.row1) return;
+        noteCalculated(from, c, r);
         m_twin.eachReference([&](Reference& ref) {
             ref.order();
             if (ref.kind == Reference::Kind::cols || ref.kind == Reference::Kind::rows) return;
@@ -618,7 +629,10 @@ class Twins {
         const Sheet old = m_twin;
         for (size_t i = 0; i < order.size() && isDone; ++i) {
             const int from = order[i].second, to = b.row1 + static_cast<int>(i);
-            if (from != to) m_twin.put(old, {b.col1, from, b.col2, from}, b.col1, to, true);
+            if (from == to) continue;
+            const Block line{b.col1, from, b.col2, from};
+            m_twin.put(old, line, b.col1, to, true);
+            noteCalculated(line, b.col1, to);
         }
         return uiText(ascending ? "sort" : "sort down", b, 0, 0, isDone);
     }
@@ -635,13 +649,13 @@ class Twins {
                 const std::string expected = formula ? formula->text(isR1C1(), c, r) : "";
                 const std::string text(now.formula(c, r).value_or(""));
                 const Plain should = plainOf(fresh.value(c, r)), is = plainOf(now.value(c, r));
-                const bool compares = isCalculated || !formula || m_calculated == Place(c, r);
+                const bool compares = isCalculated || !formula || m_calculated.contains({c, r});
                 if (text == expected && (!compares || is == should)) continue;
                 found += "column " + std::to_string(c) + ", row " + std::to_string(r) +
                          ": =" + text + " is " + shown(is) + "; should be =" + expected + " with " +
                          shown(should) + "\n";
             }
-        m_calculated.reset();
+        m_calculated.clear();
         if (found.empty()) return std::nullopt;
         return m_log + found;
     }
@@ -653,7 +667,7 @@ class Twins {
     Sheet m_twin;
     Sheet m_saved;                  // at the beginning of the history
     std::optional<Sheet> m_undone;  // what redoing everything gives
-    std::optional<Place> m_calculated;
+    std::set<Place> m_calculated;   // up to date even without automatic recalculation
     std::string m_log;
 };
 

@@ -238,6 +238,7 @@ class DocumentWriter {
 }  // namespace
 
 std::string writeDocument(const Grid& grid) {
+    grid.propagate();
     return DocumentWriter(grid).write();
 }
 

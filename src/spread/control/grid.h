@@ -166,6 +166,9 @@ class Grid {
     }
     bool recalculateCell(int col, int row) { return m_sheet->recalculateCell(col, row); }
     void recalculate() { m_sheet->recalculate(); }
+    void bringUpToDate(int col, int row) { m_sheet->bringUpToDate(col, row); }
+    /// Lets Cell::dirty tell of every result whether it is out of date (Sheet::propagate).
+    void propagate() const { m_sheet->propagate(); }
     /// 0 and 1 are A1, 2 is R1C1.
     void setReferenceStyle(int style);
     int referenceStyle() const { return m_sides->referenceStyle; }

@@ -282,7 +282,7 @@ void Grid::putCell(int col, int row, const Cell& content, const TextBlock* formu
     if (!isInside(col, row)) return;
     markTouched(col, row);
     if (formula) {
-        m_sheet->putFormula(col, row, formula->view(), content.value(), isArray);
+        m_sheet->putFormula(col, row, formula->view(), content.value(), isArray, content.dirty);
         m_sheet->setFormat(col, row, content.format);
     } else if (content.type == ValueType::empty && content.format == inheritedFormat) {
         m_sheet->clearCell(col, row);

@@ -58,7 +58,7 @@ void Sheet::touchVolatile() {
     }
 }
 
-// Makes everything dirty that reads a changed cell, directly or through other formulas.
+// Directly or through other formulas.
 void Sheet::propagate() {
     if (!m_changed.empty()) touchVolatile();
     m_calculation.m_hasPendingChanges = false;
@@ -93,6 +93,13 @@ bool Sheet::recalculateCell(int col, int row) {
     m_cells.setDirty(col, row, *cell, true);
     calculateChanged(cell->formula);
     return true;
+}
+
+void Sheet::bringUpToDate(int col, int row) {
+    propagate();
+    m_isStopped = false;
+    const Cell* cell = m_cells.find(col, row);
+    if (cell && cell->dirty) calculate(cell->formula);
 }
 
 void Sheet::recalculateDirty() {

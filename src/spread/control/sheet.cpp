@@ -200,6 +200,17 @@ void Sheet::loadFormula(int col, int row, std::string_view text, const Value& ca
     m_dirtied.push_back(cell.formula);
 }
 
+void Sheet::putFormula(int col, int row, std::string_view text, const Value& shown, bool isArray,
+                       bool isOutOfDate) {
+    loadFormula(col, row, text, shown, isArray);
+    Cell& cell = *m_cells.find(col, row);
+    if (isOutOfDate && !cell.dirty) {
+        m_cells.setDirty(col, row, cell, true);
+        m_dirtied.push_back(cell.formula);
+    }
+    touched(col, row);
+}
+
 uint32_t Sheet::newSlot(int col, int row, const ProgramRef& program, TextBlock* text) {
     uint32_t id;
     if (m_freeSlots.empty()) {

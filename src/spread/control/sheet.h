@@ -72,11 +72,10 @@ class Sheet : public formula::FormulaTexts {
     /// cell shows #NAME?.
     void loadFormula(int col, int row, std::string_view text, const Value& cached,
                      bool isArray = false);
-    /// As loadFormula in a sheet that is in use: what reads the cell is calculated anew.
-    void putFormula(int col, int row, std::string_view text, const Value& cached, bool isArray) {
-        loadFormula(col, row, text, cached, isArray);
-        touched(col, row);
-    }
+    /// As loadFormula in a sheet that is in use: what reads the cell is calculated anew, and the
+    /// formula too when what it shows is out of date.
+    void putFormula(int col, int row, std::string_view text, const Value& shown, bool isArray,
+                    bool isOutOfDate = false);
     /// The text of the cell's formula without "=", or nothing. Lives until the cell changes.
     std::optional<std::string_view> formula(int col, int row) const override;
     bool isArrayFormula(int col, int row) const;
@@ -107,6 +106,11 @@ class Sheet : public formula::FormulaTexts {
     /// Calculates the cell's formula, after the dirty ones that it reads; what reads the cell
     /// becomes dirty. False without a formula.
     bool recalculateCell(int col, int row);
+    /// Calculates the cell's formula, after the dirty ones that it reads, unless it is up to date.
+    void bringUpToDate(int col, int row);
+    /// Makes dirty what reads a changed cell. Changes are only noted until then, and Cell::dirty
+    /// says nothing yet about results that are kept for later.
+    void propagate();
     /// Every formula.
     void recalculate();
     /// The dirty and the volatile ones.
@@ -180,7 +184,6 @@ class Sheet : public formula::FormulaTexts {
         m_changed.push_back({col, row});
         m_calculation.m_hasPendingChanges = true;
     }
-    void propagate();
     void touchVolatile();
     void linkNew();
     void relinkAll();

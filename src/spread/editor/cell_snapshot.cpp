@@ -13,7 +13,8 @@ CellSnapshot CellSnapshot::of(const control::Sheet& sheet, int col, int row) {
     const Cell* cell = sheet.find(col, row);
     if (!cell) return kept;
     kept.m_cell.format = cell->format;
-    if (!cell->dirty) control::CellStore::shareValue(kept.m_cell, *cell);
+    kept.m_cell.dirty = cell->dirty;
+    control::CellStore::shareValue(kept.m_cell, *cell);
     if (const auto formula = sheet.formula(col, row)) {
         kept.m_formula = TextBlock::make(*formula);
         kept.m_cell.formula = sheet.isArrayFormula(col, row) ? 1 : 0;
@@ -44,6 +45,7 @@ CellSnapshot::~CellSnapshot() {
 void CellSnapshot::dropValue() {
     if (m_cell.type == ValueType::text) TextBlock::release(m_cell.text);
     m_cell.type = ValueType::empty;
+    m_cell.dirty = false;
     m_cell.number = 0;
 }
 

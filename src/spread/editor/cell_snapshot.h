@@ -12,7 +12,7 @@ namespace editor {
 class CellSnapshot {
   public:
     CellSnapshot() = default;
-    /// The cell as it is now. A result that is out of date is left out.
+    /// The cell as it is now; its result may be out of date. What has changed is propagated.
     static CellSnapshot of(const control::Sheet& sheet, int col, int row);
     CellSnapshot(const CellSnapshot& other);
     CellSnapshot(CellSnapshot&& other) noexcept;
@@ -25,6 +25,8 @@ class CellSnapshot {
     control::Value value() const { return m_cell.value(); }
     bool isEmpty() const { return m_cell.type == control::ValueType::empty && !m_formula; }
     bool hasFormula() const { return m_formula != nullptr; }
+    /// A formula that was never calculated: a result is never empty.
+    bool hasNewFormula() const { return m_formula && m_cell.type == control::ValueType::empty; }
     /// Without "=", empty without a formula.
     std::string_view formula() const { return m_formula ? m_formula->view() : ""; }
     control::FormatIndex format() const { return m_cell.format; }

@@ -8,6 +8,7 @@
 namespace editor {
 
 using control::Band;
+using control::CellAddress;
 using control::FormatIndex;
 using control::Grid;
 using control::Reading;
@@ -30,6 +31,14 @@ bool CellsChange::isNothing(const Grid& grid) const {
     return std::all_of(m_cells.begin(), m_cells.end(), [&](const PlacedCell& placed) {
         return placed.cell == CellSnapshot::of(grid.sheet(), placed.col, placed.row);
     });
+}
+
+void CellsChange::addNewFormulas(const Grid& grid, std::vector<CellAddress>& cells) const {
+    for (const PlacedCell& before : m_cells) {
+        const auto now = CellSnapshot::of(grid.sheet(), before.col, before.row);
+        const bool isNew = now.hasFormula() && now.formula() != before.cell.formula();
+        if (isNew || now.hasNewFormula()) cells.push_back({before.col, before.row});
+    }
 }
 
 TextsChange::TextsChange(const Grid& grid, int col, int row)

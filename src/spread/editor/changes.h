@@ -22,6 +22,9 @@ class Change {
     virtual bool isNothing(const control::Grid& /*grid*/) const { return false; }
     /// References moved, so that every formula has to be looked at again.
     virtual bool isStructural() const { return false; }
+    /// Adds the cells that hold another formula than before, or one that was never calculated.
+    virtual void addNewFormulas(const control::Grid& /*grid*/,
+                                std::vector<control::CellAddress>& /*cells*/) const {}
 };
 
 struct PlacedCell {
@@ -36,6 +39,8 @@ class CellsChange : public Change {
     }
     void exchange(control::Grid& grid, Direction direction) override;
     bool isNothing(const control::Grid& grid) const override;
+    void addNewFormulas(const control::Grid& grid,
+                        std::vector<control::CellAddress>& cells) const override;
 
   private:
     std::vector<PlacedCell> m_cells;

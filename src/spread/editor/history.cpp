@@ -117,7 +117,10 @@ void SheetEditor::beforeChange(int col, int row) {
 }
 
 void SheetEditor::end() {
-    if (m_step) pushStep();
+    if (m_step) {
+        m_batch->noteNewFormulas(m_step->changes);
+        pushStep();
+    }
     m_batch.reset();
 }
 

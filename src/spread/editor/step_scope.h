@@ -29,23 +29,33 @@ class SheetEditor::InA1 {
 };
 
 /// While many cells change: no recalculation in between, and formulas in A1 notation. Afterwards
-/// everything is brought up to date, after structural changes all of it.
+/// everything is brought up to date, after structural changes all of it; without automatic
+/// recalculation the formulas that are new, so that none shows what its model gave or nothing.
 class SheetEditor::BatchGuard {
   public:
     explicit BatchGuard(control::Grid& grid)
         : m_grid(grid), m_isAutomatic(grid.option(control::Option::automaticRecalculation)) {
         grid.setOption(control::Option::automaticRecalculation, false);
+        grid.propagate();  // what is kept must not count as up to date
         m_inA1.emplace(grid);
     }
     ~BatchGuard() {
         m_inA1.reset();
         if (m_isAutomatic && m_isStructural) m_grid.recalculate();
         m_grid.setOption(control::Option::automaticRecalculation, m_isAutomatic);
+        for (const control::CellAddress& cell : m_newFormulas) {
+            m_grid.bringUpToDate(cell.col, cell.row);
+            if (m_grid.sheet().isStopped()) break;
+        }
     }
     BatchGuard(const BatchGuard&) = delete;
     BatchGuard& operator=(const BatchGuard&) = delete;
 
     void noteStructural() { m_isStructural = true; }
+    void noteNewFormulas(const std::vector<std::unique_ptr<Change>>& changes) {
+        if (m_isAutomatic) return;
+        for (const auto& change : changes) change->addNewFormulas(m_grid, m_newFormulas);
+    }
     int style() const { return m_inA1->style(); }
 
   private:
@@ -53,6 +63,7 @@ class SheetEditor::BatchGuard {
     bool m_isAutomatic;
     std::optional<InA1> m_inA1;
     bool m_isStructural = false;
+    std::vector<control::CellAddress> m_newFormulas;
 };
 
 /// Records a step. Unless it is committed, everything is put back.
@@ -79,6 +90,7 @@ class SheetEditor::StepScope {
     bool commit() {
         for (const auto& change : m_editor.m_step->changes)
             if (change->isStructural()) m_batch.noteStructural();
+        m_batch.noteNewFormulas(m_editor.m_step->changes);
         m_editor.pushStep();
         return true;
     }
