@@ -17,7 +17,8 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
         library.writeStandard(child, RandomStandard(choose).document());
     const std::string path = library.writeStandard("Sheet", standard.document());
     const GenValues gen = standard.gen();
-    const std::string difference = CompareRuns(path, standard.given(), gen).difference();
+    const std::string difference =
+        CompareRuns(path, standard.given(), gen, standard.others()).difference();
     if (difference.empty()) return 0;
     std::fprintf(stderr, "%s\n%s", difference.c_str(), standard.document().c_str());
     std::abort();

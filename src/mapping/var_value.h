@@ -20,6 +20,10 @@ class VORMANT_API VarValue {
     explicit VarValue(std::string_view text) : m_text(text) {}
 
     void setText(std::string_view text);
+    void clear() {
+        m_text.clear();
+        m_kind = Kind::text;
+    }
     /// `number` is finite and already rounded to shownDecimals places, as cells show it.
     void setNumber(double number) {
         m_text.clear();

@@ -51,7 +51,7 @@ SharedText inStyleOf(const control::Sheet& sheet, std::string_view formula,
 
 void TwStandardsSS::evaluateAll(PreparedStandard& prepared) {
     m_fillsNow = m_fillsEquationCells || !prepared.needsNoEquationCells(m_varCells, grid());
-    findValuePlaces();
+    if (m_fillsNow || !m_goesOn) findValuePlaces();
     const RunObserver* observer = runObserver();
     const bool reportsAll = observer && observer->wantsEveryEquation();
     PreparedEquation changed;
@@ -65,34 +65,8 @@ void TwStandardsSS::evaluateAll(PreparedStandard& prepared) {
         (void)evaluate(prepared, equation, result);
     }
     fetchTexts();
+    noteReadiness(prepared);
     m_fillsNow = true;
-    m_valuePlaces.clear();
-}
-
-/// Without formulas in the sheet nobody has to hear of new values: they can go straight into the
-/// cells of the variables.
-void TwStandardsSS::findValuePlaces() {
-    m_valuePlaces.assign(static_cast<size_t>(m_varCells.length()), {});
-    if (m_fillsNow) return;
-    for (int i = 0; i < m_varCells.length(); ++i) {
-        const TwVarCell& cell = m_varCells[i];
-        const control::CellType& type = variableCellType(cell.valueType());
-        m_valuePlaces[static_cast<size_t>(i)] = {grid().plainCell(cell.column(), cell.row(), type),
-                                                 &type, false};
-    }
-}
-
-/// Texts stay in the cells while equations assign and read them there; before anybody looks at the
-/// variables they get what their cells hold.
-void TwStandardsSS::fetchTexts() {
-    for (size_t i = 0; i < m_valuePlaces.size(); ++i) {
-        ValuePlace& place = m_valuePlaces[i];
-        if (!place.isOnlyInCell) continue;
-        const formula::Value value = place.cell->value();
-        m_varCells[static_cast<int>(i)].typedValue().setText(value.isText() ? value.text()
-                                                                            : std::string_view());
-        place.isOnlyInCell = false;
-    }
 }
 
 /// What the formula gives where it need not stand in its cell, else null.
@@ -122,7 +96,7 @@ bool TwStandardsSS::takeText(const PreparedEquation& equation, const formula::Va
 
 bool TwStandardsSS::takeNumber(const PreparedEquation& equation, const formula::Value& result) {
     const auto index = static_cast<size_t>(equation.target);
-    const ValuePlace place = m_valuePlaces[index];
+    const ValuePlace& place = m_valuePlaces[index];
     if (!place.cell || !result.isNumber()) return false;
     const double shown = roundAsWritten(result.number(), VarValue::shownDecimals);
     const double stored = place.type->decimals == 0 ? roundAsWritten(shown, 0) : shown;

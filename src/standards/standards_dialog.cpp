@@ -79,7 +79,7 @@ ErrorStatus StandardsDialog::initSSForInput() {
     }
     {
         const Vor_FunctionTimer timer(gSetMacroValuelsToSS);
-        if (variables.setValuesToSS(m_spread) != Acad::eOk) {
+        if (m_spread.writeVariables() != Acad::eOk) {
             for (const TwVarCell& variable : variables)
                 if (variable.setValueToSS(m_spread) != Acad::eOk)
                     return fail(m_spread, refusalOf(variable));
@@ -117,10 +117,11 @@ ErrorStatus StandardsDialog::getFromVars() {
         return fail(m_spread,
                     "its inputs and outputs were changed since they were read: start again");
     int position = 0;
-    for (TwVarCell& variable : m_spread.varCells()) {
+    TwVarCells& variables = m_spread.varCells();
+    for (int i = 0; i < variables.length(); ++i) {
         // A variable that was only declared has no value yet.
         const ErrorStatus status =
-            variable.isLocal() ? variable.setValueToSS(m_spread) : bind(variable, position++);
+            variables[i].isLocal() ? m_spread.writeVariable(i) : bind(i, position++);
         if (status != Acad::eOk) return status;
     }
     if (RunObserver* observer = runObserver()) observer->valuesGiven(m_spread.varCells());
@@ -128,8 +129,9 @@ ErrorStatus StandardsDialog::getFromVars() {
     return Acad::eOk;
 }
 
-/// The variable takes the value of the data's cell at `position`.
-ErrorStatus StandardsDialog::bind(TwVarCell& variable, int position) {
+/// Variable `index` takes the value of the data's cell at `position`.
+ErrorStatus StandardsDialog::bind(int index, int position) {
+    TwVarCell& variable = m_spread.varCells()[index];
     const TwVarCells& given = m_data.varCells;
     if (position >= given.length())
         return fail(m_spread, "no value is given for \"" + variable.name() +
@@ -142,8 +144,8 @@ ErrorStatus StandardsDialog::bind(TwVarCell& variable, int position) {
                                   "output \"" +
                                   variable.name() +
                                   "\": give outputs where the standard has outputs");
-    if (variable.setNewValue(m_spread, source.typedValue()) != Acad::eOk)
-        return fail(m_spread, refusalOf(variable));
+    variable.typedValue() = source.typedValue();
+    if (m_spread.writeVariable(index) != Acad::eOk) return fail(m_spread, refusalOf(variable));
     return Acad::eOk;
 }
 

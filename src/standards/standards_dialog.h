@@ -34,7 +34,7 @@ class StandardsDialog : public CDialog {
     ErrorStatus calcChild(RunningStandard& running);
     ErrorStatus setToVars(RunningStandard& running);
 
-    ErrorStatus bind(TwVarCell& variable, int position);
+    ErrorStatus bind(int index, int position);
     void warnOfErrors();
     void warnOfShift();
 

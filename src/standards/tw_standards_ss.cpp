@@ -43,6 +43,13 @@ ErrorStatus TwStandardsSS::loadFile(const Vor_String& name) {
     const bool isFile = name.view().find_first_of("\\/") != std::string_view::npos ||
                         (name.endsWith(".tws") && mayBeOwnPath(name));
     Vor_String path = isFile ? name : findByName(name);
+    m_goesOn = goesOnWith(path);
+    m_readyWith.reset();
+    if (m_goesOn) {
+        m_varCells.mapping() = TwSSMapping();
+        return Acad::eOk;
+    }
+    m_valuePlaces.clear();
     bool isLoaded = loadFromFile(path);
     if (!isLoaded && isFile && !ObjectExportFileExists(name)) {
         path = pathInLibrary(name);
@@ -60,6 +67,11 @@ ErrorStatus TwStandardsSS::loadFile(const Vor_String& name) {
 }
 
 ErrorStatus TwStandardsSS::initVarCells() {
+    if (m_goesOn && m_genNames.isEmpty()) {
+        for (TwVarCell& variable : m_varCells) variable.typedValue().clear();
+        return Acad::eOk;
+    }
+    if (m_goesOn) startAfresh();
     m_prepared = grid().isAsLoaded() ? PreparedStandard::ofDocument(*this)
                                      : std::make_shared<PreparedStandard>(*this);
     m_varCells.resetVarCells();

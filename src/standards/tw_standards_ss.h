@@ -33,6 +33,10 @@ class TwStandardsSS : public Vor_Spread {
     TwVarCells& varCells() { return m_varCells; }
 
     void setGenVars(const Vor_StringArray& names, const Vor_StringArray& values);
+    /// Every variable's value into its cell; stops at the first that refuses its value.
+    ErrorStatus writeVariables();
+    /// The same of one.
+    ErrorStatus writeVariable(int index);
     /// Replaces the gen names in every cell by their values, texts in quotes.
     void replaceGenVars();
 
@@ -72,10 +76,17 @@ class TwStandardsSS : public Vor_Spread {
         control::Cell* cell = nullptr;  ///< null when they take the usual way
         const control::CellType* type = nullptr;
         bool isOnlyInCell = false;  ///< a text that the variable itself has not got yet
+        /// What was given last as text, and the number that the cell took for it.
+        Vor_String given;
+        std::optional<double> givenNumber;
     };
 
     void findValuePlaces();
+    bool writeAtOnce(const TwVarCell& variable, ValuePlace& place);
     void fetchTexts();
+    bool goesOnWith(const Vor_String& path) const;
+    void noteReadiness(const PreparedStandard& prepared);
+    void startAfresh();
     void evaluateAll(PreparedStandard& prepared);
     const formula::Value* hiddenResult(const PreparedEquation& equation);
     ErrorStatus evaluate(const PreparedStandard& prepared, const PreparedEquation& equation,
@@ -99,6 +110,10 @@ class TwStandardsSS : public Vor_Spread {
     std::shared_ptr<PreparedStandard> m_prepared;
     std::vector<control::CellAddress> m_assignedIn;  // by variable
     std::vector<ValuePlace> m_valuePlaces;           // by variable, in hidden runs
+    /// How many cells the grid had changed when a hidden run left it with nothing but values in
+    /// the cells of the variables, so that the next run need not start from the document.
+    std::optional<size_t> m_readyWith;
+    bool m_goesOn = false;  // this run began so
     bool m_knowsFunctions = false;
     bool m_fillsEquationCells = true;
     bool m_fillsNow = true;  // in the calculation under way

@@ -24,7 +24,7 @@ TEST(LiteralReading, IsWhatHiddenAndShownRunsGive) {
         RandomStandard standard(choose);
         const std::string path = library.writeStandard("Sheet", standard.document());
         const GenValues gen = standard.gen();
-        CompareRuns runs(path, standard.given(), gen);
+        CompareRuns runs(path, standard.given(), gen, standard.others());
         const std::string difference = runs.difference();
         wentWell += runs.wentWell();
         std::string given;
@@ -38,6 +38,22 @@ TEST(LiteralReading, IsWhatHiddenAndShownRunsGive) {
             << children[1].document();
     }
     EXPECT_GT(wentWell, rounds / 2);
+}
+
+// The next run goes on with the sheet as this one left it; what gen values wrote there is none of
+// its business.
+TEST(LiteralReading, HoldsForRunsAfterOneWithGenValues) {
+    TemporaryLibrary library;
+    const std::string path = library.writeStandard(
+        "Sheet",
+        "vormant-sheet 1\nsize 2 6\ncells\nA1 \"Input\nB1 \"gen_X\nA2 \"Double Width\n"
+        "A3 \"Output\nA4 \"String Note\nA5 \"Calc\nA6 \"Note=B1&Width\nend 7\n");
+    const std::vector<LiteralVariable> given{
+        {"Width", TwCellType::input, TwValueType::Double, "12.5"},
+        {"Note", TwCellType::output, TwValueType::String, ""}};
+    CompareRuns runs(path, given, {{"gen_X"}, {"changed"}}, {" 12.5", "#N/A"});
+    EXPECT_EQ(runs.difference(), "");
+    EXPECT_TRUE(runs.wentWell());
 }
 
 // Texts stay in the cells of their variables for a while: whatever looks at a variable meanwhile

@@ -2,6 +2,9 @@
 // literal reading of the same run.
 #pragma once
 
+#include <functional>
+#include <utility>
+
 #include "mapping/start_dlg_standards_ss.h"
 #include "platform/window/message_box.h"
 #include "standards/run_chain.h"
@@ -34,9 +37,10 @@ struct RunResult {
 
 class CompareRuns : private RunObserver {
   public:
+    /// `others` are other values for the same variables, by position.
     CompareRuns(const Vor_String& path, const std::vector<LiteralVariable>& given,
-                const GenValues& gen)
-        : m_path(path), m_given(given), m_gen(gen) {}
+                const GenValues& gen, const std::vector<Vor_String>& others = {})
+        : m_path(path), m_given(given), m_gen(gen), m_others(others) {}
 
     /// How the engine differs from the literal reading, or the empty text.
     std::string difference() {
@@ -52,13 +56,35 @@ class CompareRuns : private RunObserver {
         for (const auto& [way, result] : others)
             if (const std::string text = result.difference(literal); !text.empty())
                 return std::string(way) + " differs from the literal reading in " + text;
-        return {};
+        return m_others.empty() ? std::string() : differenceOfTurns();
     }
 
     /// The literal run came to its end.
     bool wentWell() const { return m_wentWell; }
 
   private:
+    /// Hidden runs find the sheet as the one before left it: what that gave must not show.
+    std::string differenceOfTurns() {
+        const std::vector<LiteralVariable> first = m_given;
+        const GenValues gen = std::exchange(m_gen, {});
+        const auto takeOthers = [&] {
+            for (size_t i = 0; i < m_given.size() && i < m_others.size(); ++i)
+                m_given[i].value = m_others[i];
+        };
+        const std::function<void()> turns[] = {[] {}, takeOthers, [] {}, [&] { m_given = first; },
+                                               [&] { m_gen = gen; }};
+        int number = 0;
+        for (const auto& change : turns) {
+            change();
+            ++number;
+            const RunResult literal = runLiteral();
+            if (const std::string text = runHidden(false).difference(literal); !text.empty())
+                return "turn " + std::to_string(number) + " differs from the literal reading in " +
+                       text;
+        }
+        return {};
+    }
+
     static std::string line(const Vor_String& name, const Vor_String& value) {
         return name.str() + " = " + value.str() + "\n";
     }
@@ -158,8 +184,9 @@ class CompareRuns : private RunObserver {
     }
 
     const Vor_String m_path;
-    const std::vector<LiteralVariable>& m_given;
-    const GenValues& m_gen;
+    std::vector<LiteralVariable> m_given;
+    GenValues m_gen;
+    const std::vector<Vor_String> m_others;
     bool m_wentWell = false;
     bool m_wantsEvery = false;
     std::string m_variables;

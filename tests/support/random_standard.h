@@ -21,6 +21,19 @@ class RandomStandard {
     const std::string& document() const { return m_document; }
     /// Values for what is declared; at times too few, too many or of the wrong kind.
     const std::vector<LiteralVariable>& given() const { return m_given; }
+    /// Values for the same variables as they may be given another time.
+    std::vector<Vor_String> others() {
+        std::vector<Vor_String> texts;
+        for (const LiteralVariable& variable : m_given) {
+            const std::string& before = variable.value.str();
+            const unsigned kind = m_choose(6);
+            texts.push_back(kind < 2    ? before
+                            : kind == 2 ? " " + before + " "
+                            : kind == 3 ? before + "0"
+                                        : value(oneIn(8) ? "String " : "Double "));
+        }
+        return texts;
+    }
     GenValues gen() {
         if (oneIn(3)) return {{"gen_X", "gen_Y", "Gap"}, {pick(values), pick(values), "12"}};
         return {};
@@ -167,7 +180,7 @@ class RandomStandard {
 
     void declareSection(const char* marker, TwCellType kind) {
         put({++m_lastRow, 1}, marker);
-        if (oneIn(6)) put({m_lastRow, 2}, "label");
+        if (oneIn(4)) put({m_lastRow, 2}, oneIn(2) ? "label" : "gen_X");
         static constexpr const char* types[] = {"Int ", "Double ", "String ", "Double "};
         for (unsigned i = 0, count = m_choose(m_isOrderly ? 6 : 4); i < count; ++i) {
             ++m_lastRow;

@@ -73,6 +73,9 @@ std::shared_ptr<Document> readDocument(std::string_view text, std::string_view n
 /// (size and modification time) comes from a bounded store of this process. Null with `error`.
 std::shared_ptr<const Document> loadDocument(std::string_view path, std::string& error);
 
+/// As loadDocument for one that the store holds unchanged; null for all others.
+std::shared_ptr<const Document> knownDocument(std::string_view path);
+
 /// Loads it into `grid`. False with `error`, and the grid as it was.
 bool loadInto(Grid& grid, std::string_view path, std::string& error);
 

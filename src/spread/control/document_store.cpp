@@ -94,6 +94,10 @@ std::shared_ptr<const Document> kept(std::string_view path, ReadFile reading) {
 
 }  // namespace
 
+std::shared_ptr<const Document> knownDocument(std::string_view path) {
+    return store().find(path);
+}
+
 std::shared_ptr<const Document> loadDocument(std::string_view path, std::string& error) {
     error.clear();
     if (auto known = store().find(path)) return known;

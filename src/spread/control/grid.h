@@ -311,6 +311,11 @@ class Grid {
     const std::shared_ptr<const Document>& document() const { return m_document; }
     /// No cell was changed since document() was restored.
     bool isAsLoaded() const { return m_isAsLoaded; }
+    /// How many cells were, some counted more than once; nothing when nobody has kept count, so
+    /// that a restore starts from a copy of the whole document.
+    std::optional<size_t> changedCells() const {
+        return m_canUndo ? std::optional(m_touched.size()) : std::nullopt;
+    }
     /// No cell in `firstRow` or below was. False also when nobody has kept count.
     bool isAsLoadedFrom(int firstRow) const;
 
