@@ -116,6 +116,18 @@ TEST_F(SheetTest, WithoutAutomaticNothingIsBuiltOnOldResults) {
     EXPECT_EQ(shown(2, 1), "10");
 }
 
+TEST_F(SheetTest, AFormulaThatComesWithItsResultIsAsOldAsWhatItReads) {
+    for (const char* text : {"B1+1", "SUM(B1:B1)", "SUM(B:B)"}) {
+        sheet.clear();
+        formula(2, 1, "A1*2");
+        number(1, 1, 5);
+        sheet.propagate();  // B1 is dirty from now on
+        sheet.putFormula(3, 1, text, Value(9.0), false);
+        number(1, 1, 7);
+        sheet.recalculateDirty();
+        EXPECT_EQ(shown(3, 1), text[0] == 'B' ? "15" : "14") << text;
+    }
+}
 TEST_F(SheetTest, CirclesAreFoundAndMended) {
     formula(1, 1, "B1+1");
     formula(2, 1, "C1+1");

@@ -20,7 +20,8 @@ unsigned fromEnvironment(const char* name, unsigned otherwise) {
 std::vector<unsigned> seeds() {
     std::vector<unsigned> seeds(fromEnvironment("VORMANT_TWIN_RUNS", 300));
     std::iota(seeds.begin(), seeds.end(), fromEnvironment("VORMANT_TWIN_FIRST", 1));
-    if (!std::getenv("VORMANT_TWIN_RUNS")) seeds.insert(seeds.end(), {586, 797, 1204, 1360, 1378});
+    if (!std::getenv("VORMANT_TWIN_RUNS"))
+        seeds.insert(seeds.end(), {586, 797, 1204, 1360, 1378, 9028, 10035, 14333});
     return seeds;
 }
 

@@ -4,9 +4,6 @@
 
 namespace control {
 
-using formula::Instruction;
-using formula::Op;
-
 size_t Dependents::AreaHash::operator()(const Area& a) const {
     const auto rows = static_cast<size_t>(a.row1) << 32 ^ static_cast<size_t>(a.row2);
     return rows * 0x9E3779B97F4A7C15ULL ^ (static_cast<size_t>(a.col1) << 16 ^ a.col2);
@@ -47,17 +44,12 @@ void Dependents::addArea(uint32_t formula, const Area& area) {
 }
 
 void Dependents::add(uint32_t formula, int col, int row, const formula::Program& program) {
-    const auto code = program.code();
-    for (size_t i = 0; i < code.size(); ++i) {
-        const Instruction& instruction = code[i];
-        if (instruction.op == Op::cell || instruction.op == Op::reference) {
-            if (const auto place = formula::cellOf(instruction, col, row))
-                addCell(formula, place->col, place->row);
-        } else if (instruction.op == Op::area) {
-            const auto corners = formula::cornersOf(instruction, code[i + 1], col, row);
-            if (corners.areInside()) addArea(formula, corners.area());
-        }
-    }
+    formula::eachAreaRead(program, col, row, [&](const Area& area) {
+        if (area.isOneCell())
+            addCell(formula, area.col1, area.row1);
+        else
+            addArea(formula, area);
+    });
 }
 
 void Dependents::clear() {

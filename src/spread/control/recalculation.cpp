@@ -1,6 +1,7 @@
 // Which formulas are out of date, and in which order they are calculated.
 #include <algorithm>
 
+#include "spread/control/formula/places.h"
 #include "spread/control/sheet.h"
 #include "spread/control/stop_calculation.h"
 
@@ -93,6 +94,22 @@ bool Sheet::recalculateCell(int col, int row) {
     m_cells.setDirty(col, row, *cell, true);
     calculateChanged(cell->formula);
     return true;
+}
+
+// Whether what a formula names is out of date. What reads a dirty formula is dirty itself:
+// propagate() goes no further where it meets one.
+bool Sheet::readsDirty(const FormulaSlot& slot) const {
+    if (m_dirtied.empty()) return false;
+    bool found = false;
+    const auto isDirty = [](const Cell& cell) { return cell.dirty; };
+    formula::eachAreaRead(*slot.program, slot.col, slot.row, [&](const Area& area) {
+        if (!found)
+            m_cells.eachRun(area, [&](const CellStore::Run& run) {
+                found = found ||
+                        (run.block->dirtyCount != 0 && std::any_of(run.first, run.end, isDirty));
+            });
+    });
+    return found;
 }
 
 void Sheet::bringUpToDate(int col, int row) {

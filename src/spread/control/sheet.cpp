@@ -204,7 +204,7 @@ void Sheet::putFormula(int col, int row, std::string_view text, const Value& sho
                        bool isOutOfDate) {
     loadFormula(col, row, text, shown, isArray);
     Cell& cell = *m_cells.find(col, row);
-    if (isOutOfDate && !cell.dirty) {
+    if (!cell.dirty && (isOutOfDate || readsDirty(m_slots[cell.formula]))) {
         m_cells.setDirty(col, row, cell, true);
         m_dirtied.push_back(cell.formula);
     }

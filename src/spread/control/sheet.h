@@ -187,6 +187,7 @@ class Sheet : public formula::FormulaTexts {
     void touchVolatile();
     void linkNew();
     void relinkAll();
+    bool readsDirty(const FormulaSlot& slot) const;
     bool tryCalculate(uint32_t id);
     void storeResult(Cell& cell, const Value& result);
     void countResultText();

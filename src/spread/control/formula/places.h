@@ -48,4 +48,22 @@ inline Corners cornersOf(const Instruction& first, const Instruction& second, in
             isWholeRow ? 1 : colOf(first, hostCol), isWholeRow ? maxCols : colOf(second, hostCol)};
 }
 
+/// Calls visit(area) for every cell and area that `program` reads by its references, as they are
+/// seen from its cell; a cell is an area of one. Those outside the sheet are left out.
+template <class Visit>
+void eachAreaRead(const Program& program, int hostCol, int hostRow, Visit&& visit) {
+    const auto code = program.code();
+    for (size_t i = 0; i < code.size(); ++i) {
+        if (code[i].op == Op::cell || code[i].op == Op::reference) {
+            const auto cell = cellOf(code[i], hostCol, hostRow);
+            if (!cell) continue;
+            const auto col = static_cast<uint16_t>(cell->col);
+            visit(Area{cell->row, cell->row, col, col});
+        } else if (code[i].op == Op::area) {
+            const Corners corners = cornersOf(code[i], code[i + 1], hostCol, hostRow);
+            if (corners.areInside()) visit(corners.area());
+        }
+    }
+}
+
 }  // namespace formula
