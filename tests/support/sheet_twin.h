@@ -239,7 +239,7 @@ class Twins {
     /// One edit of both. What differs afterwards, with all edits before it; nothing when they
     /// agree.
     std::optional<std::string> step() {
-        m_log += m_asUser ? editAsUser() : editGrid();
+        m_log += edit();
         m_log += '\n';
         m_twin.resize(m_grid.cols(), m_grid.rows());
         if (!m_editor.canRedo()) m_undone.reset();
@@ -265,14 +265,13 @@ class Twins {
         return {c1, r1, c2, r2};
     }
     bool isR1C1() const { return m_grid.referenceStyle() == 2; }
-    std::string uiText(std::string_view edit, std::initializer_list<int> numbers,
-                       bool isDone) const {
+    std::string said(std::string_view edit, std::initializer_list<int> numbers, bool isDone) const {
         std::string text(edit);
         for (const int number : numbers) text += " " + std::to_string(number);
         return isDone ? text : text + " (refused)";
     }
-    std::string uiText(std::string_view edit, const Block& b, int c, int r, bool isDone) const {
-        return uiText(edit, {b.col1, b.row1, b.col2, b.row2, c, r}, isDone);
+    std::string said(std::string_view edit, const Block& b, int c, int r, bool isDone) const {
+        return said(edit, {b.col1, b.row1, b.col2, b.row2, c, r}, isDone);
     }
 
     End end(int at) { return {at, chance(3)}; }
@@ -360,7 +359,7 @@ class Twins {
         }
         if (isDone && !made.isArray) m_calculated.insert({c, r});
         if (isDone) m_twin.set(c, r, std::move(made));
-        return uiText("formula", {c, r}, isDone) + " =" + text;
+        return said("formula", {c, r}, isDone) + " =" + text;
     }
     std::string setPlain(int c, int r) {
         const Plain value = plain();
@@ -373,7 +372,7 @@ class Twins {
             m_grid.writeValue(c, r, valueOf(value));
         }
         m_twin.set(c, r, value);
-        return uiText("value", {c, r}, true) + " " + shown(value);
+        return said("value", {c, r}, true) + " " + shown(value);
     }
 
     // Rows or columns that come, go or move.
@@ -425,30 +424,30 @@ class Twins {
             m_twin.arrange(isRows, lines, isMoved);
         }
         const char* names[] = {"insert", "delete", "move"};
-        return uiText(std::string(names[kind]) + (isRows ? " rows" : " cols"), {at, count, to},
-                      isDone);
+        return said(std::string(names[kind]) + (isRows ? " rows" : " cols"), {at, count, to},
+                    isDone);
     }
 
-    std::string editGrid() {
-        const int c = col(), r = row();
-        switch (const int kind = m_pick(24)) {
-            case 0:
-            case 1:
-            case 2:
-                return setPlain(c, r);
-            case 3:
-            case 4:
-            case 5:
-            case 6:
-                return setFormula(c, r, formula());
-            case 7:
-            case 8:
-            case 9:
-                return changeLines(true, kind - 7);
-            case 10:
-            case 11:
-            case 12:
-                return changeLines(false, kind - 10);
+    std::string edit() {
+        const int c = col(), r = row(), kind = m_pick(24);
+        if (kind < 3) return setPlain(c, r);
+        if (kind < 7) return setFormula(c, r, formula());
+        if (kind < 13) return changeLines(kind < 10, (kind - 7) % 3);
+        if (kind == 16) return clear(block());
+        return m_asUser ? editAsUser(kind, c, r) : editGrid(kind, c, r);
+    }
+
+    std::string clear(const Block& cleared) {
+        if (m_asUser)
+            m_editor.clearContents(cleared);
+        else
+            m_grid.clearCells(cleared);
+        m_twin.put({}, cleared, cleared.col1, cleared.row1, false);
+        return said("clear", cleared, 0, 0, true);
+    }
+
+    std::string editGrid(int kind, int c, int r) {
+        switch (kind) {
             case 13:
             case 14: {
                 const bool isRows = kind == 13;
@@ -457,7 +456,7 @@ class Twins {
                 const bool isDone = isRows ? m_grid.swapRows(first, other, count)
                                            : m_grid.swapCols(first, other, count);
                 if (isDone) m_twin.exchange(isRows, first, other, count);
-                return uiText(isRows ? "swap rows" : "swap cols", {first, other, count}, isDone);
+                return said(isRows ? "swap rows" : "swap cols", {first, other, count}, isDone);
             }
             case 15: {
                 Block from = block();
@@ -465,29 +464,23 @@ class Twins {
                 from.col2 = std::min(from.col2, m_twin.cols - c + from.col1);
                 from.row2 = std::min(from.row2, m_twin.rows - r + from.row1);
                 m_twin.put(Sheet(m_twin), from, c, r, true);
-                return uiText("copy", from, c, r, true);
-            }
-            case 16: {
-                const Block cleared = block();
-                m_grid.clearCells(cleared);
-                m_twin.put({}, cleared, cleared.col1, cleared.row1, false);
-                return uiText("clear", cleared, 0, 0, true);
+                return said("copy", from, c, r, true);
             }
             case 17: {
                 m_twin.resize(3 + m_pick(6), m_twin.rows);
                 m_grid.setCols(m_twin.cols);
-                return uiText("cols", {m_twin.cols}, true);
+                return said("cols", {m_twin.cols}, true);
             }
             case 18: {
                 m_twin.resize(m_twin.cols, 4 + m_pick(10));
                 m_grid.setRows(m_twin.rows);
-                return uiText("rows", {m_twin.rows}, true);
+                return said("rows", {m_twin.rows}, true);
             }
             case 19: {
                 if (!std::holds_alternative<Formula>(m_twin.at(c, r))) return "nothing";
                 m_grid.setFormula(c, r, "");
                 m_twin.set(c, r, plainOf(m_grid.sheet().value(c, r)));
-                return uiText("keep value", {c, r}, true);
+                return said("keep value", {c, r}, true);
             }
             default:
                 return changeSettings(c, r);
@@ -499,47 +492,29 @@ class Twins {
         switch (m_pick(4)) {
             case 0:
                 m_grid.setReferenceStyle(isR1C1() ? 0 : 2);
-                return uiText("style", {m_grid.referenceStyle()}, true);
+                return said("style", {m_grid.referenceStyle()}, true);
             case 1:
                 m_grid.setOption(automatic, !m_grid.option(automatic));
-                return uiText("automatic", {m_grid.option(automatic)}, true);
+                return said("automatic", {m_grid.option(automatic)}, true);
             case 2:
                 m_grid.recalculate();
                 return "recalculate";
             default:
                 m_calculated.insert({c, r});
                 m_grid.recalculateCell(c, r);
-                return uiText("recalculate", {c, r}, true);
+                return said("recalculate", {c, r}, true);
         }
     }
 
-    std::string editAsUser() {
-        const int c = col(), r = row();
-        switch (const int kind = m_pick(24)) {
-            case 0:
-            case 1:
-            case 2:
-                return setPlain(c, r);
-            case 3:
-            case 4:
-            case 5:
-            case 6:
-                return setFormula(c, r, formula());
-            case 7:
-            case 8:
-            case 9:
-                return changeLines(true, kind - 7);
-            case 10:
-            case 11:
-            case 12:
-                return changeLines(false, kind - 10);
+    std::string editAsUser(int kind, int c, int r) {
+        switch (kind) {
             case 13:
                 return sort(block(), chance(2));
             case 14: {
                 const Block from = block();
                 const bool isDone = m_editor.moveBlock(from, c, r);
                 if (isDone) moveBlock(from, c, r);
-                return uiText("move", from, c, r, isDone);
+                return said("move", from, c, r, isDone);
             }
             case 15: {
                 const Block from = block();
@@ -547,13 +522,7 @@ class Twins {
                 m_twin.cols = m_grid.cols(), m_twin.rows = m_grid.rows();
                 if (isDone) m_twin.put(Sheet(m_twin), from, c, r, true);
                 if (isDone) noteCalculated(from, c, r);
-                return uiText("copy", from, c, r, isDone);
-            }
-            case 16: {
-                const Block cleared = block();
-                m_editor.clearContents(cleared);
-                m_twin.put({}, cleared, cleared.col1, cleared.row1, false);
-                return uiText("clear", cleared, 0, 0, true);
+                return said("copy", from, c, r, isDone);
             }
             case 17: {
                 const Block filled = block();
@@ -564,7 +533,7 @@ class Twins {
                                filled.col1, to, true);
                 noteCalculated({filled.col1, filled.row1 + 1, filled.col2, filled.row2},
                                filled.col1, filled.row1 + 1);
-                return uiText("fill", filled, 0, 0, true);
+                return said("fill", filled, 0, 0, true);
             }
             case 18:
                 m_editor.clearHistory();
@@ -634,7 +603,7 @@ class Twins {
             m_twin.put(old, line, b.col1, to, true);
             noteCalculated(line, b.col1, to);
         }
-        return uiText(ascending ? "sort" : "sort down", b, 0, 0, isDone);
+        return said(ascending ? "sort" : "sort down", b, 0, 0, isDone);
     }
 
     std::optional<std::string> difference() {
