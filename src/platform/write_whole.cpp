@@ -37,35 +37,11 @@ std::optional<unsigned> permissionsOf(const std::string& machine) {
     return status.st_mode & 07777u;
 }
 
-/// Puts a written file in the place of its target, or refuses.
-int putInPlace(const std::string& temporary, const std::string& target) {
-    int error = 0;
-    // Who changes a file in steps holds its folder. Others are waited for, but not for ever: what
-    // this writes does not depend on what is there.
-    const auto lock = FolderLock::take(folderOf(target), std::chrono::seconds(5), error);
-    if (changedMeanwhile(target)) return fileHasChanged;
-    if (!isBegunAsNew(target)) return steps().rename(temporary, target);
-    error = steps().renameNew(temporary, target);
-    return error == EEXIST ? fileHasChanged : error;
-}
-
 int replace(const std::string& target, std::string_view content) {
-    removeLeftovers(folderOf(target));
     std::string temporary;
-    int descriptor = -1;
-    int error = EEXIST;
-    for (int tries = 0; error == EEXIST && tries < 100; ++tries) {
-        temporary = folderOf(target) + temporaryName();
-        error = steps().open(temporary, permissionsOf(target), descriptor);
-    }
+    int error = writeBeside(target, content, temporary);
     if (error != 0) return error;
-    markInUse(descriptor);
-    error = writeBytes(descriptor, content);
-    if (error == 0) error = steps().flush(descriptor);
-    // Some disks report a failed write only here; the descriptor is gone either way.
-    const int closeError = steps().close(descriptor);
-    if (error == 0) error = closeError;
-    if (error == 0) error = putInPlace(temporary, target);
+    error = renameIntoPlace(temporary, target, Replacing::theOld);
     if (error != 0) ::unlink(temporary.c_str());
     return error;
 }
@@ -94,6 +70,42 @@ int writeBytes(int descriptor, std::string_view content) {
         content.remove_prefix(written);
     }
     return 0;
+}
+
+int writeBeside(const std::string& target, std::string_view content, std::string& temporary) {
+    removeLeftovers(folderOf(target));
+    std::string name;
+    int descriptor = -1;
+    int error = EEXIST;
+    for (int tries = 0; error == EEXIST && tries < 100; ++tries) {
+        name = folderOf(target) + temporaryName();
+        error = steps().open(name, permissionsOf(target), descriptor);
+    }
+    if (error != 0) return error;
+    markInUse(descriptor);
+    error = writeBytes(descriptor, content);
+    if (error == 0) error = steps().flush(descriptor);
+    // Some disks report a failed write only here; the descriptor is gone either way.
+    const int closeError = steps().close(descriptor);
+    if (error == 0) error = closeError;
+    if (error != 0) {
+        ::unlink(name.c_str());
+        return error;
+    }
+    temporary.swap(name);
+    return 0;
+}
+
+int renameIntoPlace(const std::string& temporary, const std::string& target, Replacing replacing) {
+    int error = 0;
+    // Who changes a file in steps holds its folder. Others are waited for, but not for ever: what
+    // this writes does not depend on what is there.
+    const auto lock = FolderLock::take(folderOf(target), std::chrono::seconds(5), error);
+    if (changedMeanwhile(target)) return fileHasChanged;
+    if (replacing == Replacing::theOld && !isBegunAsNew(target))
+        return steps().rename(temporary, target);
+    error = steps().renameNew(temporary, target);
+    return error == EEXIST ? fileHasChanged : error;
 }
 
 int WriteSteps::open(const std::string& path, std::optional<unsigned> permissions,
