@@ -70,7 +70,7 @@ std::optional<BillFormat> billFormat(const Vor_String& file) {
 BillSheet::BillSheet(const BillTarget& target)
     : m_target(target), m_format(billFormat(target.file).value_or(BillFormat::document)) {
     m_output.leaveFailuresToCaller(isPrinted() ? HeaderFiles::allOrNothing
-                                               : HeaderFiles::sheetsOnly);
+                                               : HeaderFiles::whereUsable);
 }
 
 /// What is no document itself is made of one, which has its name and so its title.

@@ -14,6 +14,7 @@
 #include <utility>
 
 #include "core_api/program_data.h"
+#include "core_api/settings.h"
 #include "core_api/texts/language_codes.h"
 #include "platform/out_of_memory.h"
 #include "platform/paths.h"
@@ -89,6 +90,10 @@ int printDocument(int argc, char** argv) {
     qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
     QApplication application(argc, argv);
     QtWindowSystem windows;
+    const WorkbenchSettings settings = WorkbenchSettings::load();
+    settings.applyNameRule();
+    if (const auto library = paths::toInside(settings.library); library && !library->empty())
+        gSettings.setLibDir(*library);
     const auto path = paths::toInside(argv[2]);
     SheetFile file;
     std::string failure = "the name of the document cannot be used";

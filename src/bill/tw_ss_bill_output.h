@@ -94,7 +94,7 @@ class VORMANT_API TwSSBillOutput : public Vor_ListOutputCallback {
     std::vector<Vor_String> m_refused;  ///< the first texts that a column of numbers did not take
     int m_refusedCount = 0;
     bool m_printsFailures = true;
-    HeaderFiles m_headers = HeaderFiles::asNamed;
+    HeaderFiles m_headers = HeaderFiles::whereUsable;
     Vor_String m_shownTitle;
     Vor_String m_shownFile;
 };

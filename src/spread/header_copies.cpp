@@ -1,6 +1,7 @@
 #include "spread/header_copies.h"
 
 #include <optional>
+#include <utility>
 
 #include "core_api/library_names.h"
 #include "core_api/text/text_helpers.h"
@@ -32,7 +33,7 @@ bool HeaderCopies::add(Vor_String& reference) {
     }
     const std::string_view home = m_folder.isEmpty() ? "." : m_folder.view();
     const auto refusal =
-        m_which == HeaderFiles::sheetsOnly ? outsideRefusal(reference, home) : std::nullopt;
+        m_which == HeaderFiles::whereUsable ? outsideRefusal(reference, home) : std::nullopt;
     if (refusal) {
         m_problem = refusal->str();
         return false;
@@ -53,7 +54,7 @@ bool HeaderCopies::add(Vor_String& reference) {
         if (!read(*picture, isBitmap)) return false;
     }
     if (!choosePlaces(header, picture ? &*picture : nullptr)) return false;
-    if ((picture && !write(*picture)) || !write(header)) return false;
+    if ((picture && !stage(*picture)) || !stage(header)) return false;
     reference = header.to;
     return true;
 }
@@ -62,7 +63,10 @@ bool HeaderCopies::read(Copy& copy, bool (*isUsable)(const Copy&, std::string& p
     auto content = files::readWhole(copy.from, m_problem);
     if (!content) return false;
     copy.content = std::move(*content);
-    return m_which == HeaderFiles::asNamed || isUsable(copy, m_problem);
+    // Hosts answer for what is in the files that they name.
+    const bool isHosts =
+        m_which == HeaderFiles::whereUsable && libraryNameRule().outside == OutsideNames::asHost;
+    return isHosts || isUsable(copy, m_problem);
 }
 
 /// Both under the same name, as one shows the other.
@@ -78,22 +82,35 @@ bool HeaderCopies::choosePlaces(Copy& header, Copy* picture) {
     return false;
 }
 
-/// Nothing is there, or the same already.
+/// Nothing is there or will be, or the same already.
 bool HeaderCopies::isFree(const Copy& copy) const {
-    if (copy.from.equal(copy.to, true) || !files::exists(copy.to)) return true;
+    if (copy.from.equal(copy.to, true)) return true;
+    if (copy.to.equal(m_sheet, true)) return false;
+    if (const Copy* staged = stagedAs(copy.to)) return staged->content == copy.content;
+    if (!files::exists(copy.to)) return true;
     std::string ignored;
     return files::readWhole(copy.to, ignored) == copy.content;
 }
 
-bool HeaderCopies::write(const Copy& copy) {
-    if (files::exists(copy.to)) return true;
-    if (!files::writeWhole(copy.to, copy.content, m_problem)) return false;
-    m_written.push_back(copy.to);
-    return true;
+const HeaderCopies::Copy* HeaderCopies::stagedAs(const Vor_String& path) const {
+    for (const auto& [copy, file] : m_staged)
+        if (copy.to.equal(path, true)) return &copy;
+    return nullptr;
 }
 
-void HeaderCopies::undo() {
-    std::string ignored;
-    for (const Vor_String& file : m_written) files::removeFile(file, ignored);
-    m_written.clear();
+bool HeaderCopies::stage(const Copy& copy) {
+    if (files::exists(copy.to) || stagedAs(copy.to)) return true;
+    auto file = files::StagedFile::write(copy.to, copy.content, m_problem);
+    if (file) m_staged.emplace_back(copy, std::move(*file));
+    return file.has_value();
+}
+
+bool HeaderCopies::putInPlace() {
+    for (size_t i = 0; i < m_staged.size(); ++i) {
+        if (m_staged[i].second.putInPlace(m_problem)) continue;
+        std::string ignored;
+        while (i-- > 0) files::removeFile(m_staged[i].first.to, ignored);
+        return false;
+    }
+    return true;
 }

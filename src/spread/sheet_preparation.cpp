@@ -3,6 +3,7 @@
 #include "core_api/text/text_helpers.h"
 #include "platform/files.h"
 #include "platform/host/host.h"
+#include "platform/kept_file.h"
 #include "spread/tw_sheet_editor_dlg.h"
 #include "spread/tw_sheet_settings.h"
 #include "spread/vor_spread.h"
@@ -79,38 +80,49 @@ bool setVariables(Vor_Spread& sheet, const Vor_StringArray& names, const Vor_Str
 
 bool saveSheet(Vor_Spread& sheet, const Vor_String& path) {
     std::string inLastError;
-    return saveSheet(sheet, path, HeaderFiles::asNamed, inLastError);
+    return saveSheet(sheet, path, HeaderFiles::whereUsable, inLastError);
 }
 
 bool saveSheet(Vor_Spread& sheet, const Vor_String& path, HeaderFiles headers, std::string& error) {
     TwSheetSettings settings;
     settings.readFromSheet(sheet);
-    const Vor_String before = settings.headerFile + settings.footerFile;
+    const TwSheetSettings before = settings;
     const Vor_String folder = getPath(path);
-    HeaderCopies copies(folder, headers);
+    HeaderCopies copies(path, headers);
     // Without its folder the sheet cannot be saved either, and that is what the user asked for.
     const bool hasFolder = folder.isEmpty() || files::isFolder(folder);
-    if (!hasFolder && headers == HeaderFiles::allOrNothing) {
+    const bool isAllNeeded = headers == HeaderFiles::allOrNothing;
+    if (!hasFolder && isAllNeeded) {
         error = "cannot write " + path.str() + ": its folder is not there; check its name";
         return false;
     }
     for (Vor_String* reference : {&settings.headerFile, &settings.footerFile}) {
         if (!hasFolder || copies.add(*reference) || copies.problem().empty()) continue;
-        if (headers == HeaderFiles::allOrNothing) {
+        if (isAllNeeded) {
             error = copies.problem();
-            copies.undo();
             return false;
         }
         acutPrint(copies.problem() + "\n");
     }
-    // Behind its copies, so that a sheet that was saved has them.
+    const auto old =
+        isAllNeeded && !copies.isEmpty() ? files::KeptFile::keep(path, error) : nullptr;
+    if (isAllNeeded && !copies.isEmpty() && !old) return false;
     if (!sheet.saveToFile(path)) {
         error = sheet.lastError();
-        copies.undo();
         return false;
     }
+    if (!copies.putInPlace()) {
+        if (isAllNeeded) {
+            error = copies.problem();
+            std::string why;
+            if (!old->putBack(why)) error += "; " + why;
+            return false;
+        }
+        acutPrint(copies.problem() + "\n");
+        settings = before;
+    }
     // The saved file keeps the references it had: other copies of the sheet still need them.
-    if (settings.headerFile + settings.footerFile != before) settings.writeToSheet(sheet);
+    if (settings != before) settings.writeToSheet(sheet);
     sheet.setBool(sheetChanged, false);
     return true;
 }

@@ -135,11 +135,15 @@ bool Vor_Spread::setNrCols(int count, bool copyFormat) {
 }
 
 bool Vor_Spread::loadFromFile(const Vor_String& path) {
-    return isAttached() && SSLoadFromFile(handle(), path.c_str()) == 1;
+    if (!isAttached() || SSLoadFromFile(handle(), path.c_str()) != 1) return false;
+    m_file = path;
+    return true;
 }
 
 bool Vor_Spread::saveToFile(const Vor_String& path) {
-    return isAttached() && SSSaveToFile(handle(), path.c_str(), false) != 0;
+    if (!isAttached() || SSSaveToFile(handle(), path.c_str(), false) == 0) return false;
+    m_file = path;
+    return true;
 }
 
 bool Vor_Spread::setFormula(int col, int row, const Vor_String& text) {

@@ -191,6 +191,8 @@ class VORMANT_API Vor_Spread : public TSpread {
     // --- files and formulas -----------------------------------------------------------------
     bool loadFromFile(const Vor_String& path);
     bool saveToFile(const Vor_String& path);
+    /// The file that was loaded or saved last; empty before.
+    const Vor_String& file() const { return m_file; }
     /// Why the last load or save failed: "file:line: what: what to do".
     const std::string& lastError() const { return grid().lastError(); }
     /// The document that was loaded last, unchanged and shared; null when it was too large to
@@ -218,6 +220,7 @@ class VORMANT_API Vor_Spread : public TSpread {
     bool checkSelection(bool checked);
     void applyLink(int row);
 
+    Vor_String m_file;
     Vor_String m_fontName = "Tahoma";
     int m_fontHeight = 15;
     int m_autoSizeMode = 0;

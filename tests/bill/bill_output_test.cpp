@@ -371,7 +371,7 @@ TEST_F(BillOutput, ProgramsAreToldOfPicturesThatWereLost) {
     AcTransaction transaction;
     for (const bool byProgram : {false, true}) {
         TwSSBillOutput own;
-        if (byProgram) own.leaveFailuresToCaller(HeaderFiles::asNamed);
+        if (byProgram) own.leaveFailuresToCaller(HeaderFiles::whereUsable);
         const Vor_String file = folder.inside(byProgram ? "b.sss" : "a.sss");
         own.init(file, bill.columnNames(), {}, {}, {}, {}, {});
         own.setVars(-1, 90, 0, true, true, &bill, &transaction);

@@ -3,6 +3,7 @@
 
 #include <cmath>
 
+#include "core_api/library_names.h"
 #include "spread/control/document.h"
 #include "spread/printing/print_job.h"
 #include "support/temporary_folder.h"
@@ -250,6 +251,14 @@ TEST(PrintJob, HeadersAndFootersShowVariables) {
     EXPECT_EQ(printed.header.back().picture, folder.inside("logo.bmp"));
     EXPECT_NEAR(job.layout().body.top, 5 + 40 * printing::millimetresPerPixel, 1e-9);
     EXPECT_TRUE(printed.footer.empty());
+    // A program prints what lies in the library or beside the sheet, as it is a name in a file.
+    setLibraryNameRule({OutsideNames::refused, "allow it"});
+    const PrintJob elsewhere(grid, settings, {}), beside(grid, settings, {}, folder.inside(""));
+    setLibraryNameRule({});
+    EXPECT_TRUE(elsewhere.page(1).header.empty());
+    EXPECT_NE(elsewhere.problems()[0].find("head.sss\" lies outside of the library"),
+              std::string::npos);
+    EXPECT_FALSE(beside.page(1).header.empty());
 }
 
 }  // namespace

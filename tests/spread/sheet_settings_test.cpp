@@ -4,7 +4,12 @@
 #include <gtest/gtest.h>
 #include <stdlib.h>
 
+#include <cerrno>
+#include <filesystem>
+
+#include "core_api/library_names.h"
 #include "core_api/settings.h"
+#include "platform/files.h"
 #include "platform/registry/registry.h"
 #include "spread/sheet_preparation.h"
 #include "spread/vor_spread.h"
@@ -291,44 +296,88 @@ TEST_F(SheetSettings, CopiesOfHeadersReplaceNothing) {
     const std::string document = "vormant-sheet 1\nsize 1 1\ncells\nend 0\n";
     folder.write("forms/head.sss", document);
     folder.write("bills/head.sss", "the user's own");
-    const auto all = HeaderFiles::allOrNothing;
+    const auto all = HeaderFiles::allOrNothing, named = HeaderFiles::whereUsable;
     EXPECT_EQ(save("forms\\head.sss", all), "saved head 2.sss");
     EXPECT_EQ(save("forms\\head.sss", all), "saved head 2.sss") << "the same serves again";
     EXPECT_EQ(folder.read("bills/head.sss"), "the user's own");
     EXPECT_EQ(folder.read("bills/head 2.sss"), document);
     folder.write("forms/head.sss", document + "\n");
-    EXPECT_EQ(save("forms\\head.sss", HeaderFiles::asNamed), "saved head 3.sss") << "renewed";
+    EXPECT_EQ(save("forms\\head.sss", named), "saved head 3.sss") << "renewed";
     // A picture keeps the name of its sheet.
     folder.write("forms/head.sss", document);
     folder.write("forms/head.bmp", "no picture");
     folder.write("bills/head 2.bmp", "another");
-    EXPECT_EQ(save("forms\\head.sss", HeaderFiles::asNamed), "saved head 4.sss");
+    EXPECT_EQ(save("forms\\head.sss", named), "saved head 4.sss");
     EXPECT_EQ(folder.read("bills/head 4.bmp"), "no picture");
-    // What is no sheet and no bitmap is nobody's header.
+    // In programs what is no sheet and no bitmap is nobody's header, nor what lies elsewhere.
+    setLibraryNameRule({OutsideNames::refused, "allow it"});
+    folder.write("other/head.sss", document);
+    EXPECT_EQ(save("other\\head.sss", named), "saved head.sss") << "as it was";
+    EXPECT_FALSE(std::filesystem::exists(folder.path() / "bills/head 5.sss"));
+    const Vor_String library = gSettings.libDir();
+    gSettings.setLibDir(folder.inside("forms\\"));
     folder.write("forms/secret", "key");
     for (const char* bad : {"forms\\secret", "forms\\head.sss", "forms\\none.sss"}) {
         std::filesystem::remove(folder.path() / "bills/a.sss");
         const std::string name = std::string(bad).substr(6);
         EXPECT_EQ(save(bad, all), "not saved " + name);
         EXPECT_FALSE(std::filesystem::exists(folder.path() / "bills/a.sss"));
-        EXPECT_EQ(save(bad, HeaderFiles::sheetsOnly), "saved " + name);
+        EXPECT_EQ(save(bad, named), "saved " + name);
         EXPECT_FALSE(std::filesystem::exists(folder.path() / "bills/secret"));
     }
+    gSettings.setLibDir(library);
+    setLibraryNameRule({});
 }
 
-TEST_F(SheetSettings, AHeaderGoesAgainWhenItsSheetCannotBeSaved) {
-    const std::string document = "vormant-sheet 1\nsize 1 1\ncells\nend 0\n";
-    folder.write("forms/head.sss", document);
-    std::filesystem::create_directories(folder.path() / "bills/a.sss");
+TEST_F(SheetSettings, HeadersAreNeverThereWithoutTheirSheet) {
+    // The copies cannot get their names: where a program that is killed would have left them.
+    struct NoNewNames : files::WriteSteps {
+        NoNewNames() { files::installWriteSteps(this); }
+        ~NoNewNames() override { files::installWriteSteps(nullptr); }
+        int rename(const std::string& from, const std::string& to) override {
+            wasAlone =
+                !std::filesystem::exists(std::filesystem::path(to).parent_path() / "head.sss");
+            return WriteSteps::rename(from, to);
+        }
+        int renameNew(const std::string&, const std::string&) override { return EIO; }
+        bool wasAlone = false;
+    };
+    folder.write("forms/head.sss", "vormant-sheet 1\nsize 1 1\ncells\nend 0\n");
     prepareSheet(sheet, "none", true);
     TwSheetSettings settings;
     settings.readFromSheet(sheet);
     settings.headerFile = folder.inside("forms\\head.sss");
     settings.writeToSheet(sheet);
-    std::string error;
-    EXPECT_FALSE(saveSheet(sheet, folder.inside("bills\\a.sss"), HeaderFiles::allOrNothing, error));
-    EXPECT_NE(error, "");
-    EXPECT_FALSE(std::filesystem::exists(folder.path() / "bills/head.sss"));
+    const auto names = [&] {
+        std::string all;
+        for (const auto& each : std::filesystem::directory_iterator(folder.path() / "bills"))
+            all += each.path().filename().string() + " ";
+        return all;
+    };
+    const auto save = [&](const char* name, HeaderFiles which) {
+        std::string error;
+        const bool isSaved = saveSheet(sheet, folder.inside(name), which, error);
+        EXPECT_EQ(isSaved, error.empty()) << error;
+        return isSaved;
+    };
+    std::filesystem::create_directories(folder.path() / "bills/b.sss");
+    EXPECT_FALSE(save("bills\\b.sss", HeaderFiles::allOrNothing)) << "a folder of that name";
+    std::filesystem::remove(folder.path() / "bills/b.sss");
+    {
+        NoNewNames disk;
+        EXPECT_FALSE(save("bills\\a.sss", HeaderFiles::allOrNothing));
+        EXPECT_TRUE(disk.wasAlone);
+        EXPECT_EQ(names(), "");
+        folder.write("bills/a.sss", "old");
+        EXPECT_FALSE(save("bills\\a.sss", HeaderFiles::allOrNothing));
+        EXPECT_EQ(folder.read("bills/a.sss"), "old");
+        EXPECT_TRUE(save("bills\\a.sss", HeaderFiles::whereUsable)) << "with the header elsewhere";
+    }
+    EXPECT_EQ(names(), "a.sss ");
+    EXPECT_TRUE(save("bills\\head.sss", HeaderFiles::allOrNothing)) << "as its header is called";
+    EXPECT_TRUE(std::filesystem::exists(folder.path() / "bills/head 2.sss"));
+    settings.readFromSheet(sheet);
+    EXPECT_EQ(settings.headerFile.str(), folder.inside("bills\\head 2.sss"));
 }
 
 TEST_F(SheetSettings, NameHeadersThatLieBesideTheirFile) {

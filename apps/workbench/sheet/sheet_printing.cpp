@@ -8,6 +8,7 @@
 #include <QPrintPreviewDialog>
 #include <QPrinter>
 
+#include "core_api/text/text_helpers.h"
 #include "spread/tw_sheet_settings.h"
 #include "workbench/sheet/page_painter.h"
 #include "workbench/sheet/ui_text.h"
@@ -31,7 +32,10 @@ printing::Paper paperOf(const QPageSize& size) {
 }
 
 printing::PrintJob jobFor(Vor_Spread& spread, const printing::Paper& paper) {
-    return printing::PrintJob(spread.grid(), settingsOf(spread), paper);
+    const Vor_String& file = spread.file();
+    const Vor_String folder = getPath(file);
+    return printing::PrintJob(spread.grid(), settingsOf(spread), paper,
+                              folder.isEmpty() && !file.isEmpty() ? Vor_String(".") : folder);
 }
 
 void setUp(QPagedPaintDevice& device, bool isLandscape) {

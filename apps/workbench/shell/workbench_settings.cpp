@@ -64,6 +64,10 @@ void WorkbenchSettings::noteLibrary(const std::string& folder) {
 void WorkbenchSettings::apply() const {
     gSettings.current().language = sessionLanguage.value_or(language);
     gSettings.current().diagnostics = diagnostics;
+    applyNameRule();
+}
+
+void WorkbenchSettings::applyNameRule() const {
     setLibraryNameRule({outside ? OutsideNames::allowed : OutsideNames::refused,
                         "allow it in the settings of the workbench"});
 }

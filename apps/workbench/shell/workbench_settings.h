@@ -30,4 +30,6 @@ struct WorkbenchSettings {
     void noteLibrary(const std::string& folder);
     /// Sets the module's working language, its diagnostics flag and where names may lead.
     void apply() const;
+    /// Only where names in files may lead (core_api/library_names).
+    void applyNameRule() const;
 };

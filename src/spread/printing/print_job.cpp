@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <functional>
 
+#include "core_api/library_names.h"
 #include "core_api/text/text_helpers.h"
 #include "platform/encodings.h"
 #include "platform/files.h"
@@ -173,11 +174,12 @@ struct PrintJob::Band {
     int width = 0, height = 0;  // pixels
 };
 
-PrintJob::PrintJob(const Grid& grid, const TwSheetSettings& settings, Paper paper)
+PrintJob::PrintJob(const Grid& grid, const TwSheetSettings& settings, Paper paper,
+                   const Vor_String& home)
     : m_grid(grid),
       m_settings(settings),
-      m_header(loadBand(settings.headerFile)),
-      m_footer(loadBand(settings.footerFile)) {
+      m_header(loadBand(settings.headerFile, home)),
+      m_footer(loadBand(settings.footerFile, home)) {
     const auto height = [](const auto& band) {
         return band ? band->height * millimetresPerPixel : 0.0;
     };
@@ -186,8 +188,12 @@ PrintJob::PrintJob(const Grid& grid, const TwSheetSettings& settings, Paper pape
 
 PrintJob::~PrintJob() = default;
 
-std::unique_ptr<PrintJob::Band> PrintJob::loadBand(const Vor_String& file) {
+std::unique_ptr<PrintJob::Band> PrintJob::loadBand(const Vor_String& file, const Vor_String& home) {
     if (file.isEmpty()) return nullptr;
+    if (const auto refusal = files::exists(file) ? outsideRefusal(file, home) : std::nullopt) {
+        m_problems.push_back(refusal->str());
+        return nullptr;
+    }
     auto band = std::make_unique<Band>();
     if (!band->grid.load(file)) {
         m_problems.push_back(band->grid.lastError());

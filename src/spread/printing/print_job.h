@@ -41,12 +41,15 @@ struct PrintedPage {
 
 class VORMANT_API PrintJob {
   public:
-    /// `grid` is borrowed for as long as pages are asked for.
-    PrintJob(const control::Grid& grid, const TwSheetSettings& settings, Paper paper);
+    /// `grid` is borrowed for as long as pages are asked for. `home` is the folder of the sheet's
+    /// own file, where its header and footer may lie as they may in the library
+    /// (core_api/library_names); empty for none.
+    PrintJob(const control::Grid& grid, const TwSheetSettings& settings, Paper paper,
+             const Vor_String& home = {});
     ~PrintJob();
 
-    /// Header or footer files that could not be read: "file:line: what: what to do". The pages
-    /// come without them.
+    /// Header or footer files that cannot or may not be read: "file:line: what: what to do". The
+    /// pages come without them.
     const std::vector<std::string>& problems() const { return m_problems; }
     const PageLayout& layout() const { return m_layout; }
     int pageCount() const { return static_cast<int>(m_layout.pages.size()); }
@@ -55,7 +58,7 @@ class VORMANT_API PrintJob {
 
   private:
     struct Band;
-    std::unique_ptr<Band> loadBand(const Vor_String& file);
+    std::unique_ptr<Band> loadBand(const Vor_String& file, const Vor_String& home);
     std::vector<PrintedCell> bandCells(const Band& band, double top, int page) const;
     std::string withVariables(std::string_view text, int page) const;
     void finish(PrintedCell& cell, const control::Grid& grid) const;
