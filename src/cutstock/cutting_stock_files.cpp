@@ -58,11 +58,11 @@ void TwCuttingStockDlg::save(int item, const FileKind& kind, Asks asks, Vor_Stri
         return;
     }
     Vor_String path = *folder + cutstock::defaultFileName(*folder, kind);
-    if (asks == Asks::no)
-        path = cutstock::storedPath(path, kind);
-    else if (!askPath(false, kind, path))
-        return;
-    if (cutstock::saveItem(m_data, item, kind, path, message))
+    if (asks == Asks::forName && !askPath(false, kind, path)) return;
+    const bool isSaved = asks == Asks::forName
+                             ? cutstock::saveItem(m_data, item, kind, path, message)
+                             : cutstock::saveNewItem(m_data, item, kind, *folder, path, message);
+    if (isSaved)
         acutPrint(path + ": " + dialString(writtenText) + "\n");
     else
         failures.append(message);

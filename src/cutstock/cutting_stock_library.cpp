@@ -6,6 +6,8 @@
 #include "cutstock/item_list.h"
 #include "cutstock/item_names.h"
 #include "cutstock/stock_files.h"
+#include "platform/exclusive_change.h"
+#include "platform/file_error.h"
 #include "platform/files.h"
 
 namespace cutstock {
@@ -66,7 +68,8 @@ bool saveChanged(const DlgCSP2Data& data, int item, const FileKind& kind, bool i
     const auto newest = newestFile(*folder, kind);
     const bool isKnown = !newest || readRows(newest->path, saved, unreadable);
     if (isKnown && withoutEmptyEnds(saved) == withoutEmptyEnds(rows)) return true;
-    return saveRows(storedPath(*folder + defaultFileName(*folder, kind), kind), rows, message);
+    Vor_String path;
+    return saveNewFile(*folder, kind, rows, path, message);
 }
 
 bool areNamesGood(const Vor_StringArray& names, Vor_String& message) {
@@ -123,6 +126,10 @@ bool CuttingStockLibrary::wouldReplaceUnread() const {
     return ObjectExportFileExists(path()) && (!m_text || textNow() != m_text);
 }
 
+void CuttingStockLibrary::replaceUnread() {
+    m_replaced = files::stampOf(path());
+}
+
 bool CuttingStockLibrary::saveItems(const DlgCSP2Data& data, Vor_String& message) {
     if (gSettings.libDir().isEmpty()) {
         message = dialString(noLibraryText);
@@ -133,12 +140,13 @@ bool CuttingStockLibrary::saveItems(const DlgCSP2Data& data, Vor_String& message
     if (!areNamesGood(data.itemNames, message) ||
         ObjectExportCreateDirectory(stockFolder(), &message) != Acad::eOk)
         return false;
-    if (!files::writeWhole(path(), text, error)) {
-        message = Vor_String(std::move(error));
-        return false;
-    }
-    m_text = text.str();
-    return true;
+    const auto change = files::ExclusiveChange::take(path(), error);
+    if (change && wouldReplaceUnread() && change->stamp() != m_replaced)
+        error = files::errorText("write", path(), files::fileHasChanged);
+    else if (change && files::writeWhole(path(), text, error))
+        m_text = text.str();
+    message = Vor_String(std::move(error));
+    return message.isEmpty();
 }
 
 bool CuttingStockLibrary::save(const DlgCSP2Data& data, Vor_String& message) {

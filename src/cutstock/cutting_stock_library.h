@@ -7,6 +7,7 @@
 #include <string>
 
 #include "core_api/dialog_data/dlg_csp2_data.h"
+#include "platform/files.h"
 
 namespace cutstock {
 
@@ -23,8 +24,11 @@ class CuttingStockLibrary {
     bool load(DlgCSP2Data& data, Vor_String& message);
 
     /// Whether saving would replace what was not loaded: a list of items that could not be read,
-    /// or one that another program wrote meanwhile. Ask before saving then.
+    /// or one that another program wrote meanwhile. Ask before saving then; without
+    /// replaceUnread() saving fails.
     bool wouldReplaceUnread() const;
+    /// Lets the next saving replace the list as it is now.
+    void replaceUnread();
 
     /// What loadItems loads. False, with `message` saying why and the old list as it was, when a
     /// name cannot be that of an item or the list cannot be written.
@@ -35,8 +39,9 @@ class CuttingStockLibrary {
     bool save(const DlgCSP2Data& data, Vor_String& message);
 
   private:
-    std::optional<std::string> m_text;  ///< of the list of items as it was read or written
-    Vor_StringArray m_loaded;           ///< items whose rows were loaded
+    std::optional<std::string> m_text;       ///< of the list of items as it was read or written
+    std::optional<files::Stamp> m_replaced;  ///< of the list that may be replaced unread
+    Vor_StringArray m_loaded;                ///< items whose rows were loaded
 };
 
 }  // namespace cutstock

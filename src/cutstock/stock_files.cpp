@@ -10,6 +10,8 @@
 #include "core_api/texts/texts.h"
 #include "platform/encodings.h"
 #include "platform/escaped_text.h"
+#include "platform/exclusive_change.h"
+#include "platform/file_error.h"
 #include "platform/files.h"
 #include "platform/paths.h"
 #include "spread/control/formula/value.h"
@@ -154,6 +156,24 @@ bool saveRows(const Vor_String& path, const Rows& rows, Vor_String& message) {
     return false;
 }
 
+bool saveNewFile(const Vor_String& folder, const FileKind& kind, const Rows& rows, Vor_String& path,
+                 Vor_String& message) {
+    constexpr int mostTries = 100;
+    for (int tries = 0; tries < mostTries; ++tries) {
+        path = storedPath(folder + defaultFileName(folder, kind), kind);
+        std::string error;
+        const auto change = files::ExclusiveChange::take(path, error);
+        if (!change) {
+            message = Vor_String(std::move(error));
+            return false;
+        }
+        // Another program may have taken the name while this one waited.
+        if (!change->stamp()) return saveRows(path, rows, message);
+    }
+    message = Vor_String(files::errorText("write", path, files::fileHasChanged));
+    return false;
+}
+
 bool readRows(const Vor_String& path, Rows& rows, Vor_String& message) {
     rows.clear();
     std::string error;
@@ -174,6 +194,13 @@ bool saveItem(const DlgCSP2Data& data, int item, const FileKind& kind, const Vor
               Vor_String& message) {
     return saveRows(path, rowsOf(data.tables[static_cast<size_t>(kind.table)], data.itemIds[item]),
                     message);
+}
+
+bool saveNewItem(const DlgCSP2Data& data, int item, const FileKind& kind, const Vor_String& folder,
+                 Vor_String& path, Vor_String& message) {
+    return saveNewFile(folder, kind,
+                       rowsOf(data.tables[static_cast<size_t>(kind.table)], data.itemIds[item]),
+                       path, message);
 }
 
 bool readItem(DlgCSP2Data& data, int item, const FileKind& kind, const Vor_String& path,

@@ -54,12 +54,19 @@ std::string textOfRows(const Rows& rows);
 /// False, with the old file as it was and `message` saying why, when it cannot be written; a line
 /// end in a cell would tear its row apart and is refused.
 bool saveRows(const Vor_String& path, const Rows& rows, Vor_String& message);
+/// The same under the default name, also while other programs save: `path` becomes that of the new
+/// file.
+bool saveNewFile(const Vor_String& folder, const FileKind& kind, const Rows& rows, Vor_String& path,
+                 Vor_String& message);
 /// False, with no rows and `message` saying why, when the file cannot be read.
 bool readRows(const Vor_String& path, Rows& rows, Vor_String& message);
 
 /// The rows of an item in the table of the file; saveRows and readRows with their failures.
 bool saveItem(const DlgCSP2Data& data, int item, const FileKind& kind, const Vor_String& path,
               Vor_String& message);
+/// The same with saveNewFile.
+bool saveNewItem(const DlgCSP2Data& data, int item, const FileKind& kind, const Vor_String& folder,
+                 Vor_String& path, Vor_String& message);
 /// The rows of the file take the place of the item's; none when it cannot be read.
 bool readItem(DlgCSP2Data& data, int item, const FileKind& kind, const Vor_String& path,
               Vor_String& message);

@@ -98,8 +98,14 @@ TEST_F(StockedLibrary, AsksBeforeItReplacesWhatAnotherProgramWrote) {
     EXPECT_FALSE(library.wouldReplaceUnread());
     files.write("Items.dat", "Item\t1\tIPE 300\n");
     EXPECT_TRUE(library.wouldReplaceUnread());
+    EXPECT_FALSE(library.save(sample(), message)) << "also when it came behind the question";
+    EXPECT_NE(message.str().find("changed it meanwhile"), std::string::npos) << message.str();
+    EXPECT_EQ(files.read("Items.dat"), "Item\t1\tIPE 300\n");
     ASSERT_TRUE(library.load(data, message));
     EXPECT_FALSE(library.wouldReplaceUnread());
+    files.write("Items.dat", "Item\t1\tIPE 360\n");
+    library.replaceUnread();
+    EXPECT_TRUE(library.save(sample(), message)) << message.str();
 }
 
 TEST_F(StockedLibrary, WritesNothingThatCouldNotBeReadAgain) {

@@ -190,6 +190,40 @@ TEST_F(CataloguePages, AFileThatCannotBeReadIsToldAndReplacedOnlyWhenTheUserSays
     EXPECT_THAT(file(), HasSubstr("New group"));
 }
 
+TEST_F(CataloguePages, AChangeOfAnotherProgramIsAskedAbout) {
+    ASSERT_TRUE(data.writeCatalogue());
+    const std::string before = folder.read("prof/Groups.dat");
+    for (const int answer : {IDCANCEL, IDNO, IDYES}) {
+        ASSERT_TRUE(data.readCatalogue());
+        DlgEditLibData other = data;
+        auto& script = user.whenOpens(LibraryDialog::resourceNumber);
+        script.selects(LibraryDialog::pageTabs, LibraryDialog::groups)
+            .does([&](CDialog& dialog) {
+                other.catalogue.groups.removeAt(0);
+                EXPECT_TRUE(other.writeCatalogue());
+                auto* page =
+                    dynamic_cast<LibraryDialog&>(dialog).cataloguePage(LibraryDialog::groups);
+                page->press(Page::addButton);
+            })
+            .presses(IDOK);
+        if (answer != IDYES)
+            script
+                .does([&](CDialog& dialog) {
+                    auto* page =
+                        dynamic_cast<LibraryDialog&>(dialog).cataloguePage(LibraryDialog::groups);
+                    const int shown = page->itemAs<CListBox>(Page::entryList)->count();
+                    const int others = other.catalogue.groups.length();
+                    EXPECT_EQ(shown, answer == IDNO ? others : others + 2);
+                })
+                .presses(IDCANCEL);
+        user.whenMessage("was changed by another program").presses(answer);
+        StartDlgEditLibSections(data, "");
+        EXPECT_EQ(folder.read("prof/Groups.dat").find("New group") != std::string::npos,
+                  answer == IDYES);
+        folder.write("prof/Groups.dat", before);
+    }
+}
+
 TEST_F(CataloguePages, TheListHasKeys) {
     const auto hit = [](int key) {
         return [key](Page& page) {

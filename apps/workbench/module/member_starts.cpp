@@ -112,8 +112,9 @@ namespace {
 
 constexpr int cuttingStockTitle = 620, replaceChangedText = 25208;
 
-bool mayReplace(const cutstock::CuttingStockLibrary& library) {
+bool mayReplace(cutstock::CuttingStockLibrary& library) {
     if (!library.wouldReplaceUnread()) return true;
+    library.replaceUnread();  // only what the user is asked about
     return showMessage({dialString(cuttingStockTitle).str(), dialString(replaceChangedText).str(),
                         MessageIcon::question, MessageButtons::yesNo}) == IDYES;
 }

@@ -22,10 +22,15 @@ class VORMANT_API DlgEditLibData {
     bool readCatalogue();
     /// Writes the catalogue to the library, also in place of files that could not be read.
     bool writeCatalogue(Vor_String* message = nullptr);
+    enum class Written { yes, no, changedMeanwhile };
+    /// The same while other programs that change it wait. When one has written a file since it was
+    /// read, nothing is written, and the next call replaces what is there now.
+    Written writeCatalogueAsRead(Vor_String& message);
     const Vor_String& catalogueProblem() const { return m_problem; }
 
     SectionCatalogue catalogue;
 
   private:
     Vor_String m_problem;
+    std::optional<CatalogueStamps> m_stamps;  // of what was read; none: it never was
 };

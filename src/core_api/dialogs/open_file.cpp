@@ -8,14 +8,14 @@ namespace {
 
 constexpr int titleText = 9112, changedText = 9113;
 
-int askAbout(std::string_view path) {
+}  // namespace
+
+int OpenFile::askAbout(std::string_view path) {
     Vor_String question = dialString(changedText);
     question.replaceSubString("%1", Vor_String(path));
     return showMessage({dialString(titleText).str(), question.str(), MessageIcon::exclamation,
                         MessageButtons::yesNoCancel});
 }
-
-}  // namespace
 
 void OpenFile::opening(std::string_view path) {
     m_path = path;

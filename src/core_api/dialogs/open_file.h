@@ -27,6 +27,10 @@ class VORMANT_API OpenFile {
     /// removed is written anew. Another path becomes the open file, whoever wrote it.
     Saved save(std::string_view path, const Write& write, std::string& error);
 
+    /// Asks what to do about `path`, which another program has written: IDYES to replace it, IDNO
+    /// to load it, IDCANCEL.
+    static int askAbout(std::string_view path);
+
   private:
     enum class Step { done, failed, changed };
     Step tryToSave(std::string_view path, const Write& write, std::string& error);

@@ -86,7 +86,7 @@ void appendNames(Vor_StringArray& record, Vor_StringArray names) {
 }
 
 Vor_String pathOf(const char* file) {
-    return gSettings.libDir() + "prof\\" + file;
+    return sectionCatalogueFolder() + file;
 }
 
 template <class List>
@@ -101,6 +101,14 @@ bool readList(const char* file, List& list, Vor_String& message,
 }
 
 }  // namespace
+
+Vor_String sectionCatalogueFolder() {
+    return gSettings.libDir() + "prof\\";
+}
+
+CatalogueStamps sectionCatalogueStamps() {
+    return {files::stampOf(pathOf(groupsFile)), files::stampOf(pathOf(typesFile))};
+}
 
 bool readGroupRecords(const RecordRows& records, std::string_view source, SectionGroupArray& groups,
                       Vor_String& message) {

@@ -3,9 +3,13 @@
 // group or type. A file that is not there is an empty list.
 #pragma once
 
+#include <array>
+#include <optional>
+
 #include "core_api/files.h"
 #include "core_api/sections/section_group_array.h"
 #include "core_api/sections/section_type.h"
+#include "platform/files.h"
 
 struct SectionCatalogue {
     SectionGroupArray groups;
@@ -16,6 +20,10 @@ struct SectionCatalogue {
 /// False, with `catalogue` as it was, when a file cannot be read; `message` says which, where and
 /// what to do.
 VORMANT_API bool readSectionCatalogue(SectionCatalogue& catalogue, Vor_String* message = nullptr);
+/// The files, of the groups and of the types, as they are now.
+using CatalogueStamps = std::array<std::optional<files::Stamp>, 2>;
+VORMANT_API CatalogueStamps sectionCatalogueStamps();
+VORMANT_API Vor_String sectionCatalogueFolder();
 /// Each file is written whole or not at all.
 VORMANT_API bool writeSectionCatalogue(const SectionCatalogue& catalogue,
                                        Vor_String* message = nullptr);

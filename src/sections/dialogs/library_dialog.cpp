@@ -1,6 +1,7 @@
 #include "sections/dialogs/library_dialog.h"
 
 #include "core_api/dialog_state.h"
+#include "core_api/dialogs/open_file.h"
 #include "core_api/texts/dial_text.h"
 #include "platform/host/host.h"
 #include "platform/window/message_box.h"
@@ -95,10 +96,24 @@ bool LibraryDialog::storeCatalogue() {
                                         MessageIcon::exclamation, MessageButtons::yesNoCancel});
         if (answer != IDYES) return answer == IDNO;
     }
+    using Written = DlgEditLibData::Written;
     Vor_String message;
-    if (m_data.writeCatalogue(&message)) return true;
+    Written written = Written::changedMeanwhile;
+    while ((written = m_data.writeCatalogueAsRead(message)) == Written::changedMeanwhile) {
+        const int answer = OpenFile::askAbout(sectionCatalogueFolder());
+        if (answer == IDNO) reloadCatalogue();
+        if (answer != IDYES) return false;
+    }
+    if (written == Written::yes) return true;
     showWarning(dialString(wordLibraryTitle), message);
     return false;
+}
+
+void LibraryDialog::reloadCatalogue() {
+    m_data.readCatalogue();
+    m_before = m_data.catalogue;
+    m_groups->refresh();
+    m_types->refresh();
 }
 
 void LibraryDialog::onOK() {

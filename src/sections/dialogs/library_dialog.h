@@ -39,6 +39,7 @@ class LibraryDialog : public CDialog {
     void makePages();
     void showPage(int index);
     bool storeCatalogue();
+    void reloadCatalogue();
 
     DlgEditLibData m_data;
     Vor_String m_section;
