@@ -1,11 +1,10 @@
 #include "cutstock/item_rows.h"
 
 #include <algorithm>
-#include <iterator>
 #include <limits>
 
+#include "core_api/device_names.h"
 #include "core_api/text/text_helpers.h"
-#include "platform/encodings.h"
 
 namespace cutstock {
 
@@ -72,24 +71,6 @@ bool removeItem(DlgCSP2Data& data, int index) {
 bool isItem(const DlgCSP2Data& data, int index) {
     return data.itemIds.isIndex(index) && data.itemNames.isIndex(index);
 }
-
-namespace {
-
-/// CON, com1.txt and the like: devices for the systems that libraries come from, with any ending,
-/// so that no folder or file can be called so.
-bool isDeviceName(std::string_view name) {
-    std::string_view base = name.substr(0, name.find('.'));
-    while (base.ends_with(' ')) base.remove_suffix(1);
-    constexpr std::string_view words[] = {"con", "prn", "aux", "nul"}, ports[] = {"com", "lpt"};
-    const auto is = [&](std::string_view word) { return encodings::equalFolded(base, word); };
-    if (std::any_of(std::begin(words), std::end(words), is)) return true;
-    constexpr std::string_view digits = "123456789\xB9\xB2\xB3";
-    if (base.size() != 4 || digits.find(base.back()) == std::string_view::npos) return false;
-    base.remove_suffix(1);
-    return std::any_of(std::begin(ports), std::end(ports), is);
-}
-
-}  // namespace
 
 bool canBeFolder(std::string_view name) {
     return !name.empty() && !isDeviceName(name) && name.front() != ' ' && name.back() != ' ' &&

@@ -1,5 +1,6 @@
 #include "sections/section_names.h"
 
+#include "core_api/device_names.h"
 #include "core_api/text/text_helpers.h"
 
 bool isUserSection(const Vor_String& section) {
@@ -14,4 +15,9 @@ Vor_String userSectionName(const Vor_String& section) {
 
 Vor_String sectionTableOf(const Vor_String& section) {
     return getSubstrBefore(section, "-");
+}
+
+bool canNameSectionTable(std::string_view name) {
+    return !name.empty() && name.find('-') == std::string_view::npos && !isDeviceName(name) &&
+           !hasInvalidFileNameChars(name);
 }

@@ -13,3 +13,5 @@ VORMANT_API bool isUserSection(const Vor_String& section);
 VORMANT_API Vor_String userSectionName(const Vor_String& section);
 /// The part before the first "-"; the whole name when there is none.
 VORMANT_API Vor_String sectionTableOf(const Vor_String& section);
+/// Whether there can be a table of this name: it is that of a file, and holds no "-".
+VORMANT_API bool canNameSectionTable(std::string_view name);

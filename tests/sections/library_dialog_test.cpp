@@ -366,6 +366,7 @@ TEST_F(LibraryDialogTest, RefusesNamesThatAreTakenOrNone) {
         {"rhs", "a table named \"rhs\" already"}, {"later", "a table named \"later\" already"},
         {"HE-A", "\"HE-A\" cannot be the name"},  {"a/b", "\"a/b\" cannot be the name"},
         {"..\\x", "cannot be the name"},          {"hea", "a table named \"hea\" already"},
+        {"com1", "\"com1\" cannot be the name"},  {"Con.x", "\"Con.x\" cannot be the name"},
     };
     std::vector<Step> steps;
     for (const auto& [name, why] : refused) {

@@ -9,6 +9,7 @@
 #include "core_api/text/text_helpers.h"
 #include "platform/exclusive_change.h"
 #include "sections/section_check.h"
+#include "sections/section_names.h"
 #include "sections/section_types.h"
 
 namespace cli {
@@ -48,7 +49,15 @@ std::optional<TableFile> placeOf(const std::string& typed) {
     } else if (!path.endsWith(".pr")) {
         path += ".pr";
     }
-    return TableFile{removeExtension(getFileName(path)), path};
+    const Vor_String name = removeExtension(getFileName(path));
+    if (!canNameSectionTable(name)) {
+        complainText(
+            "\"" + name +
+            "\" cannot be the name of a table: leave out - \\ / : * ? \" < > | and names of "
+            "devices such as CON or COM1");
+        return std::nullopt;
+    }
+    return TableFile{name, path};
 }
 
 /// False, after telling it, when the table is there and may not be replaced.

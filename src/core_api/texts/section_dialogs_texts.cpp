@@ -20,16 +20,15 @@ constexpr TextRow rows[] = {
     {25307,
      {"\"%1\" cannot be the name of a table. A name has at least one character and none of - \\ / "
       ": "
-      "* ? \" < > |",
-      "\"%1\" kan geen naam van een tabel zijn. Een naam heeft minstens één teken, en geen van - "
-      "\\ "
-      "/ : * ? \" < > |",
-      "\"%1\" kann kein Name einer Tabelle sein. Ein Name hat mindestens ein Zeichen und keines "
-      "von "
-      "- \\ / : * ? \" < > |",
-      "« %1 » ne peut pas être le nom d'un tableau. Un nom a au moins un caractère, et aucun de - "
-      "\\ "
-      "/ : * ? \" < > |"}},
+      "* ? \" < > |, and is not that of a device such as CON or COM1.",
+      "\"%1\" kan geen naam van een tabel zijn. Een naam heeft minstens één teken, geen van - \\ / "
+      ": "
+      "* ? \" < > |, en is niet die van een apparaat zoals CON of COM1.",
+      "\"%1\" kann kein Name einer Tabelle sein. Ein Name hat mindestens ein Zeichen, keines von "
+      "- \\ / : * ? \" < > |, und ist nicht der eines Geräts wie CON oder COM1.",
+      "« %1 » ne peut pas être le nom d'un tableau. Un nom a au moins un caractère, aucun de - \\ "
+      "/ : "
+      "* ? \" < > |, et n'est pas celui d'un périphérique comme CON ou COM1."}},
     {25308,
      {"The table cannot be read. Mend its file, or delete the table.",
       "De tabel kan niet worden gelezen. Herstel het bestand of verwijder de tabel.",

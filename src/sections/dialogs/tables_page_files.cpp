@@ -9,6 +9,7 @@
 #include "sections/dialogs/section_dialog_words.h"
 #include "sections/dialogs/section_picture_control.h"
 #include "sections/dialogs/tables_page.h"
+#include "sections/section_names.h"
 
 namespace {
 
@@ -165,7 +166,7 @@ bool TablesPage::isGoodName(const Vor_String& name) {
         showWarning(dialString(wordRenameTitle), with(text, name));
         return false;
     };
-    if (hasInvalidFileNameChars(name) || name.hasSubString("-")) return refuse(wordBadName);
+    if (!canNameSectionTable(name)) return refuse(wordBadName);
     const bool isTaken =
         m_data.tableNames.contains(name) || files::exists(Vor_ProfValuesTable::filePath(name));
     return !isTaken || refuse(wordNameTaken);
