@@ -146,7 +146,9 @@ TEST_F(Calculations, NegativeValuesGoInParentheses) {
 TEST_F(Calculations, ReportTellsWhatAnEngineerChecks) {
     const std::string html = htmlReport(run("12"), {"Hall <3>", "M", "2026-11-25"});
     for (const char* part : {"Plate &lt;draft&gt;", "Hall &lt;3>", "EN 1993-1-8", "24+6",
-                             "<b>= 30&nbsp;mm</b>", "#DIV/0!", "of the beam"})
+                             "<b>= 30&nbsp;mm</b>", "#DIV/0!", "of the beam",
+                             // Every cell is a text to a spreadsheet that opens the page.
+                             "\n* { mso-number-format: \"\\@\"; }"})
         EXPECT_THAT(html, HasSubstr(part));
     EXPECT_THAT(html, Not(HasSubstr("<draft>")));
 }

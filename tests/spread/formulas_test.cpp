@@ -275,6 +275,37 @@ TEST_F(FormulasTest, AUserTriesFormulasOnASheet) {
     EXPECT_THAT(user.messages()[1].text, HasSubstr("no folder"));
 }
 
+TEST_F(FormulasTest, AFileThatAnotherProgramWroteIsLoadedAgainOrReplaced) {
+    TestUser user;
+    const std::string file = folder.inside("tried.sss");
+    const auto typesAndSaves = [&](ScriptedUser::Answer& script, const char* text) {
+        script
+            .does([&, text](CDialog& dialog) {
+                EXPECT_TRUE(sheet.setData(2, 2, "from elsewhere") && sheet.saveToFile(file));
+                EXPECT_TRUE(static_cast<Dlg&>(dialog).grid().userEnters(2, 2, text));
+            })
+            .presses(Dlg::saveButton);
+    };
+    const auto shows = [](const char* expected) {
+        return [=](CDialog& dialog) {
+            EXPECT_EQ(shown(static_cast<Dlg&>(dialog).grid(), 2, 2), expected);
+        };
+    };
+    auto& script = user.whenOpens(Dlg::resourceNumber);
+    script.types(Dlg::fileNameBox, file).presses(Dlg::saveButton);
+    for (const int answer : {IDCANCEL, IDYES, IDNO})
+        user.whenMessage("was changed by another program").presses(answer);
+    typesAndSaves(script, "3");
+    script.does(shows("3.00")).presses(Dlg::loadButton);
+    typesAndSaves(script, "4");
+    script.does(shows("4")).presses(Dlg::loadButton).does(shows("4"));
+    typesAndSaves(script, "5");
+    script.does(shows("from elsewhere")).presses(IDCANCEL);
+    Dlg dialog(nullptr);
+    EXPECT_EQ(dialog.doModal(), IDCANCEL);
+    EXPECT_EQ(user.messages().size(), 3u);
+}
+
 TEST_F(FormulasTest, WithAUserTheDialogStaysOpenAfterALookUp) {
     TestUser user;
     user.whenOpens(Dlg::resourceNumber)

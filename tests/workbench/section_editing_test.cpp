@@ -133,6 +133,33 @@ TEST_F(SectionEditing, WhatWasTypedIsKeptUntilTheTableCanBeWritten) {
     EXPECT_TRUE(sizes().contains("225"));
 }
 
+TEST_F(SectionEditing, ASizeJoinsThoseThatAnotherProgramAddedMeanwhile) {
+    const std::string path = paths::toMachine(gSettings.libDir() + "prof\\HEA.pr");
+    const auto other = [&](const char* name) {
+        const std::string text = file();
+        const size_t line = text.find("\n220\t") + 1;
+        std::string size = text.substr(line, text.find('\n', line) + 1 - line);
+        size.replace(0, 3, name);
+        std::filesystem::remove(path);
+        std::ofstream(path, std::ios::binary) << text << size;
+    };
+    const auto add = [&](const char* own, const char* others) {
+        return [&, own, others](QWidget& dialog) {
+            auto* ownName = dialog.findChild<QWidget*>(QString::number(SizeDialog::ownName));
+            QTest::mouseClick(ownName, Qt::LeftButton, {}, QPoint(8, ownName->height() / 2));
+            fill(dialog, SizeDialog::nameField, own);
+            other(others);
+            StartersTest::press(dialog, IDOK);
+        };
+    };
+    EXPECT_TRUE(page->select("HEA-220"));
+    press(addSize, {add("225", "226")});
+    EXPECT_THAT(file(), testing::AllOf(HasSubstr("\n225\t"), HasSubstr("\n226\t")));
+    press(addSize, {add("227", "227"), answers("Cancel", "HEA")});
+    const std::string text = file();
+    EXPECT_EQ(text.find("\n227\t"), text.rfind("\n227\t")) << "only the other's";
+}
+
 TEST_F(SectionEditing, CancelAddsNothing) {
     const std::string before = file();
     press(addSize, {[&](QWidget& dialog) {
