@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <filesystem>
 
 #include "core_api/library_names.h"
 #include "spread/control/document.h"
@@ -251,14 +252,25 @@ TEST(PrintJob, HeadersAndFootersShowVariables) {
     EXPECT_EQ(printed.header.back().picture, folder.inside("logo.bmp"));
     EXPECT_NEAR(job.layout().body.top, 5 + 40 * printing::millimetresPerPixel, 1e-9);
     EXPECT_TRUE(printed.footer.empty());
-    // A program prints what lies in the library or beside the sheet, as it is a name in a file.
+    // A program prints what lies in the library or beside the sheet, as it is a name in a file; a
+    // copy beside the sheet serves for what lies elsewhere.
     setLibraryNameRule({OutsideNames::refused, "allow it"});
-    const PrintJob elsewhere(grid, settings, {}), beside(grid, settings, {}, folder.inside(""));
+    std::filesystem::create_directories(folder.path() / "sent");
+    std::filesystem::create_directories(folder.path() / "alone");
+    std::filesystem::copy(folder.path() / "head.sss", folder.path() / "sent");
+    for (const char* home : {"", "alone\\", "sent\\", "home"}) {
+        const bool isFolder = *home != 0;
+        const PrintJob job(grid, settings, {},
+                           !isFolder                          ? std::string()
+                           : std::string_view(home) == "home" ? folder.inside()
+                                                              : folder.inside(home));
+        const bool hasHeader = *home == 's' || *home == 'h';
+        EXPECT_EQ(job.page(1).header.empty(), !hasHeader) << home;
+        EXPECT_EQ(job.problems()[0].find("lies outside of the library") == std::string::npos,
+                  hasHeader)
+            << home;
+    }
     setLibraryNameRule({});
-    EXPECT_TRUE(elsewhere.page(1).header.empty());
-    EXPECT_NE(elsewhere.problems()[0].find("head.sss\" lies outside of the library"),
-              std::string::npos);
-    EXPECT_FALSE(beside.page(1).header.empty());
 }
 
 }  // namespace

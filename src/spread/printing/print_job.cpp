@@ -188,11 +188,18 @@ PrintJob::PrintJob(const Grid& grid, const TwSheetSettings& settings, Paper pape
 
 PrintJob::~PrintJob() = default;
 
-std::unique_ptr<PrintJob::Band> PrintJob::loadBand(const Vor_String& file, const Vor_String& home) {
-    if (file.isEmpty()) return nullptr;
+/// A sheet keeps the reference it had when copies were put beside it: they serve where that leads
+/// out of the library, as on the machine of somebody who was sent the sheet.
+std::unique_ptr<PrintJob::Band> PrintJob::loadBand(const Vor_String& named,
+                                                   const Vor_String& home) {
+    if (named.isEmpty()) return nullptr;
+    Vor_String file = named;
     if (const auto refusal = files::exists(file) ? outsideRefusal(file, home) : std::nullopt) {
-        m_problems.push_back(refusal->str());
-        return nullptr;
+        file = ensureEndBSlash(home) + getFileName(named);
+        if (home.isEmpty() || !files::exists(file) || outsideRefusal(file, home)) {
+            m_problems.push_back(refusal->str());
+            return nullptr;
+        }
     }
     auto band = std::make_unique<Band>();
     if (!band->grid.load(file)) {

@@ -58,7 +58,7 @@ class VORMANT_API PrintJob {
 
   private:
     struct Band;
-    std::unique_ptr<Band> loadBand(const Vor_String& file, const Vor_String& home);
+    std::unique_ptr<Band> loadBand(const Vor_String& named, const Vor_String& home);
     std::vector<PrintedCell> bandCells(const Band& band, double top, int page) const;
     std::string withVariables(std::string_view text, int page) const;
     void finish(PrintedCell& cell, const control::Grid& grid) const;
