@@ -299,6 +299,13 @@ std::vector<std::string_view> SectionFigures::catalogueColumns() const {
     return columns;
 }
 
+bool namesFigure(std::string_view column) {
+    if (encodings::equalFolded(column, massColumn)) return true;
+    constexpr std::string_view lengths[] = {"i", "iy", "iz", "iu", "iv", "cy", "cz", "ez"};
+    const auto read = readColumn(column);
+    return read && (read->power > 1 || std::ranges::find(lengths, read->name) != std::end(lengths));
+}
+
 std::optional<DoubtfulMass> doubtfulMass(std::string_view section) {
     const auto place = gSectionTables.find(section);
     if (!place) return std::nullopt;

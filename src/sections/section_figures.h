@@ -62,6 +62,10 @@ class VORMANT_API SectionFigures {
     double m_y = 0, m_z = 0, m_yz = 0;  // moments of inertia about the centroid, mm4
 };
 
+/// Whether a column of this name holds a figure of the section, not one of its dimensions: a mass,
+/// an area, moments, moduli, radii of gyration, a centroid. Also where nothing calculates it.
+VORMANT_API bool namesFigure(std::string_view column);
+
 /// What a section's table says of its mass, and what its shape weighs, in kg/m.
 struct DoubtfulMass {
     Vor_String printed;

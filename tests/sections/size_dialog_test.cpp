@@ -368,6 +368,31 @@ TEST_F(SizeDialogTest, CalculatesWhatFollowsFromTheShapeUnlessItWasTyped) {
     EXPECT_THAT(user.messages().back().text, HasSubstr("F. Mass kg/m cannot be calculated"));
 }
 
+TEST_F(SizeDialogTest, FiguresOfDrawnSectionsAreTypedAnew) {
+    gSettings.setLibDir(VORMANT_SOURCE_DIR "/library/");
+    ASSERT_TRUE(table.readFromFile("HEA"));
+    ASSERT_TRUE(table.findSysName("100", row));
+    table.drawnAs = "Beam.dwg";
+    constexpr int height = Dlg::firstValueField, mass = height + 5;
+    auto& answer = opens();
+    answer.does([](CDialog& dialog) { EXPECT_EQ(text(dialog, mass), "16.7"); })
+        .types(height, "215")
+        .does([](CDialog& dialog) {
+            EXPECT_EQ(text(dialog, mass), "") << "that of another size";
+            EXPECT_EQ(text(dialog, Dlg::firstValueLabel + 5), "F. Mass kg/m:");
+        })
+        .presses(Dlg::ownName)
+        .types(Dlg::nameField, "Beam")
+        .presses(IDOK);  // refused
+    for (int field = mass; field < mass + 6; ++field) answer.types(field, "7");
+    answer.presses(IDOK);
+    ASSERT_TRUE(run());
+    ASSERT_EQ(user.messages().size(), 1u);
+    EXPECT_THAT(user.messages()[0].text, HasSubstr("F. Mass kg/m cannot be calculated. Type"));
+    EXPECT_EQ(valueOf(table, row, "Mass kg/m"), "7");
+    EXPECT_EQ(valueOf(table, row, "iz cm"), "") << "beyond the fields of the form";
+}
+
 TEST_F(SizeDialogTest, ShowsThePictureOfTheType) {
     const TemporaryFolder addOn;
     gSettings.setVorDir(addOn.inside());

@@ -103,6 +103,12 @@ constexpr TextRow rows[] = {
       "oder geben Sie den Wert ein.",
       "Ces dimensions ne forment pas de profilé ; %1 ne peut pas être calculé. Corrigez-les ou "
       "tapez la valeur."}},
+    {25329,
+     {"The section is a drawing, of which %1 cannot be calculated. Type the value.",
+      "Het profiel is een tekening, waarvan %1 niet kan worden berekend. Typ de waarde.",
+      "Das Profil ist eine Zeichnung, von der sich %1 nicht berechnen lässt. Geben Sie den Wert "
+      "ein.",
+      "Le profilé est un dessin, dont %1 ne peut pas être calculé. Tapez la valeur."}},
     {25330,
      {"Edit library…", "Bibliotheek bewerken…", "Bibliothek bearbeiten…",
       "Modifier la bibliothèque…"}},

@@ -95,6 +95,25 @@ std::optional<SectionFigures> figuresOf(const Vor_ProfValuesTable& table,
     return SectionFigures::of(table.drawnAs, values);
 }
 
+/// Of sections that a drawing shows nothing is calculated: their figures are those of the pattern
+/// for as long as all other values are, and else somebody types them.
+std::vector<ShapeValue> figuresOfTemplate(const Vor_ProfValuesTable& table,
+                                          const Vor_StringArray& row,
+                                          const Vor_StringArray& pattern) {
+    std::vector<ShapeValue> found;
+    const int first = table.firstValueColumn();
+    bool isOther = false;
+    for (int col = first; col < table.columnNames.length(); ++col) {
+        if (namesFigure(table.columnNames[col]))
+            found.push_back({col - first, false, pattern[col]});
+        else if (!isSame(row[col], pattern[col]))
+            isOther = true;
+    }
+    for (ShapeValue& each : found)
+        if (isOther) each = {each.value, true, {}};
+    return found;
+}
+
 }  // namespace
 
 Vor_String SizeNaming::nameOf(const Vor_StringArray& given) const {
@@ -129,6 +148,7 @@ std::vector<ShapeValue> shapeValues(const Vor_ProfValuesTable& table, int patter
     const Vor_StringArray& before = table.rows[pattern];
     Vor_StringArray row = before;
     put(row, first, values);
+    if (isDrawnTemplate(table.drawnAs)) return figuresOfTemplate(table, row, before);
     const auto figures = figuresOf(table, row);
     const auto known = figuresOf(table, before);
     const bool isCalculated = !hasShapeOf(table, row, before);

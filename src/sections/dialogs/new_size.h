@@ -31,7 +31,7 @@ struct NewSize {
 struct ShapeValue {
     int value;
     bool isCalculated;  ///< false: the shape is that of the pattern, and so is the value
-    Vor_String text;    ///< empty when the values give no shape
+    Vor_String text;    ///< empty when the values give no shape, and of drawn templates
 };
 /// The values beside the dimensions that follow from the shape, as mass and moments do. `values`
 /// are the first of a size that is a copy of row `pattern` but for them.

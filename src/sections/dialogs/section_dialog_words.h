@@ -72,5 +72,6 @@ enum SectionDialogWord {
     wordFurtherCalculated = 25326,
     wordFurtherMixed = 25327,
     wordNoShape = 25328,
+    wordNoFigure = 25329,
     wordOtherForm = 26950,
 };

@@ -120,7 +120,8 @@ bool SizeDialog::isTyped(int value) const {
 void SizeDialog::showShapeValues() {
     for (const ShapeValue& each : shapeValues(m_data.table, m_data.row, typedValues())) {
         if (each.value >= shownValues()) break;
-        const bool isCalculated = each.isCalculated && !isTyped(each.value);
+        const bool isCalculated =
+            each.isCalculated && !isTyped(each.value) && !isDrawnTemplate(m_data.table.drawnAs);
         Vor_String label = isCalculated ? dialString(wordCalculated) : Vor_String("%1");
         label.replaceSubString("%1", labelOf(each.value));
         item(firstValueLabel + each.value)->setText(label + ":");
@@ -232,7 +233,8 @@ bool SizeDialog::isGood(const NewSize& size) {
         if (!isNumber(row[m_data.table.firstValueColumn() + i]) || isNumber(size.values[i]))
             continue;
         const bool lacksShape = size.values[i].isEmpty() && i >= dimensionCount();
-        return lacksShape ? refuse(wordNoShape, labelOf(i), firstValueField + i)
+        const int noShape = isDrawnTemplate(m_data.table.drawnAs) ? wordNoFigure : wordNoShape;
+        return lacksShape ? refuse(noShape, labelOf(i), firstValueField + i)
                           : refuse(wordNoNumber, size.values[i], firstValueField + i);
     }
     if (trimmed(size.name).empty()) return refuse(wordNoSizeName, {}, nameField);
