@@ -23,6 +23,8 @@ class MacroRun {
     static std::unique_ptr<MacroRun> openToChange(const Vor_String& path, Vor_String& failure);
 
     const Vor_String& path() const { return m_path; }
+    /// OpenFile::noticeChange of the macro's file.
+    bool noticeChange() { return m_file.noticeChange(); }
     Vor_DbMacro& macro() { return m_macro; }
     MacroData& macroData() { return m_macroData; }
     AcTransaction& transaction() { return m_transaction; }

@@ -15,6 +15,7 @@
 #include "workbench/grid/grid_view.h"
 #include "workbench/run/run_page.h"
 #include "workbench/sections/table_page.h"
+#include "workbench/sheet/sheet_page.h"
 #include "workbench/starters_fixture.h"
 #include "workbench/window/dialog_font.h"
 
@@ -54,6 +55,16 @@ class SectionEditing : public StartersTest {
     std::string file() const {
         std::ifstream in(paths::toMachine(gSettings.libDir() + "prof\\HEA.pr"), std::ios::binary);
         return {std::istreambuf_iterator<char>(in), {}};
+    }
+    /// Another program adds the values of 220 under this name.
+    void addElsewhere(const char* name) const {
+        const std::string path = paths::toMachine(gSettings.libDir() + "prof\\HEA.pr");
+        const std::string text = file();
+        const size_t line = text.find("\n220\t") + 1;
+        std::string size = text.substr(line, text.find('\n', line) + 1 - line);
+        size.replace(0, 3, name);
+        std::filesystem::remove(path);
+        std::ofstream(path, std::ios::binary) << text << size;
     }
 
     static constexpr int editLibrary = 25330, addSize = 25331;
@@ -134,21 +145,12 @@ TEST_F(SectionEditing, WhatWasTypedIsKeptUntilTheTableCanBeWritten) {
 }
 
 TEST_F(SectionEditing, ASizeJoinsThoseThatAnotherProgramAddedMeanwhile) {
-    const std::string path = paths::toMachine(gSettings.libDir() + "prof\\HEA.pr");
-    const auto other = [&](const char* name) {
-        const std::string text = file();
-        const size_t line = text.find("\n220\t") + 1;
-        std::string size = text.substr(line, text.find('\n', line) + 1 - line);
-        size.replace(0, 3, name);
-        std::filesystem::remove(path);
-        std::ofstream(path, std::ios::binary) << text << size;
-    };
     const auto add = [&](const char* own, const char* others) {
         return [&, own, others](QWidget& dialog) {
             auto* ownName = dialog.findChild<QWidget*>(QString::number(SizeDialog::ownName));
             QTest::mouseClick(ownName, Qt::LeftButton, {}, QPoint(8, ownName->height() / 2));
             fill(dialog, SizeDialog::nameField, own);
-            other(others);
+            addElsewhere(others);
             StartersTest::press(dialog, IDOK);
         };
     };
@@ -158,6 +160,72 @@ TEST_F(SectionEditing, ASizeJoinsThoseThatAnotherProgramAddedMeanwhile) {
     press(addSize, {add("227", "227"), answers("Cancel", "HEA")});
     const std::string text = file();
     EXPECT_EQ(text.find("\n227\t"), text.rfind("\n227\t")) << "only the other's";
+}
+
+TEST_F(SectionEditing, PagesShowWhatAnotherProgramWrote) {
+    RunPage* run = window->openStandard(gSettings.libDir() + "Connection Standards\\FinPlate.tws");
+    auto* sections = qobject_cast<QComboBox*>(run->editor("BeamSection"));
+    ASSERT_TRUE(sections);
+    addElsewhere("226");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return sizes().contains("226"); }));
+    EXPECT_GE(sections->findText("HEA-226"), 0) << "and runs are made with it";
+
+    // A sheet and a macro outside of the library: when the user comes back.
+    const auto comeBack = [&] {
+        QEvent activated(QEvent::WindowActivate);
+        QApplication::sendEvent(window.get(), &activated);
+    };
+    const TemporaryFolder folder;
+    const std::string path = folder.inside("own.sss");
+    const auto write = [&](const char* text) {
+        control::Grid grid;
+        grid.setCols(1);
+        grid.setRows(1);
+        grid.setData(1, 1, text);
+        ASSERT_TRUE(grid.save(path));
+    };
+    write("old");
+    SheetPage* sheet = window->openSheet(path);
+    ASSERT_TRUE(sheet);
+    const auto shown = [&] { return sheet->grid().text(1, 1, control::Reading::data); };
+    comeBack();
+    EXPECT_EQ(sheet->message(), "");
+    write("new");
+    comeBack();
+    EXPECT_EQ(shown(), "new");
+    EXPECT_THAT(sheet->message().toStdString(), HasSubstr("loaded again"));
+    EXPECT_FALSE(sheet->isChanged());
+    ASSERT_TRUE(sheet->spread().userEnters(1, 1, "mine"));
+    write("newer");
+    comeBack();
+    EXPECT_EQ(shown(), "mine");
+    EXPECT_THAT(sheet->message().toStdString(), HasSubstr("saving asks"));
+    folder.write("own.sss", "damaged");
+    sheet->editor().undo();
+    comeBack();
+    EXPECT_THAT(sheet->message().toStdString(), HasSubstr("cannot be loaded"));
+
+    const std::string original = VORMANT_SOURCE_DIR "/library/Macros/EndPlate.macro";
+    const auto writeMacro = [&](const char* height) {
+        std::ifstream in(original, std::ios::binary);
+        std::string text{std::istreambuf_iterator<char>(in), {}};
+        const std::string value = "module.Plate.var.Height\t";
+        text.replace(text.find(value) + value.size(), 3, height);
+        std::filesystem::remove(folder.path() / "own.macro");
+        folder.write("own.macro", text);
+    };
+    writeMacro("200");
+    auto* macro = dynamic_cast<MacroPage*>(window->openMacro(folder.inside("own.macro")));
+    ASSERT_TRUE(macro);
+    writeMacro("210");
+    comeBack();
+    EXPECT_EQ(macro->value("Plate.Height"), "210");
+    EXPECT_THAT(macro->message().toStdString(), HasSubstr("loaded again"));
+    macro->noteChange();
+    writeMacro("220");
+    comeBack();
+    EXPECT_EQ(macro->value("Plate.Height"), "210") << "as it will be saved";
+    EXPECT_THAT(macro->message().toStdString(), HasSubstr("saving asks"));
 }
 
 TEST_F(SectionEditing, CancelAddsNothing) {

@@ -245,8 +245,22 @@ bool MacroPage::save() {
 /// What another program wrote, in place of what is shown. Results of a run before are not its own.
 void MacroPage::reload() {
     Vor_String failure;
+    if (!load(failure)) show(toQt(failure), true);
+}
+
+void MacroPage::followFile() {
+    if (!m_macro->noticeChange()) return;
+    if (m_isChanged) return show(uiText(wordFileChanged), true);
+    Vor_String failure;
+    if (load(failure))
+        show(uiText(wordFileReloaded), false);
+    else
+        show(uiText(wordFileUnreadable).arg(toQt(failure)), true);
+}
+
+bool MacroPage::load(Vor_String& failure) {
     auto macro = runs::MacroRun::open(m_macro->path(), failure);
-    if (!macro) return show(toQt(failure), true);
+    if (!macro) return false;
     m_macro = std::move(macro);
     m_model.show(nullptr);
     m_report = {};
@@ -255,6 +269,7 @@ void MacroPage::reload() {
     fillObjects();
     setChanged(false);
     show({}, false);
+    return true;
 }
 
 void MacroPage::setChanged(bool changed) {

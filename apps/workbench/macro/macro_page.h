@@ -20,6 +20,8 @@ class MacroPage : public QWidget {
     /// Writes the macro with the results of the last run and the attached standards.
     bool save();
     void reload();
+    /// Loads the macro again when another program wrote it, unless there is something to save.
+    void followFile();
     bool isChanged() const { return m_isChanged; }
     runs::MacroRun& macro() { return *m_macro; }
     /// Somebody changed the macro.
@@ -33,6 +35,7 @@ class MacroPage : public QWidget {
   private:
     QWidget* makeHeading();
     QWidget* makeRunBar();
+    bool load(Vor_String& failure);
     void fillStandards();
     void fillKeys();
     void fillObjects();

@@ -298,13 +298,17 @@ void RunPage::showMessages() {
 }
 
 // The sheet may have been edited in another page.
-void RunPage::showEvent(QShowEvent* event) {
-    QWidget::showEvent(event);
+void RunPage::followFile() {
     if (m_session->isStale()) update();
 }
 
+void RunPage::showEvent(QShowEvent* event) {
+    QWidget::showEvent(event);
+    followFile();
+}
+
 bool RunPage::event(QEvent* event) {
-    if (event->type() == QEvent::WindowActivate && m_session->isStale()) update();
+    if (event->type() == QEvent::WindowActivate) followFile();
     return QWidget::event(event);
 }
 

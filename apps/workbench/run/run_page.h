@@ -31,6 +31,8 @@ class RunPage : public QWidget {
     void setAuthor(QString author) { m_author = std::move(author); }
     /// Sizes came, went or have other values: they are offered, and the standard runs again.
     void sectionsChanged();
+    /// Loads the standard again when it was changed on disk; inputs keep what was typed.
+    void followFile();
     void setSheetOpener(std::function<void(const Vor_String&)> opener) {
         m_sheetOpener = std::move(opener);
     }

@@ -22,6 +22,8 @@ class SheetFile {
     /// Empty while the sheet has no file.
     const std::string& path() const { return m_file.path(); }
     bool isStandard() const;
+    /// OpenFile::noticeChange.
+    bool noticeChange() { return m_file.noticeChange(); }
 
     SheetSpread& spread() { return m_spread; }
     editor::SheetEditor& editor() { return m_spread.editor(); }

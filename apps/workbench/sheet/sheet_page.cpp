@@ -15,6 +15,7 @@
 #include "workbench/sheet/ui_text.h"
 #include "workbench/window/machine_path.h"
 #include "workbench/window/typed_text.h"
+#include "workbench/words/workbench_words.h"
 
 namespace {
 
@@ -219,6 +220,18 @@ void SheetPage::reload() {
         return;
     }
     finish(true);
+}
+
+void SheetPage::followFile() {
+    if (!m_file->noticeChange()) return;
+    if (isChanged()) return showMessage(uiText(wordFileChanged), true);
+    std::string error;
+    const std::string path = m_file->path();
+    if (!m_file->open(path, error))
+        return showMessage(uiText(wordFileUnreadable).arg(toQt(error)), true);
+    finish(true);
+    showMessage(uiText(wordFileReloaded));
+    if (m_check->isVisible()) check();
 }
 
 bool SheetPage::exportTo(const std::string& path) {

@@ -45,6 +45,8 @@ class SheetPage : public QWidget {
     /// By the extension: ".csv", ".xlsx" or ".pdf".
     bool exportTo(const std::string& path);
     void reload();
+    /// Loads the sheet again when another program wrote it, unless there is something to save.
+    void followFile();
     /// Why nothing was printed, if it was not; else what was left out.
     void showPrintOutcome(const QString& failure);
     void check();

@@ -11,6 +11,8 @@
 #include <QMessageBox>
 #include <QVBoxLayout>
 
+#include "core_api/sections/section_tables.h"
+#include "core_api/settings.h"
 #include "core_api/text/text_helpers.h"
 #include "core_api/texts/texts.h"
 #include "frame/starters.h"
@@ -34,6 +36,15 @@
 namespace {
 
 constexpr const char* keyProperty = "pageKey";
+
+std::map<std::string, files::Stamp> tableStamps() {
+    std::map<std::string, files::Stamp> stamps;
+    if (gSettings.libDir().isEmpty()) return stamps;
+    for (const std::string& table :
+         files::find((gSettings.libDir() + "prof\\").view(), "*.pr", false))
+        if (const auto stamp = files::stampOf(table)) stamps[table] = *stamp;
+    return stamps;
+}
 
 }  // namespace
 
@@ -171,6 +182,7 @@ bool MainWindow::openLibrary(const std::string& folder) {
         return false;
     }
     gSettings.setLibDir(*inside);
+    m_tableStamps = tableStamps();
     m_moduleData.clear();
     m_settings.noteLibrary(folder);
     if (auto* page = dynamic_cast<StartPage*>(pageOf(uiText(wordStart))))
@@ -211,6 +223,28 @@ void MainWindow::libraryChanged() {
     }
     m_tree->refresh();
     refreshSectionTables();
+    followFiles();
+}
+
+bool MainWindow::event(QEvent* event) {
+    if (event->type() == QEvent::WindowActivate) followFiles();
+    return QMainWindow::event(event);
+}
+
+/// A dialog works on what a page has; when it closes the window is activated.
+void MainWindow::followFiles() {
+    if (!m_session || QApplication::activeModalWidget()) return;
+    if (auto now = tableStamps(); now != m_tableStamps) {
+        m_tableStamps = std::move(now);
+        gSectionTables.reload();
+        sectionsChanged();
+    }
+    for (int i = 0; i < m_pages->count(); ++i) {
+        QWidget* page = m_pages->widget(i);
+        if (auto* run = dynamic_cast<RunPage*>(page)) run->followFile();
+        if (auto* macro = dynamic_cast<MacroPage*>(page)) macro->followFile();
+        if (auto* sheet = dynamic_cast<SheetPage*>(page)) sheet->followFile();
+    }
 }
 
 void MainWindow::askForLibrary() {

@@ -7,7 +7,10 @@
 #include <QPointer>
 #include <QTabWidget>
 #include <QTimer>
+#include <map>
+#include <string>
 
+#include "platform/files.h"
 #include "workbench/bill/bill_maker.h"
 #include "workbench/module/module_data.h"
 #include "workbench/shell/command_pane.h"
@@ -77,6 +80,9 @@ class MainWindow : public QMainWindow {
     QWidget* bringForward(const QString& key);
     void watchLibrary();
     void libraryChanged();
+    /// Pages and section tables show what other programs have written meanwhile.
+    void followFiles();
+    bool event(QEvent* event) override;
     void complain(const QString& text);
     void save();
 
@@ -116,5 +122,6 @@ class MainWindow : public QMainWindow {
     int m_newSheets = 0;
     QFileSystemWatcher m_watcher;
     QTimer m_refreshSoon;
+    std::map<std::string, files::Stamp> m_tableStamps;  ///< of the section tables as last read
     bool m_isGone = false;  ///< the library folder was told to be missing
 };

@@ -67,6 +67,9 @@ enum WorkbenchWord {
     wordStandardReloaded = 27111,
     wordInputsGone = 27112,
     wordStandardUnreadable = 27113,
+    wordFileReloaded = 27114,
+    wordFileChanged = 27115,
+    wordFileUnreadable = 27116,
 
     wordOutside = 27100,
 

@@ -10,6 +10,13 @@ constexpr int titleText = 9112, changedText = 9113;
 
 }  // namespace
 
+bool OpenFile::noticeChange() {
+    const auto now = m_stamp ? files::stampOf(m_path) : std::nullopt;
+    if (!now || now == m_stamp || now == m_noticed) return false;
+    m_noticed = now;
+    return true;
+}
+
 int OpenFile::askAbout(std::string_view path) {
     Vor_String question = dialString(changedText);
     question.replaceSubString("%1", Vor_String(path));

@@ -27,6 +27,10 @@ class VORMANT_API OpenFile {
     /// removed is written anew. Another path becomes the open file, whoever wrote it.
     Saved save(std::string_view path, const Write& write, std::string& error);
 
+    /// True when somebody else wrote the file since it was opened or saved here, once for every
+    /// state that it has had. Who shows it loads it again, or reports that saving will ask.
+    bool noticeChange();
+
     /// Asks what to do about `path`, which another program has written: IDYES to replace it, IDNO
     /// to load it, IDCANCEL.
     static int askAbout(std::string_view path);
@@ -37,4 +41,5 @@ class VORMANT_API OpenFile {
 
     std::string m_path;
     std::optional<files::Stamp> m_stamp;
+    std::optional<files::Stamp> m_noticed;
 };

@@ -166,6 +166,27 @@ constexpr TextRow rows[] = {
       "De standaard is op schijf gewijzigd en kan niet worden geladen: %1",
       "Der Standard wurde auf der Platte geändert und lässt sich nicht laden: %1",
       "Le standard a été modifié sur le disque et ne peut pas être chargé : %1"}},
+    {27114,
+     {"The file was changed on disk and has been loaded again.",
+      "Het bestand is op schijf gewijzigd en opnieuw geladen.",
+      "Die Datei wurde auf der Platte geändert und neu geladen.",
+      "Le fichier a été modifié sur le disque et a été rechargé."}},
+    {27115,
+     {"The file was changed on disk. What is shown is not what it holds; saving asks which to "
+      "keep.",
+      "Het bestand is op schijf gewijzigd. Wat wordt getoond, staat er niet in; bij het opslaan "
+      "wordt "
+      "gevraagd wat blijft.",
+      "Die Datei wurde auf der Platte geändert. Was gezeigt wird, steht nicht in ihr; beim "
+      "Speichern "
+      "wird gefragt, was bleibt.",
+      "Le fichier a été modifié sur le disque. Ce qui est affiché n'est pas son contenu ; "
+      "l'enregistrement demandera lequel garder."}},
+    {27116,
+     {"The file was changed on disk and cannot be loaded: %1",
+      "Het bestand is op schijf gewijzigd en kan niet worden geladen: %1",
+      "Die Datei wurde auf der Platte geändert und lässt sich nicht laden: %1",
+      "Le fichier a été modifié sur le disque et ne peut pas être chargé : %1"}},
 };
 
 }  // namespace
