@@ -1,5 +1,5 @@
 // The calculation: each equation cell has its turn.
-#include "core_api/text/number_text.h"
+#include "core_api/text/rounded_as_written.h"
 #include "mapping/cell_types.h"
 #include "mapping/run_timers.h"
 #include "spread/control/cell_text.h"
@@ -61,10 +61,10 @@ void TwStandardsSS::evaluateAll(PreparedStandard& prepared) {
         const formula::Value* result = hiddenResult(equation);
         if (result && !reportsAll && takeAtOnce(equation, *result)) continue;
         if (equation.text.view().empty()) continue;
-        fetchTexts();
+        fetchValues();
         (void)evaluate(prepared, equation, result);
     }
-    fetchTexts();
+    fetchValues();
     noteReadiness(prepared);
     m_fillsNow = true;
 }
@@ -76,8 +76,8 @@ inline const formula::Value* TwStandardsSS::hiddenResult(const PreparedEquation&
     return grid().evaluate(*equation.program, equation.cell.col, equation.cell.row);
 }
 
-/// The ordinary case of a hidden run: a number into a numeric variable and its cell, or a text into
-/// the cell of a String, at once. False, with nothing done, for everything else.
+/// The ordinary case of a hidden run: a number into the cell of a numeric variable, or a text into
+/// that of a String, at once. False, with nothing done, for everything else.
 inline bool TwStandardsSS::takeAtOnce(const PreparedEquation& equation,
                                       const formula::Value& result) {
     return equation.givesText ? takeText(equation, result) : takeNumber(equation, result);
@@ -96,12 +96,14 @@ bool TwStandardsSS::takeText(const PreparedEquation& equation, const formula::Va
 
 bool TwStandardsSS::takeNumber(const PreparedEquation& equation, const formula::Value& result) {
     const auto index = static_cast<size_t>(equation.target);
-    const ValuePlace& place = m_valuePlaces[index];
+    ValuePlace& place = m_valuePlaces[index];
     if (!place.cell || !result.isNumber()) return false;
-    const double shown = roundAsWritten(result.number(), VarValue::shownDecimals);
-    const double stored = place.type->decimals == 0 ? roundAsWritten(shown, 0) : shown;
+    const double shown = roundedAsWritten<VarValue::shownDecimals>(result.number());
+    const bool isWhole = place.type->decimals == 0;
+    const double stored = isWhole ? roundedAsWritten<0>(shown) : shown;
     if (!control::Grid::setPlain(*place.cell, *place.type, stored)) return false;
-    m_varCells[equation.target].typedValue().setNumber(shown);
+    if (isWhole) m_varCells[equation.target].typedValue().setNumber(shown);
+    place.isOnlyInCell = !isWhole;
     m_assignedIn[index] = equation.cell;
     return true;
 }
@@ -154,7 +156,10 @@ ErrorStatus TwStandardsSS::assign(Turn& turn) {
     TwVarCell& target = m_varCells[equation.target];
     const auto [column, row] = equation.cell;
     const Vor_FunctionTimer timer(gCalcCellCalcFunctions);
-    if (turn.result && !equation.givesText && takeNumber(equation, *turn.result)) return Acad::eOk;
+    if (turn.result && !equation.givesText && takeNumber(equation, *turn.result)) {
+        fetchValue(equation.target);
+        return Acad::eOk;
+    }
     m_assignedIn[static_cast<size_t>(equation.target)] = equation.cell;
     if (turn.result) {
         target.typedValue().take(equationCellType(equation.givesText), *turn.result);

@@ -75,7 +75,7 @@ class TwStandardsSS : public Vor_Spread {
     struct ValuePlace {
         control::Cell* cell = nullptr;  ///< null when they take the usual way
         const control::CellType* type = nullptr;
-        bool isOnlyInCell = false;  ///< a text that the variable itself has not got yet
+        bool isOnlyInCell = false;  ///< a value that the variable itself has not got yet
         /// What was given last as text, and the number that the cell took for it.
         Vor_String given;
         std::optional<double> givenNumber;
@@ -83,7 +83,8 @@ class TwStandardsSS : public Vor_Spread {
 
     void findValuePlaces();
     bool writeAtOnce(const TwVarCell& variable, ValuePlace& place);
-    void fetchTexts();
+    void fetchValues();
+    void fetchValue(int index);
     bool goesOnWith(const Vor_String& path) const;
     void noteReadiness(const PreparedStandard& prepared);
     void startAfresh();

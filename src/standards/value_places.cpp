@@ -1,6 +1,7 @@
 // Where the values of variables live in hidden runs: straight in the cells, from one run of a
 // standard to the next.
 #include <algorithm>
+#include <utility>
 
 #include "core_api/text/number_text.h"
 #include "mapping/cell_types.h"
@@ -54,17 +55,22 @@ void TwStandardsSS::findValuePlaces() {
     }
 }
 
-/// Texts stay in the cells while equations assign and read them there; before anybody looks at the
+/// Values stay in the cells while equations assign and read them there; before anybody looks at the
 /// variables they get what their cells hold.
-void TwStandardsSS::fetchTexts() {
-    for (size_t i = 0; i < m_valuePlaces.size(); ++i) {
-        ValuePlace& place = m_valuePlaces[i];
-        if (!place.isOnlyInCell) continue;
-        const formula::Value value = place.cell->value();
-        m_varCells[static_cast<int>(i)].typedValue().setText(value.isText() ? value.text()
-                                                                            : std::string_view());
-        place.isOnlyInCell = false;
-    }
+void TwStandardsSS::fetchValues() {
+    for (size_t i = 0; i < m_valuePlaces.size(); ++i)
+        if (m_valuePlaces[i].isOnlyInCell) fetchValue(static_cast<int>(i));
+}
+
+void TwStandardsSS::fetchValue(int index) {
+    ValuePlace& place = m_valuePlaces[static_cast<size_t>(index)];
+    if (!std::exchange(place.isOnlyInCell, false)) return;
+    VarValue& kept = m_varCells[index].typedValue();
+    const formula::Value value = place.cell->value();
+    if (value.isNumber())
+        kept.setNumber(value.number());
+    else
+        kept.setText(value.isText() ? value.text() : std::string_view());
 }
 
 ErrorStatus TwStandardsSS::writeVariables() {

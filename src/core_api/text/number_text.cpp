@@ -1,5 +1,7 @@
 #include "core_api/text/number_text.h"
 
+#include "core_api/text/rounded_as_written.h"
+
 #include <algorithm>
 #include <charconv>
 #include <cmath>
@@ -8,7 +10,9 @@
 
 namespace {
 
-constexpr int maxDecimals = 15;
+using rounding_as_written::maxDecimals;
+using rounding_as_written::powersAsDoubles;
+using rounding_as_written::scaledFast;
 
 constexpr std::array<std::uint64_t, maxDecimals + 1> powersOfTen = [] {
     std::array<std::uint64_t, maxDecimals + 1> powers{};
@@ -16,30 +20,6 @@ constexpr std::array<std::uint64_t, maxDecimals + 1> powersOfTen = [] {
     for (size_t i = 1; i < powers.size(); ++i) powers[i] = powers[i - 1] * 10;
     return powers;
 }();
-
-// The same powers for arithmetic in doubles, where all of them are exact.
-constexpr std::array<double, maxDecimals + 1> powersAsDoubles = [] {
-    std::array<double, maxDecimals + 1> powers{};
-    for (size_t i = 0; i < powers.size(); ++i) powers[i] = static_cast<double>(powersOfTen[i]);
-    return powers;
-}();
-
-// The number in units of the last decimal place, rounded to a whole number of them. Nothing when it
-// is too large for that, or so near a tie that the binary value could fall on the other side than
-// the written one.
-inline std::optional<double> scaledFast(double number, double power) {
-    constexpr double largest = 0x1p50;  // a quarter of a unit is still exact
-    // Doubles of this size have no decimals, so that adding it rounds to a whole number.
-    constexpr double wholeOnly = 0x1.8p52;
-    const double scaled = number * power;
-    const double magnitude = std::fabs(scaled);
-    if (!(magnitude < largest)) return std::nullopt;
-    const double whole = (scaled + wholeOnly) - wholeOnly;
-    // Half a unit in the last place of the number, scaled, and the rounding of the product.
-    const double doubt = magnitude * 0x1p-51;
-    if (0.5 - std::fabs(scaled - whole) <= doubt) return std::nullopt;
-    return whole;
-}
 
 char* writeScaled(char* out, std::uint64_t scaled, int decimals, bool keepZeros) {
     const std::uint64_t power = powersOfTen[static_cast<size_t>(decimals)];

@@ -3,10 +3,12 @@
 #include <new>
 #include <utility>
 
+#include "spread/control/formula/text_room.h"
+
 namespace control {
 
 TextBlock* TextBlock::make(std::string_view text) {
-    auto* block = static_cast<TextBlock*>(::operator new(sizeof(TextBlock) + text.size()));
+    auto* block = static_cast<TextBlock*>(::operator new(sizeof(TextBlock) + roomFor(text.size())));
     block->references = 1;
     block->size = static_cast<uint32_t>(text.size());
     if (!text.empty()) std::memcpy(block + 1, text.data(), text.size());

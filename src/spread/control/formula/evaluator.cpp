@@ -92,6 +92,10 @@ Value Evaluator::otherCell(const control::Cell* cell, int col, int row) const {
 // first. Each of arithmetic and comparison has its own code for two numbers; errors go the long
 // way.
 bool Evaluator::operate(const Instruction& i, Value& a, const Value& b) {
+    if (a.isSingle() && b.isSingle()) [[likely]] {
+        a = applyBinary(m_calculation, i.op, a, b);
+        return true;
+    }
     a = binary(i, a, b);
     return m_calculation.m_dirtyAreas.empty();
 }
@@ -110,6 +114,10 @@ inline bool Evaluator::compute(const Instruction& i, Value& a, const Value& b) {
 
 template <Op op>
 inline bool Evaluator::compare(const Instruction& i, Value& a, const Value& b) {
+    if (a.isText() && b.isText()) {
+        a = Value::boolean(orderHolds(op, compareTexts(a.text(), b.text())));
+        return true;
+    }
     const auto is =
         a.isNumber() && b.isNumber() ? compared(op, a.number(), b.number()) : std::optional<bool>();
     if (!is) [[unlikely]]

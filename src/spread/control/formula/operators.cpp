@@ -28,23 +28,6 @@ Value join(Calculation& c, const Value& a, const Value& b) {
     return joined(c, textOf(a, first), textOf(b, second));
 }
 
-bool holds(Op op, int order) {
-    switch (op) {
-        case Op::equal:
-            return order == 0;
-        case Op::notEqual:
-            return order != 0;
-        case Op::less:
-            return order < 0;
-        case Op::lessEqual:
-            return order <= 0;
-        case Op::greater:
-            return order > 0;
-        default:
-            return order >= 0;
-    }
-}
-
 }  // namespace
 
 Value toText(Calculation& c, const Value& value) {
@@ -57,7 +40,7 @@ Value applyBinary(Calculation& c, Op op, const Value& a, const Value& b) {
     if (a.isError()) return a;
     if (b.isError()) return b;
     if (op == Op::concatenate) return join(c, a, b);
-    if (op >= Op::equal) return Value::boolean(holds(op, compareValues(a, b)));
+    if (op >= Op::equal) return Value::boolean(orderHolds(op, compareValues(a, b)));
     const auto left = toNumber(a);
     if (!left) return left.error();
     const auto right = toNumber(b);

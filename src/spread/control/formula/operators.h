@@ -37,6 +37,24 @@ inline Value arithmetic(Op op, double a, double b) {
     return result;
 }
 
+/// Whether a comparison holds for values that stand in this order (below, at or above 0).
+inline bool orderHolds(Op op, int order) {
+    switch (op) {
+        case Op::equal:
+            return order == 0;
+        case Op::notEqual:
+            return order != 0;
+        case Op::less:
+            return order < 0;
+        case Op::lessEqual:
+            return order <= 0;
+        case Op::greater:
+            return order > 0;
+        default:
+            return order >= 0;
+    }
+}
+
 /// #VALUE! when that is longer than what a cell holds: the programs refuse to make longer ones.
 inline Value joined(Calculation& c, std::string_view a, std::string_view b) {
     constexpr size_t longest = 32767;
