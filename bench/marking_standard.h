@@ -14,7 +14,6 @@ using namespace bench;
 inline constexpr int blocks = 6;  // of 20 equations, each with a K of its own
 
 // clang-format off
-// EQ: the expression reads the same in both languages. EQP: it does not. TEXT: it gives a text.
 #define MARKING_EQUATIONS(EQ, EQP, TEXT) \
     EQ(Hole, Bolt+IF(Bolt<16,1,IF(Bolt<27,2,K))) \
     TEXT(Series, "IF(Height<150,\"light\",IF(Height<300,\"medium\",IF(Height<600,\"heavy\",\"extra\")))", \
@@ -56,12 +55,8 @@ inline constexpr const char* locals[] = {"String Series", "String Size",  "Strin
 
 /// The equations with their K's written in, in sheet order.
 inline std::vector<std::string> equations(const std::array<std::string, blocks>& ks) {
-    std::vector<std::string> patterns;
-#define MARKING_EQ(name, expression) patterns.push_back(#name "=" #expression);
-#define MARKING_TEXT(name, text, expression) patterns.push_back(std::string(#name "=") + text);
-    MARKING_EQUATIONS(MARKING_EQ, MARKING_TEXT, MARKING_TEXT)
-#undef MARKING_EQ
-#undef MARKING_TEXT
+    constexpr const char* patterns[] = {
+        MARKING_EQUATIONS(BENCH_PATTERN_EQ, BENCH_PATTERN, BENCH_PATTERN)};
     return bench::equations(patterns, ks);
 }
 
@@ -93,13 +88,7 @@ inline void handWritten(const Inputs& in, const std::array<double, blocks>& ks, 
     auto& [Mark, Remark, BoltName, Profile, WeldNote, Class, BoltCount, Plate, Gap, Weld, Use,
            Edge] = out;
     for (const double K : ks) {
-#define MARKING_EQ(name, expression) name = store(expression);
-#define MARKING_EQP(name, text, expression) name = store(expression);
-#define MARKING_TEXT(name, text, expression) name = expression;
-        MARKING_EQUATIONS(MARKING_EQ, MARKING_EQP, MARKING_TEXT)
-#undef MARKING_EQ
-#undef MARKING_EQP
-#undef MARKING_TEXT
+        MARKING_EQUATIONS(BENCH_STORE_EQ, BENCH_STORE_EQP, BENCH_STORE_TEXT)
     }
 }
 

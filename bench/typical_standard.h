@@ -14,7 +14,6 @@ using namespace bench;
 inline constexpr int blocks = 3;  // of 40 equations, each with a K of its own
 
 // clang-format off
-// EQ: the expression reads the same in both languages. EQP: it does not. TEXT: it gives a text.
 #define TYPICAL_EQUATIONS(EQ, EQP, TEXT) \
     EQ(Hole, Bolt+IF(Bolt<16,1,IF(Bolt<27,2,K))) \
     EQ(Area, (Height-2*Flange)*Web+2*Width*Flange) \
@@ -73,12 +72,8 @@ inline constexpr const char* locals[] = {
 
 /// The equations with their K's written in, in sheet order.
 inline std::vector<std::string> equations(const std::array<std::string, blocks>& ks) {
-    std::vector<std::string> patterns;
-#define TYPICAL_EQ(name, expression) patterns.push_back(#name "=" #expression);
-#define TYPICAL_TEXT(name, text, expression) patterns.push_back(std::string(#name "=") + text);
-    TYPICAL_EQUATIONS(TYPICAL_EQ, TYPICAL_TEXT, TYPICAL_TEXT)
-#undef TYPICAL_EQ
-#undef TYPICAL_TEXT
+    constexpr const char* patterns[] = {
+        TYPICAL_EQUATIONS(BENCH_PATTERN_EQ, BENCH_PATTERN, BENCH_PATTERN)};
     return bench::equations(patterns, ks);
 }
 
@@ -115,13 +110,7 @@ inline void handWritten(const Inputs& in, const std::array<double, blocks>& ks, 
     auto& [Mark, BoltCount, PlateWidth, PlateLength, PlateThickness, Pitch, EdgeEnd, EdgeSide, Weld,
            Gap, Use, Cope] = out;
     for (const double K : ks) {
-#define TYPICAL_EQ(name, expression) name = store(expression);
-#define TYPICAL_EQP(name, text, expression) name = store(expression);
-#define TYPICAL_TEXT(name, text, expression) name = expression;
-        TYPICAL_EQUATIONS(TYPICAL_EQ, TYPICAL_EQP, TYPICAL_TEXT)
-#undef TYPICAL_EQ
-#undef TYPICAL_EQP
-#undef TYPICAL_TEXT
+        TYPICAL_EQUATIONS(BENCH_STORE_EQ, BENCH_STORE_EQP, BENCH_STORE_TEXT)
     }
 }
 

@@ -29,12 +29,20 @@ inline std::string withConstant(std::string_view pattern, const std::string& k) 
     return text.str();
 }
 
+// What a list of equations becomes. EQ: the expression reads the same in both languages. EQP: it
+// does not. TEXT: it gives a text. First the patterns of a sheet, then the same in C++.
+#define BENCH_PATTERN_EQ(name, expression) #name "=" #expression,
+#define BENCH_PATTERN(name, text, expression) #name "=" text,
+#define BENCH_STORE_EQ(name, expression) name = store(expression);
+#define BENCH_STORE_EQP(name, text, expression) name = store(expression);
+#define BENCH_STORE_TEXT(name, text, expression) name = expression;
+
 /// The patterns once for each of `ks`, in sheet order.
-inline std::vector<std::string> equations(const std::vector<std::string>& patterns,
+inline std::vector<std::string> equations(std::span<const char* const> patterns,
                                           std::span<const std::string> ks) {
     std::vector<std::string> all;
     for (const std::string& k : ks)
-        for (const std::string& pattern : patterns) all.push_back(withConstant(pattern, k));
+        for (const char* pattern : patterns) all.push_back(withConstant(pattern, k));
     return all;
 }
 

@@ -6,6 +6,7 @@
 #include "platform/window/message_box.h"
 #include "standards/run_observer.h"
 #include "standards/tw_standards_ss.h"
+#include "support/shown_cells.h"
 #include "support/standard_file.h"
 
 namespace {
@@ -361,19 +362,7 @@ std::string dumpVariables(const TwStandardsSS& sheet) {
 
 /// Everything a sheet shows after a run.
 std::string dump(const TwStandardsSS& sheet) {
-    std::string text = dumpVariables(sheet);
-    for (int row = 1; row <= sheet.nrRows(); ++row) {
-        for (int column = 1; column <= sheet.nrCols(); ++column) {
-            for (const auto kind : {Vor_Spread::Reading::value, Vor_Spread::Reading::data,
-                                    Vor_Spread::Reading::formula}) {
-                Vor_String read;
-                sheet.getCellText(column, row, read, kind);
-                text += read.str() + "\t";
-            }
-        }
-        text += "\n";
-    }
-    return text;
+    return dumpVariables(sheet) + shownCells(sheet);
 }
 
 /// What was prepared once must give what each cell's own text gives, in every run.

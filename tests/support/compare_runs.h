@@ -11,6 +11,7 @@
 #include "standards/run_observer.h"
 #include "standards/standards_dialog.h"
 #include "support/literal_run.h"
+#include "support/shown_cells.h"
 
 /// What came of a run, to be compared line by line.
 struct RunResult {
@@ -94,22 +95,6 @@ class CompareRuns : private RunObserver {
         return text.substr(0, text.find("\nHere's a tip")) + "\n";
     }
 
-    static std::string cellsOf(const Vor_Spread& sheet) {
-        std::string text;
-        for (int row = 1; row <= sheet.nrRows(); ++row) {
-            for (int column = 1; column <= sheet.nrCols(); ++column) {
-                for (const auto kind : {Vor_Spread::Reading::value, Vor_Spread::Reading::data,
-                                        Vor_Spread::Reading::formula}) {
-                    Vor_String read;
-                    sheet.getCellText(column, row, read, kind);
-                    text += read.str() + "\t";
-                }
-            }
-            text += "\n";
-        }
-        return text;
-    }
-
     RunResult runLiteral() {
         RunResult result;
         std::vector<std::string> told;
@@ -121,7 +106,7 @@ class CompareRuns : private RunObserver {
             result.variables += line(variable.name, variable.value);
         for (const LiteralVariable& variable : given)
             result.outputs += line(variable.name, variable.value);
-        result.cells = cellsOf(run);
+        result.cells = shownCells(run);
         return result;
     }
 
@@ -170,7 +155,7 @@ class CompareRuns : private RunObserver {
             RunningStandard running;
             const bool done = dialog->run(running) == Acad::eOk;
             data = dialog->data();
-            result.cells = cellsOf(dialog->spread());
+            result.cells = shownCells(dialog->spread());
             return done;
         });
     }
