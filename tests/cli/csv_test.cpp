@@ -124,7 +124,7 @@ TEST(Csv, WhatIsWrittenReadsBack) {
     EXPECT_EQ(recordsOf(line + "\n"), Records{expected});
 }
 
-TEST(exchange::LineSource, SaysWhyItCannotOpen) {
+TEST(LineSource, SaysWhyItCannotOpen) {
     const program::Folder folder;
     std::string error;
     EXPECT_FALSE(exchange::LineSource::open(folder / "absent", error));
