@@ -93,19 +93,20 @@ WorkbookStyles::WorkbookStyles() {
     m_formats.numberOf(formatXml(0, 0, 0, 0, 0));
 }
 
-int WorkbookStyles::numberFormatOf(const control::CellType& type) {
+// A formula that is edited where everything is text becomes a text.
+int WorkbookStyles::numberFormatOf(const control::CellType& type, bool isFormula) {
     constexpr int whole = 1, twoDecimals = 2, text = 49;  // numbers that the format itself has
-    if (!type.isNumber()) return type.keepsText() ? text : 0;
+    if (!type.isNumber()) return type.keepsText() && !isFormula ? text : 0;
     if (type.decimals == 0) return whole;
     if (type.decimals == 2) return twoDecimals;
     m_decimals.insert(type.decimals);
     return firstOwnNumberFormat + type.decimals;
 }
 
-int WorkbookStyles::numberOf(const control::CellFormat& format) {
+int WorkbookStyles::numberOf(const control::CellFormat& format, bool isFormula) {
     constexpr int mostFormats = 64000;
     const std::string xml = formatXml(
-        numberFormatOf(format.type), m_fonts.numberOf(fontXml(format)),
+        numberFormatOf(format.type, isFormula), m_fonts.numberOf(fontXml(format)),
         m_fills.numberOf(fillXml(format)), m_borders.numberOf(borderXml(format)), format.alignment);
     return m_formats.count() < mostFormats ? m_formats.numberOf(xml) : 0;
 }

@@ -29,12 +29,13 @@ class WorkbookStyles {
   public:
     WorkbookStyles();
     /// The number by which cells name the format of `format`.
-    int numberOf(const control::CellFormat& format);
+    /// A cell with a formula is never one where everything is text.
+    int numberOf(const control::CellFormat& format, bool isFormula);
     /// The part "xl/styles.xml".
     std::string xml() const;
 
   private:
-    int numberFormatOf(const control::CellType& type);
+    int numberFormatOf(const control::CellType& type, bool isFormula);
 
     std::set<int> m_decimals;  ///< of the number formats in use
     NumberedPieces m_fonts;

@@ -3,6 +3,7 @@
 // else. The same sheet gives the same bytes in every locale and at every time.
 #include <algorithm>
 #include <cmath>
+#include <map>
 #include <unordered_map>
 
 #include "drawing/canvas.h"
@@ -128,26 +129,46 @@ class Workbook {
         std::stable_sort(m_places.begin(), m_places.end(), isBefore);
     }
 
-    int formatOf(control::FormatIndex index) {
-        const auto [found, isNew] = m_formats.try_emplace(index);
-        if (isNew) found->second = m_styles.numberOf(m_grid.formats()[index]);
+    int formatOf(control::FormatIndex index, bool isFormula = false) {
+        const auto [found, isNew] = m_formats.try_emplace({index, isFormula});
+        if (isNew) found->second = m_styles.numberOf(m_grid.formats()[index], isFormula);
         return found->second;
     }
 
-    std::string columnsXml() {
+    static std::string widthXml(int pixels) {
         constexpr double pixelsOfDigit = 7, mostDigits = 255;
+        const double digits = std::min(pixels / pixelsOfDigit, mostDigits);
+        return xmlNumber(std::max(std::floor(digits * 256) / 256, 0.0));
+    }
+    static std::string heightXml(int pixels) {
+        constexpr double pointsOfPixel = 0.75, mostPoints = 409.5;
+        return xmlNumber(std::min(pixels * pointsOfPixel, mostPoints));
+    }
+    /// Width and height of those that have none of their own, where they are not the usual ones.
+    std::string sizesXml() const {
+        constexpr int usualWidth = 64, usualHeight = 20;
+        const int width = m_grid.sides().cols.defaultSize, height = m_grid.sides().rows.defaultSize;
+        std::string xml = "<sheetFormatPr";
+        if (width != usualWidth) xml += " defaultColWidth=\"" + widthXml(width) + "\"";
+        xml += " defaultRowHeight=\"" + heightXml(height) + "\"";
+        return xml + (height != usualHeight ? " customHeight=\"1\"/>" : "/>");
+    }
+
+    std::string columnsXml() {
         const control::SideTables& sides = m_grid.sides();
         const int cols = std::max(m_used.cols, lastOf(sides.cols));
         std::string xml;
         for (int col = 1; col <= cols; ++col) {
             const bool isHidden = sides.cols.hidden.contains(col);
-            const bool isSized = sides.cols.sizes.contains(col);
+            const auto size = sides.cols.sizes.find(col);
+            const bool isSized = size != sides.cols.sizes.end();
             const auto cellFormat = sides.columnFormat(col);
             if (!isSized && !isHidden && cellFormat == control::inheritedFormat) continue;
-            const double digits = std::min(m_grid.colWidth(col) / pixelsOfDigit, mostDigits);
+            // A hidden one has its width too, for when it is shown again.
+            const int pixels = isSized ? size->second : sides.cols.defaultSize;
             const std::string number = std::to_string(col);
             xml += "<col min=\"" + number + "\" max=\"" + number + "\" width=\"" +
-                   xmlNumber(std::max(std::floor(digits * 256) / 256, 0.0)) + "\"";
+                   widthXml(pixels) + "\"";
             if (cellFormat != control::inheritedFormat)
                 xml += " style=\"" + std::to_string(formatOf(cellFormat)) + "\"";
             xml += isHidden ? " hidden=\"1\" customWidth=\"1\"/>" : " customWidth=\"1\"/>";
@@ -183,12 +204,9 @@ class Workbook {
     }
     /// `pixels` below 0 for the usual height.
     void beginRow(int row, int pixels, bool isHidden) {
-        constexpr double pointsOfPixel = 0.75, mostPoints = 409.5;
         m_rows += "<row r=\"" + std::to_string(row) + "\"";
         if (pixels >= 0) {
-            m_rows += " ht=\"";
-            appendXmlNumber(m_rows, std::min(pixels * pointsOfPixel, mostPoints));
-            m_rows += "\" customHeight=\"1\"";
+            m_rows += " ht=\"" + heightXml(pixels) + "\" customHeight=\"1\"";
         }
         m_rows += isHidden || pixels == 0 ? " hidden=\"1\">" : ">";
     }
@@ -196,10 +214,10 @@ class Workbook {
     void writeCell(const Place& place) {
         const std::string name = cellName({place.col, place.row});
         m_rows += "<c r=\"" + name + "\"";
-        const int format = formatOf(m_grid.formatIndex(place.col, place.row));
-        if (format != 0) m_rows += " s=\"" + std::to_string(format) + "\"";
         const auto formula =
             place.cell ? m_grid.sheet().formula(place.col, place.row) : std::nullopt;
+        const int format = formatOf(m_grid.formatIndex(place.col, place.row), formula.has_value());
+        if (format != 0) m_rows += " s=\"" + std::to_string(format) + "\"";
         if (!place.cell)
             m_rows += "/>";
         else if (formula)
@@ -309,8 +327,7 @@ class Workbook {
         xml += m_hasHeaderRow ? "><pane ySplit=\"1\" topLeftCell=\"A2\" activePane=\"bottomLeft\" "
                                 "state=\"frozen\"/><selection pane=\"bottomLeft\"/></sheetView>"
                               : "/>";
-        xml += "</sheetViews><sheetFormatPr defaultRowHeight=\"15\"/>" + columns + "<sheetData>" +
-               m_rows + "</sheetData>";
+        xml += "</sheetViews>" + sizesXml() + columns + "<sheetData>" + m_rows + "</sheetData>";
         if (m_spanCount > 0)
             xml += "<mergeCells count=\"" + std::to_string(m_spanCount) + "\">" + m_spans +
                    "</mergeCells>";
@@ -405,7 +422,7 @@ class Workbook {
     int m_spanCount = 0;
     SharedTexts m_texts;
     WorkbookStyles m_styles;
-    std::unordered_map<control::FormatIndex, int> m_formats;
+    std::map<std::pair<control::FormatIndex, bool>, int> m_formats;
     WorkbookPictures m_pictures;
     WorkbookNotes m_notes;
     std::string m_error;

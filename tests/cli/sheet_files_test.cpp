@@ -2,6 +2,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "cli/program.h"
 #include "cli/zip_entry.h"
 
@@ -66,16 +68,22 @@ TEST(SheetConvert, TextsThatReadLikeFormulasStayTextsThroughCsv) {
     EXPECT_EQ(folder.read("b.tws"), document);
 }
 
-TEST(SheetConvert, WorkbooksKeepFormulasResultsAndFormats) {
+/// What the workbook of a document holds; `cells` come after its lines, as many as there are.
+std::string workbookOf(const std::string& lines, const std::string& cells) {
     const program::Folder folder;
-    const auto file = folder.write(
-        "a.tws",
-        "vormant-sheet 1\nsize 3 3\nlook 1 number decimals=3\nspan B3 2 1\n"
-        "cells\nA1 @1 2.5\nB1 @1 =A1*2\t5\nC1 =IFS(A1>2,\"a<b\")\t\"a<b\nA2 \"\xC3\x9C\n"
-        "B2 =STDEV.S(A1:B1)&ERROR.TYPE(C2)\t\"x\nC2 =1/0\t#DIV/0!\nB3 \"wide\nend 7\n");
+    const auto count = std::count(cells.begin(), cells.end(), '\n');
+    const auto file = folder.write("a.tws", "vormant-sheet 1\n" + lines + "cells\n" + cells +
+                                                "end " + std::to_string(count) + "\n");
     const auto result = program::run({"sheet", "convert", file, folder / "a.XLSX"});
     EXPECT_EQ(result.exitCode, 0) << result.err;
-    const std::string archive = folder.read("a.XLSX");
+    return folder.read("a.XLSX");
+}
+
+TEST(SheetConvert, WorkbooksKeepFormulasResultsAndFormats) {
+    const std::string archive =
+        workbookOf("size 3 3\nlook 1 number decimals=3\nspan B3 2 1\n",
+                   "A1 @1 2.5\nB1 @1 =A1*2\t5\nC1 =IFS(A1>2,\"a<b\")\t\"a<b\nA2 \"\xC3\x9C\n"
+                   "B2 =STDEV.S(A1:B1)&ERROR.TYPE(C2)\t\"x\nC2 =1/0\t#DIV/0!\nB3 \"wide\n");
     const std::string sheet = zipEntry(archive, "xl/worksheets/sheet1.xml");
     EXPECT_THAT(sheet, HasSubstr("<v>2.5</v>"));
     EXPECT_THAT(sheet, HasSubstr("<f>A1*2</f><v>5</v>"));
@@ -87,17 +95,37 @@ TEST(SheetConvert, WorkbooksKeepFormulasResultsAndFormats) {
     EXPECT_THAT(zipEntry(archive, "xl/styles.xml"), HasSubstr("formatCode=\"0.000\""));
 }
 
+TEST(SheetConvert, WorkbooksKeepSizesOfHiddenLinesAndThoseOfAllOthers) {
+    const std::string sheet = zipEntry(
+        workbookOf("size 4 4\ncolwidth all 140\nrowheight all 40\ncolwidth B 70\nrowheight 2 30\n"
+                   "hidecol B\nhidecol C\nhiderow 2\n",
+                   "A1 1\n"),
+        "xl/worksheets/sheet1.xml");
+    for (const char* part :
+         {"<sheetFormatPr defaultColWidth=\"20\" defaultRowHeight=\"30\" customHeight=\"1\"/>",
+          "<col min=\"2\" max=\"2\" width=\"10\" hidden=\"1\"",
+          "<col min=\"3\" max=\"3\" width=\"20\" hidden=\"1\"",
+          "<row r=\"2\" ht=\"22.5\" customHeight=\"1\" hidden=\"1\">"})
+        EXPECT_THAT(sheet, HasSubstr(part));
+}
+
+TEST(SheetConvert, FormulasInTextCellsStayFormulasWhenTheyAreEdited) {
+    const std::string styles =
+        zipEntry(workbookOf("size 1 1\nlook 1 edit\n", "A1 @1 =1+1\t2\n"), "xl/styles.xml");
+    EXPECT_THAT(styles, Not(HasSubstr("numFmtId=\"49\"")));
+    EXPECT_THAT(zipEntry(workbookOf("size 1 1\nlook 1 edit\n", "A1 @1 \"007\n"), "xl/styles.xml"),
+                HasSubstr("numFmtId=\"49\""));
+}
+
 TEST(SheetConvert, WorkbooksAreWellFormedAndExactWhateverTheyHold) {
-    const program::Folder folder;
     std::string controls;
     for (char c = 1; c < ' '; ++c)
         if (c != '\t' && c != '\n' && c != '\r') controls += c;
-    const auto file = folder.write(
-        "a.tws", "vormant-sheet 1\nsize 5 5\nnote A1 \"a\x07<&\ncells\nA1 \"" + controls +
-                     "\nB1 =CHAR(7)&\"]]>\"\t\"\nC1 0.30000000000000004\nD1 =1>0\tTRUE\n"
-                     "A2 \"_x0041_\nB2 #N/A\nC2 123456789012345680\nend 7\n");
-    ASSERT_EQ(program::run({"sheet", "convert", file, folder / "a.xlsx"}).exitCode, 0);
-    const std::string archive = folder.read("a.xlsx");
+    const std::string archive =
+        workbookOf("size 5 5\nnote A1 \"a\x07<&\n",
+                   "A1 \"" + controls +
+                       "\nB1 =CHAR(7)&\"]]>\"\t\"\nC1 0.30000000000000004\nD1 =1>0\tTRUE\n"
+                       "A2 \"_x0041_\nB2 #N/A\nC2 123456789012345680\n");
     const std::string sheet = zipEntry(archive, "xl/worksheets/sheet1.xml");
     const std::string texts = zipEntry(archive, "xl/sharedStrings.xml");
     const std::string notes = zipEntry(archive, "xl/comments1.xml");
@@ -114,7 +142,7 @@ TEST(SheetConvert, WorkbooksAreWellFormedAndExactWhateverTheyHold) {
 }
 
 TEST(SheetConvert, WorkbooksCarryPicturesOfEveryKind) {
-    const program::Folder folder;
+    const program::Folder folder;  // of the pictures
     std::string bitmap(58, '\0');  // one pixel of 24 bits
     for (const auto& [at, value] : {std::pair(0, 'B'),
                                     {1, 'M'},
@@ -144,11 +172,7 @@ TEST(SheetConvert, WorkbooksCarryPicturesOfEveryKind) {
                    folder.write("from" + number, pictures[i].bytes) + "\"\n";
         cells += "A" + number + " @" + number + " \"\n";
     }
-    const auto file = folder.write(
-        "a.tws", "vormant-sheet 1\nsize 1 4\n" + formats + "cells\n" + cells + "end 4\n");
-    const auto result = program::run({"sheet", "convert", file, folder / "a.xlsx"});
-    ASSERT_EQ(result.exitCode, 0) << result.err;
-    const std::string archive = folder.read("a.xlsx");
+    const std::string archive = workbookOf("size 1 4\n" + formats, cells);
     const std::string drawing = zipEntry(archive, "xl/drawings/drawing1.xml");
     const std::string types = zipEntry(archive, "[Content_Types].xml");
     for (const auto& [name, bytes, extent] : pictures) {
