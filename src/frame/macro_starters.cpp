@@ -13,9 +13,13 @@ void StartDlgMacro(MacroData& data) try {
     noMemoryForDialog();
 }
 
-bool StartDlgMacroModeless(bool keepFocus, MacroData& data, int& slot) try {
+bool StartDlgMacroModeless(bool keepFocus, MacroData& data, int& slot) {
+    return StartDlgMacroModeless(keepFocus, data, slot, nullptr);
+}
+
+bool StartDlgMacroModeless(bool keepFocus, MacroData& data, int& slot, MacroDialogEnded ended) try {
     const ResourceOverrideScope resources;
-    return openMacroDialogs().start(keepFocus, data, slot);
+    return openMacroDialogs().start(keepFocus, data, slot, std::move(ended));
 } catch (const std::bad_alloc&) {
     return noMemoryForDialog();
 }
@@ -45,9 +49,15 @@ bool StartDlgEditConstrModal(EditConstrData& data) try {
     return noMemoryForDialog();
 }
 
-bool StartDlgEditConstraints(EditConstrData& data) try {
+bool StartDlgEditConstraints(EditConstrData& data) {
+    StartDlgEditConstraints(data, nullptr);
+    return true;
+}
+
+bool StartDlgEditConstraints(EditConstrData& data, ConstraintsEnded ended) try {
     const ResourceOverrideScope resources;
-    if (openConstraints().start(data)) Host::current().focusMainWindow();
+    if (!openConstraints().start(data, std::move(ended))) return false;
+    Host::current().focusMainWindow();
     return true;
 } catch (const std::bad_alloc&) {
     return noMemoryForDialog();

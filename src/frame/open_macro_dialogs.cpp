@@ -17,7 +17,7 @@ OpenMacroDialogs::OpenMacroDialogs()
 
 bool OpenMacroDialogs::isOpen(int slot) const {
     if (slot < 0 || slot >= length()) return false;
-    const auto& dialog = m_slots[static_cast<size_t>(slot)];
+    const auto& dialog = m_slots[static_cast<size_t>(slot)].dialog;
     return dialog && dialog->isAlive();
 }
 
@@ -29,33 +29,54 @@ int OpenMacroDialogs::takeFreeSlot() {
     return slot;
 }
 
-bool OpenMacroDialogs::start(bool keepFocus, const MacroData& data, int& slot) {
+bool OpenMacroDialogs::start(bool keepFocus, const MacroData& data, int& slot,
+                             MacroDialogEnded ended) {
     slot = takeFreeSlot();
     auto dialog = std::make_unique<MacroDialog>();
-    dialog->setModeless(slot, [](int ended) { EndDlgMacroModeless(ended); });
+    dialog->setModeless(slot, [](int number) { EndDlgMacroModeless(number); });
     dialog->data() = data;
-    if (!dialog->create()) return false;
-    dialog->show(true);
-    m_slots[static_cast<size_t>(slot)] = std::move(dialog);
-    if (!keepFocus) Host::current().focusMainWindow();
-    return true;
+    const bool isMade = dialog->create();
+    if (isMade) {
+        dialog->show(true);
+        if (ended) dialog->whenDestroyed([this](int number) { m_delayed.endLater(number); });
+        m_slots[static_cast<size_t>(slot)] = {std::move(dialog), std::move(ended)};
+        if (!keepFocus) Host::current().focusMainWindow();
+    }
+    reportEnded();
+    return isMade;
 }
 
 bool OpenMacroDialogs::end(int slot) {
-    if (!isOpen(slot)) return false;
-    if (m_slots[static_cast<size_t>(slot)]->isBusy()) {
+    const bool wasOpen = isOpen(slot);
+    if (wasOpen && m_slots[static_cast<size_t>(slot)].dialog->isBusy()) {
         m_delayed.endLater(slot);
         return true;
     }
+    if (slot < 0 || slot >= length()) return false;
     freeSlot(slot);
     trim();
-    acedPostCommandPrompt();
-    return true;
+    if (wasOpen) acedPostCommandPrompt();
+    reportEnded();
+    return wasOpen;
 }
 
 void OpenMacroDialogs::freeSlot(int slot) {
+    Slot& freed = m_slots[static_cast<size_t>(slot)];
+    if (freed.ended) {
+        m_ended.push_back({freed.ended, slot, freed.dialog->isConfirmed(), freed.dialog->data()});
+        freed.ended = nullptr;
+    }
     m_delayed.cancel(slot);
-    retire(std::move(m_slots[static_cast<size_t>(slot)]));
+    if (freed.dialog) freed.dialog->whenDestroyed(nullptr);
+    retire(std::move(freed.dialog));
+}
+
+void OpenMacroDialogs::reportEnded() {
+    while (!m_ended.empty()) {
+        const Ended ended = std::move(m_ended.back());
+        m_ended.pop_back();
+        ended.call(ended.slot, ended.isConfirmed, ended.data);
+    }
 }
 
 void OpenMacroDialogs::trim() {
@@ -71,11 +92,14 @@ void OpenMacroDialogs::endAll() {
 
 bool OpenMacroDialogs::getData(int slot, MacroData& data) const {
     if (!isOpen(slot)) return false;
-    data = m_slots[static_cast<size_t>(slot)]->data();
+    data = m_slots[static_cast<size_t>(slot)].dialog->data();
     return true;
 }
 
 void OpenMacroDialogs::dropAll() {
-    for (int slot = length() - 1; slot >= 0; --slot) freeSlot(slot);
+    for (int slot = length() - 1; slot >= 0; --slot) {
+        m_slots[static_cast<size_t>(slot)].ended = nullptr;
+        freeSlot(slot);
+    }
     m_slots.clear();
 }

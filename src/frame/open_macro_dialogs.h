@@ -7,6 +7,7 @@
 
 #include "frame/delayed_ends.h"
 #include "frame/macro_dialog.h"
+#include "frame/starters.h"
 
 class OpenMacroDialogs {
   public:
@@ -14,26 +15,40 @@ class OpenMacroDialogs {
 
     /// Opens a dialog on a copy of `data`; `slot` becomes the first free one. False when the window
     /// cannot be made.
-    bool start(bool keepFocus, const MacroData& data, int& slot);
+    bool start(bool keepFocus, const MacroData& data, int& slot, MacroDialogEnded ended);
     /// A busy dialog goes a moment later. False for a bad or free slot.
     bool end(int slot);
     /// From the last slot to the first.
     void endAll();
     /// False, with `data` as it was, for a bad or free slot.
     bool getData(int slot, MacroData& data) const;
-    /// Without timers and prompts: the library goes.
+    /// Without timers, prompts and calls of hosts: the library goes.
     void dropAll();
 
     /// Free slots between used ones count.
     int length() const { return static_cast<int>(m_slots.size()); }
 
   private:
+    struct Slot {
+        std::unique_ptr<MacroDialog> dialog;
+        MacroDialogEnded ended;
+    };
+    struct Ended {
+        MacroDialogEnded call;
+        int slot;
+        bool isConfirmed;
+        MacroData data;
+    };
+
     bool isOpen(int slot) const;
     int takeFreeSlot();
     void freeSlot(int slot);
     void trim();
+    /// At the very end of a call: hosts may open and end dialogs meanwhile.
+    void reportEnded();
 
-    std::vector<std::unique_ptr<MacroDialog>> m_slots;
+    std::vector<Slot> m_slots;
+    std::vector<Ended> m_ended;
     DelayedEnds m_delayed;
 };
 

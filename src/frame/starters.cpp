@@ -72,9 +72,9 @@ bool StartDlgSelectImage(TwSelectImageDlgData& data) try {
     return noMemoryForDialog();
 }
 
-bool StartDlgFormatUp(TwLookUpDlgData& data) try {
+bool StartDlgLookUp(TwLookUpDlgData& data) try {
     const ResourceOverrideScope resources;
-    FormatUpDialog dialog;
+    LookUpDialog dialog;
     dialog.setTitle(data.title);
     return runDialog(dialog, data);
 } catch (const std::bad_alloc&) {

@@ -4,6 +4,8 @@
 // made counts as cancelled. Arguments stay the caller's.
 #pragma once
 
+#include <functional>
+
 #include "core_api/dialog_data/dlg_csp2_data.h"
 #include "core_api/dialog_data/dlg_edit_lib_data.h"
 #include "core_api/dialog_data/dlg_macro_cuts_data.h"
@@ -32,16 +34,34 @@ VORMANT_API void StartDlgMacro(MacroData& data);
 /// Modeless: returns at once, with the number of the dialog in `slot`. Unless `keepFocus`, the
 /// host's main window gets the keyboard back.
 VORMANT_API bool StartDlgMacroModeless(bool keepFocus, MacroData& data, int& slot);
+/// Hears how a modeless macro dialog ended, once, when it has gone and its slot is free: whether
+/// the user confirmed it, and its data as it was at the end. Closed by the user, by
+/// EndDlgMacroModeless or with the host's main window is not confirmed. It may open the next
+/// dialog.
+using MacroDialogEnded = std::function<void(int slot, bool isConfirmed, const MacroData& data)>;
+/// The same with a call when the dialog ended. There is none when it could not be opened (false),
+/// and none for dialogs that go with this library.
+VORMANT_API bool StartDlgMacroModeless(bool keepFocus, MacroData& data, int& slot,
+                                       MacroDialogEnded ended);
 /// False for a bad or free slot. A dialog that is busy is closed 50 ms later.
 VORMANT_API bool EndDlgMacroModeless(int slot);
 /// The data of an open dialog as it is now. False, with `data` as it was, for a bad or free slot.
 VORMANT_API bool GetDlgMacroData(int slot, MacroData& data);
+/// EndDlgMacroModeless for every slot, the last one first.
 VORMANT_API void DestroyAllMacroDlgs();
 
 /// `data` stays; its own call hears of the edited constraints.
 VORMANT_API bool StartDlgEditConstrModal(EditConstrData& data);
 /// Modeless, one at a time: while one is open nothing more happens. Always true.
 VORMANT_API bool StartDlgEditConstraints(EditConstrData& data);
+/// As MacroDialogEnded, for the constraints. `data.apply` has been called before when it is
+/// confirmed.
+using ConstraintsEnded = std::function<void(bool isConfirmed, const EditConstrData& data)>;
+/// The same with a call when the dialog ended. False, and no call, when one is open already or none
+/// can be made.
+VORMANT_API bool StartDlgEditConstraints(EditConstrData& data, ConstraintsEnded ended);
+/// Closes the open one, if any; one that is busy 50 ms later. Asks the host for a prompt either
+/// way, once it has gone.
 VORMANT_API void EndDlgEditConstraints();
 
 /// `isChanged` says, whatever the result, whether the user changed a cut.
@@ -76,6 +96,8 @@ VORMANT_API bool StartDlgSelectMacro(const Vor_String& title, const Vor_StringAr
                                      const int& previewWidth, const int& previewHeight,
                                      Vor_String& macro, bool& isAlternative, bool explains);
 
+/// The editor of designed dialogs, of which there is none yet: warns the user, naming `path` (which
+/// may be empty). Always false.
 VORMANT_API bool StartDlgDesigner(const Vor_String& path);
 /// The variables that the edit fields of a designed dialog stand for, in the order of its file.
 /// `dialog` is the path of its template, or its name below the folder of templates. False, with
@@ -103,17 +125,22 @@ VORMANT_API bool StartDlgEditLibSections(DlgEditLibData& data, const Vor_String&
 /// place of the new size among the active ones (-1 when none could be made), else as it was.
 VORMANT_API bool StartDlgEditLibSimple(const Vor_String& section, Vor_ProfValuesTable& table,
                                        int& row);
+/// Calculates cutting stock: items, their stock and the pieces to cut.
 VORMANT_API bool StartDlgCSP2(DlgCSP2Data& data);
+/// Edits the features of one member: holes, notches and the like. Lengths in millimetres.
 VORMANT_API bool StartDlgProfFeatures(DlgProfFeaturesData& data);
+/// Edits what a member and the sections are called in the CIS/2 format. The names of sections are
+/// read from and written to the library.
 VORMANT_API bool StartDlgCis2Info(TwDlgCis2Data& data);
 /// Settings that last as long as the module is loaded.
 VORMANT_API void StartDSTVPointsDlg();
 
 // --- buildings and choices ----------------------------------------------------------------------
 
+// Each edits the data object of its argument as said at the top.
 VORMANT_API bool StartDlgGrid(TwGridDlgData& data);
 VORMANT_API bool StartDlgLevels(TwLevelsDlgData& data);
 VORMANT_API bool StartDlgCladdingSettings(TwCladdingDlgData& data);
 VORMANT_API bool StartDlgBracing(TwBracingDlgData& data);
-VORMANT_API bool StartDlgFormatUp(TwLookUpDlgData& data);
+VORMANT_API bool StartDlgLookUp(TwLookUpDlgData& data);
 VORMANT_API bool StartDlgSelectImage(TwSelectImageDlgData& data);

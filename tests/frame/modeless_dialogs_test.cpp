@@ -176,6 +176,66 @@ TEST_F(MacroDialogs, OutliveTheMainWindowWhileTheyWork) {
     EXPECT_FALSE(dialog->isCreated());
 }
 
+// One line for each way out of a dialog: what the host hears once it has gone.
+enum class Ends { byThemselves, byHost, withTheMainWindow };
+const struct {
+    const char* name;
+    std::vector<int> presses;
+    Ends ends;
+    bool isConfirmed;
+} waysOut[] = {
+    {"OK", {IDOK}, Ends::byThemselves, true},
+    {"Cancel", {IDCANCEL}, Ends::byThemselves, false},
+    {"OK counts", {IDOK, IDCANCEL}, Ends::byThemselves, true},
+    {"the host is faster", {IDOK}, Ends::byHost, true},
+    {"the host", {}, Ends::byHost, false},
+    {"the main window", {}, Ends::withTheMainWindow, false},
+};
+
+TEST_F(MacroDialogs, TellOnceHowTheyEnded) {
+    for (const auto& way : waysOut) {
+        SCOPED_TRACE(way.name);
+        std::vector<bool> heard;
+        int slot = -1;
+        const auto ended = [&](int number, bool isConfirmed, const MacroData& data) {
+            heard.push_back(isConfirmed);
+            EXPECT_EQ(number, 1);
+            EXPECT_EQ(data != macro, isConfirmed);
+            EXPECT_EQ(start(), 0);  // its slot and the one before are free
+        };
+        ASSERT_EQ(start(), 0);
+        ASSERT_TRUE(StartDlgMacroModeless(true, macro, slot, ended));
+        CDialog* dialog = opened(1);
+        EXPECT_TRUE(EndDlgMacroModeless(0));
+        ASSERT_TRUE(dialog->itemAs<Vor_Spread>(namedValuesGrid)->userEnters(valueColumn, 1, "24"));
+        for (const int button : way.presses) dialog->press(button);
+        EXPECT_TRUE(heard.empty());
+        if (way.ends == Ends::byHost) {
+            EXPECT_TRUE(EndDlgMacroModeless(1));
+        }
+        if (way.ends == Ends::withTheMainWindow) {
+            main.destroy();
+            SetUp();
+        }
+        user.advanceClock(DelayedEnds::delay);
+        EXPECT_EQ(heard, std::vector<bool>{way.isConfirmed});
+        user.advanceClock(1000);
+        EXPECT_EQ(openMacroDialogs().length(), 1);
+        EXPECT_TRUE(EndDlgMacroModeless(0));
+    }
+}
+
+TEST_F(MacroDialogs, CancelledIsNotConfirmedByAnImpatientUser) {
+    start();
+    CDialog* dialog = opened(0);
+    dialog->itemAs<Vor_Spread>(namedValuesGrid)->userEnters(valueColumn, 1, "24");
+    dialog->press(IDCANCEL);
+    dialog->press(IDOK);
+    MacroData read;
+    ASSERT_TRUE(GetDlgMacroData(0, read));
+    EXPECT_EQ(read, macro);
+}
+
 TEST_F(MacroDialogs, AllGoAtOnce) {
     for (int i = 0; i < 3; ++i) start();
     EndDlgMacroModeless(1);
@@ -252,6 +312,46 @@ TEST_F(MacroDialogs, ConstraintsMayBeEndedByWhatTheyApply) {
     ASSERT_TRUE(main.create({"Host", "", {0, 0, 800, 600}, 0, 0, true}, nullptr));
     EXPECT_TRUE(StartDlgEditConstraints(data));
     EXPECT_EQ(dialogs().size(), 1u);
+}
+
+TEST_F(MacroDialogs, ConstraintsTellOnceHowTheyEnded) {
+    for (const auto& way : waysOut) {
+        SCOPED_TRACE(way.name);
+        std::vector<bool> heard;
+        EditConstrData data = sampleConstraints();
+        const auto ended = [&](bool isConfirmed, const EditConstrData& edited) {
+            heard.push_back(isConfirmed);
+            EXPECT_EQ(edited.constraints[0].value, isConfirmed ? 12.5 : 10);
+            EXPECT_TRUE(StartDlgEditConstraints(data, nullptr));
+        };
+        ASSERT_TRUE(StartDlgEditConstraints(data, ended));
+        EXPECT_FALSE(StartDlgEditConstraints(data, ended));
+        CDialog* dialog = opened(0);
+        dialog->itemAs<Vor_Spread>(namedValuesGrid)->userEnters(valueColumn, 3, "12.5");
+        for (const int button : way.presses) dialog->press(button);
+        EXPECT_TRUE(heard.empty());
+        if (way.ends == Ends::byHost) EndDlgEditConstraints();
+        if (way.ends == Ends::withTheMainWindow) {
+            main.destroy();
+            SetUp();
+        }
+        user.advanceClock(DelayedEnds::delay);
+        EXPECT_EQ(heard, std::vector<bool>{way.isConfirmed});
+        user.advanceClock(1000);
+        EXPECT_EQ(dialogs().size(), 1u);
+        EndDlgEditConstraints();
+        EXPECT_EQ(host.printed.find("Erase"), std::string::npos);
+    }
+}
+
+TEST_F(MacroDialogs, TellNothingWhenTheLibraryGoes) {
+    int slot = -1, heard = 0;
+    EditConstrData data = sampleConstraints();
+    ASSERT_TRUE(StartDlgMacroModeless(true, macro, slot, [&](auto&&...) { ++heard; }));
+    ASSERT_TRUE(StartDlgEditConstraints(data, [&](auto&&...) { ++heard; }));
+    detachLibrary();
+    user.advanceClock(1000);
+    EXPECT_EQ(heard, 0);
 }
 
 TEST_F(MacroDialogs, ConstraintsWindowThatIsGoneIsTold) {

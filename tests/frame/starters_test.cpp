@@ -71,7 +71,7 @@ TwLevelsDlgData sampleLevels() {
     return data;
 }
 
-TwLookUpDlgData sampleFormatUp() {
+TwLookUpDlgData sampleLookUp() {
     TwLookUpDlgData data;
     data.names = {"S235", "S355"};
     data.chosen = 0;
@@ -159,7 +159,7 @@ std::vector<Case> cases() {
          over<TwLevelsDlgData>(StartDlgLevels, sampleLevels(),
                                [](auto& d) { return Vor_String(d.levels[0].height, 3); })},
         {"look up", 8728, 1, "S355", "0",
-         over<TwLookUpDlgData>(StartDlgFormatUp, sampleFormatUp(),
+         over<TwLookUpDlgData>(StartDlgLookUp, sampleLookUp(),
                                [](auto& d) { return Vor_String(d.chosen, 0); })},
         {"cladding", 8729, 4, "8000", "6000",
          over<TwCladdingDlgData>(StartDlgCladdingSettings, {},

@@ -48,7 +48,7 @@ TEST_F(SectionTables, TheCatalogueSortsAllOfThem) {
 }
 
 /// The value of a key in a look-up table of the library; NaN when it is not there.
-double formatUp(std::string_view file, const std::string& key) {
+double lookUp(std::string_view file, const std::string& key) {
     Vor_StringArray lines;
     ObjectExportReadFile(gSettings.libDir() + "Connection Standards\\Data\\" + file, lines);
     Vor_String name;
@@ -63,11 +63,9 @@ class DataFiles : public SampleLibrary {};
 
 TEST_F(DataFiles, BoltsAndSpacingBelongTogether) {
     for (const std::string size : {"M12", "M16", "M20", "M22", "M24", "M27", "M30", "M36"}) {
-        const auto bolt = [&](const char* what) {
-            return formatUp("bolts.txt", size + ";" + what);
-        };
+        const auto bolt = [&](const char* what) { return lookUp("bolts.txt", size + ";" + what); };
         const auto spacing = [&](const char* what) {
-            return formatUp("spacing.txt", size + ";" + what);
+            return lookUp("spacing.txt", size + ";" + what);
         };
         const double d = bolt("d"), pitch = bolt("P"), hole = bolt("d0");
         EXPECT_EQ(size, "M" + std::to_string(static_cast<int>(d)));

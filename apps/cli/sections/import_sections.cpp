@@ -36,7 +36,7 @@ std::optional<ImportedTable> readImported(const ImportSectionsRequest& request) 
 
 /// Where a name leads: a path, or a new or old file of the library. Nothing after telling why.
 std::optional<TableFile> placeOf(const std::string& typed) {
-    if (const auto found = formatUpTable(typed)) return found;
+    if (const auto found = lookUpTable(typed)) return found;
     const auto inside = insidePath(typed);
     if (!inside) return std::nullopt;
     Vor_String path = *inside;

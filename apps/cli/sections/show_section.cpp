@@ -107,7 +107,7 @@ ExitCode print(const std::string& text) {
 
 /// What there is when there is no section of this name.
 void complainAboutSection(const std::string& typed, const Vor_String& name) {
-    const auto table = formatUpTable(encodings::toUtf8(sectionTableOf(name)));
+    const auto table = lookUpTable(encodings::toUtf8(sectionTableOf(name)));
     if (!table) {
         findTable(typed);
         return;
@@ -132,7 +132,7 @@ ExitCode showSection(const ShowSectionRequest& request) {
         complain("\"" + request.name + "\": " + error);
         return ExitCode::wrongCall;
     }
-    if (const auto file = formatUpTable(request.name)) {
+    if (const auto file = lookUpTable(request.name)) {
         const auto table = readTable(*file);
         if (!table) return ExitCode::failed;
         return print(request.json ? tableAsJson(*table) : tableAsText(*table));

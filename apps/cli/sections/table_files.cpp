@@ -36,7 +36,7 @@ std::vector<TableFile> neededTables() {
     return tables;
 }
 
-std::optional<TableFile> formatUpTable(const std::string& typed) {
+std::optional<TableFile> lookUpTable(const std::string& typed) {
     const auto inside = insidePath(typed);
     if (!inside) return std::nullopt;
     if (files::exists(*inside)) return TableFile{removeExtension(getFileName(*inside)), *inside};
@@ -46,7 +46,7 @@ std::optional<TableFile> formatUpTable(const std::string& typed) {
 }
 
 std::optional<TableFile> findTable(const std::string& typed) {
-    if (auto found = formatUpTable(typed)) return found;
+    if (auto found = lookUpTable(typed)) return found;
     std::vector<std::string> names;
     for (const TableFile& table : libraryTables()) names.push_back(encodings::toUtf8(table.name));
     std::string message = "there is no section table \"" + typed + "\"";

@@ -21,7 +21,7 @@ std::vector<TableFile> neededTables();
 
 /// The table meant by what was typed: a file, or a name in the library, letter case aside. Nothing
 /// when there is none.
-std::optional<TableFile> formatUpTable(const std::string& typed);
+std::optional<TableFile> lookUpTable(const std::string& typed);
 /// The same, telling what there is when there is none.
 std::optional<TableFile> findTable(const std::string& typed);
 

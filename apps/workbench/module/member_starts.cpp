@@ -197,16 +197,16 @@ Outcome bracing(ModuleData& data) {
 
 // --- choices ------------------------------------------------------------------------------------
 
-Outcome formatUp(ModuleData& data) {
+Outcome lookUp(ModuleData& data) {
     if (!hasSections()) return Outcome::noSections;
-    auto& edited = data.objects.formatUp;
+    auto& edited = data.objects.lookUp;
     if (!edited) {
         edited.emplace();
         edited->prompt = dialString(sectionWord);
         edited->names = ModuleData::sections(data.member().sectionName.str().substr(0, 3));
         edited->chosen = 0;
     }
-    return changedIf(StartDlgFormatUp(*edited));
+    return changedIf(StartDlgLookUp(*edited));
 }
 
 Outcome selectImage(ModuleData& data) {

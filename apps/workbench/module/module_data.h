@@ -30,7 +30,7 @@ struct ModuleObjects {
     std::optional<TwLevelsDlgData> levels;
     TwCladdingDlgData cladding;
     std::optional<TwBracingDlgData> bracing;
-    std::optional<TwLookUpDlgData> formatUp;
+    std::optional<TwLookUpDlgData> lookUp;
     int chosenPicture = -1;
     bool forAllObjects = true;
     Vor_String chosenMacro;

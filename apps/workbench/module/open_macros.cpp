@@ -12,47 +12,47 @@ constexpr int milliseconds = 10;
 }  // namespace
 
 OpenMacros::OpenMacros(OnClosed onClosed) : m_onClosed(std::move(onClosed)) {
-    m_format.setInterval(milliseconds);
-    m_format.callOnTimeout([this] { format(); });
+    m_timer.setInterval(milliseconds);
+    m_timer.callOnTimeout([this] { look(); });
 }
 
 bool OpenMacros::open(const Vor_String& path, const MacroData& data) {
-    format();
+    look();
     int slot = 0;
     MacroData given = data;
     if (!StartDlgMacroModeless(true, given, slot)) return false;
     m_open.push_back({slot, path, data, data});
-    m_format.start();
+    m_timer.start();
     return true;
 }
 
-void OpenMacros::format() {
+void OpenMacros::look() {
     std::vector<Entry> gone;
     std::erase_if(m_open, [&](Entry& each) {
         if (GetDlgMacroData(each.slot, each.seen)) return false;
         if (!(each.seen == each.before)) gone.push_back(each);
         return true;
     });
-    if (m_open.empty()) m_format.stop();
+    if (m_open.empty()) m_timer.stop();
     for (const Entry& each : gone) m_onClosed(each.path, each.seen);
 }
 
 bool OpenMacros::endLast() {
-    format();
+    look();
     const bool isEnded = !m_open.empty() && EndDlgMacroModeless(m_open.back().slot);
-    format();
+    look();
     return isEnded;
 }
 
 bool OpenMacros::endAll() {
     if (count() == 0) return false;
     DestroyAllMacroDlgs();
-    format();
+    look();
     return true;
 }
 
 bool OpenMacros::takeLast() {
-    format();
+    look();
     if (m_open.empty()) return false;
     m_onClosed(m_open.back().path, m_open.back().seen);
     m_open.back().before = m_open.back().seen;
@@ -60,6 +60,6 @@ bool OpenMacros::takeLast() {
 }
 
 int OpenMacros::count() {
-    format();
+    look();
     return static_cast<int>(m_open.size());
 }

@@ -1,6 +1,5 @@
-// The modeless macro dialogs that are open, and the macros they were opened on. The module does not
-// tell its host when a user confirms one, and holds its data for a moment only: so the data is
-// looked at all the time, and given to the macro once the dialog is gone.
+// The modeless macro dialogs that are open, and the macros they were opened on. What a dialog holds
+// at its end goes into the macro, however it ended: so its data is looked at all the time.
 #pragma once
 
 #include <QTimer>
@@ -32,9 +31,9 @@ class OpenMacros {
         MacroData before;
         MacroData seen;
     };
-    void format();
+    void look();
 
     OnClosed m_onClosed;
     std::vector<Entry> m_open;
-    QTimer m_format;
+    QTimer m_timer;
 };

@@ -54,7 +54,7 @@ constexpr Starter all[] = {
     {Group::standards, 24080, starts::attachStandards},
     {Group::standards, 24081, starts::runStandard},
     {Group::standards, 24082, starts::selfTest},
-    {Group::other, 24090, starts::formatUp},
+    {Group::other, 24090, starts::lookUp},
     {Group::other, 24091, starts::selectImage},
 };
 

@@ -47,7 +47,7 @@ Outcome constructionGrid(ModuleData& data);
 Outcome levels(ModuleData& data);
 Outcome cladding(ModuleData& data);
 Outcome bracing(ModuleData& data);
-Outcome formatUp(ModuleData& data);
+Outcome lookUp(ModuleData& data);
 Outcome selectImage(ModuleData& data);
 
 inline Outcome changedIf(bool isOk) {

@@ -26,8 +26,8 @@ bool hasFolder(const Vor_String& file, Vor_String* message = nullptr) {
 }
 
 /// The wanted member of the first pair whose `key` is `name`.
-Vor_String formatUp(const Vor_Array<Pair>& pairs, Vor_String Pair::*key, std::string_view name,
-                    Vor_String Pair::*wanted) {
+Vor_String lookUp(const Vor_Array<Pair>& pairs, Vor_String Pair::*key, std::string_view name,
+                  Vor_String Pair::*wanted) {
     for (const Pair& pair : pairs)
         if ((pair.*key).equal(name)) return pair.*wanted;
     return {};
@@ -36,11 +36,11 @@ Vor_String formatUp(const Vor_Array<Pair>& pairs, Vor_String Pair::*key, std::st
 }  // namespace
 
 Vor_String SectionTranslation::otherName(std::string_view section) const {
-    return formatUp(pairs, &Pair::section, section, &Pair::otherName);
+    return lookUp(pairs, &Pair::section, section, &Pair::otherName);
 }
 
 Vor_String SectionTranslation::section(std::string_view otherName) const {
-    return formatUp(pairs, &Pair::otherName, otherName, &Pair::section);
+    return lookUp(pairs, &Pair::otherName, otherName, &Pair::section);
 }
 
 void SectionTranslation::set(const Vor_String& section, const Vor_String& otherName) {

@@ -58,7 +58,7 @@ enum SheetText {
     familyStatistics,
     familyMatrices,
     familyLogic,
-    familyFormatUp,
+    familyLookUp,
     familyTexts,
     familyInformation,
     familyDates,

@@ -32,7 +32,7 @@ constexpr Family families[] = {
     {texts::familyStatistics, formula::statisticsFunctions, statisticsWords},
     {texts::familyMatrices, formula::matrixFunctions, matrixWords},
     {texts::familyLogic, formula::logicFunctions, logicWords},
-    {texts::familyFormatUp, formula::lookupFunctions, lookupWords},
+    {texts::familyLookUp, formula::lookupFunctions, lookupWords},
     {texts::familyTexts, formula::textFunctions, textWords},
     {texts::familyInformation, formula::informationFunctions, informationWords},
     {texts::familyDates, formula::dateFunctions, dateWords},

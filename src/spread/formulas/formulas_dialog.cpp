@@ -63,8 +63,8 @@ void TwFormulasDlg::onInit() {
         case Mode::evaluateCell:
             evaluate();
             break;
-        case Mode::formatUp:
-            formatUp();
+        case Mode::lookUp:
+            lookUp();
             break;
         case Mode::none:
             break;
@@ -140,9 +140,9 @@ void TwFormulasDlg::evaluate() {
     m_grid.getCellText(cellColumn, cellRow, cellText, Reading::data);
 }
 
-void TwFormulasDlg::formatUp() {
+void TwFormulasDlg::lookUp() {
     const CalculatingSheet scope(m_grid);
-    formatUpInTable(m_grid, call);
+    lookUpInTable(m_grid, call);
 }
 
 void TwFormulasDlg::showFormulasAsText(int referenceStyle) {

@@ -22,7 +22,7 @@ class TwFormulasDlg : public CDialog {
         autoCalculate = 1106,
         recalculate = 1107,
     };
-    enum class Mode { none = 0, evaluateCell = 1, formatUp = 2, readFile = 4 };
+    enum class Mode { none = 0, evaluateCell = 1, lookUp = 2, readFile = 4 };
 
     /// The mode and what it needs are set before the dialog is run. `parent` is borrowed.
     explicit TwFormulasDlg(CWnd* parent);
@@ -32,7 +32,7 @@ class TwFormulasDlg : public CDialog {
     Vor_String fileName;
 
     /// Look-up: the call, borrowed.
-    FormatUpCall call;
+    LookUpCall call;
 
     /// Evaluating: the cell, from 1, and what it shows afterwards.
     int cellColumn = 0;
@@ -62,7 +62,7 @@ class TwFormulasDlg : public CDialog {
     void loadTyped();
     void readFile();
     void evaluate();
-    void formatUp();
+    void lookUp();
     void showFormulasAsText(int referenceStyle);
     void setAutoCalculate(bool on);
     Vor_String typedPath() const;

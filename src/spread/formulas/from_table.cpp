@@ -15,7 +15,7 @@ int fromTable(SSValue* result, SSValue* arguments, short count) {
         return 1;
     }
     TwFormulasDlg dialog(livingMainWindow());
-    dialog.mode = TwFormulasDlg::Mode::formatUp;
+    dialog.mode = TwFormulasDlg::Mode::lookUp;
     dialog.call = {result, arguments, count, CalculatingSheet::current()};
     dialog.doModal();
     return 1;

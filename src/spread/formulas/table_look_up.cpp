@@ -63,7 +63,7 @@ std::optional<int> findRow(const Vor_Spread& table, int col, const Vor_String& k
     return std::nullopt;
 }
 
-std::optional<Place> findByNames(const Vor_Spread& table, const FormatUpCall& call) {
+std::optional<Place> findByNames(const Vor_Spread& table, const LookUpCall& call) {
     Vor_String text;
     takeText(call.arguments[1], *call.callingSheet, text);
     const auto keyColumn = findColumn(table, text);
@@ -76,7 +76,7 @@ std::optional<Place> findByNames(const Vor_Spread& table, const FormatUpCall& ca
     return Place{*resultColumn, *row};
 }
 
-std::optional<Place> findPlace(const Vor_Spread& table, const FormatUpCall& call) {
+std::optional<Place> findPlace(const Vor_Spread& table, const LookUpCall& call) {
     std::optional<Place> place;
     if (call.count == 4)
         place = findByNames(table, call);
@@ -111,7 +111,7 @@ bool loadTable(Vor_Spread& table, SSValue& fileArgument) {
 
 }  // namespace
 
-void formatUpInTable(Vor_Spread& table, const FormatUpCall& call) {
+void lookUpInTable(Vor_Spread& table, const LookUpCall& call) {
     if (!call.result || !call.arguments || !call.callingSheet) return;
     SSValue& result = *call.result;
     result.status = ssEmpty;

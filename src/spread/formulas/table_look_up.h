@@ -8,7 +8,7 @@
 #include "spread/vor_spread.h"
 
 /// One call as the control hands it in.
-struct FormatUpCall {
+struct LookUpCall {
     SSValue* result = nullptr;
     SSValue* arguments = nullptr;
     short count = 0;
@@ -18,7 +18,7 @@ struct FormatUpCall {
 
 /// Loads the file of the first argument into `table` and looks up what the others say. Every
 /// failure leaves the result without value and the calling sheet as it was.
-void formatUpInTable(Vor_Spread& table, const FormatUpCall& call);
+void lookUpInTable(Vor_Spread& table, const LookUpCall& call);
 
 /// Makes FROMTABLE known to the formulas of `sheet`; needed again after each load.
 bool registerFromTable(Vor_Spread& sheet);

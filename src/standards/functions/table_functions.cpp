@@ -28,7 +28,7 @@ int findSectionRow(const LookupTable& table, const Vor_String& key) {
     return -1;
 }
 
-FunctionResult formatUp(FunctionArguments& arguments, bool keysAreSections) {
+FunctionResult lookUp(FunctionArguments& arguments, bool keysAreSections) {
     const auto file = arguments.text(0);
     if (!file || arguments.count() < 2) return std::nullopt;
     const auto table = readLookupTable(*file);
@@ -42,9 +42,9 @@ FunctionResult formatUp(FunctionArguments& arguments, bool keysAreSections) {
 }  // namespace
 
 FunctionResult getCell(FunctionArguments& arguments) {
-    return formatUp(arguments, false);
+    return lookUp(arguments, false);
 }
 
 FunctionResult getProfCell(FunctionArguments& arguments) {
-    return formatUp(arguments, true);
+    return lookUp(arguments, true);
 }

@@ -12,7 +12,7 @@ bool isVector(const Value& source) {
 }
 
 /// VLOOKUP and HLOOKUP: search the first column (row), answer from the column (row) `index`.
-Value formatUpInTable(Calculation& c, Arguments args, bool isVertical) {
+Value lookUpInTable(Calculation& c, Arguments args, bool isVertical) {
     const Value& wanted = args[0];
     const Value& table = args[1];
     if (wanted.isError()) return wanted;
@@ -52,11 +52,11 @@ Result<Extended> readModes(Calculation& c, Arguments args, size_t first) {
 }  // namespace
 
 Value vlookup(Calculation& c, Arguments args) {
-    return formatUpInTable(c, args, true);
+    return lookUpInTable(c, args, true);
 }
 
 Value hlookup(Calculation& c, Arguments args) {
-    return formatUpInTable(c, args, false);
+    return lookUpInTable(c, args, false);
 }
 
 Value lookup(Calculation& c, Arguments args) {
