@@ -21,10 +21,6 @@ void CommandPane::print(std::string_view text) {
     moveCursor(QTextCursor::End);
 }
 
-void WorkbenchHost::postCommand(std::string_view command) {
-    m_pane.print(std::string(command) + "\n");
-}
-
 void WorkbenchHost::focusMainWindow() {
     m_widget.setFocus();
 }

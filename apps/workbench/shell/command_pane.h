@@ -21,7 +21,6 @@ class WorkbenchHost : public Host, private DynamicLinker, private CommandStack {
         : m_pane(pane), m_window(window), m_widget(widget) {}
 
     void print(std::string_view text) override { m_pane.print(text); }
-    void postCommand(std::string_view command) override;
     void focusMainWindow() override;
     CWnd* mainWindow() override { return &m_window; }
     DynamicLinker* dynamicLinker() override { return this; }

@@ -35,8 +35,6 @@ void Host::print(std::string_view text) {
     std::fwrite(utf8.data(), 1, utf8.size(), stderr);
 }
 
-void Host::postCommand(std::string_view) {}
-
 void acutPrint(std::string_view text) {
     Host::current().print(text);
 }
@@ -57,10 +55,6 @@ void acutPrintf(const char* format, ...) {
     }
     va_end(again);
     va_end(arguments);
-}
-
-void acedPostCommand(std::string_view command) {
-    Host::current().postCommand(command);
 }
 
 void acedPostCommandPrompt() {

@@ -1,5 +1,5 @@
-// The CAD host as the module sees it: a command line to print on, a command queue, the entries of
-// its runtime registry and its main window. A program or a test derives from Host what it can
+// The CAD host as the module sees it: a command line to print on, the entries of its runtime
+// registry and its main window. A program or a test derives from Host what it can
 // give and installs it; without one, printed text goes to the standard error stream and the rest
 // is accepted and dropped. Texts are Windows-1252.
 #pragma once
@@ -37,8 +37,9 @@ class VORMANT_API Host {
     /// null when that was the default.
     static Host* install(Host* host);
 
+    /// Text of any length for the command line; messages end in "\n".
     virtual void print(std::string_view text);
-    virtual void postCommand(std::string_view command);
+    /// A modeless dialog has gone: shows a fresh prompt.
     virtual void postCommandPrompt() {}
     /// Null when the host has no such registry entry.
     virtual DynamicLinker* dynamicLinker() { return nullptr; }
@@ -53,7 +54,7 @@ class VORMANT_API Host {
     virtual AcDbObjectId drawMember(std::string_view /*section*/) { return {}; }
 };
 
-/// Installs a host for the length of a scope.
+/// Installs a host (borrowed) for the length of a scope.
 class HostScope {
   public:
     explicit HostScope(Host& host) : m_before(Host::install(&host)) {}
@@ -69,5 +70,5 @@ class HostScope {
 VORMANT_API void acutPrintf(const char* format, ...) __attribute__((format(printf, 1, 2)));
 VORMANT_API void acutPrint(std::string_view text);
 
-VORMANT_API void acedPostCommand(std::string_view command);
+/// Asks the host for a fresh prompt.
 VORMANT_API void acedPostCommandPrompt();
