@@ -4,6 +4,7 @@
 #include <optional>
 
 #include "core_api/text/vor_string.h"
+#include "platform/export.h"
 
 /// In the order in which bills list them.
 enum class BillPartKind { plate, profile, bolt };
@@ -23,6 +24,6 @@ struct Vor_BillPart {
 };
 
 /// Whether pieces of both are the same in a bill, whatever they are called.
-bool isSamePiece(const Vor_BillPart& a, const Vor_BillPart& b);
+VORMANT_API bool isSamePiece(const Vor_BillPart& a, const Vor_BillPart& b);
 /// Below 0, 0 or above 0 in the order of bills: by kind, section, material, then from the longest.
-int comparePieces(const Vor_BillPart& a, const Vor_BillPart& b);
+VORMANT_API int comparePieces(const Vor_BillPart& a, const Vor_BillPart& b);

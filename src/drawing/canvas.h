@@ -31,6 +31,7 @@ class VORMANT_API Canvas {
 /// The colours of picture files: dark lines on light metal, on white paper.
 VORMANT_API const std::array<CBitmap::Pixel, inkCount>& paperInks();
 
+/// The sketch as a picture of its size, in the colours of paperInks.
 VORMANT_API CBitmap painted(const Sketch& sketch);
 
 }  // namespace drawing

@@ -8,6 +8,7 @@
 #include "standards/run_chain.h"
 #include "standards/run_failure.h"
 #include "standards/run_observer.h"
+#include "standards/standards_dialog.h"
 
 namespace {
 

@@ -1,6 +1,14 @@
 #include "frame/tw_ss_dlgs_mgr.h"
 
+#include "standards/standards_dialog.h"
+
 TwSSDlgsMgr gSSDlgsMgr;
+
+TwSSDlgsMgr::TwSSDlgsMgr() = default;
+
+TwSSDlgsMgr::~TwSSDlgsMgr() {
+    destroyAll();
+}
 
 // The window of a dialog goes with the host's main window.
 void TwSSDlgsMgr::dropDead() {

@@ -7,14 +7,15 @@
 
 #include "platform/export.h"
 #include "platform/host/error_status.h"
-#include "standards/standards_dialog.h"
+
+class StandardsDialog;
 
 class VORMANT_API TwSSDlgsMgr {
   public:
-    TwSSDlgsMgr() = default;
+    TwSSDlgsMgr();
     TwSSDlgsMgr(const TwSSDlgsMgr&) = delete;
     TwSSDlgsMgr& operator=(const TwSSDlgsMgr&) = delete;
-    ~TwSSDlgsMgr() { destroyAll(); }
+    ~TwSSDlgsMgr();
 
     /// The first dialog that is not in use, a new one when all are; null when none can be made.
     /// Owned by the pool; the caller gives it back with releaseDlg.

@@ -6,6 +6,7 @@
 
 #include "core_api/macros/cut_constraint.h"
 #include "mapping/tw_var_cell.h"
+#include "platform/export.h"
 
 enum class TwMapType : int {
     none = 0,
@@ -33,12 +34,12 @@ enum class TwMapType : int {
 };
 
 /// The word of a mapping file, "CutPolyOffset"; empty for none.
-std::string_view mapTypeName(TwMapType kind);
+VORMANT_API std::string_view mapTypeName(TwMapType kind);
 /// Nothing for none.
-std::optional<TwValueType> mapTypeValueType(TwMapType kind);
+VORMANT_API std::optional<TwValueType> mapTypeValueType(TwMapType kind);
 /// The first kind whose word `text` begins with, tried in the order of the mapping file's age:
 /// distances, general variables and cuts, then patterns, profiles and bolts.
-TwMapType mapTypeFromPrefix(std::string_view text);
+VORMANT_API TwMapType mapTypeFromPrefix(std::string_view text);
 
 /// Cut kinds are the offset types in their order.
 inline bool isCutKind(TwMapType kind) {
@@ -52,4 +53,4 @@ inline TwMapType mapTypeOfCut(TwCutOffsetType offset) {
     return static_cast<TwMapType>(static_cast<int>(TwMapType::cutOffset) + offset);
 }
 /// Reached through the macro itself, not through one of its modules.
-bool isMacroLevel(TwMapType kind);
+VORMANT_API bool isMacroLevel(TwMapType kind);

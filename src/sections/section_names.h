@@ -8,6 +8,7 @@
 
 inline constexpr const char* userSectionsFolder = "User Sections\\";
 
+/// The section lies in the folder of user sections: its name begins with userSectionsFolder.
 VORMANT_API bool isUserSection(const Vor_String& section);
 /// A user section without its folder and extension.
 VORMANT_API Vor_String userSectionName(const Vor_String& section);

@@ -14,6 +14,7 @@
 
 #include "core_api/text/text_helpers.h"
 #include "core_api/text/vor_string.h"
+#include "platform/export.h"
 #include "platform/staged_file.h"
 
 /// Which header and footer files are copied when a sheet is saved.
@@ -27,7 +28,7 @@ enum class HeaderFiles {
     allOrNothing,
 };
 
-class HeaderCopies {
+class VORMANT_API HeaderCopies {
   public:
     /// Beside `sheet`, the path that the sheet is saved as.
     HeaderCopies(const Vor_String& sheet, HeaderFiles which)

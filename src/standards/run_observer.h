@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "core_api/text/vor_string.h"
+#include "platform/export.h"
 
 class TwVarCells;
 
@@ -55,7 +56,7 @@ class VORMANT_API RunObserver {
 /// Installs `observer` (null for none) and gives the one before. The caller keeps it alive until
 /// another is installed.
 VORMANT_API RunObserver* setRunObserver(RunObserver* observer);
-RunObserver* runObserver();
+VORMANT_API RunObserver* runObserver();
 
 /// Why the last run that failed did so: file, what, what to do. Empty after a run that succeeded.
 VORMANT_API const Vor_String& lastRunFailure();

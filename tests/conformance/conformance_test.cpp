@@ -14,7 +14,7 @@
 #include <set>
 
 #include "conformance/cases.h"
-#include "spread/control/formula/function.h"
+#include "spread/control/formula/functions/families.h"
 #include "spread/control/sheet.h"
 #include "support/called_functions.h"
 #include "test_folders.h"

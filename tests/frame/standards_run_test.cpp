@@ -9,6 +9,7 @@
 #include "platform/host/host.h"
 #include "platform/window/message_box.h"
 #include "standards/run_observer.h"
+#include "standards/standards_dialog.h"
 #include "support/standard_file.h"
 
 namespace {

@@ -6,7 +6,7 @@
 
 #include "core_api/text/text_helpers.h"
 #include "manual/page.h"
-#include "spread/control/formula/function.h"
+#include "spread/control/formula/functions/families.h"
 #include "support/formula_sheet.h"
 #include "test_folders.h"
 

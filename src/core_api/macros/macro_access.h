@@ -26,6 +26,7 @@ VORMANT_API ErrorStatus getDialogVariables(const Vor_Module* module, Vor_StringA
 VORMANT_API ErrorStatus getSetConstrVarValue(Vor_Module* module, std::string_view name,
                                              Vor_String& value, bool get);
 
+/// The names of the cuts of a module and, beside them, their types.
 VORMANT_API ErrorStatus getCutConstraints(const Vor_Module* module, Vor_StringArray& names,
                                           AcArray<TwCutType>& types);
 /// `cut` becomes a copy of the cut; getSetCutValue finds it again by its name.
@@ -36,6 +37,7 @@ VORMANT_API ErrorStatus getCutConstraint(const Vor_Module* module, std::string_v
 VORMANT_API ErrorStatus getSetCutValue(Vor_Module* module, CutConstraint& cut,
                                        TwCutOffsetType offset, double& value, bool get);
 
+/// The id of the bolt pattern `name`, for getSetBoltPatternReverses.
 VORMANT_API ErrorStatus findPattern(const Vor_BoltModule* module, std::string_view name,
                                     AcDbObjectId& pattern, AcTransaction* transaction);
 /// Reads or sets a bolt count of the tab's pattern `name`; `first` says which direction. Refused:

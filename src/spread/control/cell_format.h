@@ -10,6 +10,8 @@
 #include <string_view>
 #include <unordered_map>
 
+#include "platform/export.h"
+
 namespace control {
 
 /// The numbers are the type codes that the control reports.
@@ -53,8 +55,9 @@ struct CellType {
     }
 };
 
-CellType numberType(int decimals, uint32_t style = 0, double least = 0, double most = 0);
-CellType editType(int maxLength, uint32_t style = 0);
+VORMANT_API CellType numberType(int decimals, uint32_t style = 0, double least = 0,
+                                double most = 0);
+VORMANT_API CellType editType(int maxLength, uint32_t style = 0);
 
 struct Font {
     std::string name = "Tahoma";
@@ -103,7 +106,7 @@ inline constexpr FormatIndex inheritedFormat = 0;
 /// The default format, given to a cell outright.
 inline constexpr FormatIndex plainFormat = 1;
 
-class FormatTable {
+class VORMANT_API FormatTable {
   public:
     FormatTable();
 

@@ -9,11 +9,12 @@
 #include <unordered_map>
 #include <vector>
 
+#include "platform/export.h"
 #include "spread/control/formula/program.h"
 
 namespace control {
 
-class Dependents {
+class VORMANT_API Dependents {
   public:
     void add(uint32_t formula, int col, int row, const formula::Program& program);
     void clear();

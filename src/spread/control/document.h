@@ -32,6 +32,7 @@
 #include <string>
 #include <string_view>
 
+#include "platform/export.h"
 #include "spread/control/cell_format.h"
 #include "spread/control/sheet.h"
 #include "spread/control/side_tables.h"
@@ -66,22 +67,22 @@ class Document {
 };
 
 /// Reads a document from its text. Null with `error` as "name:line: what: what to do".
-std::shared_ptr<Document> readDocument(std::string_view text, std::string_view name,
-                                       std::string& error);
+VORMANT_API std::shared_ptr<Document> readDocument(std::string_view text, std::string_view name,
+                                                   std::string& error);
 
 /// The document at `path` (host style). One that was read before and whose file is unchanged
 /// (size and modification time) comes from a bounded store of this process. Null with `error`.
-std::shared_ptr<const Document> loadDocument(std::string_view path, std::string& error);
+VORMANT_API std::shared_ptr<const Document> loadDocument(std::string_view path, std::string& error);
 
 /// As loadDocument for one that the store holds unchanged; null for all others.
-std::shared_ptr<const Document> knownDocument(std::string_view path);
+VORMANT_API std::shared_ptr<const Document> knownDocument(std::string_view path);
 
 /// Loads it into `grid`. False with `error`, and the grid as it was.
-bool loadInto(Grid& grid, std::string_view path, std::string& error);
+VORMANT_API bool loadInto(Grid& grid, std::string_view path, std::string& error);
 
 /// The text of a grid's document.
-std::string writeDocument(const Grid& grid);
+VORMANT_API std::string writeDocument(const Grid& grid);
 /// Writes it to `path` (host style) in one atomic step: on failure the old file stays whole.
-bool saveDocument(const Grid& grid, std::string_view path, std::string& error);
+VORMANT_API bool saveDocument(const Grid& grid, std::string_view path, std::string& error);
 
 }  // namespace control

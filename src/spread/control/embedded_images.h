@@ -7,6 +7,8 @@
 #include <string>
 #include <string_view>
 
+#include "platform/export.h"
+
 namespace control {
 
 /// The bytes of a picture file, shared between copies of the sheet.
@@ -19,10 +21,10 @@ struct EmbeddedImage {
 using EmbeddedImages = std::map<std::string, EmbeddedImage, std::less<>>;
 
 /// "#" and a number made from the bytes, so that equal pictures have equal names in all sheets.
-std::string pictureName(std::string_view bytes);
-bool isPictureName(std::string_view text);
+VORMANT_API std::string pictureName(std::string_view bytes);
+VORMANT_API bool isPictureName(std::string_view text);
 
 /// The name under which the picture is in `pictures` afterwards.
-std::string keepPicture(EmbeddedImages& pictures, std::string bytes);
+VORMANT_API std::string keepPicture(EmbeddedImages& pictures, std::string bytes);
 
 }  // namespace control

@@ -19,6 +19,7 @@
 #include <utility>
 #include <vector>
 
+#include "platform/export.h"
 #include "spread/control/cell_format.h"
 #include "spread/control/document.h"
 #include "spread/control/sheet.h"
@@ -79,7 +80,7 @@ struct ViewSettings {
     int visibleRows = 0;
 };
 
-class Grid {
+class VORMANT_API Grid {
   public:
     Grid();
     ~Grid();

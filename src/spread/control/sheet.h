@@ -13,6 +13,7 @@
 #include <vector>
 
 #include "core_api/text/text_index.h"
+#include "platform/export.h"
 #include "spread/control/dependents.h"
 #include "spread/control/formula/calculation.h"
 #include "spread/control/formula/cells.h"
@@ -24,10 +25,10 @@ namespace control {
 
 /// A registered function, interned for the whole process: registering the same one again, in any
 /// sheet, gives the same pointer, so programs that call it can be shared.
-const formula::CustomFunction* internCustomFunction(formula::CustomFunction function,
-                                                    const void* identity);
+VORMANT_API const formula::CustomFunction* internCustomFunction(formula::CustomFunction function,
+                                                                const void* identity);
 
-class Sheet : public formula::FormulaTexts {
+class VORMANT_API Sheet : public formula::FormulaTexts {
   public:
     Sheet();
     Sheet(const Sheet& other);

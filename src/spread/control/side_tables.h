@@ -9,6 +9,7 @@
 #include <string>
 #include <vector>
 
+#include "platform/export.h"
 #include "spread/control/cell_format.h"
 #include "spread/control/embedded_images.h"
 #include "spread/control/formula/cells.h"
@@ -41,7 +42,7 @@ struct Band {
     bool operator==(const Band&) const = default;
 };
 
-struct SideTables {
+struct VORMANT_API SideTables {
     Band cols;
     Band rows;
     std::vector<FormatIndex> columnFormats;  ///< by column, from 1; short when the rest inherits

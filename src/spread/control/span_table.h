@@ -5,6 +5,8 @@
 #include <map>
 #include <vector>
 
+#include "platform/export.h"
+
 namespace control {
 
 struct Span {
@@ -17,7 +19,7 @@ struct Span {
     }
 };
 
-class SpanTable {
+class VORMANT_API SpanTable {
   public:
     bool isEmpty() const { return m_columns.empty(); }
     /// The span that holds the cell, or null.

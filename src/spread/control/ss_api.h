@@ -56,130 +56,133 @@ VORMANT_API SSTextBlock* setGlobalStr(const Vor_String& text);
 
 /// Registers a function for formulas set from now on. Flags 1: cell arguments arrive as cells and
 /// ranges; flags 0: as values. Text argument blocks that the callback did not take are freed.
-bool SSAddCustomFunctionExt(SSHandle grid, const char* name, int least, int most,
-                            SSCustomFunction callback, int flags);
+VORMANT_API bool SSAddCustomFunctionExt(SSHandle grid, const char* name, int least, int most,
+                                        SSCustomFunction callback, int flags);
 
 // --- size -------------------------------------------------------------------------------------
-int SSGetMaxRows(SSHandle grid);
-int SSGetMaxCols(SSHandle grid);
-bool SSSetMaxRows(SSHandle grid, int count);
-bool SSSetMaxCols(SSHandle grid, int count);
+VORMANT_API int SSGetMaxRows(SSHandle grid);
+VORMANT_API int SSGetMaxCols(SSHandle grid);
+VORMANT_API bool SSSetMaxRows(SSHandle grid, int count);
+VORMANT_API bool SSSetMaxCols(SSHandle grid, int count);
 
 // --- cell text --------------------------------------------------------------------------------
-bool SSSetData(SSHandle grid, int col, int row, const char* text);
-int SSGetDataLen(SSHandle grid, int col, int row);
-bool SSGetData(SSHandle grid, int col, int row, char* buffer);
-bool SSSetValue(SSHandle grid, int col, int row, const char* text);
-int SSGetValueLen(SSHandle grid, int col, int row);
-bool SSGetValue(SSHandle grid, int col, int row, char* buffer);
-int SSGetFormulaLen(SSHandle grid, int col, int row);
-bool SSGetFormula(SSHandle grid, int col, int row, char* buffer);
-bool SSSetCellTag(SSHandle grid, int col, int row, const char* text);
-int SSGetCellTagLen(SSHandle grid, int col, int row);
-bool SSGetCellTag(SSHandle grid, int col, int row, char* buffer);
-bool SSSetCellNote(SSHandle grid, int col, int row, const char* text);
-int SSGetCellNoteLen(SSHandle grid, int col, int row);
-bool SSGetCellNote(SSHandle grid, int col, int row, char* buffer);
-bool SSSetFloat(SSHandle grid, int col, int row, double number);
+VORMANT_API bool SSSetData(SSHandle grid, int col, int row, const char* text);
+VORMANT_API int SSGetDataLen(SSHandle grid, int col, int row);
+VORMANT_API bool SSGetData(SSHandle grid, int col, int row, char* buffer);
+VORMANT_API bool SSSetValue(SSHandle grid, int col, int row, const char* text);
+VORMANT_API int SSGetValueLen(SSHandle grid, int col, int row);
+VORMANT_API bool SSGetValue(SSHandle grid, int col, int row, char* buffer);
+VORMANT_API int SSGetFormulaLen(SSHandle grid, int col, int row);
+VORMANT_API bool SSGetFormula(SSHandle grid, int col, int row, char* buffer);
+VORMANT_API bool SSSetCellTag(SSHandle grid, int col, int row, const char* text);
+VORMANT_API int SSGetCellTagLen(SSHandle grid, int col, int row);
+VORMANT_API bool SSGetCellTag(SSHandle grid, int col, int row, char* buffer);
+VORMANT_API bool SSSetCellNote(SSHandle grid, int col, int row, const char* text);
+VORMANT_API int SSGetCellNoteLen(SSHandle grid, int col, int row);
+VORMANT_API bool SSGetCellNote(SSHandle grid, int col, int row, char* buffer);
+VORMANT_API bool SSSetFloat(SSHandle grid, int col, int row, double number);
 /// False, with `number` untouched, when the cell's value is neither a number nor reads as one.
-bool SSGetFloat(SSHandle grid, int col, int row, double& number);
+VORMANT_API bool SSGetFloat(SSHandle grid, int col, int row, double& number);
 /// A control::CellKind; number cells without decimals report wholeNumber.
-int SSGetCellType(SSHandle grid, int col, int row);
-bool SSClearRange(SSHandle grid, int col, int row, int col2, int row2);
+VORMANT_API int SSGetCellType(SSHandle grid, int col, int row);
+VORMANT_API bool SSClearRange(SSHandle grid, int col, int row, int col2, int row2);
 
 // --- formulas ---------------------------------------------------------------------------------
 /// False, with the cell as it was, when the text does not compile. The empty text removes the
 /// formula and keeps its value.
-bool SSSetFormula(SSHandle grid, int col, int row, const char* text);
-bool SSReCalcCell(SSHandle grid, int col, int row);
-bool SSReCalc(SSHandle grid);
+VORMANT_API bool SSSetFormula(SSHandle grid, int col, int row, const char* text);
+VORMANT_API bool SSReCalcCell(SSHandle grid, int col, int row);
+VORMANT_API bool SSReCalc(SSHandle grid);
 /// 0 default and 1: A1; 2: R1C1. False for others.
-bool SSSetRefStyle(SSHandle grid, int style);
-int SSGetRefStyle(SSHandle grid);
+VORMANT_API bool SSSetRefStyle(SSHandle grid, int style);
+VORMANT_API int SSGetRefStyle(SSHandle grid);
 
 // --- files ------------------------------------------------------------------------------------
 /// 1 is success. On failure the sheet is as it was, and SSLastError says why.
-int SSLoadFromFile(SSHandle grid, const char* path);
+VORMANT_API int SSLoadFromFile(SSHandle grid, const char* path);
 /// `dataOnly`: the texts that a user sees, tab-separated, instead of the document.
-int SSSaveToFile(SSHandle grid, const char* path, bool dataOnly);
+VORMANT_API int SSSaveToFile(SSHandle grid, const char* path, bool dataOnly);
 /// "file:line: what: what to do" of this grid's last failed load or save; empty after a good one.
-const char* SSLastError(SSHandle grid);
+VORMANT_API const char* SSLastError(SSHandle grid);
 
 // --- cell kinds: a type is made, then given to cells ---------------------------------------------
 using SSCellType = control::CellType;
-bool SSSetTypeEdit(SSHandle grid, SSCellType& type, uint32_t style, int maxLength);
-bool SSSetTypeNumber(SSHandle grid, SSCellType& type, int decimals, double least, double most,
-                     uint32_t style);
-bool SSSetTypeStaticText(SSHandle grid, SSCellType& type, uint32_t style);
-bool SSSetTypeCheckBox(SSHandle grid, SSCellType& type, uint32_t style, int checkedPicture,
-                       int uncheckedPicture);
+VORMANT_API bool SSSetTypeEdit(SSHandle grid, SSCellType& type, uint32_t style, int maxLength);
+VORMANT_API bool SSSetTypeNumber(SSHandle grid, SSCellType& type, int decimals, double least,
+                                 double most, uint32_t style);
+VORMANT_API bool SSSetTypeStaticText(SSHandle grid, SSCellType& type, uint32_t style);
+VORMANT_API bool SSSetTypeCheckBox(SSHandle grid, SSCellType& type, uint32_t style,
+                                   int checkedPicture, int uncheckedPicture);
 /// `items` are separated by tabs.
-bool SSSetTypeComboBox(SSHandle grid, SSCellType& type, const char* items, bool editable);
-bool SSSetTypeButton(SSHandle grid, SSCellType& type, const char* text, uint32_t style);
-bool SSSetTypePicture(SSHandle grid, SSCellType& type, const char* path, uint32_t style);
-bool SSSetTypePictureHandle(SSHandle grid, SSCellType& type, int resource, bool isIcon);
-bool SSSetCellType(SSHandle grid, int col, int row, const SSCellType& type);
-bool SSSetCellTypeRange(SSHandle grid, int col, int row, int col2, int row2,
-                        const SSCellType& type);
+VORMANT_API bool SSSetTypeComboBox(SSHandle grid, SSCellType& type, const char* items,
+                                   bool editable);
+VORMANT_API bool SSSetTypeButton(SSHandle grid, SSCellType& type, const char* text, uint32_t style);
+VORMANT_API bool SSSetTypePicture(SSHandle grid, SSCellType& type, const char* path,
+                                  uint32_t style);
+VORMANT_API bool SSSetTypePictureHandle(SSHandle grid, SSCellType& type, int resource, bool isIcon);
+VORMANT_API bool SSSetCellType(SSHandle grid, int col, int row, const SSCellType& type);
+VORMANT_API bool SSSetCellTypeRange(SSHandle grid, int col, int row, int col2, int row2,
+                                    const SSCellType& type);
 
 // --- spans and locks --------------------------------------------------------------------------
-bool SSAddCellSpan(SSHandle grid, int col, int row, int cols, int rows);
+VORMANT_API bool SSAddCellSpan(SSHandle grid, int col, int row, int cols, int rows);
 /// 0 no span, 1 the anchor of one, 2 inside one; the outputs are set for 1 and 2.
-int SSGetCellSpan(SSHandle grid, int col, int row, int& anchorCol, int& anchorRow, int& cols,
-                  int& rows);
-bool SSRemoveCellSpan(SSHandle grid, int col, int row);
-bool SSSetLock(SSHandle grid, int col, int row, bool locked);
-bool SSSetLockRange(SSHandle grid, int col, int row, int col2, int row2, bool locked);
-bool SSGetLock(SSHandle grid, int col, int row);
+VORMANT_API int SSGetCellSpan(SSHandle grid, int col, int row, int& anchorCol, int& anchorRow,
+                              int& cols, int& rows);
+VORMANT_API bool SSRemoveCellSpan(SSHandle grid, int col, int row);
+VORMANT_API bool SSSetLock(SSHandle grid, int col, int row, bool locked);
+VORMANT_API bool SSSetLockRange(SSHandle grid, int col, int row, int col2, int row2, bool locked);
+VORMANT_API bool SSGetLock(SSHandle grid, int col, int row);
 
 // --- format -------------------------------------------------------------------------------------
 /// Widths in units of an average character (8 pixels), heights in points (3/4 pixel).
-bool SSSetColWidth(SSHandle grid, int col, double units);
-bool SSGetColWidth(SSHandle grid, int col, double& units);
-bool SSSetRowHeight(SSHandle grid, int row, double points);
-bool SSGetRowHeight(SSHandle grid, int row, double& points);
-bool SSSetColWidthInPixels(SSHandle grid, int col, int pixels);
-bool SSGetColWidthInPixels(SSHandle grid, int col, int& pixels);
-bool SSSetRowHeightInPixels(SSHandle grid, int row, int pixels);
-bool SSGetRowHeightInPixels(SSHandle grid, int row, int& pixels);
+VORMANT_API bool SSSetColWidth(SSHandle grid, int col, double units);
+VORMANT_API bool SSGetColWidth(SSHandle grid, int col, double& units);
+VORMANT_API bool SSSetRowHeight(SSHandle grid, int row, double points);
+VORMANT_API bool SSGetRowHeight(SSHandle grid, int row, double& points);
+VORMANT_API bool SSSetColWidthInPixels(SSHandle grid, int col, int pixels);
+VORMANT_API bool SSGetColWidthInPixels(SSHandle grid, int col, int& pixels);
+VORMANT_API bool SSSetRowHeightInPixels(SSHandle grid, int row, int pixels);
+VORMANT_API bool SSGetRowHeightInPixels(SSHandle grid, int row, int& pixels);
 /// Pixels that the widest text of a column, or the tallest of a row, needs.
-bool SSGetMaxTextColWidth(SSHandle grid, int col, int& pixels);
-bool SSGetMaxTextRowHeight(SSHandle grid, int row, int& pixels);
-bool SSSetFont(SSHandle grid, int col, int row, int col2, int row2, const char* name, int height,
-               int weight);
-bool SSSetColor(SSHandle grid, int col, int row, int col2, int row2, uint32_t background,
-                uint32_t text);
+VORMANT_API bool SSGetMaxTextColWidth(SSHandle grid, int col, int& pixels);
+VORMANT_API bool SSGetMaxTextRowHeight(SSHandle grid, int row, int& pixels);
+VORMANT_API bool SSSetFont(SSHandle grid, int col, int row, int col2, int row2, const char* name,
+                           int height, int weight);
+VORMANT_API bool SSSetColor(SSHandle grid, int col, int row, int col2, int row2,
+                            uint32_t background, uint32_t text);
 /// Sides: 1 left, 2 right, 4 top, 8 bottom, 16 outline of the block, added up.
-bool SSSetBorder(SSHandle grid, int col, int row, int col2, int row2, int sides, int style,
-                 uint32_t colour);
-bool SSSetGridType(SSHandle grid, int type);
-bool SSSetGridColor(SSHandle grid, uint32_t colour);
-bool SSSetGrayAreaColor(SSHandle grid, uint32_t colour);
-bool SSSetLockColor(SSHandle grid, uint32_t colour);
-bool SSSetSelColor(SSHandle grid, uint32_t background, uint32_t text);
-bool SSSetBool(SSHandle grid, int option, bool on);
-bool SSGetBool(SSHandle grid, int option);
+VORMANT_API bool SSSetBorder(SSHandle grid, int col, int row, int col2, int row2, int sides,
+                             int style, uint32_t colour);
+VORMANT_API bool SSSetGridType(SSHandle grid, int type);
+VORMANT_API bool SSSetGridColor(SSHandle grid, uint32_t colour);
+VORMANT_API bool SSSetGrayAreaColor(SSHandle grid, uint32_t colour);
+VORMANT_API bool SSSetLockColor(SSHandle grid, uint32_t colour);
+VORMANT_API bool SSSetSelColor(SSHandle grid, uint32_t background, uint32_t text);
+VORMANT_API bool SSSetBool(SSHandle grid, int option, bool on);
+VORMANT_API bool SSGetBool(SSHandle grid, int option);
 
 // --- selection, editing -----------------------------------------------------------------------
-bool SSGetActiveCell(SSHandle grid, int& col, int& row);
-bool SSSetActiveCell(SSHandle grid, int col, int row);
-bool SSGetSelBlock(SSHandle grid, int& col, int& row, int& col2, int& row2);
-bool SSSetSelBlock(SSHandle grid, int col, int row, int col2, int row2);
-bool SSClearSelection(SSHandle grid);
-bool SSSetEditMode(SSHandle grid, bool on);
-bool SSGetEditMode(SSHandle grid);
-bool SSSetEditSel(SSHandle grid, int start, int length);
-bool SSGetEditSel(SSHandle grid, int& start, int& length);
-bool SSClipboardCopy(SSHandle grid);
-bool SSClipboardPaste(SSHandle grid);
+VORMANT_API bool SSGetActiveCell(SSHandle grid, int& col, int& row);
+VORMANT_API bool SSSetActiveCell(SSHandle grid, int col, int row);
+VORMANT_API bool SSGetSelBlock(SSHandle grid, int& col, int& row, int& col2, int& row2);
+VORMANT_API bool SSSetSelBlock(SSHandle grid, int col, int row, int col2, int row2);
+VORMANT_API bool SSClearSelection(SSHandle grid);
+VORMANT_API bool SSSetEditMode(SSHandle grid, bool on);
+VORMANT_API bool SSGetEditMode(SSHandle grid);
+VORMANT_API bool SSSetEditSel(SSHandle grid, int start, int length);
+VORMANT_API bool SSGetEditSel(SSHandle grid, int& start, int& length);
+VORMANT_API bool SSClipboardCopy(SSHandle grid);
+VORMANT_API bool SSClipboardPaste(SSHandle grid);
 /// `action`: 0 copy, 1 cut, 2 paste; key 0 clears it.
-bool SSSetActionKey(SSHandle grid, int action, bool shift, bool ctrl, int key);
+VORMANT_API bool SSSetActionKey(SSHandle grid, int action, bool shift, bool ctrl, int key);
 
 // --- structure --------------------------------------------------------------------------------
-bool SSInsRow(SSHandle grid, int row, int count = 1);
-bool SSInsCol(SSHandle grid, int col, int count = 1);
-bool SSDelRow(SSHandle grid, int row, int count = 1);
-bool SSDelCol(SSHandle grid, int col, int count = 1);
-bool SSCopyRange(SSHandle grid, int col, int row, int col2, int row2, int toCol, int toRow);
-bool SSSwapRows(SSHandle grid, int row, int row2, int toRow);
-bool SSSwapCols(SSHandle grid, int col, int col2, int toCol);
+VORMANT_API bool SSInsRow(SSHandle grid, int row, int count = 1);
+VORMANT_API bool SSInsCol(SSHandle grid, int col, int count = 1);
+VORMANT_API bool SSDelRow(SSHandle grid, int row, int count = 1);
+VORMANT_API bool SSDelCol(SSHandle grid, int col, int count = 1);
+VORMANT_API bool SSCopyRange(SSHandle grid, int col, int row, int col2, int row2, int toCol,
+                             int toRow);
+VORMANT_API bool SSSwapRows(SSHandle grid, int row, int row2, int toRow);
+VORMANT_API bool SSSwapCols(SSHandle grid, int col, int col2, int toCol);

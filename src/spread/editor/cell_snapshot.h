@@ -5,11 +5,12 @@
 #include <string>
 #include <string_view>
 
+#include "platform/export.h"
 #include "spread/control/grid.h"
 
 namespace editor {
 
-class CellSnapshot {
+class VORMANT_API CellSnapshot {
   public:
     CellSnapshot() = default;
     /// The cell as it is now; its result may be out of date. What has changed is propagated.

@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "platform/export.h"
 #include "spread/control/grid.h"
 #include "spread/editor/cell_snapshot.h"
 
@@ -32,7 +33,7 @@ struct PlacedCell {
     CellSnapshot cell;
 };
 
-class CellsChange : public Change {
+class VORMANT_API CellsChange : public Change {
   public:
     void keep(const control::Grid& grid, int col, int row) {
         m_cells.push_back({col, row, CellSnapshot::of(grid.sheet(), col, row)});
@@ -47,7 +48,7 @@ class CellsChange : public Change {
 };
 
 /// Tag and note of a cell, also of a header cell (0).
-class TextsChange : public Change {
+class VORMANT_API TextsChange : public Change {
   public:
     TextsChange(const control::Grid& grid, int col, int row);
     void exchange(control::Grid& grid, Direction direction) override;
@@ -59,7 +60,7 @@ class TextsChange : public Change {
 };
 
 /// The format that a column's cells have when they have none of their own.
-class ColumnFormatChange : public Change {
+class VORMANT_API ColumnFormatChange : public Change {
   public:
     ColumnFormatChange(const control::Grid& grid, int col);
     void exchange(control::Grid& grid, Direction direction) override;
@@ -71,7 +72,7 @@ class ColumnFormatChange : public Change {
 };
 
 /// Size, hiding and header text of a column or row.
-class LineChange : public Change {
+class VORMANT_API LineChange : public Change {
   public:
     LineChange(const control::Grid& grid, bool isRow, int index);
     void exchange(control::Grid& grid, Direction direction) override;
@@ -92,7 +93,7 @@ class LineChange : public Change {
 };
 
 /// Merged cells: what is undone by removing some spans and adding others.
-class SpansChange : public Change {
+class VORMANT_API SpansChange : public Change {
   public:
     SpansChange(const std::vector<control::Span>& before, const std::vector<control::Span>& after);
     void exchange(control::Grid& grid, Direction direction) override;
@@ -104,7 +105,7 @@ class SpansChange : public Change {
 };
 
 /// The sheet grew; what lies beyond is empty again when this is undone.
-class GrowthChange : public Change {
+class VORMANT_API GrowthChange : public Change {
   public:
     explicit GrowthChange(const control::Grid& grid) : m_cols(grid.cols()), m_rows(grid.rows()) {}
     void exchange(control::Grid& grid, Direction direction) override;

@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "platform/export.h"
 #include "spread/control/grid.h"
 #include "spread/editor/cell_snapshot.h"
 
@@ -11,7 +12,7 @@ namespace editor {
 
 enum class PasteWhat { all, contents, values, formats };
 
-class Clip {
+class VORMANT_API Clip {
   public:
     Clip(const control::Grid& grid, const control::Block& block);
 

@@ -6,7 +6,7 @@
 #include "core_api/text/text_helpers.h"
 #include "core_api/texts/sheet_text_numbers.h"
 #include "platform/encodings.h"
-#include "spread/control/formula/function.h"
+#include "spread/control/formula/functions/families.h"
 #include "spread/control/formula/lexer.h"
 #include "spread/editor/function_words/function_words.h"
 

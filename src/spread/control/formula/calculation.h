@@ -10,6 +10,7 @@
 #include <type_traits>
 #include <vector>
 
+#include "platform/export.h"
 #include "spread/control/formula/cells.h"
 #include "spread/control/formula/value.h"
 
@@ -29,7 +30,7 @@ class FormulaTexts {
     ~FormulaTexts() = default;
 };
 
-class Calculation {
+class VORMANT_API Calculation {
   public:
     explicit Calculation(const control::CellStore& cells) : m_cells(&cells) {}
     Calculation(const Calculation&) = delete;

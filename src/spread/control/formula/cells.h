@@ -11,6 +11,7 @@
 #include <utility>
 #include <vector>
 
+#include "platform/export.h"
 #include "spread/control/formula/value.h"
 
 namespace control {
@@ -21,7 +22,7 @@ using formula::Value;
 using formula::ValueType;
 
 /// An immutable text shared by cells; counted by hand, since cells are moved as plain memory.
-struct TextBlock {
+struct VORMANT_API TextBlock {
     uint32_t references;
     uint32_t size;
     const char* data() const { return reinterpret_cast<const char*>(this + 1); }
@@ -71,7 +72,7 @@ struct Cell {
 };
 static_assert(sizeof(Cell) == 16);
 
-class CellStore {
+class VORMANT_API CellStore {
   public:
     static constexpr int blockShift = 7;
     static constexpr int blockRows = 1 << blockShift;

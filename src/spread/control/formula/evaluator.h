@@ -4,12 +4,13 @@
 
 #include <vector>
 
+#include "platform/export.h"
 #include "spread/control/formula/calculation.h"
 #include "spread/control/formula/program.h"
 
 namespace formula {
 
-class Evaluator {
+class VORMANT_API Evaluator {
   public:
     explicit Evaluator(Calculation& calculation) : m_calculation(calculation) {}
 

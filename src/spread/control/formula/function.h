@@ -5,6 +5,7 @@
 #include <span>
 #include <string_view>
 
+#include "platform/export.h"
 #include "spread/control/formula/calculation.h"
 #include "spread/control/formula/value.h"
 
@@ -44,23 +45,11 @@ struct FunctionSpec {
 };
 
 /// The letter of argument `index` (from 0) in such a list.
-char parameterClass(std::string_view params, size_t index);
-
-// The families.
-std::span<const FunctionSpec> mathFunctions();          // SUM, ROUND, MOD, CEILING, …
-std::span<const FunctionSpec> trigonometryFunctions();  // SIN, ATAN2, DEGREES, …
-std::span<const FunctionSpec> statisticsFunctions();    // COUNT, AVERAGE, MEDIAN, SUMIFS, …
-std::span<const FunctionSpec> matrixFunctions();       // MMULT, MDETERM, TRANSPOSE, SUMPRODUCT, …
-std::span<const FunctionSpec> logicFunctions();        // IF, AND, IFERROR, SWITCH, …
-std::span<const FunctionSpec> lookupFunctions();       // VLOOKUP, INDEX, MATCH, OFFSET, …
-std::span<const FunctionSpec> textFunctions();         // LEFT, TEXT, SUBSTITUTE, …
-std::span<const FunctionSpec> informationFunctions();  // ISNUMBER, TYPE, NA, …
-std::span<const FunctionSpec> dateFunctions();         // DATE, EDATE, WORKDAY, …
-std::span<const FunctionSpec> engineeringFunctions();  // CONVERT, BIN2DEC, BITAND, …
+VORMANT_API char parameterClass(std::string_view params, size_t index);
 
 /// The row of `name`, letter case aside, or null.
-const FunctionSpec* findFunction(std::string_view name);
-/// Every function, by family in the order above; for help and the manual.
-std::span<const FunctionSpec* const> allFunctions();
+VORMANT_API const FunctionSpec* findFunction(std::string_view name);
+/// Every function, by family in the order of functions/families.h; for help and the manual.
+VORMANT_API std::span<const FunctionSpec* const> allFunctions();
 
 }  // namespace formula

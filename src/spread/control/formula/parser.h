@@ -18,6 +18,7 @@
 #include <string>
 #include <string_view>
 
+#include "platform/export.h"
 #include "spread/control/formula/program.h"
 
 namespace formula {
@@ -51,7 +52,8 @@ struct ParseError {
 
 /// The program of `text` (without "="), or an empty one with `error` filled. An unknown name or
 /// function is an error.
-ProgramRef parse(std::string_view text, const ParseSettings& settings, ParseError& error);
+VORMANT_API ProgramRef parse(std::string_view text, const ParseSettings& settings,
+                             ParseError& error);
 
 /// `text` with every reference replaced by what `move` gives for it; nothing when `text` does not
 /// scan. Blanks, letter case and everything else stay as typed. `move` gets the area (from 1) and
@@ -64,10 +66,11 @@ struct MovedReference {
     bool wholeRows = false;  ///< 1:3
 };
 using MoveReference = std::function<bool(MovedReference&)>;
-std::optional<std::string> rewriteReferences(std::string_view text, const MoveReference& move);
+VORMANT_API std::optional<std::string> rewriteReferences(std::string_view text,
+                                                         const MoveReference& move);
 
 /// Changes the notation of every reference, seen from a formula in (hostCol, hostRow).
-std::optional<std::string> convertStyle(std::string_view text, ReferenceStyle from,
-                                        ReferenceStyle to, int hostCol, int hostRow);
+VORMANT_API std::optional<std::string> convertStyle(std::string_view text, ReferenceStyle from,
+                                                    ReferenceStyle to, int hostCol, int hostRow);
 
 }  // namespace formula

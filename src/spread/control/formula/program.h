@@ -13,6 +13,7 @@
 #include <utility>
 #include <vector>
 
+#include "platform/export.h"
 #include "spread/control/formula/cells.h"
 #include "spread/control/formula/function.h"
 
@@ -99,7 +100,7 @@ struct Code {
 class ProgramRef;
 
 /// Instructions and then constants lie right behind the object: a program is one piece of memory.
-class Program {
+class VORMANT_API Program {
   public:
     Program(const Program&) = delete;
     Program& operator=(const Program&) = delete;
@@ -134,7 +135,7 @@ class Program {
 static_assert(sizeof(Program) == 16 && sizeof(Instruction) % alignof(Constant) == 0);
 
 /// Shares a program. Counted without locks: everything runs on one thread.
-class ProgramRef {
+class VORMANT_API ProgramRef {
   public:
     ProgramRef() = default;
     explicit ProgramRef(Program* program) : m_program(program) { retain(); }
@@ -162,10 +163,11 @@ class ProgramRef {
 };
 
 /// Gives back the texts among the constants.
-void releaseTexts(std::span<const Instruction> instructions, std::span<const Constant> constants);
+VORMANT_API void releaseTexts(std::span<const Instruction> instructions,
+                              std::span<const Constant> constants);
 /// Gives the one shared program with this code; owns the texts of `code` afterwards.
-ProgramRef intern(const Code& code);
+VORMANT_API ProgramRef intern(const Code& code);
 /// A program of its own, for a formula that has no likes: quicker to make and to forget.
-ProgramRef makeOwn(const Code& code);
+VORMANT_API ProgramRef makeOwn(const Code& code);
 
 }  // namespace formula

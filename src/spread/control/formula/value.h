@@ -7,6 +7,8 @@
 #include <optional>
 #include <string_view>
 
+#include "platform/export.h"
+
 namespace formula {
 
 /// Sheets are addressed from 1 and end here, as the well-known spreadsheet programs do.
@@ -16,9 +18,9 @@ inline constexpr int maxCols = 16384;
 enum class ErrorCode : uint8_t { null = 1, div0, value, ref, name, num, na, circ };
 
 /// "#NULL!", "#DIV/0!", "#VALUE!", "#REF!", "#NAME?", "#NUM!", "#N/A", "#CIRC!".
-std::string_view errorText(ErrorCode code);
+VORMANT_API std::string_view errorText(ErrorCode code);
 /// The code of exactly such a text, letter case aside.
-std::optional<ErrorCode> errorFromText(std::string_view text);
+VORMANT_API std::optional<ErrorCode> errorFromText(std::string_view text);
 
 /// A rectangle of cells, both corners included, from 1; row1 <= row2 and col1 <= col2.
 struct Area {

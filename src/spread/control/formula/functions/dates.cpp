@@ -1,7 +1,7 @@
 #include <array>
 
-#include "spread/control/formula/function.h"
 #include "spread/control/formula/functions/date_family.h"
+#include "spread/control/formula/functions/families.h"
 
 namespace formula {
 namespace {

@@ -1,3 +1,4 @@
+#include "spread/control/formula/functions/families.h"
 #include "spread/control/formula/functions/family_parts.h"
 
 namespace formula {

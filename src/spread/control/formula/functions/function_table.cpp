@@ -3,7 +3,7 @@
 #include <vector>
 
 #include "platform/short_text.h"
-#include "spread/control/formula/function.h"
+#include "spread/control/formula/functions/families.h"
 
 namespace formula {
 namespace {

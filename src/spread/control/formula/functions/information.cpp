@@ -1,8 +1,8 @@
 #include <array>
 #include <cmath>
 
-#include "spread/control/formula/function.h"
 #include "spread/control/formula/functions/argument_reader.h"
+#include "spread/control/formula/functions/families.h"
 
 namespace formula {
 namespace {

@@ -2,8 +2,8 @@
 // is not taken. These rows check their arguments and serve formulas that compute with arrays.
 #include <array>
 
-#include "spread/control/formula/function.h"
 #include "spread/control/formula/functions/argument_reader.h"
+#include "spread/control/formula/functions/families.h"
 
 namespace formula {
 namespace {

@@ -1,6 +1,6 @@
 #include <array>
 
-#include "spread/control/formula/function.h"
+#include "spread/control/formula/functions/families.h"
 #include "spread/control/formula/functions/lookup_family.h"
 
 namespace formula {

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "spread/control/formula/functions/arguments.h"
+#include "spread/control/formula/functions/families.h"
 
 namespace formula {
 namespace {

@@ -3,6 +3,7 @@
 #include <numbers>
 
 #include "spread/control/formula/functions/arguments.h"
+#include "spread/control/formula/functions/families.h"
 
 namespace formula {
 namespace {
