@@ -118,6 +118,24 @@ Integrals integralsAbove(const std::vector<Contour>& contours, double level) {
     return sum;
 }
 
+/// The area alone, for those who look for a level: it makes no contours.
+double areaAbove(const std::vector<Contour>& contours, double level) {
+    double twice = 0;
+    for (const Contour& contour : contours) {
+        Point a = contour.back();
+        for (const Point b : contour) {
+            const double from = a.y - level, to = b.y - level;
+            const double width = a.x - b.x;
+            if (from >= 0 && to >= 0)
+                twice += width * (from + to);
+            else if (from >= 0 || to >= 0)  // the triangle on this side of where the edge crosses
+                twice += width * std::max(from, to) * std::max(from, to) / std::abs(from - to);
+            a = b;
+        }
+    }
+    return twice / 2;
+}
+
 /// Mirrored, so that what stood lies.
 std::vector<Contour> turned(const std::vector<Contour>& contours) {
     std::vector<Contour> all;
@@ -137,7 +155,7 @@ double plasticModulusOf(const std::vector<Contour>& contours) {
     constexpr int halvings = 50;
     for (int i = 0; i < halvings; ++i) {
         const double middle = (low + high) / 2;
-        (integralsAbove(contours, middle).area > all.area / 2 ? low : high) = middle;
+        (areaAbove(contours, middle) > all.area / 2 ? low : high) = middle;
     }
     const double upper = integralsAbove(contours, low).y;
     const double lower = upper - (all.y - low * all.area);
@@ -288,15 +306,16 @@ bool SectionFigures::allows(std::string_view column, std::string_view printed) c
     return std::abs(textToDouble(printed) - *value) <= std::max(share * *value, roundOff);
 }
 
-std::vector<std::string_view> SectionFigures::catalogueColumns() const {
-    std::vector<std::string_view> columns;
+std::vector<SectionFigures::Figure> SectionFigures::catalogueFigures() const {
+    std::vector<Figure> figures;
     const bool isAngle = m_type == 3 || m_type == 2;
     for (const std::string_view column : catalogue) {
         const bool isOfAngles =
             column[0] == 'c' || column.starts_with("Iu") || column.starts_with("Iv");
-        if ((isAngle || !isOfAngles) && valueOf(column)) columns.push_back(column);
+        if (isOfAngles && !isAngle) continue;
+        if (const auto value = valueOf(column)) figures.push_back({column, *value});
     }
-    return columns;
+    return figures;
 }
 
 bool namesFigure(std::string_view column) {

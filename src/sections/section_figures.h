@@ -39,8 +39,13 @@ class VORMANT_API SectionFigures {
     /// away: beyond 1 % (masses, which are rounded twice, 1.5 %) and half of the last printed
     /// place. Of cold-formed sections, whose bends tables do not tell, beyond 15 %.
     bool allows(std::string_view column, std::string_view printed) const;
-    /// The columns that catalogues have and that this section has a figure for.
-    std::vector<std::string_view> catalogueColumns() const;
+    struct Figure {
+        std::string_view column;
+        double value;  ///< in the column's unit
+    };
+    /// In the order of catalogues, those columns of theirs that this section has a figure for. Each
+    /// figure is calculated once: a plastic modulus is searched for, which takes its time.
+    std::vector<Figure> catalogueFigures() const;
 
   private:
     SectionFigures(int type, std::vector<drawing::Contour> contours, double area);

@@ -58,9 +58,9 @@ void writeCalculated(exchange::JsonWriter& json, const Vor_ProfValuesTable& tabl
     json.key("calculated");
     json.beginObject();
     if (figures)
-        for (const std::string_view column : figures->catalogueColumns()) {
+        for (const auto& [column, value] : figures->catalogueFigures()) {
             json.key(column);
-            json.number(exchange::asShown(*figures->valueOf(column)));
+            json.number(exchange::asShown(value));
         }
     json.endObject();
 }

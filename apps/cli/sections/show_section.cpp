@@ -68,8 +68,8 @@ std::string calculatedAsText(const Table& table, int row) {
     const auto figures = SectionFigures::of(table, row);
     if (!figures) return "";
     TextTable lines;
-    for (const std::string_view column : figures->catalogueColumns())
-        lines.add({std::string(column), numberText(*figures->valueOf(column))});
+    for (const auto& [column, value] : figures->catalogueFigures())
+        lines.add({std::string(column), numberText(value)});
     std::string text = "calculated from the values\n";
     lines.append(text, "  ", false);
     return text;
