@@ -167,7 +167,8 @@ TEST_F(SectionEditing, PagesShowWhatAnotherProgramWrote) {
     auto* sections = qobject_cast<QComboBox*>(run->editor("BeamSection"));
     ASSERT_TRUE(sections);
     addElsewhere("226");
-    EXPECT_TRUE(QTest::qWaitFor([&] { return sizes().contains("226"); }));
+    constexpr int patience = 60'000;  // milliseconds; a moment but for slow builds
+    EXPECT_TRUE(QTest::qWaitFor([&] { return sizes().contains("226"); }, patience));
     EXPECT_GE(sections->findText("HEA-226"), 0) << "and runs are made with it";
 
     // A sheet and a macro outside of the library: when the user comes back.
