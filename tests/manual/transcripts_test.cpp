@@ -80,6 +80,17 @@ bool hasAnchor(std::string_view page, std::string_view anchor) {
 }
 
 /// The targets of all links that stay in the source tree.
+/// The page without its blocks of code, where "[](" begins a lambda and no link.
+std::string proseOf(std::string_view page) {
+    std::string prose;
+    for (bool isCode = false; !page.empty(); isCode = !isCode) {
+        const size_t end = std::min(page.find("```"), page.size());
+        if (!isCode) prose += page.substr(0, end);
+        page.remove_prefix(std::min(end + 3, page.size()));
+    }
+    return prose;
+}
+
 Lines linksOf(std::string_view page) {
     Lines targets;
     for (size_t at = page.find("]("); at != page.npos; at = page.find("](", at + 2)) {
@@ -106,7 +117,7 @@ TEST_P(Manual, ShowsWhatIsPrinted) {
 TEST_P(Manual, LinksToWhatIsThere) {
     const std::string page = manual::read(GetParam());
     const std::string folder = fs::path(GetParam()).parent_path().string();
-    for (const std::string& target : linksOf(page)) {
+    for (const std::string& target : linksOf(proseOf(page))) {
         const size_t mark = std::min(target.find('#'), target.size());
         const std::string path =
             mark == 0 ? GetParam() : (fs::path(folder) / target.substr(0, mark)).string();
