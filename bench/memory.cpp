@@ -1,7 +1,7 @@
 // How much a process grows with a million cells: plain numbers, and formulas beyond their text.
+#include <unistd.h>
 #include <cstdio>
 #include <string>
-#include <unistd.h>
 
 #include "spread/control/sheet.h"
 

@@ -20,7 +20,7 @@ int widthOf(const Rows& rows) {
 
 void StockSheet::attach(CWnd* dialog, int gridItem) {
     m_grid.attach(dialog, gridItem, true);
-    m_grid.setStandardFormat(tableFormat);
+    m_grid.setStandardLook(tableFormat);
     m_grid.setMenuCommands({Vor_Spread::menuCopy, Vor_Spread::menuPaste, Vor_Spread::menuSeparator,
                             Vor_Spread::menuInsertRow, Vor_Spread::menuDeleteRow});
     m_grid.setAutoSize(4, Vor_Spread::headerIndex, rowNumbersWidth);

@@ -35,7 +35,7 @@ StringArrayDialog::StringArrayDialog(const StringTable& table)
 void StringArrayDialog::onInit() {
     if (!m_table.title.isEmpty()) setText(m_table.title);
     m_grid.attach(this, stringArrayGrid, true);
-    m_grid.setStandardFormat(tableFormat);
+    m_grid.setStandardLook(tableFormat);
     m_grid.setNrCols(m_table.columns.length(), false);
     for (int col = 1; col <= m_grid.nrCols(); ++col)
         m_grid.setData(col, Vor_Spread::headerIndex, m_table.columns[col - 1]);

@@ -75,7 +75,7 @@ void TwMappingDlg::onInit() {
 
 void TwMappingDlg::prepareGrids() {
     m_sheetsGrid.attach(this, sheetsItem, true);
-    m_sheetsGrid.setStandardFormat(1);
+    m_sheetsGrid.setStandardLook(1);
     m_sheetsGrid.setBool(static_cast<int>(control::Option::rowHeaders), false);
     m_sheetsGrid.setNrCols(2, false);
     m_sheetsGrid.setRow(Vor_Spread::headerIndex,
@@ -84,7 +84,7 @@ void TwMappingDlg::prepareGrids() {
     m_sheetsGrid.setListener([this](const GridNotice& notice) { onSheetNotice(notice); });
 
     m_objectsGrid.attach(this, objectsItem, true);
-    m_objectsGrid.setStandardFormat(1);
+    m_objectsGrid.setStandardLook(1);
     m_objectsGrid.setBool(static_cast<int>(control::Option::rowHeaders), false);
     m_objectsGrid.setNrCols(3, false);
     m_objectsGrid.setRow(Vor_Spread::headerIndex,

@@ -64,7 +64,7 @@ bool Vor_Spread::attachHidden() {
     return create({gridClassName, {}, {}, 0, 0, false}, nullptr);
 }
 
-bool Vor_Spread::setStandardFormat(int mode) {
+bool Vor_Spread::setStandardLook(int mode) {
     if (!isAttached() || mode < 0 || mode > 1) return false;
     constexpr OptionSetting common[] = {{8, false},  {12, false}, {7, false}, {21, true},
                                         {26, false}, {34, true},  {32, true}, {18, false},

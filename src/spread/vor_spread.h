@@ -33,7 +33,7 @@ class VORMANT_API Vor_Spread : public TSpread {
     bool attachHidden();
     bool isAttached() const { return isCreated(); }
     /// 0: a table that is read and picked from; 1: one that is typed into.
-    bool setStandardFormat(int mode);
+    bool setStandardLook(int mode);
     void setFontName(const Vor_String& name);
     void setFontHeight(int height);
     const Vor_String& fontName() const { return m_fontName; }

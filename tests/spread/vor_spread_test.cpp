@@ -84,7 +84,7 @@ TEST(VorSpread, DoesNothingBeforeItIsAttached) {
     EXPECT_FALSE(spread.getCellText(1, 1, text, Reading::value));
     EXPECT_TRUE(text.isEmpty());
     EXPECT_FALSE(spread.getCellInt(1, 1, number));
-    EXPECT_FALSE(spread.setStandardFormat(0));
+    EXPECT_FALSE(spread.setStandardLook(0));
     EXPECT_FALSE(spread.findInRow("x", false, 1, 1, foundCol));
     EXPECT_FALSE(spread.loadFromFile("nowhere"));
     EXPECT_FALSE(spread.setFormula(1, 1, "1"));

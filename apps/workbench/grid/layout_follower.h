@@ -19,7 +19,7 @@ class LayoutFollower {
     bool follow();
     /// Percent.
     void setZoom(int zoom) { m_zoom = zoom; }
-    /// While it passes sizes on, what the headers tell is not a user's doing.
+    /// While it passes sizes on, what the headers tell is not user input.
     bool isFollowing() const { return m_isFollowing; }
 
   private:

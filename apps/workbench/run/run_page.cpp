@@ -297,19 +297,14 @@ void RunPage::showMessages() {
     m_message->setVisible(!lines.isEmpty());
 }
 
-// The sheet may have been edited in another page.
 void RunPage::followFile() {
     if (m_session->isStale()) update();
 }
 
+// The sheet may have been edited in another page.
 void RunPage::showEvent(QShowEvent* event) {
     QWidget::showEvent(event);
     followFile();
-}
-
-bool RunPage::event(QEvent* event) {
-    if (event->type() == QEvent::WindowActivate) followFile();
-    return QWidget::event(event);
 }
 
 QWidget* RunPage::editor(const QString& input) const {

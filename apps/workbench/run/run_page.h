@@ -39,7 +39,6 @@ class RunPage : public QWidget {
 
   protected:
     void showEvent(QShowEvent* event) override;
-    bool event(QEvent* event) override;
 
   private:
     void follow();

@@ -24,7 +24,7 @@ void NamedValuesDialog::onInit() {
     if (!m_title.isEmpty()) setText(m_title);
     m_isChanged = false;
     m_grid.attach(this, namedValuesGrid, true);
-    m_grid.setStandardFormat(tableFormat);
+    m_grid.setStandardLook(tableFormat);
     m_grid.setBool(static_cast<int>(control::Option::rowHeaders), false);
     m_grid.setNrCols(2, false);
     m_grid.setData(namedValuesNameColumn, Vor_Spread::headerIndex, dialString(nameText));

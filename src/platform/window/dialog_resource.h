@@ -16,14 +16,14 @@ class CWnd;
 struct DialogText {
     constexpr DialogText() = default;
     constexpr DialogText(const char* literal) : m_literal(literal) {}
-    constexpr DialogText(std::string (*formatUp)(int), int number)
-        : m_formatUp(formatUp), m_number(number) {}
+    constexpr DialogText(std::string (*lookUp)(int), int number)
+        : m_lookUp(lookUp), m_number(number) {}
 
-    std::string text() const { return m_formatUp ? m_formatUp(m_number) : std::string(m_literal); }
+    std::string text() const { return m_lookUp ? m_lookUp(m_number) : std::string(m_literal); }
 
   private:
     const char* m_literal = "";
-    std::string (*m_formatUp)(int) = nullptr;
+    std::string (*m_lookUp)(int) = nullptr;
     int m_number = 0;
 };
 

@@ -75,7 +75,7 @@ CataloguePage::~CataloguePage() {
 void CataloguePage::onInit() {
     constexpr int typedFormat = 1, fixedWidth = 4, languagesWidth = 90, longest = 4096;
     m_names.attach(this, namesSheet, true);
-    m_names.setStandardFormat(typedFormat);
+    m_names.setStandardLook(typedFormat);
     m_names.setNrRows(gMacroLangs.GetNrLanguages());
     m_names.setNrCols(1, false);
     m_names.setTextCell({namesColumn, -1, namesColumn, -1}, longest);

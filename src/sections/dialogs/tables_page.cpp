@@ -65,7 +65,7 @@ TablesPage::~TablesPage() {
 void TablesPage::onInit() {
     constexpr int typedFormat = 1;
     m_sheet.attach(this, sheetItem, true);
-    m_sheet.setStandardFormat(typedFormat);
+    m_sheet.setStandardLook(typedFormat);
     m_sheet.setListener([this](const GridNotice&) { showWhatCanBeDone(); });
     m_sheet.setMenuOpener([this] { showMenu(); });
     fillTemplates();

@@ -28,7 +28,7 @@ namespace control {
 VORMANT_API const formula::CustomFunction* internCustomFunction(formula::CustomFunction function,
                                                                 const void* identity);
 
-class VORMANT_API Sheet : public formula::FormulaTexts {
+class VORMANT_API Sheet final : public formula::FormulaTexts {
   public:
     Sheet();
     Sheet(const Sheet& other);
