@@ -32,13 +32,12 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     if (!condition) return 0;
     if (condition->isText()) {
         // Equal and unequal are each other's opposite.
-        std::string opposite = typed;
-        const size_t sign = opposite.find('=');
-        require(sign != opposite.npos && sign > 0);
-        if (opposite[sign - 1] == '!')
-            opposite.erase(sign - 1, 1);
-        else
-            opposite.insert(sign, 1, '!');
+        const size_t sign = typed.find_first_of("=!");
+        require(sign != typed.npos && sign > 0);
+        const bool isNot = typed[sign] == '!';
+        const size_t value = sign + (isNot || typed.compare(sign, 2, "==") == 0 ? 2 : 1);
+        const std::string opposite =
+            typed.substr(0, sign) + (isNot ? "==" : "!=") + typed.substr(value);
         const auto other = cli::SectionCondition::parse(opposite, error);
         if (other && other->isText()) require(condition->holds(name) != other->holds(name));
         return 0;
